@@ -1,0 +1,28 @@
+# Options, the language level and the two interface targets that every target of the project links.
+option(ORVANDATA_TESTS "Build the tests" ON)
+option(ORVANDATA_WERROR "Treat warnings as errors" OFF)
+set(ORVANDATA_SANITIZE "" CACHE STRING "Sanitizers, comma separated: address,undefined or thread")
+set(ORVANDATA_KRXCONTROL_TARGET "" CACHE STRING
+    "Imported target of the host's control library; empty builds the stand-in")
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+
+add_library(OrvanWarnings INTERFACE)
+target_compile_options(OrvanWarnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                       $<$<BOOL:${ORVANDATA_WERROR}>:-Werror>)
+target_compile_definitions(OrvanWarnings INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
+
+add_library(OrvanSanitizers INTERFACE)
+if(ORVANDATA_SANITIZE)
+    set(flags -fsanitize=${ORVANDATA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_compile_options(OrvanSanitizers INTERFACE ${flags})
+    target_link_options(OrvanSanitizers INTERFACE ${flags})
+endif()

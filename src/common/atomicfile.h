@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+
+class QIODevice;
+
+/// Replaces the file at `path` as one step: `write` fills a new file beside it, which is flushed to disk and
+/// renamed over it; a link is resolved to its target first. On failure, also when `write` returns false, the
+/// old file stays as it was and `error`, when given, says why.
+bool ReplaceFile(const QString& path, const std::function<bool(QIODevice&)>& write, QString* error = nullptr);
+bool ReplaceFile(const QString& path, const QByteArray& content, QString* error = nullptr);

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "common/canvaslimits.h"
+#include "common/export.h"
+#include "common/smd5.h"
+#include "layout/tilegroupset.h"
+#include "layout/tileset.h"
+
+#include <QList>
+#include <QPointF>
+#include <QUuid>
+
+struct SRotateParam;
+
+/// A block of equal cabinets to place. Lengths in canvas pixels.
+struct SAddTileInfo
+{
+    QUuid senderId;
+    int portIndex = 0;
+    SMD5 type;
+    int left = 0;
+    int top = 0;
+    int columns = 1;
+    int rows = 1;
+    int width = 0;
+    int height = 0;
+    bool multi = false;
+    bool fixedLine = false;
+    bool ordered = true;
+    QSize multiSize{1, 1};
+    unsigned char line[kMaxReceiversInTile] = {};
+};
+
+/// The layout content of one port. Owns its tiles and its group tree and clears both when it dies.
+class ORVANDATA_EXPORT CPortProject
+{
+public:
+    CPortProject();
+    CPortProject(const CPortProject& other);
+    virtual ~CPortProject();
+    CPortProject& operator=(const CPortProject& other);
+    bool operator==(const CPortProject& other) const;
+    bool operator!=(const CPortProject& other) const;
+
+    CTileSet* GetTileSet();
+    const CTileSet* GetTileSet() const;
+    CTileGroupSet* GetTileGroupSet();
+    const CTileGroupSet* GetTileGroupSet() const;
+
+    void ClearAllTiles(); ///< and all groups
+    void CancelAllSelected();
+    bool DeleteSelectedTileAndGroup();
+    /// Places a block row by row, selected and, from two cabinets on, as a group of its own. False, and
+    /// nothing changed, for an empty block or one of more than 1048576 cabinets.
+    bool AddTile(const SAddTileInfo& info);
+
+    // groups
+    bool GetTileSetInGroupRecursive(CTileSet& out, const QUuid& id) const; ///< appends; false: no such group
+    bool GetAllTileSetInFirstGroup(CTileSet& out, const QUuid& id) const;  ///< false unless a top-level group
+    bool GetAllTileSetInFirstGroupPart(CTileSet& out, const CTileGroupSet* level) const;
+    bool GetDirectGroupsInTileSet(QList<QUuid>& out, const CTileSet& tiles) const;
+    bool RemoveGroupWhenTileOut(QList<QUuid>& ids, const CTileSet& tiles) const;
+    bool GetAllGroupsFromTileSet(QList<QUuid>& out, const CTileSet& tiles) const;
+    bool GetAllTileGroupIDInTileSet(const CTileSet* tiles, QList<QUuid>& out) const;
+
+    // rotation
+    void ChangeRotateCenter(const QPointF& centre, const CTileSet& tiles);
+    /// Turns each tile's centre by `angle` degrees about the record's centre; see GetRotatePoint.
+    void SetTileGroupRotateParam(const SRotateParam* param, const CTileSet& tiles, double angle);
+
+    // may the selection of view 3 be changed as a block?
+    bool SelTileCountModifyEnable();
+    bool SelTileShapeModifyEnable();
+
+private:
+    CTileSet m_tiles;
+    CTileGroupSet m_groups;
+};

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "common/canvaslimits.h"
+#include "common/export.h"
+#include "layout/port.h"
+#include "params/records/senderparams.h"
+
+#include <QList>
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+#include <QString>
+#include <QUuid>
+
+#include <array>
+
+/// One sending unit or video processor of a project: identity, 160 ports of which the first GetPortCount()
+/// are in use, canvas, and the processor parameters. Owned by its project, or by whoever made the copy.
+class ORVANDATA_EXPORT CSender : public CSenderParams
+{
+public:
+    CSender(); ///< a fresh id, four ports
+    CSender(const CSender&) = delete;
+    CSender& operator=(const CSender&) = delete;
+    virtual ~CSender();
+
+    void CopySender(const CSender& other); ///< every field, the ports' lock, visibility and area included
+    bool LayoutCopy(const CSender& other); ///< the port layouts alone
+
+    // identity
+    QUuid GetId() const;
+    void SetId(const QUuid& id); ///< all ports follow
+    QString GetSenderName() const;
+    void SetSenderName(const QString& name);
+    bool IsPrintNameEnable() const;
+    void SetPrintNameEnable(bool enable);
+    QString GetPrintName() const; ///< the name on the printed form
+    void SetPrintName(const QString& name);
+    QUuid GetBelongGroup() const; ///< sender group, null: none
+    void SetBelongGroup(const QUuid& id);
+    unsigned long GetNetSenderIP() const; ///< host-order IPv4, 0: none
+    void SetNetSenderIP(unsigned long ip);
+
+    // background image
+    bool IsBKImgShow() const;
+    void SetBKImgShow(bool show);
+    int GetBKImgAlpha() const;
+    void SetBKImgAlpha(int alpha);
+    bool IsBKImgStretch() const;
+    void SetBKImgStretch(bool stretch);
+
+    // canvas: pixels
+    QSize GetCanvasSize() const;
+    void SetCanvasSize(const QSize& size);
+    QSize GetOffset() const;             ///< displacement of the whole layout on the canvas
+    void SetOffset(const QSize& offset); ///< stored as it is, see OffsetValid
+    void OffsetValid();                  ///< raises the offset so that the layout starts on the canvas
+    static void OffsetToZero(bool zero); ///< one flag for all senders, for the host's drawing
+    static bool IsOffsetToZero();
+
+    // ports
+    void SetPortCount(int count); ///< 0 gives 4; a count that no device has is ignored
+    int GetPortCount() const;
+    static bool IsPortCountAccepted(int count); ///< whether some device has that many ports
+    CPort* GetPort(int index);                  ///< [ref] null outside 0 to 159
+    const CPort* GetPort(int index) const;
+    int GetRecentPortIndex() const;
+    void SetRecentPortIndex(int port);
+    bool HaveBkPorts() const;
+    /// Whether some port in use is a backup; if so, whether the first one backs up this very sender.
+    bool ExistBackupDest(bool* selfBackup) const;
+
+    // layout over the ports in use
+    bool GetTileSet(CTileSet& out);
+    bool GetTileGroupSet(CTileGroupSet& out); ///< shares the ports' groups
+    bool GetAllTileSetInGroup(CTileSet& out, const QUuid& group);
+    bool GetAllTileSetInGroupPart(CTileSet& out, const CTileGroupSet* level);
+    bool GetTileSetInGroupRecursive(CTileSet& out, const QUuid& id);
+    bool GetAllGroupsFromTileSet(QList<QUuid>& out, const CTileSet& tiles);
+    bool RemoveGroupWhenTileOut(QList<QUuid>& ids, const CTileSet& tiles);
+    void ClearAllTiles();                 ///< of all 160 ports
+    bool IsSelectMultiPortTile(int port); ///< -1: selected tiles on more than one port; else on another port
+    QRect GetBound() const;               ///< canvas pixels, (0, 0, -1, -1 as edges) without tiles
+
+    // monitoring picture
+    QRect GetMonitorRenderArea() const;
+    void SetMonitorRenderArea(const QRect& area);
+    int GetMonitorRenderRelativePos() const;
+    void SetMonitorRenderRelativePos(int position);
+    QPoint GetMonitorRcvOffsetPt() const;
+    void SetMonitorRcvOffsetPt(const QPoint& point);
+    void ResetMonitorRenderParam(bool all); ///< area and position; with `all` the receiver offset too
+
+private:
+    QSize m_canvasSize{-1, -1};
+    QUuid m_id;
+    QString m_name;
+    QString m_printName;
+    int m_portCount = 4;
+    QSize m_offset{-1, -1};
+    std::array<CPort, kMaxPorts> m_ports;
+    quint32 m_netIp = 0;
+    QRect m_monitorRenderArea;
+    int m_monitorRenderPos = 0;
+    QPoint m_monitorRcvOffset;
+    int m_recentPort = 0;
+    QUuid m_belongGroup;
+    bool m_printNameEnable = false;
+    bool m_bkImgShow = false;
+    bool m_bkImgStretch = false;
+    int m_bkImgAlpha = 0;
+};

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "common/export.h"
+#include "common/rotateparam.h"
+#include "common/smd5.h"
+
+#include <QColor>
+#include <QPoint>
+#include <QRect>
+#include <QSharedData>
+#include <QSize>
+#include <QUuid>
+
+class CTileSet;
+struct TileData;
+
+/// One cabinet on the canvas of an output port: one receiving card, or up to ten wired inside. Owned by the
+/// tile set of that port's layout. Copies share their data until one is written to; view state (show colour,
+/// gamut status, selected receiving cards) is not copied.
+class ORVANDATA_EXPORT CTile
+{
+public:
+    CTile();
+    CTile(const CTile& other); ///< the show colour is left invalid, the other view state cleared
+    virtual ~CTile();
+    CTile& operator=(const CTile& other); ///< keeps this tile's own view state
+
+    bool operator==(const CTile& other) const; ///< view state takes no part
+    bool operator!=(const CTile& other) const;
+
+    // place and size: canvas pixels, origin top left, y grows downwards
+    bool SetX(int x);           ///< clamped to the canvas by the present width; false when it had to be
+    bool SetY(int y);           ///< clamped to the canvas by the present height; false when it had to be
+    void SetWidth(int width);   ///< at most 1024, no lower bound
+    void SetHeight(int height); ///< at most 1024, no lower bound
+    int GetX() const;
+    int GetY() const;
+    int GetWidth() const;
+    int GetHeight() const;
+    int GetRight() const;  ///< one past the last pixel
+    int GetBottom() const; ///< one past the last pixel
+    QSize GetSize() const;
+    QPoint GetPosition() const;
+    void Offset(int dx, int dy); ///< unclamped; the rotation record moves along
+    QPoint GetCenter() const;    ///< of the turned corners when rotated, else by integer division
+    QRect GetBound() const;      ///< bounding box, of the turned corners when rotated
+    void
+    GetRotateArea(CPointEx<double>* corners) const; ///< four: left-top, right-top, right-bottom, left-bottom
+
+    // identity, group and type
+    void SetSenderId(const QUuid& id);
+    QUuid GetSenderId() const;
+    void SetPortIndex(int port);
+    int GetPortIndex() const;
+    void SetGroupId(const QUuid& id); ///< null: ungrouped
+    QUuid GetGroupId() const;
+    void SetType(const SMD5& type); ///< the multi-receiver and ordered flags follow the product library
+    SMD5 GetType() const;
+
+    // selection: one bit for each of the views 3 to 6, other views are never selected
+    bool IsSelected(int iface) const;
+    void SetSelected(bool selected, int iface, int rcvIndex); ///< rcvIndex -1 or 65535: the whole cabinet
+    bool IsRcvSelected(int index) const;
+    void SetRcvSelected(int index, bool selected);
+
+    // view state
+    bool IsTileVisible() const;
+    void SetTileVisible(bool visible);
+    QColor GetTileShowColor() const;
+    void SetTileShowColor(const QColor& color);
+    int GetTileGamutStatus() const;
+    void SetTileGamutStatus(int status);
+
+    // multi-receiver cabinets
+    void SetBeMultiRcvsTile(bool multi); ///< false clears the ordered flag too
+    bool IsMultiRcvTile() const;
+    void SetBeMultiFixedLine(bool fixed); ///< false unless the cabinet has several receiving cards
+    bool IsMultiFixedLine() const;
+    void SetMultiRcvsOrdered(bool ordered); ///< a fixed line is always ordered
+    bool IsMultiRcvsOrdered() const;
+    void SetMultiRcvsSize(const QSize& size); ///< receiving cards across and down
+    QSize GetMultiRcvsSize() const;
+    int GetMultiRcvsCount() const; ///< 0 when the size is negative or its product does not fit
+    void SetMultiRcvsLine(const unsigned char* line);    ///< as many bytes as there are cards, at most ten
+    const unsigned char* GetMultiRcvsLine();             ///< [ref] ten bytes, valid while the tile lives
+    unsigned char GetMultiRcvsLineCode(int index) const; ///< 0 outside 0 to 9
+    QRect GetMultiRcvRect(int index); ///< canvas pixels; null rectangle out of range; repairs an empty size
+    QRect GetMultiRcvRelativeRect(int index); ///< the same, relative to the cabinet
+    void SetMultiRcvDemarcateIndex(int index);
+    int GetMultiRcvDemarcateIndex() const; ///< inner card marked for calibration, -1 for none
+
+    // chain
+    int GetConnectionIndex() const; ///< 0-based place in the port's chain, negative: not connected
+    bool HasSetConnectIndex() const;
+    /// Sets the place and derives the begin receiver connection from the tile one place before, looked for in
+    /// `set` or, when that is null, in the set of the tile's own port; without one the old value stays.
+    void SetConnectionIndex(int index, CTileSet* set);
+    int GetBeginRcvCnnt() const; ///< receiving cards before this cabinet in the chain, -1: none derived
+    void SetBeginRcvCnnt(int begin);
+
+    // rotation
+    SRotateParam* GetTileRotateParam();          ///< [ref] the tile's own record, valid while the tile lives
+    const SRotateParam& GetRotateRecord() const; ///< to read; valid until the tile is next written to
+    void SetTileRotateParam(const SRotateParam* param); ///< rotated too when the angle is above 0.0001
+    bool IsTileRotated() const;                         ///< false while the rotation setting is off
+
+    // inside the library: the shared record, so that snapshots compare and share without copying
+    const TileData* GetData() const;
+    void SetData(const TileData* data); ///< shares it; copies into place where a pointer is out
+
+private:
+    TileData& Write();
+
+    QExplicitlySharedDataPointer<TileData> m_data;
+    QColor m_showColor;
+    int m_gamutStatus = 0;
+    unsigned short m_rcvSelected = 0; ///< one bit a receiving card
+};

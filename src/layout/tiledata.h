@@ -1,0 +1,37 @@
+#pragma once
+
+#include "common/canvaslimits.h"
+#include "common/rotateparam.h"
+#include "common/smd5.h"
+
+#include <QSharedData>
+#include <QSize>
+#include <QUuid>
+
+/// What a cabinet is made of, apart from view state. Copies of a cabinet share it until one is written to.
+struct TileData : QSharedData
+{
+    QUuid senderId;
+    QUuid groupId; ///< null: ungrouped
+    int portIndex = -1;
+    int connectionIndex = -1; ///< place in the port's chain; negative: not connected
+    int beginRcvCnnt = -1;    ///< receiving cards before this cabinet in the chain
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+    int demarcateIndex = -1;
+    QSize multiSize{1, 1}; ///< receiving cards across and down
+    SRotateParam rotate;
+    SMD5 type;
+    unsigned char line[kMaxReceiversInTile] = {}; ///< cell code of each inner receiving card
+    unsigned char selection = 0;                  ///< one bit a view
+    bool multi = false;
+    bool fixedLine = false;
+    bool ordered = true;
+    bool visible = true;
+    /// A pointer into this record is out, so it stays this cabinet's alone and at its place.
+    bool handedOut = false;
+
+    bool IsEqual(const TileData& other) const; ///< every field but handedOut
+};

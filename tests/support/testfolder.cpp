@@ -1,0 +1,37 @@
+#include "support/testfolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+TestFolder::TestFolder() : m_folder(QDir::tempPath() + QStringLiteral("/orvan 屏XXXXXX"))
+{
+    Q_ASSERT(m_folder.isValid());
+}
+
+QString TestFolder::Path(const QString& name) const
+{
+    return name.isEmpty() ? m_folder.path() : m_folder.filePath(name);
+}
+
+QString TestFolder::Write(const QString& name, const QByteArray& content) const
+{
+    const QString path = Path(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    Q_ASSERT(written);
+    Q_UNUSED(written)
+    return path;
+}
+
+QByteArray ReadFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString SamplePath(const char* name)
+{
+    return QStringLiteral(ORVAN_SAMPLES "/") + QString::fromUtf8(name);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+/// An empty folder that is gone with the object. Its name holds a blank and a Chinese character.
+class TestFolder
+{
+public:
+    TestFolder();
+
+    QString Path(const QString& name = QString()) const; ///< without a name: the folder, no trailing "/"
+
+    /// Writes a file below the folder, making its folders, and returns its path.
+    QString Write(const QString& name, const QByteArray& content) const;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QByteArray ReadFile(const QString& path); ///< empty when the file cannot be read
+QString SamplePath(const char* name);
