@@ -1,0 +1,35 @@
+#pragma once
+
+#include "common/smd5.h"
+
+#include <QString>
+#include <QUuid>
+
+#include <string>
+#include <string_view>
+
+/// Text forms of values in files, one checked pair a type, UTF-8, independent of the locale. Reading follows
+/// QString::toInt and its kin: blanks around a number are passed over, a text that is no number of the type
+/// is 0.
+namespace fieldtext {
+
+void Append(std::string& out, int value);
+void Append(std::string& out, unsigned int value);
+void Append(std::string& out, bool value);   ///< "1" or "0"
+void Append(std::string& out, double value); ///< six significant digits, shortest general form
+void Append(std::string& out, float value);
+void Append(std::string& out, const QUuid& value); ///< braced, lower case
+void Append(std::string& out, const SMD5& value);  ///< 32 digits and the closing NUL; empty for no type
+/// Without what an XML file cannot hold: controls but tab and line ends, U+FFFE, U+FFFF, lone surrogates.
+void Append(std::string& out, const QString& value);
+
+void Read(std::string_view text, int& value);
+void Read(std::string_view text, unsigned int& value);
+void Read(std::string_view text, bool& value);   ///< true for any number but 0
+void Read(std::string_view text, double& value); ///< unchanged for a number that is not finite
+void Read(std::string_view text, float& value);
+void Read(std::string_view text, QUuid& value);
+void Read(std::string_view text, SMD5& value); ///< unchanged unless the text has 32 or 33 characters
+void Read(std::string_view text, QString& value);
+
+} // namespace fieldtext

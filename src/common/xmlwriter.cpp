@@ -1,0 +1,145 @@
+#include "common/xmlwriter.h"
+
+#include <QIODevice>
+
+namespace {
+
+constexpr size_t kBufferSize = 256 * 1024;
+
+/// Line ends and tabs are written as references: a parser would turn them into blanks inside an attribute.
+const char* Reference(char c)
+{
+    switch (c) {
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '>':
+        return "&gt;";
+    case '"':
+        return "&quot;";
+    case '\t':
+        return "&#x9;";
+    case '\n':
+        return "&#xa;";
+    case '\r':
+        return "&#xd;";
+    default:
+        return nullptr;
+    }
+}
+
+void AppendEscaped(std::string& out, std::string_view text)
+{
+    size_t begin = 0;
+    for (size_t i = 0; i < text.size(); ++i) {
+        const char* reference = Reference(text[i]);
+        if (!reference)
+            continue;
+        out.append(text, begin, i - begin).append(reference);
+        begin = i + 1;
+    }
+    out.append(text, begin);
+}
+
+QString FromUtf8(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+} // namespace
+
+StreamXmlWriter::StreamXmlWriter(QIODevice& device, std::string_view encodingName) : m_device(device)
+{
+    m_buffer.reserve(kBufferSize + kBufferSize / 4);
+    m_buffer.append("<?xml version=\"1.0\" encoding=\"").append(encodingName).append("\"?>\n");
+}
+
+void StreamXmlWriter::StartLine()
+{
+    if (m_tagOpen)
+        m_buffer.append(">\n");
+    m_tagOpen = false;
+    m_buffer.append(m_open.size() * 4, ' ');
+}
+
+void StreamXmlWriter::BeginElement(std::string_view name)
+{
+    FlushWhenLarge();
+    StartLine();
+    m_buffer.append("<").append(name);
+    m_open.emplace_back(name);
+    m_tagOpen = true;
+    m_hasText = false;
+}
+
+void StreamXmlWriter::Attribute(const char* name, std::string_view text)
+{
+    m_buffer.append(" ").append(name).append("=\"");
+    AppendEscaped(m_buffer, text);
+    m_buffer.push_back('"');
+}
+
+void StreamXmlWriter::Text(std::string_view text)
+{
+    if (m_tagOpen)
+        m_buffer.push_back('>');
+    m_tagOpen = false;
+    m_hasText = true;
+    AppendEscaped(m_buffer, text);
+}
+
+void StreamXmlWriter::EndElement()
+{
+    const std::string name = std::move(m_open.back());
+    m_open.pop_back();
+    if (m_tagOpen) {
+        m_buffer.append("/>\n");
+    } else {
+        if (!m_hasText)
+            StartLine();
+        m_buffer.append("</").append(name).append(">\n");
+    }
+    m_tagOpen = false;
+    m_hasText = false;
+}
+
+void StreamXmlWriter::FlushWhenLarge()
+{
+    if (m_buffer.size() >= kBufferSize)
+        Flush();
+}
+
+bool StreamXmlWriter::Flush()
+{
+    const auto size = static_cast<qint64>(m_buffer.size());
+    m_failed = m_failed || m_device.write(m_buffer.data(), size) != size;
+    m_buffer.clear();
+    return !m_failed;
+}
+
+DomXmlWriter::DomXmlWriter(const QDomDocument& document, const QDomElement& parent)
+    : m_document(document), m_current(parent)
+{}
+
+void DomXmlWriter::BeginElement(std::string_view name)
+{
+    QDomElement child = m_document.createElement(FromUtf8(name));
+    m_current.appendChild(child);
+    m_current = child;
+}
+
+void DomXmlWriter::Attribute(const char* name, std::string_view text)
+{
+    m_current.setAttribute(QString::fromUtf8(name), FromUtf8(text));
+}
+
+void DomXmlWriter::Text(std::string_view text)
+{
+    m_current.appendChild(m_document.createTextNode(FromUtf8(text)));
+}
+
+void DomXmlWriter::EndElement()
+{
+    m_current = m_current.parentNode().toElement();
+}

@@ -1,0 +1,68 @@
+#include "common/fieldtext.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace {
+
+template <class T> std::string Text(const T& value)
+{
+    std::string text;
+    fieldtext::Append(text, value);
+    return text;
+}
+
+template <class T> T Value(std::string_view text, T before)
+{
+    fieldtext::Read(text, before);
+    return before;
+}
+
+} // namespace
+
+TEST(FieldTextTest, NumbersReadAsQtReadsThem)
+{
+    for (const char* text :
+         {"12", " 12 ", "+12", "-12", "1.5", "0x12", "", " ", "2147483648", "12a", "--1", "+-1"})
+        EXPECT_EQ(Value(text, 7), QString::fromLatin1(text).toInt()) << text;
+    for (const char* text : {"4294967295", "-1", "4294967296"})
+        EXPECT_EQ(Value(text, 7u), QString::fromLatin1(text).toUInt()) << text;
+    for (const char* text : {"2.85", "1e3", "-.5", "abc", "5,5"})
+        EXPECT_EQ(Value(text, 7.0), QString::fromLatin1(text).toDouble()) << text;
+}
+
+TEST(FieldTextTest, NumbersThatAreNotFiniteLeaveTheDefault)
+{
+    EXPECT_EQ(Value("nan", 7.0), 7.0);
+    EXPECT_EQ(Value("inf", 7.0), 7.0);
+    EXPECT_EQ(Value("1e300", 7.0f), 7.0f);
+}
+
+TEST(FieldTextTest, FloatsHaveSixSignificantDigitsAsQtWritesThem)
+{
+    for (double value : {2.2, 6.0, 0.1 + 0.2, 1234567.0, 1e-5, -100.0, 29.999999, 1e22})
+        EXPECT_EQ(Text(value), QString::number(value, 'g', 6).toStdString());
+    EXPECT_EQ(Text(2.85f), "2.85");
+}
+
+TEST(FieldTextTest, DigestsCarryTheirClosingNulAndReadWithAndWithoutIt)
+{
+    const std::string digits = "6a68bac7e613028bb11b40c35340e863";
+    const SMD5 md5 = Value(digits, SMD5());
+    EXPECT_EQ(Text(md5), digits + '\0');
+    EXPECT_EQ(Value(digits + '\0', SMD5()), md5);
+    EXPECT_EQ(Value(digits.substr(1), md5), md5) << "31 characters are no digest";
+    EXPECT_EQ(Text(SMD5()), "");
+}
+
+TEST(FieldTextTest, TextLosesWhatNoFileCanHold)
+{
+    QString text = QStringLiteral("a\tb屏\U0001F600");
+    text.append(QChar(0xD800))
+        .append(QChar(0xFFFE))
+        .append(QChar(0))
+        .append(QChar(0x1b))
+        .append(QLatin1Char('z'));
+    EXPECT_EQ(Text(text), QStringLiteral("a\tb屏\U0001F600z").toStdString());
+}

@@ -1,0 +1,125 @@
+#include "common/xmldom.h"
+#include "common/xmlreader.h"
+#include "common/xmlwriter.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+
+namespace {
+
+/// Writes down what it is given: names, the attribute "a", and the nesting.
+class Recorder : public XmlHandler
+{
+public:
+    bool Begin(XmlAttributes& attributes) override
+    {
+        const char* a = attributes.Find("a");
+        log += a ? "(" + std::string(a) : "(";
+        return !a || std::string_view(a) != "stop";
+    }
+    XmlHandler* Child(std::string_view name) override
+    {
+        log += name;
+        return name == "skip" ? nullptr : this;
+    }
+    void End() override { log += ")"; }
+
+    std::string log;
+};
+
+std::string Parsed(const QByteArray& content, XmlResult expected)
+{
+    QByteArray bytes = content;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    Recorder recorder;
+    QString error;
+    EXPECT_EQ(ParseXml(buffer, recorder, &error), expected) << error.toStdString();
+    EXPECT_EQ(error.isEmpty(), expected != XmlResult::Failed);
+    return recorder.log;
+}
+
+QByteArray Nested(int depth)
+{
+    QByteArray content = "<?xml version='1.0'?>";
+    for (int i = 0; i < depth; ++i)
+        content += "<e>";
+    for (int i = 0; i < depth; ++i)
+        content += "</e>";
+    return content;
+}
+
+} // namespace
+
+TEST(XmlReaderTest, StreamAndTreeGiveTheSameToAHandler)
+{
+    const QByteArray content = "<r a='1'><x a='2&lt;'/><skip><x/></skip><y b='3'><x a='屏'/></y></r>";
+    const std::string log = Parsed(content, XmlResult::Done);
+    EXPECT_EQ(log, "r(1x(2<)skipy(x(屏)))");
+
+    QDomDocument document;
+    ASSERT_TRUE(ParseXmlDom(content, document, nullptr));
+    Recorder recorder;
+    recorder.Child("r");
+    EXPECT_EQ(WalkDom(document.documentElement(), recorder), XmlResult::Done);
+    EXPECT_EQ(recorder.log, log);
+}
+
+TEST(XmlReaderTest, NulBehindADigestIsPassedOver)
+{
+    EXPECT_EQ(Parsed(QByteArray("<r a='ab\0'/>", 12), XmlResult::Done), "r(ab)");
+}
+
+TEST(XmlReaderTest, HandlerEndsTheReading)
+{
+    EXPECT_EQ(Parsed("<r><x a='stop'/><y/></r>", XmlResult::Stopped), "r(x(stop");
+}
+
+TEST(XmlReaderTest, DeepNestingDoctypeAndBrokenFilesAreRefused)
+{
+    EXPECT_EQ(Parsed(Nested(kMaxXmlDepth), XmlResult::Done).size(), 3u * kMaxXmlDepth);
+    Parsed(Nested(kMaxXmlDepth + 1), XmlResult::Failed);
+    Parsed("<!DOCTYPE r [<!ENTITY e 'x'>]><r>&e;</r>", XmlResult::Failed);
+    Parsed("<r><x></r>", XmlResult::Failed);
+    Parsed("", XmlResult::Failed);
+    Parsed("<r a='1' a='2'/>", XmlResult::Failed);
+
+    QDomDocument document;
+    QString error;
+    EXPECT_FALSE(ParseXmlDom(Nested(20000), document, &error));
+    EXPECT_FALSE(error.isEmpty());
+}
+
+TEST(XmlWriterTest, StreamAndTreeHoldTheSame)
+{
+    const auto write = [](XmlWriter& writer) {
+        writer.BeginElement("r");
+        writer.Attribute("a", "<\"&'>\t\n屏");
+        writer.BeginElement("t");
+        writer.Text("1 < 2");
+        writer.EndElement();
+        writer.BeginElement("empty");
+        writer.EndElement();
+        writer.EndElement();
+    };
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    StreamXmlWriter stream(buffer);
+    write(stream);
+    ASSERT_TRUE(stream.Flush());
+    EXPECT_EQ(buffer.data().left(62), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<r a=\"&lt;&quot;&amp;'&");
+
+    QDomDocument tree;
+    QDomElement root = tree.createElement(QStringLiteral("root"));
+    DomXmlWriter dom(tree, root);
+    write(dom);
+    QDomDocument parsed;
+    QString error;
+    ASSERT_TRUE(ParseXmlDom(buffer.data(), parsed, &error)) << error.toStdString();
+    const QDomElement fromStream = parsed.documentElement();
+    const QDomElement fromTree = root.firstChildElement();
+    EXPECT_EQ(fromStream.attribute(QStringLiteral("a")), fromTree.attribute(QStringLiteral("a")));
+    EXPECT_EQ(fromStream.firstChildElement().text(), fromTree.firstChildElement().text());
+    EXPECT_EQ(fromStream.lastChildElement().tagName(), QStringLiteral("empty"));
+}
