@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+/// What an archive may hold, so that a hostile one fills neither the memory nor the disk.
+constexpr int kMaxArchiveEntries = 65535;
+constexpr qint64 kMaxArchiveEntrySize = qint64(256) << 20;  ///< bytes unpacked
+constexpr qint64 kMaxArchiveTotalSize = qint64(1024) << 20; ///< bytes unpacked
+
+/// Packs all that is below a folder, links left out, into an archive that replaces `zipPath` as one step.
+/// Entries are named from the folder's own name on. The same content gives the same bytes. On failure the
+/// old archive stays and `error` says why.
+bool PackFolder(const QString& folder, const QString& zipPath, QString* error = nullptr);
+
+/// Unpacks an archive below a folder in the archive's order and stops at the first entry that is refused or
+/// fails; what was unpacked before it stays. With `onlyBelow`, such as "project/", other entries are skipped
+/// after their names were checked. Files of the same name are replaced; nothing is written through a link.
+bool UnpackArchive(const QString& zipPath, const QString& folder, const QString& onlyBelow = QString(),
+                   QString* error = nullptr);

@@ -1,0 +1,144 @@
+#include "settings/archive.h"
+
+#include "settings/archivename.h"
+#include "settings/failure.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <memory>
+#include <sys/stat.h>
+#include <zip.h>
+
+namespace {
+
+constexpr int kBufferSize = 1 << 16;
+
+struct Discard
+{
+    void operator()(zip_t* archive) const { zip_discard(archive); }
+    void operator()(zip_file_t* file) const { zip_fclose(file); }
+};
+
+bool IsLink(zip_t* archive, zip_uint64_t index)
+{
+    zip_uint8_t system = 0;
+    zip_uint32_t attributes = 0;
+    zip_file_get_external_attributes(archive, index, 0, &system, &attributes);
+    return ((attributes >> 16) & S_IFMT) == S_IFLNK;
+}
+
+bool IsReadable(const zip_stat_t& stat)
+{
+    constexpr zip_uint64_t needed = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_ENCRYPTION_METHOD;
+    return (stat.valid & needed) == needed && stat.encryption_method == ZIP_EM_NONE
+           && (stat.comp_method == ZIP_CM_STORE || stat.comp_method == ZIP_CM_DEFLATE);
+}
+
+/// Makes the folders of an entry, one by one below `base`; false where one is a link or cannot be made.
+bool MakeFolders(const QString& base, const QString& below)
+{
+    QString path = base;
+    const QStringList components = below.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    for (const QString& component : components) {
+        path += QLatin1Char('/') + component;
+        const QFileInfo info(path);
+        if (info.isSymLink() || (!info.isDir() && !QDir().mkdir(path)))
+            return false;
+    }
+    return true;
+}
+
+/// Copies the declared number of bytes. Asking for one more makes the end, and with it the checksum, tested.
+bool CopyContent(zip_file_t* source, QFile& target, zip_uint64_t size)
+{
+    QByteArray buffer(kBufferSize, Qt::Uninitialized);
+    zip_uint64_t copied = 0;
+    for (;;) {
+        const zip_int64_t got = zip_fread(source, buffer.data(), kBufferSize);
+        if (got <= 0)
+            return got == 0 && copied == size;
+        copied += static_cast<zip_uint64_t>(got);
+        if (copied > size || target.write(buffer.constData(), got) != got)
+            return false;
+    }
+}
+
+bool ExtractFile(zip_t* archive, zip_uint64_t index, zip_uint64_t size, const QString& path)
+{
+    const std::unique_ptr<zip_file_t, Discard> source(zip_fopen_index(archive, index, 0));
+    // A new file in place of the old one: a link there is removed, not followed.
+    QFile::remove(path);
+    QFile target(path);
+    if (!source || !target.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return false;
+    if (CopyContent(source.get(), target, size) && target.flush())
+        return true;
+    target.remove();
+    return false;
+}
+
+bool Extract(zip_t* archive, zip_uint64_t index, const QString& path, const QString& base)
+{
+    const int separator = path.lastIndexOf(QLatin1Char('/'));
+    if (!MakeFolders(base, path.left(separator + 1)))
+        return false;
+    if (separator == path.size() - 1)
+        return true;
+    zip_stat_t stat;
+    return zip_stat_index(archive, index, 0, &stat) == 0
+           && ExtractFile(archive, index, stat.size, base + QLatin1Char('/') + path);
+}
+
+/// Checks an entry before anything is written for it. `total` grows by what it unpacks to.
+bool Accept(zip_t* archive, zip_uint64_t index, zip_uint64_t* total)
+{
+    zip_stat_t stat;
+    if (zip_stat_index(archive, index, 0, &stat) != 0 || !IsReadable(stat) || IsLink(archive, index)
+        || stat.size > zip_uint64_t(kMaxArchiveEntrySize))
+        return false;
+    *total += stat.size;
+    return *total <= zip_uint64_t(kMaxArchiveTotalSize);
+}
+
+std::unique_ptr<zip_t, Discard> Open(const QString& path)
+{
+    int code = 0;
+    // libzip takes an empty file for an archive without entries.
+    const bool empty = QFileInfo(path).size() == 0;
+    return std::unique_ptr<zip_t, Discard>(
+        empty ? nullptr : zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, &code));
+}
+
+} // namespace
+
+bool UnpackArchive(const QString& zipPath, const QString& folder, const QString& onlyBelow, QString* error)
+{
+    if (!QFileInfo(zipPath).isFile())
+        return Fail(error, QCoreApplication::translate("OrvanData", "文件不存在: %1").arg(zipPath));
+    if (folder.isEmpty() || !QDir().mkpath(folder))
+        return Fail(error, QCoreApplication::translate("OrvanData", "文件夹无法创建: %1").arg(folder));
+    if (!HasArchiveCodec())
+        return Fail(error, QCoreApplication::translate("OrvanData", "系统缺少GBK编码"));
+    const std::unique_ptr<zip_t, Discard> archive = Open(zipPath);
+    if (!archive)
+        return Fail(error, QCoreApplication::translate("OrvanData", "不是有效的压缩包: %1").arg(zipPath));
+    const zip_int64_t count = zip_get_num_entries(archive.get(), 0);
+    if (count > kMaxArchiveEntries)
+        return Fail(error, QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(zipPath));
+
+    const QString base = QFileInfo(folder).absoluteFilePath();
+    zip_uint64_t total = 0;
+    for (zip_uint64_t i = 0; i < static_cast<zip_uint64_t>(count); ++i) {
+        const QString name = GetArchiveEntryName(archive.get(), i);
+        if (name.isEmpty())
+            return Fail(error, QCoreApplication::translate("OrvanData", "压缩包条目名称无效"));
+        if (!name.startsWith(onlyBelow))
+            continue;
+        if (!Accept(archive.get(), i, &total) || !Extract(archive.get(), i, name, base))
+            return Fail(error, QCoreApplication::translate("OrvanData", "压缩包条目无法解压: %1").arg(name));
+    }
+    return true;
+}

@@ -1,0 +1,183 @@
+#include "settings/archive.h"
+
+#include "common/atomicfile.h"
+#include "settings/archivename.h"
+#include "settings/failure.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QIODevice>
+#include <QVector>
+
+#include <sys/stat.h>
+#include <zip.h>
+
+namespace {
+
+constexpr zip_uint32_t kCompressionLevel = 6;
+constexpr zip_uint16_t kDosDate = (1 << 5) | 1; // 1 January 1980; one stamp for all, so that bytes repeat
+constexpr zip_uint32_t kFileMode = (S_IFREG | 0644u) << 16;
+constexpr zip_uint32_t kFolderMode = (S_IFDIR | 0755u) << 16;
+
+// The archive without entries, which libzip does not write.
+constexpr char kEmptyArchive[22] = {'P', 'K', 5, 6};
+
+struct Entry
+{
+    QString name;
+    QString path; ///< empty: a folder
+};
+
+/// Lists what goes into an archive, a folder before what is in it.
+class FolderWalk
+{
+public:
+    /// `except`: canonical path of the archive itself, which may lie in the folder.
+    explicit FolderWalk(const QString& except) : m_except(except) {}
+
+    bool Walk(const QString& folder, const QString& name, QString* error)
+    {
+        const QDir dir(folder);
+        if (!dir.isReadable())
+            return Fail(error, QCoreApplication::translate("OrvanData", "文件夹无法读取: %1").arg(folder));
+        const auto filters =
+            QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot;
+        const QFileInfoList children = dir.entryInfoList(filters, QDir::Name);
+        for (const QFileInfo& child : children) {
+            if (child.filePath() != m_except && !Add(child, name, error))
+                return false;
+        }
+        return true;
+    }
+
+    const QVector<Entry>& Entries() const { return m_entries; }
+
+private:
+    bool Add(const QFileInfo& child, const QString& parent, QString* error)
+    {
+        const QString name = parent + QLatin1Char('/') + child.fileName();
+        m_size += child.isDir() ? 0 : child.size();
+        if (m_entries.size() == kMaxArchiveEntries || m_size > kMaxArchiveTotalSize
+            || (!child.isDir() && child.size() > kMaxArchiveEntrySize))
+            return Fail(error, QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(name));
+        m_entries.append({name, child.isDir() ? QString() : child.filePath()});
+        return !child.isDir() || Walk(child.filePath(), name, error);
+    }
+
+    QString m_except;
+    QVector<Entry> m_entries;
+    qint64 m_size = 0;
+};
+
+/// The device that libzip writes an archive to. libzip seeks back to fill in the sizes of each entry.
+struct Output
+{
+    QIODevice& device;
+    zip_error_t error;
+};
+
+zip_int64_t Seek(Output& output, void* data, zip_uint64_t length)
+{
+    const zip_int64_t position = zip_source_seek_compute_offset(
+        static_cast<zip_uint64_t>(output.device.pos()), static_cast<zip_uint64_t>(output.device.size()), data,
+        length, &output.error);
+    return position >= 0 && output.device.seek(position) ? 0 : -1;
+}
+
+zip_int64_t OnOutput(void* state, void* data, zip_uint64_t length, zip_source_cmd_t command)
+{
+    Output& output = *static_cast<Output*>(state);
+    switch (command) {
+    case ZIP_SOURCE_SUPPORTS:
+        return ZIP_SOURCE_SUPPORTS_WRITABLE;
+    case ZIP_SOURCE_STAT:
+        zip_stat_init(static_cast<zip_stat_t*>(data));
+        return sizeof(zip_stat_t);
+    case ZIP_SOURCE_WRITE: {
+        const qint64 written =
+            output.device.write(static_cast<const char*>(data), static_cast<qint64>(length));
+        if (written < 0)
+            zip_error_set(&output.error, ZIP_ER_WRITE, 0);
+        return written;
+    }
+    case ZIP_SOURCE_SEEK_WRITE:
+        return Seek(output, data, length);
+    case ZIP_SOURCE_TELL_WRITE:
+        return output.device.pos();
+    case ZIP_SOURCE_ERROR:
+        return zip_error_to_data(&output.error, data, length);
+    default:
+        return 0; // nothing to open, close, begin, commit or read: the file is new and kept by its owner
+    }
+}
+
+bool AddEntry(zip_t* archive, const Entry& entry)
+{
+    const ArchiveName name = EncodeArchiveName(entry.name);
+    const zip_flags_t encoding = name.utf8 ? ZIP_FL_ENC_UTF_8 : ZIP_FL_ENC_GUESS;
+    zip_int64_t index = -1;
+    if (entry.path.isEmpty()) {
+        index = zip_dir_add(archive, name.bytes.constData(), encoding);
+    } else {
+        zip_source_t* source = zip_source_file(archive, QFile::encodeName(entry.path).constData(), 0, -1);
+        if (source)
+            index = zip_file_add(archive, name.bytes.constData(), source, encoding);
+        if (source && index < 0)
+            zip_source_free(source);
+    }
+    if (index < 0)
+        return false;
+    const auto added = static_cast<zip_uint64_t>(index);
+    return zip_file_set_dostime(archive, added, 0, kDosDate, 0) == 0
+           && zip_file_set_external_attributes(archive, added, 0, ZIP_OPSYS_UNIX,
+                                               entry.path.isEmpty() ? kFolderMode : kFileMode)
+                  == 0
+           && (entry.path.isEmpty()
+               || zip_set_file_compression(archive, added, ZIP_CM_DEFLATE, kCompressionLevel) == 0);
+}
+
+bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, QString* error)
+{
+    if (entries.isEmpty())
+        return device.write(kEmptyArchive, sizeof(kEmptyArchive)) == qint64(sizeof(kEmptyArchive));
+
+    Output output = {device, {}};
+    zip_source_t* source = zip_source_function_create(OnOutput, &output, nullptr);
+    zip_t* archive = source ? zip_open_from_source(source, ZIP_CREATE | ZIP_TRUNCATE, nullptr) : nullptr;
+    if (!archive) {
+        zip_source_free(source);
+        return false;
+    }
+    bool done = true;
+    for (const Entry& entry : entries)
+        done = done && AddEntry(archive, entry);
+    if (done && zip_close(archive) == 0)
+        return true;
+    Fail(error, QString::fromUtf8(zip_strerror(archive)));
+    zip_discard(archive);
+    return false;
+}
+
+} // namespace
+
+bool PackFolder(const QString& folder, const QString& zipPath, QString* error)
+{
+    const QString root = QDir::cleanPath(folder);
+    if (folder.isEmpty() || zipPath.isEmpty() || !QFileInfo(root).isDir())
+        return Fail(error, QCoreApplication::translate("OrvanData", "文件夹不存在: %1").arg(folder));
+    if (!HasArchiveCodec())
+        return Fail(error, QCoreApplication::translate("OrvanData", "系统缺少GBK编码"));
+    const int separator = zipPath.lastIndexOf(QLatin1Char('/'));
+    const QString parent = zipPath.left(separator + 1);
+    if (!parent.isEmpty() && !QDir().mkpath(parent))
+        return Fail(error, QCoreApplication::translate("OrvanData", "文件夹无法创建: %1").arg(parent));
+
+    FolderWalk walk(QFileInfo(zipPath).canonicalFilePath());
+    if (!walk.Walk(QFileInfo(root).canonicalFilePath(), QFileInfo(root).fileName(), error))
+        return false;
+    QString reason;
+    const bool done = ReplaceFile(
+        zipPath, [&](QIODevice& file) { return WriteArchive(file, walk.Entries(), &reason); }, error);
+    return done || reason.isEmpty() ? done : Fail(error, reason);
+}

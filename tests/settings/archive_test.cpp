@@ -1,0 +1,202 @@
+#include "settings/archive.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+#include <zip.h>
+
+namespace {
+
+struct Raw
+{
+    QByteArray name;
+    QByteArray content;
+    zip_uint32_t mode = S_IFREG | 0644;
+    const char* password = nullptr;
+};
+
+/// An archive as somebody else's program would write it, hostile ones included.
+QString MakeArchive(const TestFolder& folder, const QList<Raw>& entries)
+{
+    const QString path = folder.Path(QStringLiteral("made.zip"));
+    zip_t* archive = zip_open(QFile::encodeName(path).constData(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
+    for (const Raw& entry : entries) {
+        zip_source_t* source = zip_source_buffer(archive, entry.content.constData(), entry.content.size(), 0);
+        const auto index = zip_file_add(archive, entry.name.constData(), source, 0);
+        zip_file_set_external_attributes(archive, index, 0, ZIP_OPSYS_UNIX, entry.mode << 16);
+        if (entry.password)
+            zip_file_set_encryption(archive, index, ZIP_EM_AES_256, entry.password);
+    }
+    zip_close(archive);
+    return path;
+}
+
+QStringList RawNames(const QString& path)
+{
+    QStringList names;
+    zip_t* archive = zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, nullptr);
+    for (zip_int64_t i = 0; i < zip_get_num_entries(archive, 0); ++i)
+        names << QString::fromLatin1(zip_get_name(archive, i, ZIP_FL_ENC_RAW));
+    zip_discard(archive);
+    return names;
+}
+
+/// Overwrites the 4 bytes at an offset behind every local or central header that begins so.
+void Patch(const QString& path, const QByteArray& signature, int offset, const QByteArray& bytes)
+{
+    QByteArray content = ReadFile(path);
+    const int at = content.indexOf(signature);
+    ASSERT_GE(at, 0);
+    content.replace(at + offset, bytes.size(), bytes);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+bool Unpack(const TestFolder& folder, const QString& path)
+{
+    return UnpackArchive(path, folder.Path(QStringLiteral("in/out")));
+}
+
+} // namespace
+
+TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
+{
+    TestFolder folder;
+    // Plain, Chinese, outside GBK, outside the basic plane, and GBK bytes that happen to be valid UTF-8.
+    const QStringList names = {QStringLiteral("x.txt"),        QString::fromUtf8("箱体 1.rcvbp"),
+                               QString::fromUtf8("ģ ñ.txt"),   QString::fromUtf8("😀.txt"),
+                               QString::fromUtf8("子/模.txt"), QStringLiteral(".hidden")};
+    for (const QString& name : names)
+        folder.Write(QStringLiteral("屏幕B/") + name, name.toUtf8().repeated(100));
+    folder.Write(QStringLiteral("屏幕B/empty"), QByteArray());
+    QDir().mkpath(folder.Path(QStringLiteral("屏幕B/void")));
+    QFile::link(folder.Path(QStringLiteral("屏幕B/x.txt")), folder.Path(QStringLiteral("屏幕B/link")));
+
+    // The archive lies in the folder that it packs and must not pack itself.
+    const QString path = folder.Path(QStringLiteral("屏幕B/a.zip"));
+    QString error;
+    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("屏幕B/")), path, &error)) << qPrintable(error);
+    const QByteArray first = ReadFile(path);
+    folder.Write(QStringLiteral("屏幕B/x.txt"), ReadFile(folder.Path(QStringLiteral("屏幕B/x.txt"))));
+    QFile::setPermissions(folder.Path(QStringLiteral("屏幕B/x.txt")), QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("屏幕B")), path, &error)) << qPrintable(error);
+    EXPECT_EQ(ReadFile(path), first);
+
+    const QString out = folder.Path(QStringLiteral("out"));
+    ASSERT_TRUE(UnpackArchive(path, out, QString(), &error)) << qPrintable(error);
+    for (const QString& name : names)
+        EXPECT_EQ(ReadFile(out + QStringLiteral("/屏幕B/") + name), name.toUtf8().repeated(100))
+            << qPrintable(name);
+    EXPECT_TRUE(QFileInfo(out + QStringLiteral("/屏幕B/empty")).isFile());
+    EXPECT_TRUE(QFileInfo(out + QStringLiteral("/屏幕B/void")).isDir());
+    const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    EXPECT_EQ(QDir(out + QStringLiteral("/屏幕B")).entryList(all).size(), 8);
+}
+
+TEST(ArchiveTest, NamesAreGbkWhereItHoldsThem)
+{
+    TestFolder folder;
+    folder.Write(QStringLiteral("B/模"), "1");
+    folder.Write(QStringLiteral("B/😀"), "1");
+    const QString path = folder.Path(QStringLiteral("a.zip"));
+    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("B")), path));
+    EXPECT_TRUE(RawNames(path).contains(QString::fromLatin1("B/\xC4\xA3")));
+    EXPECT_TRUE(RawNames(path).contains(QString::fromLatin1("B/\xF0\x9F\x98\x80")));
+}
+
+TEST(ArchiveTest, EmptyFolderGivesAnArchiveThatUnpacks)
+{
+    TestFolder folder;
+    QDir().mkpath(folder.Path(QStringLiteral("B")));
+    const QString path = folder.Path(QStringLiteral("new/a.zip"));
+    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("B")), path));
+    EXPECT_TRUE(Unpack(folder, path));
+}
+
+TEST(ArchiveTest, FailedPackingKeepsTheOldArchive)
+{
+    TestFolder folder;
+    const QString path = folder.Write(QStringLiteral("a.zip"), "old");
+    QString error;
+    EXPECT_FALSE(PackFolder(folder.Path(QStringLiteral("missing")), path, &error));
+    QFile large(folder.Write(QStringLiteral("B/large"), "1"));
+    ASSERT_TRUE(large.resize(kMaxArchiveEntrySize + 1)); // sparse
+    EXPECT_FALSE(PackFolder(folder.Path(QStringLiteral("B")), path, &error));
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_EQ(ReadFile(path), "old");
+}
+
+TEST(ArchiveTest, EntryThatLeadsOutStopsUnpackingAndWritesNothing)
+{
+    const char* hostile[] = {"../evil",         "B/../../evil", "/evil",    "C:/evil", "C:evil",
+                             "./evil",          "B/./evil",     "..\\evil", "B//evil", "B/..",
+                             "B\\..\\..\\evil", "ev\nil",       "B\x81"};
+    for (const char* name : hostile) {
+        TestFolder folder;
+        const QString path = MakeArchive(folder, {{"good", "1"}, {name, "evil"}, {"late", "1"}});
+        EXPECT_FALSE(Unpack(folder, path)) << name;
+        const QDir out(folder.Path(QStringLiteral("in/out")));
+        EXPECT_EQ(out.entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                  QStringList(QStringLiteral("good")));
+        EXPECT_FALSE(QFileInfo::exists(folder.Path(QStringLiteral("in/evil")))) << name;
+        EXPECT_FALSE(QFileInfo::exists(folder.Path(QStringLiteral("evil")))) << name;
+    }
+}
+
+TEST(ArchiveTest, LinksAndEncryptedAndDamagedEntriesAreRefused)
+{
+    TestFolder folder;
+    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"link", "/etc", S_IFLNK | 0777}})));
+    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"secret", "text", S_IFREG, "key"}})));
+    EXPECT_FALSE(Unpack(folder, folder.Write(QStringLiteral("empty.zip"), QByteArray())));
+    EXPECT_FALSE(Unpack(folder, folder.Write(QStringLiteral("text.zip"), "no archive at all")));
+
+    const QList<Raw> one = {{"bomb", QByteArray(5000000, 'a')}};
+    const QByteArray local("PK\3\4"), central("PK\1\2");
+    QString path = MakeArchive(folder, one);
+    Patch(path, central, 24, QByteArray("\x10\0\0\0", 4)); // declares 16 bytes
+    Patch(path, local, 22, QByteArray("\x10\0\0\0", 4));
+    EXPECT_FALSE(Unpack(folder, path));
+    path = MakeArchive(folder, one);
+    Patch(path, central, 24, QByteArray("\0\0\0\x7F", 4)); // declares 2 GiB
+    Patch(path, local, 22, QByteArray("\0\0\0\x7F", 4));
+    EXPECT_FALSE(Unpack(folder, path));
+    path = MakeArchive(folder, one);
+    Patch(path, central, 16, "abcd"); // checksum
+    Patch(path, local, 14, "abcd");
+    EXPECT_FALSE(Unpack(folder, path));
+    EXPECT_TRUE(QDir(folder.Path(QStringLiteral("in/out"))).isEmpty());
+}
+
+TEST(ArchiveTest, NothingIsWrittenThroughALinkAndOldFilesAreReplaced)
+{
+    TestFolder folder;
+    const QString outside = folder.Write(QStringLiteral("outside/file"), "old");
+    folder.Write(QStringLiteral("in/out/plain"), "a longer old text");
+    QFile::link(outside, folder.Path(QStringLiteral("in/out/file")));
+    ASSERT_TRUE(Unpack(folder, MakeArchive(folder, {{"file", "new"}, {"plain", "new"}})));
+    EXPECT_EQ(ReadFile(outside), "old");
+    EXPECT_EQ(ReadFile(folder.Path(QStringLiteral("in/out/file"))), "new");
+    EXPECT_EQ(ReadFile(folder.Path(QStringLiteral("in/out/plain"))), "new");
+
+    QFile::link(folder.Path(QStringLiteral("outside")), folder.Path(QStringLiteral("in/out/sub")));
+    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"sub/file", "new"}})));
+    EXPECT_EQ(ReadFile(outside), "old");
+}
+
+TEST(ArchiveTest, OnlyTheWantedFolderIsUnpacked)
+{
+    TestFolder folder;
+    const QString path =
+        MakeArchive(folder, {{"other/x", "1"}, {"project\\new.prj", "2"}, {"projects", "3"}});
+    const QString out = folder.Path(QStringLiteral("out"));
+    EXPECT_TRUE(UnpackArchive(path, out, QStringLiteral("project/")));
+    EXPECT_EQ(ReadFile(out + QStringLiteral("/project/new.prj")), "2");
+    EXPECT_EQ(QDir(out).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
+}

@@ -1,0 +1,101 @@
+#include "settings/archive.h"
+#include "settings/constantdata.h"
+#include "settings/settingslookup.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+TEST(ConstantDataTest, FileNamesThatDoNotExistYetBecomeFolders)
+{
+    struct English : SettingsLookup
+    {
+        ELanguageType Language() const override { return LanguageEnglish; }
+    } english;
+    SetSettingsLookup(&english);
+    const QString log = CConstantData::GetLogPath();
+    SetSettingsLookup(nullptr);
+    EXPECT_TRUE(log.endsWith(QLatin1String("/Documents/Orvan/SysConfig/ReleaseNotesEN.txt")))
+        << qPrintable(log);
+    EXPECT_TRUE(QFileInfo(log).isDir());
+    EXPECT_FALSE(QFileInfo::exists(CConstantData::GetLatestProjectDir()));
+    const QString images = CConstantData::GetBKImagePath();
+    EXPECT_TRUE(QFileInfo(images).isDir());
+    EXPECT_EQ(CConstantData::GetSenderBKImgName(0, true), images + QStringLiteral("/Sender_1.png"));
+    EXPECT_EQ(CConstantData::GetSenderBKImgName(-1, false), QStringLiteral("/Layout.png"));
+}
+
+TEST(ConstantDataTest, PortColorsRepeatAndNegativePortsHaveTheirOwn)
+{
+    EXPECT_EQ(CConstantData::GetColorByPort(20), QColor(204, 94, 16));
+    EXPECT_EQ(CConstantData::GetColorByPort(-20), QColor(204, 94, 16));
+    EXPECT_EQ(CConstantData::GetColorByPort(159), QColor(139, 166, 164));
+    EXPECT_EQ(CConstantData::GetColorByPort(-1), QColor(65, 100, 150));
+}
+
+TEST(ConstantDataTest, ColorTextReadsBackOnlyBelowHalfOpacity)
+{
+    const QColor half(1, 2, 3, 127);
+    EXPECT_EQ(CConstantData::GetColorFromQString(CConstantData::GetColortoQString(half)), half);
+    EXPECT_EQ(CConstantData::GetColortoQString(Qt::black), QStringLiteral("4278190080"));
+    EXPECT_EQ(CConstantData::GetColorFromQString(QStringLiteral("4278190080")), QColor(0, 0, 0, 0));
+}
+
+TEST(ConstantDataTest, BrightnessRoundsHalfAwayFromZero)
+{
+    EXPECT_EQ(CConstantData::GetBightnessFromPercent(50, true), 128);
+    EXPECT_EQ(CConstantData::GetBightnessFromPercent(-50, true), -128);
+    EXPECT_EQ(CConstantData::GetBightnessFromPercent(100, false), 255);
+    EXPECT_EQ(CConstantData::GetBightnessFromPercent(50, false), 193); // 0.5 ^ 0.4 is 0.7579
+    EXPECT_EQ(CConstantData::GetBightnessFromPercent(-50, false), 0);
+    EXPECT_EQ(CConstantData::GetBightnessFromPercent(2147483647, true), 2147483647);
+}
+
+TEST(ConstantDataTest, FilesAreHashedWithAndWithoutTheScratchName)
+{
+    TestFolder folder;
+    const QString empty = folder.Write(QStringLiteral("空.rcvbp"), QByteArray());
+    const QString abc = folder.Write(QStringLiteral("abc.rcvbp"), "abc");
+    const QString scratch = QDir::homePath() + QStringLiteral("/Documents/tmpfile");
+    EXPECT_EQ(CConstantData::GetMD5FromFile(empty).ToString(),
+              QStringLiteral("d41d8cd98f00b204e9800998ecf8427e"));
+    EXPECT_FALSE(QFileInfo::exists(scratch));
+
+    QFile other(scratch);
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    other.write("somebody else's");
+    other.close();
+    EXPECT_EQ(CConstantData::GetMD5FromFile(abc).ToString(),
+              QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
+    EXPECT_TRUE(CConstantData::GetMD5FromFile(folder.Path(QStringLiteral("missing"))).IsNull());
+    EXPECT_EQ(ReadFile(scratch), "somebody else's");
+    QFile::remove(scratch);
+}
+
+TEST(ConstantDataTest, TemporaryProjectNeverShowsAnEarlierOne)
+{
+    TestFolder folder;
+    folder.Write(QStringLiteral("SaveProject/card.prj"), "first");
+    const QString archive = folder.Path(QStringLiteral("a.prj"));
+    CConstantData::ZipFile(folder.Path(QStringLiteral("SaveProject")), archive);
+    const QString document = CConstantData::GetTmpProjectDataPath(archive);
+    EXPECT_EQ(ReadFile(document), "first");
+    EXPECT_EQ(CConstantData::GetTmpProjectDataPath(folder.Path(QStringLiteral("missing"))), document);
+    EXPECT_FALSE(QFileInfo::exists(document));
+}
+
+TEST(ConstantDataTest, ClearingLeavesALinkInTheTemporaryFoldersPlace)
+{
+    TestFolder folder;
+    const QString kept = folder.Write(QStringLiteral("kept"), "1");
+    const QString temporary = CConstantData::GetTmpFilePath();
+    CConstantData::ClearTmpFilePath();
+    EXPECT_FALSE(QFileInfo::exists(temporary));
+    ASSERT_TRUE(QFile::link(folder.Path(), temporary));
+    CConstantData::ClearTmpFilePath();
+    EXPECT_TRUE(QFileInfo::exists(kept));
+    QFile::remove(temporary);
+}
