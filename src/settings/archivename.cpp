@@ -19,9 +19,12 @@ QString Decode(zip* archive, quint64 index)
     if (!stored)
         return QString();
     const QByteArray raw(stored);
-    const char* strict = zip_get_name(archive, index, ZIP_FL_ENC_STRICT);
-    if (strict && raw == strict)
+    const QByteArray strict(zip_get_name(archive, index, ZIP_FL_ENC_STRICT));
+    if (raw == strict)
         return QString::fromUtf8(raw);
+    // The old code page has a character for every byte, NUL too, where the stored name seems to end.
+    if (QString::fromUtf8(strict).size() != raw.size())
+        return QString();
     // Codecs differ in what they report of broken text; only a name that encodes back was read right.
     const QString name = Gbk()->toUnicode(raw);
     return Gbk()->fromUnicode(name) == raw ? name : QString();
