@@ -4,8 +4,6 @@
 #include <iterator>
 #include <tuple>
 
-// A limit is stored and compared as typed, so numbers compare exactly here.
-
 bool operator==(const SVideoInput& a, const SVideoInput& b)
 {
     return a.slot == b.slot && a.sourceType == b.sourceType && a.sourceIndex == b.sourceIndex

@@ -1,0 +1,159 @@
+#include "monitor/monitordata.h"
+
+#include "common/interfacedlg.h"
+#include "monitor/monitorlookup.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+namespace {
+
+/// Settings that look back at the monitoring data while they are asked, as the application's do.
+class CallingBack : public MonitorLookup
+{
+public:
+    explicit CallingBack(CMonitorData& data) : m_data(data) { SetMonitorLookup(this); }
+    ~CallingBack() override { SetMonitorLookup(nullptr); }
+
+    bool IsInterfaceReadOnly(int index) const override
+    {
+        m_data.SetMonitoring(true);
+        return readOnly.value(index);
+    }
+    void SetInterfaceReadOnly(int index, bool state) override
+    {
+        m_data.SetMonitoring(false);
+        readOnly[index] = state;
+    }
+
+    QMap<int, bool> readOnly;
+
+private:
+    CMonitorData& m_data;
+};
+
+constexpr int kReceivers = 20;
+
+CMonitorDetectData DetectedBy(unsigned int writer)
+{
+    CMonitorDetectData data;
+    SDetectReceiverData record;
+    record.firmwareVersion = QString::number(writer);
+    for (int i = 0; i < kReceivers; ++i)
+        data.AddRcvData(writer, 0, i, &record);
+    return data;
+}
+
+/// Whether every record of a copy comes from one writer.
+bool IsWhole(const CMonitorDetectData& data)
+{
+    for (int i = 0; i < data.GetRcvDataCount(); ++i) {
+        const SDetectReceiverData* record = data.GetRcvDataByIndex(i);
+        if (record->firmwareVersion != QString::number(record->place.sender)
+            || record->place.sender != data.GetRcvDataByIndex(0)->place.sender)
+            return false;
+    }
+    return data.GetRcvDataCount() % kReceivers == 0;
+}
+
+void WriteRounds(CMonitorData& data, unsigned int writer, int rounds)
+{
+    for (int round = 0; round < rounds; ++round) {
+        data.SetDetectData(DetectedBy(writer));
+        CMonitorWarningData warning = data.GetWarningData();
+        warning.SetRcvWarning(writer, 0, round, ReceiverWarningTemperature);
+        data.SetWarningData(warning);
+        CMonitorTipsData tips = data.GetTipData();
+        tips.SetTip(writer, 0, round, QStringLiteral("hot"));
+        data.SetTipData(tips);
+        if (round % 16 == 0)
+            data.SetToDefaultForVideo();
+    }
+}
+
+/// Number of copies that were a mixture of two writers' values.
+int ReadRounds(const CMonitorData& data, int rounds)
+{
+    int mixed = 0;
+    for (int round = 0; round < rounds; ++round) {
+        CMonitorDetectData detect;
+        CMonitorInterfaceData settings;
+        CMonitorWarningData warning;
+        CMonitorRcvShowData rcvShow;
+        CMonitorTipsData tips;
+        data.GetAllData(detect, settings, warning, rcvShow, tips);
+        mixed += IsWhole(detect) ? 0 : 1;
+        mixed += IsWhole(data.GetDetectData()) ? 0 : 1;
+        mixed += data.GetInterfaceReadOnly(0) ? 1 : 0;
+    }
+    return mixed;
+}
+
+} // namespace
+
+TEST(MonitorDataTest, ReadersSeeWholeMembersWhileOthersWrite)
+{
+    CMonitorData data;
+    std::atomic<int> mixed{0};
+    std::vector<std::thread> threads;
+    for (unsigned int writer = 0; writer < 4; ++writer)
+        threads.emplace_back([&data, writer] { WriteRounds(data, writer, 200); });
+    for (int reader = 0; reader < 4; ++reader)
+        threads.emplace_back([&] { mixed += ReadRounds(data, 200); });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(mixed, 0);
+}
+
+TEST(MonitorDataTest, ReadOnlyStatesComeBackWhileTheSettingsCallBack)
+{
+    CMonitorData data;
+    CallingBack settings(data);
+    settings.readOnly = {{InterfaceDesign, true}};
+    data.RecoverInterfaceLockInfo(); // nothing stored yet: the settings stay as they are
+    EXPECT_TRUE(settings.readOnly.value(InterfaceDesign));
+
+    data.StoreInterfaceLockInfo();
+    settings.readOnly = {{InterfaceDesign, false}, {InterfaceMonitoring, true}};
+    EXPECT_TRUE(data.GetInterfaceReadOnly(InterfaceDesign));
+    EXPECT_FALSE(data.GetInterfaceReadOnly(InterfaceMonitoring));
+    EXPECT_FALSE(data.GetInterfaceReadOnly(kInterfaceCount));
+
+    data.RecoverInterfaceLockInfo();
+    EXPECT_TRUE(settings.readOnly.value(InterfaceDesign));
+    EXPECT_FALSE(settings.readOnly.value(InterfaceMonitoring));
+}
+
+TEST(MonitorDataTest, DefaultsEmptyEveryMemberAndKeepTheRunningState)
+{
+    CMonitorData data;
+    data.SetMonitoring(true);
+    data.SetDetectData(DetectedBy(1));
+    CMonitorWarningData warning;
+    warning.SetSenderWarning(1, SenderWarningFreeze);
+    data.SetWarningData(warning);
+    CMonitorTipsData tips;
+    tips.SetTip(1, 0, 0, QStringLiteral("hot"));
+    data.SetTipData(tips);
+    CMonitorRcvShowData texts;
+    texts.SetText(1, 0, 0, MonitorRenderTemperature, QStringLiteral("61"));
+    data.SetRcvShowData(texts);
+
+    data.SetToDefaultForVideo();
+    EXPECT_TRUE(data.IsMonitoring());
+    EXPECT_TRUE(data.IsVideoShow());
+    EXPECT_EQ(data.GetDetectData().GetRcvDataCount(), 0);
+    EXPECT_EQ(data.GetWarningData(), CMonitorWarningData());
+    EXPECT_EQ(data.GetTipData(), CMonitorTipsData());
+    EXPECT_EQ(data.GetRcvShowData(), CMonitorRcvShowData());
+    CMonitorInterfaceData video;
+    video.SetToDefaultForVideo();
+    EXPECT_EQ(data.GetInterfaceData(), video);
+
+    data.SetToDefault();
+    EXPECT_FALSE(data.IsVideoShow());
+    EXPECT_EQ(data.GetInterfaceData(), CMonitorInterfaceData());
+}
