@@ -1,0 +1,123 @@
+#include "products/productmigration.h"
+
+#include "products/productscan.h"
+#include "settings/constantdata.h"
+
+#include <QDir>
+#include <QSettings>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kMaxListedProducts = 999999;
+
+QFileInfoList Entries(const QString& folder, QDir::Filters kind)
+{
+    return QDir(folder).entryInfoList(kind | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot,
+                                      QDir::Name);
+}
+
+bool IsHexadecimal(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) {
+        return (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
+               || (c >= QLatin1Char('a') && c <= QLatin1Char('f'));
+    });
+}
+
+/// The digests in a product list; it ends at the first entry that is missing or empty.
+QSet<SMD5> ReadProductList(const QString& path)
+{
+    const QString noFile = QStringLiteral("NoFile");
+    const QSettings list(path, QSettings::IniFormat);
+    QSet<SMD5> digests;
+    for (int number = 1; number <= kMaxListedProducts; ++number) {
+        const QString key = QStringLiteral("ProductListInfo/Product%1").arg(number);
+        const QString text = list.value(key, noFile).toString();
+        if (text.isEmpty() || text == noFile)
+            break;
+        const SMD5 md5 = SMD5::FromString(text.toLower());
+        if (!md5.IsNull() && IsHexadecimal(md5.ToString()))
+            digests.insert(md5);
+    }
+    return digests;
+}
+
+void DeleteListedProducts(const QString& folder, const QSet<SMD5>& digests)
+{
+    if (digests.isEmpty())
+        return;
+    QStringList files;
+    ListFiles(folder, files);
+    for (const QString& file : qAsConst(files)) {
+        if (IsProductFile(file) && digests.contains(CConstantData::GetMD5FromFile(file)))
+            QFile::remove(file);
+    }
+}
+
+/// Makes the folders of a relative file path one by one; false when one of them is a link or a file.
+bool MakeFolders(const QString& root, const QString& relativeFile)
+{
+    QString folder = root;
+    const QStringList names = relativeFile.split(QLatin1Char('/'));
+    for (int i = 0; i + 1 < names.size(); ++i) {
+        folder += names.at(i);
+        const QFileInfo info(folder);
+        if (info.isSymLink() || (!info.isDir() && !QDir().mkdir(folder)))
+            return false;
+        folder += QLatin1Char('/');
+    }
+    return true;
+}
+
+void MoveFiles(const QString& oldFolder, const QString& newFolder)
+{
+    QStringList files;
+    ListFiles(oldFolder, files);
+    for (const QString& file : qAsConst(files)) {
+        const QString relative = QDir(oldFolder).relativeFilePath(file);
+        if (!MakeFolders(newFolder, relative) || QFileInfo(newFolder + relative).isSymLink())
+            continue;
+        QFile::rename(file, newFolder + relative);
+    }
+}
+
+} // namespace
+
+void ListFiles(const QString& folder, QStringList& files)
+{
+    for (const QFileInfo& entry : Entries(folder, QDir::Files | QDir::Dirs)) {
+        if (entry.isDir())
+            ListFiles(entry.filePath(), files);
+        else
+            files.append(entry.filePath());
+    }
+}
+
+void RemoveEmptySubFolders(const QString& folder)
+{
+    for (const QFileInfo& entry : Entries(folder, QDir::Dirs)) {
+        RemoveEmptySubFolders(entry.filePath());
+        QDir().rmdir(entry.filePath()); // refuses a folder that holds anything
+    }
+}
+
+void MigrateProductFolder(const QString& oldFolder, const QString& newFolder)
+{
+    const QFileInfo old(oldFolder.chopped(1));
+    if (!old.isDir() || old.isSymLink() || !QDir().mkpath(newFolder))
+        return;
+
+    const QString list = oldFolder + QStringLiteral("ProductList.ini");
+    const QFileInfo listInfo(list);
+    if (listInfo.isFile() && !listInfo.isSymLink()) {
+        DeleteListedProducts(oldFolder, ReadProductList(list));
+        QFile::remove(list);
+        RemoveEmptySubFolders(oldFolder);
+    }
+
+    MoveFiles(oldFolder, newFolder);
+    RemoveEmptySubFolders(oldFolder);
+    QDir().rmdir(oldFolder);
+}

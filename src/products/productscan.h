@@ -1,0 +1,32 @@
+#pragma once
+
+#include "common/smd5.h"
+
+#include <QHash>
+#include <QString>
+
+class CProductDirectory;
+class DigestCache;
+
+bool IsProductFile(const QString& fileName); ///< by its suffix, case-sensitive
+
+/// One walk over a product folder. Links are never followed.
+class ProductScan
+{
+public:
+    ProductScan(DigestCache& digests, unsigned int& nextMenuId);
+
+    /// Counts the products of a tree as found, so that a copy of one of them is a duplicate.
+    void AddKnown(const CProductDirectory& tree);
+
+    /// Lists a folder and all below it in a node and returns the number of products. A file that equals one
+    /// found before, byte for byte, is deleted from disk.
+    int ScanFolder(const QString& folder, CProductDirectory& node);
+
+private:
+    bool ScanFile(const QString& path, CProductDirectory& node);
+
+    DigestCache& m_digests;
+    unsigned int& m_nextMenuId;
+    QHash<SMD5, QString> m_found; ///< the file that keeps the product, by digest
+};

@@ -1,0 +1,93 @@
+#include "products/digestcache.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+
+namespace {
+
+/// Counts how often it is asked and gives a digest made from that number.
+class DigestCacheTest : public testing::Test
+{
+protected:
+    SMD5 Hash(const QString& path)
+    {
+        ++hashed;
+        if (ReadFile(path).isEmpty())
+            return SMD5();
+        return SMD5::FromString(QString::number(hashed).rightJustified(SMD5::kDigits, QLatin1Char('0')));
+    }
+
+    QString WriteSettled(const QString& name, const QByteArray& content)
+    {
+        const QString path = folder.Write(name, content);
+        QThread::msleep(150); // longer than the cache takes a file for fresh
+        return path;
+    }
+
+    TestFolder folder;
+    int hashed = 0;
+    DigestCache cache{[this](const QString& path) { return Hash(path); }};
+};
+
+} // namespace
+
+TEST_F(DigestCacheTest, OnlyChangedFilesAreHashedAgain)
+{
+    const QString path = WriteSettled(QStringLiteral("a"), "one");
+    const SMD5 first = cache.Digest(path);
+    EXPECT_EQ(cache.Digest(path), first);
+    EXPECT_EQ(hashed, 1);
+
+    WriteSettled(QStringLiteral("a"), "two"); // same size
+    EXPECT_NE(cache.Digest(path), first);
+    EXPECT_EQ(hashed, 2);
+
+    // Another file under the same name, with the old one's modification time.
+    const QDateTime time = QFileInfo(path).lastModified();
+    const QString other = folder.Write(QStringLiteral("b"), "six");
+    QFile file(other);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
+    file.close();
+    ASSERT_TRUE(QFile::remove(path) && QFile::rename(other, path));
+    cache.Digest(path);
+    EXPECT_EQ(hashed, 3);
+}
+
+TEST_F(DigestCacheTest, FreshOrUnreadableFilesAreNotRemembered)
+{
+    const QString path = folder.Write(QStringLiteral("a"), "one");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite)); // a time to come is fresh however slow the test runs
+    ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addDays(1), QFileDevice::FileModificationTime));
+    file.close();
+    cache.Digest(path);
+    cache.Digest(path);
+    EXPECT_EQ(hashed, 2);
+
+    const QString missing = folder.Path(QStringLiteral("missing"));
+    EXPECT_TRUE(cache.Digest(missing).IsNull());
+    EXPECT_TRUE(cache.Digest(missing).IsNull());
+    EXPECT_EQ(hashed, 4);
+}
+
+TEST_F(DigestCacheTest, FilesNotAskedForInARoundAreForgotten)
+{
+    const QString kept = folder.Write(QStringLiteral("kept"), "one");
+    const QString left = WriteSettled(QStringLiteral("left"), "two");
+    cache.Digest(kept);
+    cache.Digest(left);
+    cache.BeginRound();
+    cache.Digest(kept);
+    cache.EndRound();
+    EXPECT_EQ(hashed, 2);
+    cache.Digest(kept);
+    EXPECT_EQ(hashed, 2);
+    cache.Digest(left);
+    EXPECT_EQ(hashed, 3);
+}

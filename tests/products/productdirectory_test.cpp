@@ -1,0 +1,136 @@
+#include "products/productdirectory.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+SMD5 Digest(char digit)
+{
+    return SMD5::FromString(QString(SMD5::kDigits, QLatin1Char(digit)));
+}
+
+CProduct* NewProduct(char digit, const char* path)
+{
+    auto* product = new CProduct;
+    product->SetMd5(Digest(digit));
+    product->SetParamPath(QString::fromUtf8(path));
+    return product;
+}
+
+/// root: a; root/sub: b; root/sub/deep: c
+class ProductDirectoryTest : public testing::Test
+{
+protected:
+    ProductDirectoryTest()
+    {
+        root.SetFolderPath(QStringLiteral("/root/"));
+        sub->SetFolderPath(QStringLiteral("/root/sub/"));
+        deep->SetFolderPath(QStringLiteral("/root/sub/deep/"));
+        root.AddProduct(NewProduct('a', "/root/first.rcvp"));
+        sub->AddProduct(NewProduct('b', "/root/sub/二.v2.rcvbp"));
+        deep->AddProduct(NewProduct('c', "/root/sub/deep/third.rcvp"));
+        sub->AddSubProductDirectory(deep);
+        root.AddSubProductDirectory(sub);
+    }
+
+    CProductDirectory root;
+    CProductDirectory* sub = new CProductDirectory;
+    CProductDirectory* deep = new CProductDirectory;
+};
+
+} // namespace
+
+TEST_F(ProductDirectoryTest, SearchesGoDepthFirst)
+{
+    auto* late = NewProduct('c', "/root/other/third.rcvp");
+    late->SetMenuID(7);
+    auto* other = new CProductDirectory;
+    other->AddProduct(late);
+    root.AddSubProductDirectory(other);
+
+    EXPECT_EQ(root.GetProductCount(), 4);
+    EXPECT_EQ(root.FindProductFromGuid(Digest('c')), deep->GetProducts().at(0));
+    EXPECT_EQ(root.FindeProductFromMenuID(7), late);
+    EXPECT_EQ(root.FindeProductFromMenuID(8), nullptr);
+    EXPECT_EQ(root.FindProductByFileName(QStringLiteral("third.rcvp")), deep->GetProducts().at(0));
+    EXPECT_EQ(root.FindProductByFileName(QStringLiteral("Third.rcvp")), nullptr);
+    QString path;
+    EXPECT_TRUE(root.GetProductAbsolutePath(Digest('b'), path));
+    EXPECT_FALSE(root.GetProductAbsolutePath(Digest('d'), path));
+    EXPECT_EQ(path, sub->GetProducts().at(0)->GetParamPath());
+    EXPECT_EQ(sub->GetProducts().at(0)->GetName(), QStringLiteral("二.v2"));
+}
+
+TEST_F(ProductDirectoryTest, FolderNameIsTheLastComponent)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"/root/sub/", "sub"}, {"/root/sub", "sub"}, {"sub/", "sub"}, {"/", ""}, {"", ""}};
+    for (const auto& [path, name] : cases) {
+        root.SetFolderPath(QString::fromUtf8(path));
+        EXPECT_EQ(root.GetFileDirName(), QString::fromUtf8(name)) << path;
+    }
+}
+
+TEST_F(ProductDirectoryTest, WhatLiesDeepIsDeletedFromAbove)
+{
+    CProduct stranger;
+    EXPECT_FALSE(root.DeleteProduct(&stranger));
+    EXPECT_TRUE(root.DeleteProduct(deep->GetProducts().at(0)));
+    EXPECT_EQ(root.GetProductCount(), 2);
+    EXPECT_TRUE(root.DeleteSubDir(deep));
+    EXPECT_FALSE(root.DeleteSubDir(deep));
+    EXPECT_TRUE(sub->GetSubDirs().isEmpty());
+}
+
+TEST_F(ProductDirectoryTest, NothingGetsTwoOwners)
+{
+    EXPECT_FALSE(root.AddProduct(nullptr));
+    EXPECT_FALSE(root.AddProduct(deep->GetProducts().at(0)));
+    EXPECT_FALSE(root.AddSubProductDirectory(deep));
+    EXPECT_FALSE(deep->AddSubProductDirectory(&root)); // would close a ring
+    EXPECT_EQ(root.GetProductCount(), 3);
+}
+
+TEST_F(ProductDirectoryTest, CopyTakesEveryFieldAndIsSafeWithinOneTree)
+{
+    deep->SetExpanded(true);
+    CProduct* product = deep->GetProducts().at(0);
+    product->SetMenuID(9);
+    product->SetPixelWidth(128);
+    product->SetPixelHeight(64);
+    product->SetMulti(true);
+    product->SetMultiFlagSet(true);
+
+    root.CopyOtherProductDirectory(deep); // frees deep
+    EXPECT_EQ(root.GetFolderPath(), QStringLiteral("/root/sub/deep/"));
+    EXPECT_TRUE(root.IsExpanded());
+    EXPECT_TRUE(root.GetSubDirs().isEmpty());
+    const CProduct* copy = root.FindProductFromGuid(Digest('c'));
+    ASSERT_TRUE(copy);
+    EXPECT_EQ(copy->GetMenuID(), 9U);
+    EXPECT_EQ(copy->GetFileName(), QStringLiteral("third.rcvp"));
+    EXPECT_EQ(copy->GetPixelWidth(), 128);
+    EXPECT_EQ(copy->GetPixelHeight(), 64);
+    EXPECT_TRUE(copy->IsMulti());
+    EXPECT_TRUE(copy->IsMultiFlagSet());
+
+    root.CopyOtherProductDirectory(&root);
+    EXPECT_EQ(root.GetProductCount(), 1);
+}
+
+TEST_F(ProductDirectoryTest, ExpandedFlagsFollowEqualPaths)
+{
+    CProductDirectory other;
+    other.CopyOtherProductDirectory(&root);
+    other.GetSubDirs().at(0)->SetExpanded(true);
+    deep->SetExpanded(true);
+    auto* fresh = new CProductDirectory;
+    fresh->SetFolderPath(QStringLiteral("/root/fresh/"));
+    fresh->SetExpanded(true);
+    root.AddSubProductDirectory(fresh);
+
+    root.CopyExpandFlag(&other);
+    EXPECT_TRUE(sub->IsExpanded());
+    EXPECT_FALSE(deep->IsExpanded());
+    EXPECT_TRUE(fresh->IsExpanded()); // not in the other tree
+}

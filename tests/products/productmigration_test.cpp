@@ -1,0 +1,100 @@
+#include "products/productdirectoryset.h"
+
+#include "settings/constantdata.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+namespace {
+
+/// An older product folder beside the current one, both empty at the start.
+class ProductMigrationTest : public testing::Test
+{
+protected:
+    ProductMigrationTest()
+        : root(CProductDirectorySet::GetRootDir()), old(root.chopped(1) + QStringLiteral("2/"))
+    {
+        QDir(root).removeRecursively();
+        QDir(old).removeRecursively();
+        QDir().mkpath(old);
+    }
+
+    static QString Write(const QString& path, const QByteArray& content)
+    {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        return path;
+    }
+
+    QString root;
+    QString old;
+};
+
+QByteArray DigestOf(const QString& path)
+{
+    return CConstantData::GetMD5FromFile(path).ToString().toLatin1();
+}
+
+} // namespace
+
+TEST_F(ProductMigrationTest, ListedProductsGoAndTheUsersOwnMove)
+{
+    const QByteArray first = DigestOf(Write(old + QStringLiteral("builtin/one.rcvp"), "one"));
+    const QByteArray second = DigestOf(Write(old + QStringLiteral("builtin/two.rcvbp"), "two"));
+    const QByteArray beyond = DigestOf(Write(old + QStringLiteral("own/deep/beyond.rcvp"), "beyond"));
+    Write(old + QStringLiteral("own/one.txt"), "one"); // listed content, but no product
+    Write(old + QStringLiteral("屏.rcvp"), "mine");
+    Write(old + QStringLiteral("ProductList.ini"), "[ProductListInfo]\nProduct1=" + first
+                                                       + "\nProduct2=short\nProduct3=" + second.toUpper()
+                                                       + "x\nProduct4=NoFile\nProduct5=" + beyond + "\n");
+
+    CProductDirectorySet::UpdateProductDir();
+    QStringList files;
+    CProductDirectorySet::GetFileInDir(root, files);
+    for (QString& file : files)
+        file = QDir(root).relativeFilePath(file);
+    EXPECT_EQ(files, QStringList({QStringLiteral("own/deep/beyond.rcvp"), QStringLiteral("own/one.txt"),
+                                  QStringLiteral("屏.rcvp")}));
+    EXPECT_EQ(ReadFile(root + QStringLiteral("own/deep/beyond.rcvp")), "beyond");
+    EXPECT_FALSE(QDir(old).exists());
+}
+
+TEST_F(ProductMigrationTest, NothingIsOverwrittenAndLinksStay)
+{
+    TestFolder outside;
+    const QString far = outside.Write(QStringLiteral("far/far.rcvp"), "far");
+    const QString taken = Write(root + QStringLiteral("taken.rcvp"), "new");
+    Write(old + QStringLiteral("taken.rcvp"), "old");
+    Write(old + QStringLiteral("linked/a.rcvp"), "a");
+    Write(old + QStringLiteral("dangling.rcvp"), "d");
+    ASSERT_TRUE(QFile::link(outside.Path(QStringLiteral("far")), root + QStringLiteral("linked")));
+    ASSERT_TRUE(QFile::link(outside.Path(QStringLiteral("gone")), root + QStringLiteral("dangling.rcvp")));
+    ASSERT_TRUE(QFile::link(outside.Path(QStringLiteral("far")), old + QStringLiteral("folder")));
+    Write(old + QStringLiteral("ProductList.ini"), "[ProductListInfo]\nProduct1=" + DigestOf(far) + "\n");
+
+    CProductDirectorySet::UpdateProductDir();
+    EXPECT_EQ(ReadFile(taken), "new");
+    EXPECT_EQ(ReadFile(old + QStringLiteral("taken.rcvp")), "old");
+    EXPECT_EQ(ReadFile(old + QStringLiteral("linked/a.rcvp")), "a");
+    EXPECT_EQ(ReadFile(old + QStringLiteral("dangling.rcvp")), "d");
+    EXPECT_EQ(ReadFile(far), "far");
+    EXPECT_TRUE(QFileInfo(root + QStringLiteral("dangling.rcvp")).isSymLink());
+    EXPECT_EQ(QDir(outside.Path(QStringLiteral("far"))).entryList(QDir::Files).size(), 1);
+}
+
+TEST_F(ProductMigrationTest, WithoutAnOlderFolderNothingHappens)
+{
+    QDir(old).removeRecursively();
+    CProductDirectorySet::UpdateProductDir();
+    EXPECT_FALSE(QDir(root).exists());
+
+    TestFolder outside;
+    const QString far = outside.Write(QStringLiteral("far.rcvp"), "far");
+    ASSERT_TRUE(QFile::link(outside.Path(), old.chopped(1)));
+    CProductDirectorySet::UpdateProductDir();
+    EXPECT_TRUE(QFile::exists(far));
+    EXPECT_TRUE(QFile::remove(old.chopped(1)));
+}
