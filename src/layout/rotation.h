@@ -14,7 +14,7 @@ ORVANDATA_EXPORT CPointEx<double> GetRotatePoint(const SRotateParam* param, doub
 void GetRotatedCorners(const SRotateParam& param, int left, int top, int right, int bottom,
                        CPointEx<double> corners[4]);
 
-/// Bounding box of four corners, each edge truncated toward zero.
+/// Bounding box of four corners: left, top, width and height each truncated toward zero.
 QRect GetCornerBound(const CPointEx<double> corners[4]);
 
 /// Whether a point lies inside the convex quadrilateral or on its edge.

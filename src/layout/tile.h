@@ -42,8 +42,11 @@ public:
     QSize GetSize() const;
     QPoint GetPosition() const;
     void Offset(int dx, int dy); ///< unclamped; the rotation record moves along
-    QPoint GetCenter() const;    ///< of the turned corners when rotated, else by integer division
-    QRect GetBound() const;      ///< bounding box, of the turned corners when rotated
+    /// Puts a stored cabinet back: as SetX and SetY do, but down to -131072 a negative place stays, because
+    /// the offset of a sender makes it legal.
+    void RestorePosition(int x, int y);
+    QPoint GetCenter() const; ///< of the turned corners when rotated, else by integer division
+    QRect GetBound() const;   ///< bounding box, of the turned corners when rotated
     void
     GetRotateArea(CPointEx<double>* corners) const; ///< four: left-top, right-top, right-bottom, left-bottom
 
@@ -82,7 +85,7 @@ public:
     QSize GetMultiRcvsSize() const;
     int GetMultiRcvsCount() const; ///< 0 when the size is negative or its product does not fit
     void SetMultiRcvsLine(const unsigned char* line);    ///< as many bytes as there are cards, at most ten
-    const unsigned char* GetMultiRcvsLine();             ///< [ref] ten bytes, valid while the tile lives
+    unsigned char* GetMultiRcvsLine();                   ///< [ref] ten bytes, valid while the tile lives
     unsigned char GetMultiRcvsLineCode(int index) const; ///< 0 outside 0 to 9
     QRect GetMultiRcvRect(int index); ///< canvas pixels; null rectangle out of range; repairs an empty size
     QRect GetMultiRcvRelativeRect(int index); ///< the same, relative to the cabinet
@@ -109,7 +112,9 @@ public:
     void SetData(const TileData* data); ///< shares it; copies into place where a pointer is out
 
 private:
-    TileData& Write();
+    TileData& Write(); ///< the record, this tile's alone
+    template <class Member, class Value> void Store(Member member, const Value& value);
+    QRect CellRect(int index);
 
     QExplicitlySharedDataPointer<TileData> m_data;
     QColor m_showColor;

@@ -8,8 +8,8 @@
 #include <QSize>
 #include <QUuid>
 
-/// What a cabinet is made of, apart from view state. Copies of a cabinet share it until one is written to.
-struct TileData : QSharedData
+/// What a cabinet is made of, apart from view state. A wall holds one record a cabinet, so mind the size.
+struct TileFields
 {
     QUuid senderId;
     QUuid groupId; ///< null: ungrouped
@@ -30,8 +30,13 @@ struct TileData : QSharedData
     bool fixedLine = false;
     bool ordered = true;
     bool visible = true;
+
+    bool IsEqual(const TileFields& other) const;
+};
+
+/// The record that copies of a cabinet share until one is written to.
+struct TileData : QSharedData, TileFields
+{
     /// A pointer into this record is out, so it stays this cabinet's alone and at its place.
     bool handedOut = false;
-
-    bool IsEqual(const TileData& other) const; ///< every field but handedOut
 };

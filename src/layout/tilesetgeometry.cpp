@@ -1,1 +1,178 @@
 #include "layout/tileset.h"
+
+#include "common/interfacedlg.h"
+#include "common/saturated.h"
+#include "layout/rotation.h"
+#include "layout/tile.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Grows from nothing; right and bottom one past the last pixel.
+class Outline
+{
+public:
+    void Add(qint64 left, qint64 top, qint64 right, qint64 bottom)
+    {
+        m_left = m_empty ? left : qMin(m_left, left);
+        m_top = m_empty ? top : qMin(m_top, top);
+        m_right = m_empty ? right : qMax(m_right, right);
+        m_bottom = m_empty ? bottom : qMax(m_bottom, bottom);
+        m_empty = false;
+    }
+
+    QRect Bound() const ///< the null rectangle for nothing
+    {
+        return m_empty ? QRect() : SaturatedRect(m_left, m_top, m_right - m_left, m_bottom - m_top);
+    }
+
+private:
+    bool m_empty = true;
+    qint64 m_left = 0;
+    qint64 m_top = 0;
+    qint64 m_right = 0;
+    qint64 m_bottom = 0;
+};
+
+/// The topmost tile first.
+template <class Predicate> QList<CTile*> MatchingFromTop(const QList<CTile*>& tiles, Predicate predicate)
+{
+    QList<CTile*> found;
+    std::copy_if(tiles.rbegin(), tiles.rend(), std::back_inserter(found), predicate);
+    return found;
+}
+
+bool IsAt(const CTile& tile, int x, int y)
+{
+    if (!tile.IsTileRotated())
+        return tile.GetBound().contains(x, y);
+    CPointEx<double> corners[4];
+    tile.GetRotateArea(corners);
+    return IsInQuadrilateral(corners, x, y);
+}
+
+bool IsWithin(const CTile& tile, const QRect& rect)
+{
+    if (!tile.IsTileRotated()) {
+        const QRect bound = tile.GetBound();
+        return bound == bound.intersected(rect);
+    }
+    // Corners lie one past the last pixel, so the far edges count: a turned tile is within its own bound.
+    CPointEx<double> corners[4];
+    tile.GetRotateArea(corners);
+    return std::all_of(corners, corners + 4, [&](const CPointEx<double>& c) {
+        return c.x >= rect.left() && c.x <= rect.right() + 1.0 && c.y >= rect.top()
+               && c.y <= rect.bottom() + 1.0;
+    });
+}
+
+bool Touches(const CTile& tile, const QRect& rect)
+{
+    if (!tile.IsTileRotated())
+        return !tile.GetBound().intersected(rect).isEmpty();
+    CPointEx<double> corners[4];
+    tile.GetRotateArea(corners);
+    return std::any_of(corners, corners + 4, [&](const CPointEx<double>& c) {
+        return c.x >= rect.left() && c.x < rect.right() + 1.0 && c.y >= rect.top()
+               && c.y < rect.bottom() + 1.0;
+    });
+}
+
+/// Where a tile at `place` goes when the grid from `origin` changes its step; `place` when it is off the
+/// grid.
+int OnNewGrid(int place, int origin, int oldStep, int newStep)
+{
+    const qint64 distance = qint64(place) - origin;
+    if (oldStep == 0 || distance % oldStep != 0)
+        return place;
+    return SaturatedInt(origin + distance / oldStep * newStep);
+}
+
+} // namespace
+
+bool CTileSet::GetTileSetAtPosition(CTileSet& out, int x, int y) const
+{
+    out.SetResult(MatchingFromTop(m_tiles, [=](const CTile* tile) { return IsAt(*tile, x, y); }));
+    return out.GetCount() > 0;
+}
+
+bool CTileSet::GetTileSetAtRect(CTileSet& out, const QRect& rect, bool whole) const
+{
+    const QRect area = rect.normalized();
+    out.SetResult(MatchingFromTop(
+        m_tiles, [&](const CTile* tile) { return whole ? IsWithin(*tile, area) : Touches(*tile, area); }));
+    return out.GetCount() > 0;
+}
+
+bool CTileSet::GetTileSetAtRectWithCenter(CTileSet& out, const QRect& rect) const
+{
+    out.SetResult(
+        MatchingFromTop(m_tiles, [&](const CTile* tile) { return rect.contains(tile->GetCenter()); }));
+    return out.GetCount() > 0;
+}
+
+bool CTileSet::IsRectIntersect(const QRect& a, const QRect& b, bool vertical)
+{
+    if (vertical)
+        return a.top() < b.bottom() && b.top() < a.bottom();
+    return a.left() < b.right() && b.left() < a.right();
+}
+
+QRect CTileSet::GetBound() const
+{
+    Outline outline;
+    for (const CTile* tile : m_tiles) {
+        if (!tile->IsTileRotated()) {
+            outline.Add(tile->GetX(), tile->GetY(), tile->GetRight(), tile->GetBottom());
+            continue;
+        }
+        const QRect bound = tile->GetBound();
+        outline.Add(bound.left(), bound.top(), qint64(bound.right()) + 1, qint64(bound.bottom()) + 1);
+    }
+    return outline.Bound();
+}
+
+QRect CTileSet::GetBound(bool useOffset, const QSize& offset) const
+{
+    Outline outline;
+    for (const CTile* tile : m_tiles) {
+        const bool dragged = useOffset && tile->IsSelected(InterfaceDesign);
+        const qint64 x = qint64(tile->GetX()) + (dragged ? offset.width() : 0);
+        const qint64 y = qint64(tile->GetY()) + (dragged ? offset.height() : 0);
+        outline.Add(x, y, x + tile->GetWidth(), y + tile->GetHeight());
+    }
+    return outline.Bound();
+}
+
+void CTileSet::SetOffset(int dx, int dy)
+{
+    for (CTile* tile : qAsConst(m_tiles))
+        tile->Offset(dx, dy);
+}
+
+void CTileSet::SetWidthAuto(int width, bool keepGrid)
+{
+    if (width < 1)
+        return;
+    const int left = GetBound().left();
+    for (CTile* tile : qAsConst(m_tiles)) {
+        const int x = OnNewGrid(tile->GetX(), left, tile->GetWidth(), width);
+        if (keepGrid && x != tile->GetX())
+            tile->SetX(x);
+        tile->SetWidth(width);
+    }
+}
+
+void CTileSet::SetHeightAuto(int height, bool keepGrid)
+{
+    if (height < 1)
+        return;
+    const int top = GetBound().top();
+    for (CTile* tile : qAsConst(m_tiles)) {
+        const int y = OnNewGrid(tile->GetY(), top, tile->GetHeight(), height);
+        if (keepGrid && y != tile->GetY())
+            tile->SetY(y);
+        tile->SetHeight(height);
+    }
+}

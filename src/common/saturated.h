@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QRect>
+
+#include <limits>
+
+/// The nearest `int`. Sums of coordinates that a host or a file may have set to anything stay defined.
+inline int SaturatedInt(qint64 value)
+{
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(qBound<qint64>(Limits::min(), value, Limits::max()));
+}
+
+/// Truncated toward zero to the nearest `int`; 0 for what is not a number.
+inline int TruncatedInt(double value)
+{
+    using Limits = std::numeric_limits<int>;
+    if (!(value == value))
+        return 0;
+    return static_cast<int>(qBound<double>(Limits::min(), value, Limits::max()));
+}
+
+/// Each edge saturated, so that a width or height below zero is safe as well.
+inline QRect SaturatedRect(qint64 left, qint64 top, qint64 width, qint64 height)
+{
+    return QRect(QPoint(SaturatedInt(left), SaturatedInt(top)),
+                 QPoint(SaturatedInt(left + width - 1), SaturatedInt(top + height - 1)));
+}
