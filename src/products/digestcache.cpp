@@ -1,83 +1,48 @@
 #include "products/digestcache.h"
 
-#include <QFile>
-
-#include <ctime>
-#include <tuple>
+#include <chrono>
 #include <utility>
-
-#include <sys/stat.h>
 
 namespace {
 
-constexpr qint64 kNanoseconds = 1'000'000'000;
-
 // File systems count time in ticks of some milliseconds. A file that was written within this time may be
 // written once more without its times telling, so its digest is not kept yet.
-constexpr qint64 kSettlingTime = 100'000'000;
-
-qint64 Nanoseconds(const timespec& time)
-{
-    return static_cast<qint64>(time.tv_sec) * kNanoseconds + time.tv_nsec;
-}
+constexpr std::chrono::nanoseconds kSettlingTime = std::chrono::milliseconds(100);
 
 } // namespace
 
 DigestCache::DigestCache(Hasher hasher) : m_hasher(std::move(hasher))
 {}
 
-SMD5 DigestCache::Digest(const QString& path)
+SMD5 DigestCache::Digest(const QString& path, const FileStamp& stamp)
 {
-    Stamp before;
-    if (!ReadStamp(path, before))
-        return m_hasher(path);
-
-    for (QHash<QString, Entry>* entries : {&m_entries, &m_lastRound}) {
-        const auto known = entries->constFind(path);
-        if (known == entries->constEnd() || !(known->stamp == before))
-            continue;
-        const Entry entry = *known;
-        m_entries.insert(path, entry);
-        return entry.md5;
+    const auto known = m_entries.find(path);
+    if (known != m_entries.end() && known->stamp == stamp) {
+        known->round = m_round;
+        return known->md5;
     }
 
-    const bool settled = IsSettled(before);
+    const bool settled = IsSettled(stamp);
     const SMD5 md5 = m_hasher(path);
-    Stamp after;
-    if (settled && !md5.IsNull() && ReadStamp(path, after) && after == before)
-        m_entries.insert(path, {after, md5});
+    FileStamp after;
+    if (settled && !md5.IsNull() && ReadStamp(path, after) && after == stamp)
+        m_entries.insert(path, {stamp, md5, m_round});
     return md5;
 }
 
 void DigestCache::BeginRound()
 {
-    m_lastRound = std::exchange(m_entries, {});
+    ++m_round;
 }
 
 void DigestCache::EndRound()
 {
-    m_lastRound.clear();
+    for (auto it = m_entries.begin(); it != m_entries.end();)
+        it = it->round == m_round ? std::next(it) : m_entries.erase(it);
 }
 
-bool DigestCache::Stamp::operator==(const Stamp& other) const
+bool DigestCache::IsSettled(const FileStamp& stamp)
 {
-    return std::tie(size, modified, changed, inode, device)
-           == std::tie(other.size, other.modified, other.changed, other.inode, other.device);
-}
-
-bool DigestCache::ReadStamp(const QString& path, Stamp& stamp)
-{
-    struct stat status = {};
-    if (lstat(QFile::encodeName(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
-        return false;
-    stamp = {status.st_size, Nanoseconds(status.st_mtim), Nanoseconds(status.st_ctim), status.st_ino,
-             status.st_dev};
-    return true;
-}
-
-bool DigestCache::IsSettled(const Stamp& stamp)
-{
-    timespec now = {};
-    clock_gettime(CLOCK_REALTIME, &now);
-    return Nanoseconds(now) - qMax(stamp.modified, stamp.changed) > kSettlingTime;
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return now - std::chrono::nanoseconds(qMax(stamp.modified, stamp.changed)) > kSettlingTime;
 }

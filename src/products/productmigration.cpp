@@ -1,5 +1,6 @@
 #include "products/productmigration.h"
 
+#include "products/folderlisting.h"
 #include "products/productscan.h"
 #include "settings/constantdata.h"
 
@@ -11,12 +12,6 @@
 namespace {
 
 constexpr int kMaxListedProducts = 999999;
-
-QFileInfoList Entries(const QString& folder, QDir::Filters kind)
-{
-    return QDir(folder).entryInfoList(kind | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot,
-                                      QDir::Name);
-}
 
 bool IsHexadecimal(const QString& text)
 {
@@ -87,19 +82,23 @@ void MoveFiles(const QString& oldFolder, const QString& newFolder)
 
 void ListFiles(const QString& folder, QStringList& files)
 {
-    for (const QFileInfo& entry : Entries(folder, QDir::Files | QDir::Dirs)) {
-        if (entry.isDir())
-            ListFiles(entry.filePath(), files);
+    for (const FolderEntry& entry : ListFolder(folder)) {
+        const QString path = QDir(folder).filePath(entry.name);
+        if (entry.isFolder)
+            ListFiles(path, files);
         else
-            files.append(entry.filePath());
+            files.append(path);
     }
 }
 
 void RemoveEmptySubFolders(const QString& folder)
 {
-    for (const QFileInfo& entry : Entries(folder, QDir::Dirs)) {
-        RemoveEmptySubFolders(entry.filePath());
-        QDir().rmdir(entry.filePath()); // refuses a folder that holds anything
+    for (const FolderEntry& entry : ListFolder(folder)) {
+        if (!entry.isFolder)
+            continue;
+        const QString path = QDir(folder).filePath(entry.name);
+        RemoveEmptySubFolders(path);
+        QDir().rmdir(path); // refuses a folder that holds anything
     }
 }
 

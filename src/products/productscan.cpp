@@ -1,25 +1,14 @@
 #include "products/productscan.h"
 
 #include "products/digestcache.h"
+#include "products/folderlisting.h"
 #include "products/productdirectory.h"
 
-#include <QDir>
+#include <QFile>
 
 #include <memory>
 
-#include <sys/stat.h>
-
 namespace {
-
-/// Whether both paths lead to one file on disk, by hard links or by another way to the same folder.
-bool IsSameFile(const QString& a, const QString& b)
-{
-    struct stat first = {};
-    struct stat second = {};
-    return stat(QFile::encodeName(a).constData(), &first) == 0
-           && stat(QFile::encodeName(b).constData(), &second) == 0 && first.st_ino == second.st_ino
-           && first.st_dev == second.st_dev;
-}
 
 bool HasSameContent(const QString& a, const QString& b)
 {
@@ -59,41 +48,46 @@ void ProductScan::AddKnown(const CProductDirectory& tree)
 
 int ProductScan::ScanFolder(const QString& folder, CProductDirectory& node)
 {
-    const QFileInfoList entries = QDir(folder).entryInfoList(
-        QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot, QDir::Name);
     int count = 0;
-    for (const QFileInfo& entry : entries) {
-        const QString path = folder + entry.fileName();
-        if (entry.isDir()) {
+    for (const FolderEntry& entry : ListFolder(folder)) {
+        const QString path = folder + entry.name;
+        if (entry.isFolder) {
             auto directory = std::make_unique<CProductDirectory>();
             directory->SetFolderPath(path + QLatin1Char('/'));
             count += ScanFolder(directory->GetFolderPath(), *directory);
             node.AddSubProductDirectory(directory.release());
-        } else if (IsProductFile(entry.fileName()) && ScanFile(path, node)) {
+        } else if (IsProductFile(entry.name) && ScanFile(path, entry.stamp, node)) {
             ++count;
         }
     }
     return count;
 }
 
-bool ProductScan::ScanFile(const QString& path, CProductDirectory& node)
+bool ProductScan::ScanFile(const QString& path, const FileStamp& stamp, CProductDirectory& node)
 {
-    const SMD5 md5 = m_digests.Digest(path);
-    const auto found = m_found.constFind(md5);
-    if (!md5.IsNull() && found != m_found.constEnd()) {
-        if (IsSameFile(path, *found))
-            return false; // listed already, and deleting it would take the only copy
-        if (HasSameContent(path, *found)) {
-            QFile::remove(path);
-            return false;
-        }
-    }
-    if (!md5.IsNull() && found == m_found.constEnd())
-        m_found.insert(md5, path);
+    const SMD5 md5 = m_digests.Digest(path, stamp);
+    if (!md5.IsNull() && IsFoundElsewhere(path, stamp, md5))
+        return false;
 
     auto product = std::make_unique<CProduct>();
     product->SetMd5(md5);
     product->SetParamPath(path);
     product->SetMenuID(m_nextMenuId++);
     return node.AddProduct(product.release());
+}
+
+bool ProductScan::IsFoundElsewhere(const QString& path, const FileStamp& stamp, const SMD5& md5)
+{
+    const auto found = m_found.constFind(md5);
+    if (found == m_found.constEnd()) {
+        m_found.insert(md5, path);
+        return false;
+    }
+    FileStamp first;
+    if (ReadStamp(*found, first) && first.IsSameFile(stamp))
+        return true; // deleting it could take the only copy
+    if (!HasSameContent(path, *found))
+        return false;
+    QFile::remove(path);
+    return true;
 }

@@ -7,6 +7,7 @@
 
 class CProductDirectory;
 class DigestCache;
+struct FileStamp;
 
 bool IsProductFile(const QString& fileName); ///< by its suffix, case-sensitive
 
@@ -24,7 +25,9 @@ public:
     int ScanFolder(const QString& folder, CProductDirectory& node);
 
 private:
-    bool ScanFile(const QString& path, CProductDirectory& node);
+    bool ScanFile(const QString& path, const FileStamp& stamp, CProductDirectory& node);
+    /// Whether the product is listed already; the file is deleted then, unless it is the listed one itself.
+    bool IsFoundElsewhere(const QString& path, const FileStamp& stamp, const SMD5& md5);
 
     DigestCache& m_digests;
     unsigned int& m_nextMenuId;
