@@ -32,7 +32,8 @@ struct SDetectSenderData
     int receiverCount = 0;  ///< receiving cards that answered, all ports
 };
 
-/// What a poll of one receiving card found. Readings other than the link's need a monitoring card.
+/// What a poll of one receiving card found. The readings from `hasMonitorCard` on need a
+/// monitoring card.
 struct SDetectReceiverData
 {
     static constexpr int kPowers = 5;
@@ -67,26 +68,25 @@ struct SDetectReceiverData
 };
 
 /// The values that monitoring detected last. A plain value: records are shared between copies and never
-/// written to, so copying is cheap at any number of receiving cards.
+/// written to, so copying is cheap at any number of receiving cards. A record that was handed out stays until
+/// it is replaced or emptied, whatever happens to copies.
 class ORVANDATA_EXPORT CMonitorDetectData
 {
 public:
     void SetToDefault(); ///< empties everything
 
     // senders
-    void AddSenderData(unsigned int sender,
-                       const SDetectSenderData* data);                 ///< copied; replaces, null is ignored
-    const SDetectSenderData* GetSenderData(unsigned int sender) const; ///< [ref] until replaced; null: none
+    void AddSenderData(unsigned int sender, const SDetectSenderData* data); ///< copied; null is ignored
+    const SDetectSenderData* GetSenderData(unsigned int sender) const;      ///< [ref] null: none
 
     // receiving cards
     /// Copied; replaces in its place. Null and negative numbers are ignored.
     void AddRcvData(unsigned int sender, int port, int receiver, const SDetectReceiverData* data);
-    const SDetectReceiverData* GetRcvData(unsigned int sender, int port,
-                                          int receiver) const; ///< [ref] as above
+    const SDetectReceiverData* GetRcvData(unsigned int sender, int port, int receiver) const; ///< [ref]
     int GetRcvDataCount() const;
     int GetRcvDataCount(unsigned int sender, int port) const;
-    const SDetectReceiverData*
-    GetRcvDataByIndex(int index) const; ///< [ref] of all, in order of first detection
+    /// [ref] Of all receiving cards, in the order in which they were first detected.
+    const SDetectReceiverData* GetRcvDataByIndex(int index) const;
 
     // wiring
     void SetStarLink(bool star); ///< receiving cards hang on hubs instead of in a chain

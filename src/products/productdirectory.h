@@ -23,8 +23,7 @@ public:
     QString GetFileDirName() const; ///< last component of the path
     bool IsExpanded() const;        ///< in the host's tree view
     void SetExpanded(bool expanded);
-    void
-    CopyExpandFlag(const CProductDirectory* other); ///< for each folder of this tree that is in the other
+    void CopyExpandFlag(const CProductDirectory* other); ///< for each folder that is in both trees
 
     // content
     const QList<CProduct*>& GetProducts() const;         ///< [ref] of this folder alone

@@ -40,12 +40,12 @@ public:
 
     // a given part of the tree
     static bool IsSameProductExsit(const SMD5& md5, const CProductDirectory* directory);
-    CProductDirectory* FindProductDirectoryByName(const QString& name,
-                                                  int* position) const;         ///< direct ones only
+    /// Looks at the root's own sub-folders; `position` may be null.
+    CProductDirectory* FindProductDirectoryByName(const QString& name, int* position) const;
     static CProduct* GetTraverFirstProduct(const CProductDirectory* directory); ///< all levels
     static CProduct* GetThisFirstProduct(const CProductDirectory* directory);   ///< this level only
-    static void GetAllProductName(QStringList& names,
-                                  const CProductDirectory* directory); ///< appended, with suffix
+    /// Appends the file names with suffix.
+    static void GetAllProductName(QStringList& names, const CProductDirectory* directory);
 
     // folders on disk
     static void GetFileInDir(const QString& folder, QStringList& files); ///< appended, all levels; no links

@@ -13,6 +13,12 @@ namespace {
 
 constexpr int kMaxListedProducts = 999999;
 
+/// QDir would take some names, one that begins with ":" for one, for a place outside the folder.
+QString PathIn(const QString& folder, const QString& name)
+{
+    return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
+}
+
 bool IsHexadecimal(const QString& text)
 {
     return std::all_of(text.begin(), text.end(), [](QChar c) {
@@ -71,7 +77,7 @@ void MoveFiles(const QString& oldFolder, const QString& newFolder)
     QStringList files;
     ListFiles(oldFolder, files);
     for (const QString& file : qAsConst(files)) {
-        const QString relative = QDir(oldFolder).relativeFilePath(file);
+        const QString relative = file.mid(oldFolder.size());
         if (!MakeFolders(newFolder, relative) || QFileInfo(newFolder + relative).isSymLink())
             continue;
         QFile::rename(file, newFolder + relative);
@@ -83,7 +89,7 @@ void MoveFiles(const QString& oldFolder, const QString& newFolder)
 void ListFiles(const QString& folder, QStringList& files)
 {
     for (const FolderEntry& entry : ListFolder(folder)) {
-        const QString path = QDir(folder).filePath(entry.name);
+        const QString path = PathIn(folder, entry.name);
         if (entry.isFolder)
             ListFiles(path, files);
         else
@@ -96,7 +102,7 @@ void RemoveEmptySubFolders(const QString& folder)
     for (const FolderEntry& entry : ListFolder(folder)) {
         if (!entry.isFolder)
             continue;
-        const QString path = QDir(folder).filePath(entry.name);
+        const QString path = PathIn(folder, entry.name);
         RemoveEmptySubFolders(path);
         QDir().rmdir(path); // refuses a folder that holds anything
     }
