@@ -1,1 +1,384 @@
 #include "layout/portproject.h"
+
+#include "common/interfacedlg.h"
+#include "layout/groupqueries.h"
+#include "layout/layoutlookup.h"
+#include "layout/rotation.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
+
+#include <QSet>
+#include <QVector>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr int kView = InterfaceDesign; ///< the view whose selection is edited
+constexpr qint64 kMaxBlockCabinets = 1048576;
+constexpr double kNoAngle = 0.0001; ///< degrees, below it nothing counts as turned
+
+int Saturated(qint64 value)
+{
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(qBound<qint64>(Limits::min(), value, Limits::max()));
+}
+
+int Rounded(double value) ///< half away from zero
+{
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(std::round(qBound<double>(Limits::min(), value, Limits::max())));
+}
+
+SRotateParam BlockRecord(const SAddTileInfo& info)
+{
+    SRotateParam record;
+    record.width = static_cast<double>(info.columns) * info.width;
+    record.height = static_cast<double>(info.rows) * info.height;
+    record.leftTopX = info.left;
+    record.leftTopY = info.top;
+    record.centerX = info.left + record.width * 0.5;
+    record.centerY = info.top + record.height * 0.5;
+    return record;
+}
+
+SRotateParam TileRecord(const CTile& tile)
+{
+    SRotateParam record;
+    record.width = tile.GetWidth();
+    record.height = tile.GetHeight();
+    record.centerX = tile.GetX() + record.width * 0.5;
+    record.centerY = tile.GetY() + record.height * 0.5;
+    return record;
+}
+
+// What all cabinets of the block have in common, so that the product is looked up once.
+CTile BlockPattern(const SAddTileInfo& info, const QUuid& groupId)
+{
+    CTile pattern;
+    pattern.SetWidth(info.width);
+    pattern.SetHeight(info.height);
+    pattern.SetSenderId(info.senderId);
+    pattern.SetPortIndex(info.portIndex);
+    pattern.SetType(info.type);
+    pattern.SetGroupId(groupId);
+    pattern.SetBeMultiRcvsTile(info.multi);
+    pattern.SetBeMultiFixedLine(info.fixedLine);
+    pattern.SetMultiRcvsOrdered(info.ordered);
+    pattern.SetMultiRcvsSize(info.multiSize);
+    pattern.SetMultiRcvsLine(info.line);
+    return pattern;
+}
+
+// Deletes the selected groups with everything below them, and the selected ones below those that stay.
+void DeleteSelectedGroups(CTileGroupSet& level)
+{
+    CTileGroupSet doomed;
+    CTileGroupSet staying;
+    for (int i = 0; i < level.GetDirectCount(); ++i) {
+        CTileGroup* group = level.GetDirectGroupByDirIndex(i);
+        if (group->IsSelected(kView)) {
+            doomed.AddGroup(group, true);
+            continue;
+        }
+        DeleteSelectedGroups(*group->GetSubGroupSet());
+        staying.AddGroup(group, true);
+    }
+    if (doomed.GetDirectCount() == 0)
+        return;
+    level.RemoveAll();
+    level.AddFromOther(staying);
+    doomed.DeleteAll();
+}
+
+// Whether cabinets of one size fill a grid that starts at their common corner, one in each cell.
+bool FillGrid(const CTileSet& tiles)
+{
+    CTile* first = tiles.GetTile(0);
+    if (first->GetWidth() == 0)
+        first->SetWidth(1);
+    if (first->GetHeight() == 0)
+        first->SetHeight(1);
+    const int width = first->GetWidth();
+    const int height = first->GetHeight();
+    if (width < 1 || height < 1)
+        return false;
+
+    const QRect bound = tiles.GetBound();
+    const int columns = bound.width() / width;
+    const int rows = bound.height() / height;
+    if (width * columns != bound.width() || height * rows != bound.height()
+        || qint64(columns) * rows != tiles.GetCount())
+        return false;
+
+    QVector<bool> taken(tiles.GetCount(), false);
+    for (int i = 0; i < tiles.GetCount(); ++i) {
+        const CTile* tile = tiles.GetTile(i);
+        if (tile->GetWidth() < 1 || tile->GetHeight() < 1)
+            return false;
+        const int dx = tile->GetX() - bound.left();
+        const int dy = tile->GetY() - bound.top();
+        if (dx < 0 || dy < 0 || dx % tile->GetWidth() != 0 || dy % tile->GetHeight() != 0)
+            return false;
+        const int column = dx / tile->GetWidth();
+        const int row = dy / tile->GetHeight();
+        if (column >= columns || row >= rows || taken[column + row * columns])
+            return false;
+        taken[column + row * columns] = true;
+    }
+    return true;
+}
+
+// Whether the cabinet lies where its rotation centre, taken as its middle, puts it.
+bool HasOwnCentre(const CTile& tile, const SRotateParam& record)
+{
+    CTile placed(tile);
+    placed.SetX(Rounded(record.centerX - tile.GetWidth() * 0.5));
+    placed.SetY(Rounded(record.centerY - tile.GetHeight() * 0.5));
+    return placed.GetPosition() == tile.GetPosition();
+}
+
+// Turns a cabinet, as it shows, by the angle of `turn` about the centre of `turn`. Its own centre turns along
+// unrounded, so that rounding of the place does not add up over many turns.
+void TurnTile(CTile& tile, const SRotateParam& turn)
+{
+    SRotateParam record = tile.GetRotateRecord();
+    QPointF corner(-tile.GetWidth() * 0.5, -tile.GetHeight() * 0.5); // seen from the centre
+    if (!HasOwnCentre(tile, record)) {
+        const bool onPivot =
+            std::abs(record.centerX - turn.centerX) < 0.01 && std::abs(record.centerY - turn.centerY) < 0.01;
+        if (onPivot || std::abs(record.angle) > kNoAngle) {
+            corner = QPointF(tile.GetX() - record.centerX, tile.GetY() - record.centerY);
+        } else {
+            // Not turned yet, its centre is only left over from before a move or a change of size.
+            record.centerX = tile.GetX() - corner.x();
+            record.centerY = tile.GetY() - corner.y();
+        }
+    }
+    const CPointEx<double> centre = GetRotatePoint(&turn, record.centerX, record.centerY);
+    record.centerX = centre.x;
+    record.centerY = centre.y;
+    record.angle = NormalizedAngle(record.angle + turn.angle);
+    record.rotated = std::abs(record.angle) > kNoAngle;
+    tile.SetX(Rounded(centre.x + corner.x()));
+    tile.SetY(Rounded(centre.y + corner.y()));
+    tile.SetTileRotateParam(&record);
+}
+
+} // namespace
+
+CPortProject::CPortProject()
+{
+    m_tiles.SetOwnerShip(true);
+}
+
+CPortProject::CPortProject(const CPortProject& other) = default;
+
+CPortProject::~CPortProject()
+{
+    ClearAllTiles();
+}
+
+CPortProject& CPortProject::operator=(const CPortProject& other)
+{
+    if (this == &other)
+        return *this;
+    m_tiles = other.m_tiles;
+    m_groups = other.m_groups;
+    return *this;
+}
+
+bool CPortProject::operator==(const CPortProject& other) const
+{
+    return this == &other || (m_tiles == other.m_tiles && m_groups == other.m_groups);
+}
+
+bool CPortProject::operator!=(const CPortProject& other) const
+{
+    return !(*this == other);
+}
+
+CTileSet* CPortProject::GetTileSet()
+{
+    return &m_tiles;
+}
+
+const CTileSet* CPortProject::GetTileSet() const
+{
+    return &m_tiles;
+}
+
+CTileGroupSet* CPortProject::GetTileGroupSet()
+{
+    return &m_groups;
+}
+
+const CTileGroupSet* CPortProject::GetTileGroupSet() const
+{
+    return &m_groups;
+}
+
+void CPortProject::ClearAllTiles()
+{
+    m_tiles.DeleteAllTiles();
+    m_groups.DeleteAll();
+}
+
+void CPortProject::CancelAllSelected()
+{
+    m_tiles.UnSelectAll(kView);
+    m_groups.CancelAllSelect(kView);
+}
+
+bool CPortProject::DeleteSelectedTileAndGroup()
+{
+    CTileSet doomed;
+    CTileSet staying;
+    m_tiles.GetSelTileSet(doomed, kView);
+    m_tiles.GetUnselectedTileSet(staying);
+    if (doomed.GetCount() > 0) {
+        const bool owning = m_tiles.IsOwner();
+        m_tiles.SetOwnerShip(false);
+        m_tiles = staying;
+        m_tiles.SetOwnerShip(owning);
+        doomed.SetOwnerShip(owning);
+    }
+    DeleteSelectedGroups(m_groups);
+    return true;
+}
+
+bool CPortProject::AddTile(const SAddTileInfo& info)
+{
+    if (info.columns < 1 || info.rows < 1)
+        return false;
+    const qint64 count = qint64(info.columns) * info.rows;
+    if (count > kMaxBlockCabinets)
+        return false;
+
+    QUuid groupId;
+    if (count > 1) {
+        auto* group = new CTileGroup;
+        const SRotateParam record = BlockRecord(info);
+        group->SetRotateParam(&record);
+        group->SetSelected(kView, true);
+        groupId = group->GetID();
+        m_groups.AddGroup(group, true); // its id is fresh
+    }
+    m_tiles.UnSelectAll(kView);
+
+    const CTile pattern = BlockPattern(info, groupId);
+    for (int row = 0; row < info.rows; ++row) {
+        for (int column = 0; column < info.columns; ++column) {
+            auto* tile = new CTile;
+            *tile = pattern;
+            tile->SetX(Saturated(info.left + qint64(column) * info.width));
+            tile->SetY(Saturated(info.top + qint64(row) * info.height));
+            tile->SetSelected(true, kView, -1);
+            const SRotateParam record = TileRecord(*tile);
+            tile->SetTileRotateParam(&record);
+            m_tiles.AddTile(tile);
+        }
+    }
+
+    LayoutLookup::Product product;
+    if (GetLayoutLookup()->FindProduct(info.type, &product))
+        GetLayoutLookup()->AddParameterFile(product.name, info.type);
+    return true;
+}
+
+bool CPortProject::GetTileSetInGroupRecursive(CTileSet& out, const QUuid& id) const
+{
+    return GroupQueries::AppendTilesOfGroup(out, m_tiles, m_groups, id);
+}
+
+bool CPortProject::GetAllTileSetInFirstGroup(CTileSet& out, const QUuid& id) const
+{
+    return GroupQueries::TilesOfTopGroup(out, m_tiles, m_groups, id);
+}
+
+bool CPortProject::GetAllTileSetInFirstGroupPart(CTileSet& out, const CTileGroupSet* level) const
+{
+    return GroupQueries::AppendTilesOfLevel(out, m_tiles, level);
+}
+
+bool CPortProject::GetDirectGroupsInTileSet(QList<QUuid>& out, const CTileSet& tiles) const
+{
+    return GroupQueries::TopGroupsOfTiles(out, tiles, m_groups);
+}
+
+bool CPortProject::RemoveGroupWhenTileOut(QList<QUuid>& ids, const CTileSet& tiles) const
+{
+    return GroupQueries::DropIncompleteGroups(ids, tiles, m_tiles, m_groups);
+}
+
+bool CPortProject::GetAllGroupsFromTileSet(QList<QUuid>& out, const CTileSet& tiles) const
+{
+    return GroupQueries::GroupsAndAncestorsOfTiles(out, tiles, m_groups);
+}
+
+bool CPortProject::GetAllTileGroupIDInTileSet(const CTileSet* tiles, QList<QUuid>& out) const
+{
+    QSet<QUuid> seen{QUuid()};
+    out.clear();
+    for (int i = 0; tiles && i < tiles->GetCount(); ++i) {
+        const QUuid id = tiles->GetTile(i)->GetGroupId();
+        if (seen.contains(id))
+            continue;
+        seen.insert(id);
+        out.append(id);
+    }
+    return !out.isEmpty();
+}
+
+void CPortProject::ChangeRotateCenter(const QPointF& centre, const CTileSet& tiles)
+{
+    SRotateParam* record = nullptr;
+    if (tiles.GetCount() == 1)
+        record = tiles.GetTile(0)->GetTileRotateParam();
+    else if (m_groups.GetDirectCount() == 1)
+        record = m_groups.GetDirectGroupByDirIndex(0)->GetRotateParam();
+    if (!record)
+        return;
+    record->centerX = centre.x();
+    record->centerY = centre.y();
+}
+
+void CPortProject::SetTileGroupRotateParam(const SRotateParam* param, const CTileSet& tiles, double angle)
+{
+    if (!param || !std::isfinite(angle) || !std::isfinite(param->centerX) || !std::isfinite(param->centerY))
+        return;
+    SRotateParam turn = *param; // a copy: the record may be that of a tile turned here
+    if (m_groups.GetDirectCount() == 1)
+        m_groups.GetDirectGroupByDirIndex(0)->SetRotateParam(&turn);
+    turn.angle = angle;
+    for (int i = 0; i < tiles.GetCount(); ++i)
+        TurnTile(*tiles.GetTile(i), turn);
+}
+
+bool CPortProject::IsWholeGroup(const CTileSet& tiles) const
+{
+    if (tiles.GetCount() == 0)
+        return false;
+    const QUuid id = tiles.GetTile(0)->GetGroupId();
+    const CTileGroup* group = m_groups.GetDirectGroupByDirID(id);
+    return group && group->GetSubGroupCount() == 0 && tiles.GetCountInGroup(id) == tiles.GetCount()
+           && m_tiles.GetCountInGroup(id) == tiles.GetCount();
+}
+
+bool CPortProject::SelTileCountModifyEnable()
+{
+    CTileSet selected;
+    m_tiles.GetSelTileSet(selected, kView);
+    if (selected.GetCount() == 1 && selected.GetTile(0)->GetGroupId().isNull())
+        return true;
+    return IsWholeGroup(selected) && selected.IsAllSameSize() && FillGrid(selected);
+}
+
+bool CPortProject::SelTileShapeModifyEnable()
+{
+    CTileSet selected;
+    m_tiles.GetSelTileSet(selected, kView);
+    return selected.GetCount() > 1 && IsWholeGroup(selected) && selected.IsAllSameSize()
+           && FillGrid(selected);
+}

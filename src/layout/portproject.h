@@ -73,6 +73,8 @@ public:
     bool SelTileShapeModifyEnable();
 
 private:
+    bool IsWholeGroup(const CTileSet& tiles) const; ///< all tiles of one top-level group without sub-groups
+
     CTileSet m_tiles;
     CTileGroupSet m_groups;
 };

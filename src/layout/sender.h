@@ -71,16 +71,19 @@ public:
     bool ExistBackupDest(bool* selfBackup) const;
 
     // layout over the ports in use
-    bool GetTileSet(CTileSet& out);
-    bool GetTileGroupSet(CTileGroupSet& out); ///< shares the ports' groups
-    bool GetAllTileSetInGroup(CTileSet& out, const QUuid& group);
-    bool GetAllTileSetInGroupPart(CTileSet& out, const CTileGroupSet* level);
-    bool GetTileSetInGroupRecursive(CTileSet& out, const QUuid& id);
-    bool GetAllGroupsFromTileSet(QList<QUuid>& out, const CTileSet& tiles);
-    bool RemoveGroupWhenTileOut(QList<QUuid>& ids, const CTileSet& tiles);
-    void ClearAllTiles();                 ///< of all 160 ports
-    bool IsSelectMultiPortTile(int port); ///< -1: selected tiles on more than one port; else on another port
-    QRect GetBound() const;               ///< canvas pixels, (0, 0, -1, -1 as edges) without tiles
+    bool GetTileSet(CTileSet& out) const;
+    /// Shares the ports' groups. What `out` held is deleted, apart from groups of this sender or of the open
+    /// project. False, and nothing changed, when `out` is the group tree of one of these ports.
+    bool GetTileGroupSet(CTileGroupSet& out) const;
+    bool GetAllTileSetInGroup(CTileSet& out, const QUuid& group) const;
+    bool GetAllTileSetInGroupPart(CTileSet& out, const CTileGroupSet* level) const;
+    bool GetTileSetInGroupRecursive(CTileSet& out, const QUuid& id) const;
+    bool GetAllGroupsFromTileSet(QList<QUuid>& out, const CTileSet& tiles) const;
+    bool RemoveGroupWhenTileOut(QList<QUuid>& ids, const CTileSet& tiles) const;
+    void ClearAllTiles(); ///< of all 160 ports
+    /// -1: whether selected tiles lie on more than one port; else whether some lie on another port.
+    bool IsSelectMultiPortTile(int port) const;
+    QRect GetBound() const; ///< canvas pixels, (0, 0, -1, -1 as edges) without tiles
 
     // monitoring picture
     QRect GetMonitorRenderArea() const;
