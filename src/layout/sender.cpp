@@ -5,6 +5,7 @@
 #include "layout/layoutlookup.h"
 #include "layout/tile.h"
 #include "layout/tilegroup.h"
+#include "settings/constantdata.h"
 
 #include <QSet>
 
@@ -14,8 +15,22 @@ namespace {
 
 constexpr int kDefaultPortCount = 4;
 constexpr int kAcceptedPortCounts[] = {2, 4, 6, 8, 10, 12, 16, 20, 24, 26, 28, 32, 40, 80, 160};
+constexpr int kPortAlpha = 204;
 
 bool g_offsetToZero = false;
+
+using PortColors = std::array<QColor, kMaxPorts>;
+
+PortColors MakePortColors()
+{
+    PortColors colors;
+    for (int i = 0; i < kMaxPorts; ++i) {
+        QColor& color = colors[static_cast<size_t>(i)];
+        color = CConstantData::GetColorByPort(i);
+        color.setAlpha(kPortAlpha);
+    }
+    return colors;
+}
 
 void CollectGroups(QSet<const CTileGroup*>& out, const CSender& sender)
 {
@@ -30,8 +45,11 @@ void CollectGroups(QSet<const CTileGroup*>& out, const CSender& sender)
 
 CSender::CSender() : m_id(QUuid::createUuid())
 {
-    for (size_t i = 0; i < m_ports.size(); ++i)
+    static const PortColors colors = MakePortColors();
+    for (size_t i = 0; i < m_ports.size(); ++i) {
         m_ports[i].SetSenderIdAndPortIndex(m_id, static_cast<int>(i));
+        m_ports[i].SetPortColor(colors[i]);
+    }
 }
 
 CSender::~CSender() = default;
