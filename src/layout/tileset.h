@@ -49,7 +49,6 @@ public:
     void DeteleTile(int index);
     void DeteleTile(CTile* tile);
     void ExchangeTile(int i, int j);
-    void Truncate(int count); ///< drops the entries from `count` on, in one pass
     int GetCount() const;
     CTile* GetTile(int index) const;           ///< null out of range
     int GetTileIndex(const CTile* tile) const; ///< -1 when absent
@@ -115,7 +114,6 @@ private:
     void
     Normalize(QList<CTile*>* chain); ///< the caller holds the lock or needs none; appends the chain in order
     void SetResult(const QList<CTile*>& tiles);
-    void Replace(const QList<CTile*>& tiles, bool owning);
 
     QList<CTile*> m_tiles;
     bool m_owning = false;

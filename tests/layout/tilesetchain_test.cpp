@@ -1,1 +1,325 @@
+#include "layout/tile.h"
+#include "layout/tileset.h"
+
 #include <gtest/gtest.h>
+
+#include <QMutexLocker>
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+namespace {
+
+CTile* Add(CTileSet& set, const QRect& rect, QSize receivers = QSize(1, 1))
+{
+    auto* tile = new CTile;
+    tile->SetWidth(rect.width());
+    tile->SetHeight(rect.height());
+    tile->SetX(rect.x());
+    tile->SetY(rect.y());
+    tile->SetBeMultiRcvsTile(receivers != QSize(1, 1));
+    tile->SetMultiRcvsSize(receivers);
+    const unsigned char line[kMaxReceiversInTile] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
+    tile->SetMultiRcvsLine(line);
+    tile->SetMultiRcvsOrdered(true);
+    set.AddTile(tile);
+    return tile;
+}
+
+struct OwningWall : CTileSet
+{
+    OwningWall() { SetOwnerShip(true); }
+
+    OwningWall(int columns, int rows, int width = 100, int height = 50) : OwningWall()
+    {
+        for (int i = 0; i < columns * rows; ++i)
+            Add(*this, QRect(i % columns * width, i / columns * height, width, height));
+    }
+};
+
+/// Mixed sizes, holes, overlaps, multi-receiver cabinets, a bound that is no whole number of cells.
+void AddScattered(CTileSet& set, int count, unsigned seed)
+{
+    std::mt19937 random(seed);
+    const auto below = [&](unsigned n) { return static_cast<int>(random() % n); };
+    for (int i = 0; i < count; ++i) {
+        const QRect rect(37 + below(700), 13 + below(500), 30 + below(90), 20 + below(70));
+        Add(set, rect, QSize(1 + below(3), 1 + below(3)));
+    }
+}
+
+std::vector<int> Indices(const CTileSet& set)
+{
+    std::vector<int> indices;
+    for (int i = 0; i < set.GetCount(); ++i)
+        indices.push_back(set.GetTile(i)->GetConnectionIndex());
+    return indices;
+}
+
+std::vector<int> Begins(const CTileSet& set)
+{
+    std::vector<int> begins;
+    for (int i = 0; i < set.GetCount(); ++i)
+        begins.push_back(set.GetTile(i)->GetBeginRcvCnnt());
+    return begins;
+}
+
+/// Every cabinet has a place of its own from 0 on, and its begin is the sum of the receivers before it.
+void ExpectWholeChain(const CTileSet& set)
+{
+    std::vector<CTile*> chain(static_cast<size_t>(set.GetCount()), nullptr);
+    for (int i = 0; i < set.GetCount(); ++i) {
+        const int index = set.GetTile(i)->GetConnectionIndex();
+        ASSERT_GE(index, 0);
+        ASSERT_LT(index, set.GetCount());
+        ASSERT_EQ(chain[static_cast<size_t>(index)], nullptr) << "two cabinets at " << index;
+        chain[static_cast<size_t>(index)] = set.GetTile(i);
+    }
+    int receivers = 0;
+    for (const CTile* tile : chain) {
+        ASSERT_EQ(tile->GetBeginRcvCnnt(), receivers);
+        receivers += tile->GetMultiRcvsCount();
+    }
+}
+
+/// Numbers cell after cell as the patterns are described: the slow way, kept apart from the code under test.
+void NumberCellByCell(CTileSet& set, int type)
+{
+    const int codes[8][2] = {{0, 2}, {2, 0}, {3, 1}, {1, 3}, {4, 6}, {5, 7}, {7, 5}, {6, 4}};
+    const bool right = type == 1 || type == 2 || type == 5 || type == 6;
+    const bool bottom = type == 2 || type == 3 || type == 6 || type == 7;
+    set.ClearConnectIndex();
+    QSize cell;
+    ASSERT_TRUE(set.AutoConnectGetSize(cell));
+    const QRect bound = set.GetBound();
+    const int columns = (bound.width() + cell.width() - 1) / cell.width();
+    const int rows = (bound.height() + cell.height() - 1) / cell.height();
+    const int left = right ? bound.right() + 1 - columns * cell.width() : bound.left();
+    const int top = bottom ? bound.bottom() + 1 - rows * cell.height() : bound.top();
+    int next = 0;
+    for (int strip = 0; strip < (type < 4 ? rows : columns); ++strip) {
+        const int code = codes[type][strip % 2];
+        const int length = type < 4 ? columns : rows;
+        for (int i = 0; i < length; ++i) {
+            const bool backwards = code == 2 || code == 3 || code == 6 || code == 7;
+            const int along = backwards ? length - 1 - i : i;
+            const int across = (type < 4 ? bottom : right) ? (type < 4 ? rows : columns) - 1 - strip : strip;
+            const QPoint at = type < 4 ? QPoint(along, across) : QPoint(across, along);
+            const QRect rect(QPoint(left + at.x() * cell.width(), top + at.y() * cell.height()), cell);
+            set.NumberSetRect(next, rect, cell, code);
+        }
+    }
+}
+
+} // namespace
+
+TEST(TileSetChainTest, EachPatternRunsItsSerpentine)
+{
+    const std::vector<int> expected[8] = {
+        {0, 1, 2, 5, 4, 3, 6, 7, 8}, {2, 1, 0, 3, 4, 5, 8, 7, 6}, {8, 7, 6, 3, 4, 5, 2, 1, 0},
+        {6, 7, 8, 5, 4, 3, 0, 1, 2}, {0, 5, 6, 1, 4, 7, 2, 3, 8}, {6, 5, 0, 7, 4, 1, 8, 3, 2},
+        {8, 3, 2, 7, 4, 1, 6, 5, 0}, {2, 3, 8, 1, 4, 7, 0, 5, 6},
+    };
+    OwningWall wall(3, 3);
+    for (int type = 0; type < 8; ++type) {
+        EXPECT_TRUE(wall.AutoConnection(static_cast<EnAutoNumberType>(type), 7));
+        EXPECT_EQ(Indices(wall), expected[type]) << "pattern " << type;
+        EXPECT_EQ(wall.GetConnectionType(), type);
+    }
+    wall.GetTile(4)->SetConnectionIndex(0, &wall);
+    EXPECT_EQ(wall.GetConnectionType(), -1) << "two cabinets are first";
+    wall.AutoConnection(AutoNumberRowsTopLeft, 0);
+    wall.GetTile(0)->SetConnectionIndex(1, &wall);
+    wall.GetTile(1)->SetConnectionIndex(0, &wall);
+    EXPECT_EQ(wall.GetConnectionType(), -1) << "no pattern swaps two";
+}
+
+TEST(TileSetChainTest, AnySetIsNumberedWholeAndLikeCellByCell)
+{
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        OwningWall wall;
+        AddScattered(wall, 120, seed);
+        for (int type = 0; type < 8; ++type) {
+            NumberCellByCell(wall, type);
+            const std::vector<int> expected = Indices(wall);
+            ASSERT_TRUE(wall.AutoConnection(static_cast<EnAutoNumberType>(type), 0));
+            EXPECT_EQ(Indices(wall), expected) << "pattern " << type << ", seed " << seed;
+            EXPECT_EQ(wall.GetConnectionType(), type);
+            ExpectWholeChain(wall);
+        }
+    }
+}
+
+TEST(TileSetChainTest, BottomPatternsLayWholeCellsAgainstTheBottomEdge)
+{
+    OwningWall wall;
+    Add(wall, QRect(0, 0, 100, 60));   // cell 100 x 60, bound 130 high: the top cell is cut
+    Add(wall, QRect(100, 0, 100, 60)); // centre 30: in the upper strip either way
+    Add(wall, QRect(0, 70, 100, 60));
+    Add(wall, QRect(100, 35, 100, 60)); // centre 65: above the middle from the top, below it from the bottom
+    wall.AutoConnection(AutoNumberRowsTopLeft, 0);
+    EXPECT_EQ(Indices(wall), (std::vector<int>{0, 1, 3, 2}));
+    wall.AutoConnection(AutoNumberRowsBottomLeft, 0);
+    EXPECT_EQ(Indices(wall), (std::vector<int>{3, 2, 0, 1}));
+}
+
+TEST(TileSetChainTest, CabinetsOffTheGridAndListedTwiceAreNumberedOnce)
+{
+    OwningWall wall(2, 1);
+    Add(wall, QRect(200, 50, 0, 0)); // its centre is one pixel right of and below the bound
+    CTileSet selection;
+    for (int i : {0, 1, 0, 2, 2})
+        selection.AddTile(wall.GetTile(i));
+    for (int type = 0; type < 8; ++type) {
+        EXPECT_TRUE(selection.AutoConnection(static_cast<EnAutoNumberType>(type), 0));
+        ExpectWholeChain(wall);
+    }
+}
+
+TEST(TileSetChainTest, NothingToNumberLeavesTheSetUnnumbered)
+{
+    CTileSet empty;
+    EXPECT_FALSE(empty.AutoConnection(AutoNumberRowsTopLeft, 0));
+    EXPECT_EQ(empty.GetConnectionType(), -1);
+
+    OwningWall wall(3, 2);
+    int next = 0;
+    for (int type : {8, -1, 1000}) {
+        wall.AutoConnection(AutoNumberRowsTopLeft, 0);
+        EXPECT_FALSE(wall.AutoConnection(static_cast<EnAutoNumberType>(type), 0));
+        EXPECT_FALSE(wall.HasNumberedTiles());
+        EXPECT_FALSE(wall.NumberSetRect(next, wall.GetBound(), QSize(100, 50), type));
+    }
+    wall.GetTile(2)->SetWidth(0);
+    wall.GetTile(2)->SetHeight(-7);
+    QSize cell;
+    EXPECT_TRUE(wall.AutoConnectGetSize(cell));
+    EXPECT_EQ(cell, QSize(100, 50)) << "sizes below one pixel give no cell";
+}
+
+TEST(TileSetChainTest, NumberSetRectContinuesTheChainAtNext)
+{
+    OwningWall wall(3, 1);
+    wall.GetTile(1)->SetMultiRcvsSize(QSize(2, 2));
+    wall.GetTile(0)->SetConnectionIndex(0, &wall);
+    int next = 1;
+    EXPECT_TRUE(wall.NumberSetRect(next, QRect(0, 0, 300, 50), QSize(100, 50), 2));
+    EXPECT_EQ(Indices(wall), (std::vector<int>{0, 2, 1}));
+    EXPECT_EQ(Begins(wall), (std::vector<int>{0, 2, 1}));
+    EXPECT_EQ(next, 3);
+    EXPECT_FALSE(wall.NumberSetRect(next, QRect(0, 0, 300, 50), QSize(100, 50), 0));
+    EXPECT_EQ(next, 3);
+}
+
+TEST(TileSetChainTest, NormalisationClosesGapsAndResolvesEqualIndices)
+{
+    OwningWall wall(6, 1);
+    const std::vector<int> stored = {7, 2, -1, 7, 1000000, 2};
+    for (int i = 0; i < 6; ++i) {
+        wall.GetTile(i)->SetMultiRcvsSize(QSize(i + 1, 1));
+        wall.GetTile(i)->SetConnectionIndex(stored[static_cast<size_t>(i)], nullptr);
+        wall.GetTile(i)->SetBeginRcvCnnt(99);
+    }
+    CTileSet chain;
+    for (int round = 0; round < 2; ++round) {
+        wall.GetTileSetNumberedNormalization(chain);
+        EXPECT_EQ(Indices(wall), (std::vector<int>{2, 0, -1, 3, 4, 1}));
+        EXPECT_EQ(Begins(wall), (std::vector<int>{8, 0, -1, 9, 13, 2}));
+        EXPECT_EQ(Indices(chain), (std::vector<int>{0, 1, 2, 3, 4}));
+        EXPECT_FALSE(chain.IsOwner());
+    }
+    wall.DeteleTile(1); // leaves a gap at 0
+    wall.TileSetNormalization();
+    EXPECT_EQ(Indices(wall), (std::vector<int>{1, -1, 2, 3, 0}));
+    EXPECT_EQ(Begins(wall), (std::vector<int>{6, -1, 7, 11, 0}));
+}
+
+TEST(TileSetChainTest, NormalisationKeepsUntouchedCabinetsShared)
+{
+    OwningWall wall(4, 1);
+    wall.AutoConnection(AutoNumberRowsTopLeft, 0);
+    const CTileSet copy(wall);
+    wall.TileSetNormalization();
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(wall.GetTile(i)->GetData(), copy.GetTile(i)->GetData());
+}
+
+TEST(TileSetChainTest, OnlyTheFirstOfTheNormalisingPairTakesTheLock)
+{
+    OwningWall wall(2, 1);
+    wall.AutoConnection(AutoNumberRowsTopRight, 0);
+    CTileSet chain;
+    QMutexLocker lock(&CTileSet::m_mutex);
+    wall.GetTileSetNumberedNormalization(chain); // would hang
+    EXPECT_EQ(chain.GetTile(0), wall.GetTile(1));
+}
+
+TEST(TileSetChainTest, ReceiversAreFoundByTheirPlaceInTheChain)
+{
+    OwningWall wall;
+    Add(wall, QRect(0, 0, 100, 100));
+    Add(wall, QRect(100, 0, 100, 100), QSize(2, 2));
+    Add(wall, QRect(200, 0, 100, 100));
+    EXPECT_EQ(wall.GetTileByRcvCnnt(0), nullptr);
+    wall.AutoConnection(AutoNumberRowsTopLeft, 0);
+    EXPECT_EQ(wall.GetTileByRcvCnnt(4), wall.GetTile(1));
+    EXPECT_EQ(wall.GetTileByRcvCnntIndex(5), wall.GetTile(2));
+    EXPECT_EQ(wall.GetTileByRcvCnnt(6), nullptr);
+    EXPECT_EQ(wall.GetRectByRcvCnntIndex(3), QRect(150, 0, 50, 50));
+    EXPECT_EQ(wall.GetRectByRcvCnntIndex(5), QRect(200, 0, 100, 100));
+    EXPECT_EQ(wall.GetRectByRcvCnntIndex(6), QRect());
+    EXPECT_EQ(wall.GetRcvCount(), 6);
+    EXPECT_FALSE(wall.CanSnapToRcvsMulti());
+    CTileSet multi;
+    EXPECT_FALSE(multi.CanSnapToRcvsMulti());
+    multi.AddTile(wall.GetTile(1));
+    EXPECT_TRUE(multi.CanSnapToRcvsMulti());
+}
+
+TEST(TileSetChainTest, ArrowKeysNumberTheNearestCabinetThatOverlaps)
+{
+    OwningWall wall;
+    CTile* first = Add(wall, QRect(0, 0, 100, 100));
+    CTile* far = Add(wall, QRect(260, 0, 100, 100));
+    CTile* shifted = Add(wall, QRect(120, 60, 100, 100));
+    CTile* straight = Add(wall, QRect(120, 10, 100, 100)); // as near as the one above, but straighter
+    CTile* below = Add(wall, QRect(110, 120, 100, 1));     // no column in common with the first
+    EXPECT_FALSE(wall.DirectionKeyConnection(Qt::Key_Space));
+    EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Left)) << "the first key takes the one at the origin";
+    EXPECT_EQ(first->GetConnectionIndex(), 0);
+    EXPECT_FALSE(wall.DirectionKeyConnection(Qt::Key_Down));
+    EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Right));
+    EXPECT_EQ(straight->GetConnectionIndex(), 1);
+    EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Right));
+    EXPECT_EQ(far->GetConnectionIndex(), 2);
+    EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Left)) << "numbered cabinets are passed over";
+    EXPECT_EQ(shifted->GetConnectionIndex(), 3);
+    EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Down));
+    EXPECT_EQ(below->GetConnectionIndex(), 4);
+    EXPECT_FALSE(wall.DirectionKeyConnection(Qt::Key_Up)) << "all are numbered";
+    EXPECT_EQ(wall.GetDirectionTile(below->GetBound(), Qt::Key_Up, false, false), shifted);
+}
+
+TEST(TileSetChainTest, ArrowKeysMoveTheMarkFromCardToCard)
+{
+    OwningWall wall;
+    CTile* multi = Add(wall, QRect(0, 0, 100, 100), QSize(2, 2)); // cards run down each column
+    CTile* plain = Add(wall, QRect(100, 0, 100, 100));
+    wall.AutoConnection(AutoNumberRowsTopRight, 0);
+    int receiver = -5;
+    EXPECT_TRUE(wall.DirectionKeyDemarcateTile(Qt::Key_Up, receiver));
+    EXPECT_EQ(receiver, 1) << "the card at the origin, behind the plain cabinet's";
+    EXPECT_TRUE(wall.DirectionKeyDemarcateTile(Qt::Key_Down, receiver));
+    EXPECT_EQ(receiver, 2);
+    EXPECT_EQ(multi->GetMultiRcvDemarcateIndex(), 1);
+    EXPECT_TRUE(wall.DirectionKeyDemarcateTile(Qt::Key_Right, receiver));
+    EXPECT_EQ(receiver, 4);
+    EXPECT_TRUE(wall.DirectionKeyDemarcateTile(Qt::Key_Right, receiver));
+    EXPECT_EQ(receiver, 0);
+    EXPECT_EQ(multi->GetMultiRcvDemarcateIndex(), -1);
+    EXPECT_EQ(plain->GetMultiRcvDemarcateIndex(), 0);
+    EXPECT_FALSE(wall.DirectionKeyDemarcateTile(Qt::Key_Right, receiver));
+    EXPECT_EQ(receiver, 0);
+    EXPECT_EQ(plain->GetMultiRcvDemarcateIndex(), 0);
+}

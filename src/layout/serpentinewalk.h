@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+
+// Directions of numbering inside one strip of cells. Which of the two codes of one direction a pattern uses
+// tells the corner it began at.
+constexpr int kDirectionCount = 8;
+
+/// Where a point stands along a direction code 0 to 7: 0 and 1 run right, 2 and 3 left, 4 and 5 down, 6 and 7
+/// up. Ascending in that direction.
+quint32 PlaceAlong(int direction, const QPoint& point);
+
+/// The order in which a pattern of automatic numbering visits the points of a bound laid out in equal cells:
+/// strip of cells after strip of cells, every other one backwards.
+class SerpentineWalk
+{
+public:
+    static constexpr int kPatternCount = 8;
+
+    /// `type` is 0 to 7, see EnAutoNumberType; neither the bound nor the cell is empty.
+    SerpentineWalk(int type, const QRect& bound, const QSize& cell);
+
+    /// Ascending along the walk, so sorting by it visits each cell in turn and, inside a cell, its points in
+    /// the direction of the strip. A point beyond the grid counts to the nearest cell.
+    quint64 PlaceOf(const QPoint& point) const;
+
+private:
+    bool m_byColumns;
+    bool m_fromEnd; ///< the first strip is the bottom or the rightmost one
+    int m_directions[2];
+    qint64 m_start; ///< edge of the grid across the strips
+    qint64 m_cell;
+    qint64 m_strips;
+};
