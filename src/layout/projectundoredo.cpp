@@ -1,1 +1,248 @@
 #include "layout/projectundoredo.h"
+
+#include "layout/layoutlookup.h"
+#include "layout/sender.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kNoPort = -1;
+
+/// The distinct recent ports of the records from one position to a later one, in that order.
+int CollectPorts(const CSenderUndoRedo& history, int from, int to, int* ports)
+{
+    int count = 0;
+    for (int position = from; position <= to; ++position) {
+        const int port = history.GetRecord(position)->GetRecentPortIndex();
+        if (std::find(ports, ports + count, port) == ports + count)
+            ports[count++] = port;
+    }
+    return count;
+}
+
+} // namespace
+
+CProjectUndoRedo::CProjectUndoRedo() = default;
+
+CProjectUndoRedo::~CProjectUndoRedo() = default;
+
+bool CProjectUndoRedo::Init()
+{
+    Release();
+    m_unheld = false;
+    m_marked = false;
+    for (CSender* sender : GetLayoutLookup()->Senders())
+        SenderUndoRedoInit(sender);
+    return true;
+}
+
+void CProjectUndoRedo::Release()
+{
+    for (CSenderUndoRedo& history : m_histories)
+        Drop(&history);
+}
+
+bool CProjectUndoRedo::SenderUndoRedoInit(CSender* sender)
+{
+    if (!sender || sender->GetId().isNull())
+        return false;
+    CSenderUndoRedo* history = GetSenderUndoRedoFromID(sender->GetId());
+    if (!history)
+        history = GetSenderUndoRedoEmpty();
+    if (!history)
+        return false;
+    Drop(history);
+    history->Start(*sender);
+    return true;
+}
+
+void CProjectUndoRedo::SenderUndoRedoRelease(const QUuid& senderId)
+{
+    if (CSenderUndoRedo* history = GetSenderUndoRedoFromID(senderId))
+        Drop(history);
+}
+
+/// A change that goes with its history must not be forgotten.
+void CProjectUndoRedo::Drop(CSenderUndoRedo* history)
+{
+    if (!history->GetSenderId().isNull() && history->IsModified())
+        m_unheld = true;
+    history->Clear();
+}
+
+CSenderUndoRedo* CProjectUndoRedo::GetSenderUndoRedoFromID(const QUuid& senderId)
+{
+    if (senderId.isNull())
+        return nullptr;
+    const auto it = std::find_if(m_histories.begin(), m_histories.end(), [&](const CSenderUndoRedo& history) {
+        return history.GetSenderId() == senderId;
+    });
+    return it == m_histories.end() ? nullptr : &*it;
+}
+
+CSenderUndoRedo* CProjectUndoRedo::GetCurSenderUndoRedo()
+{
+    const CSender* sender = GetLayoutLookup()->CurrentSender();
+    return sender ? GetSenderUndoRedoFromID(sender->GetId()) : nullptr;
+}
+
+CSenderUndoRedo* CProjectUndoRedo::GetSenderUndoRedoEmpty()
+{
+    const auto it = std::find_if(m_histories.begin(), m_histories.end(), [](const CSenderUndoRedo& history) {
+        return history.GetSenderId().isNull();
+    });
+    return it == m_histories.end() ? nullptr : &*it;
+}
+
+bool CProjectUndoRedo::AddOneStepToSender(int senderIndex, Type type)
+{
+    return AddStep(GetLayoutLookup()->Senders().value(senderIndex, nullptr), type);
+}
+
+bool CProjectUndoRedo::AddOneStep(Type type)
+{
+    return AddStep(GetLayoutLookup()->CurrentSender(), type);
+}
+
+bool CProjectUndoRedo::AddStep(CSender* sender, Type type)
+{
+    if (type == CSenderRecordItem::OperationSelect || type == CSenderRecordItem::OperationView)
+        return true;
+    if (!sender)
+        return false;
+    if (CSenderUndoRedo* history = GetSenderUndoRedoFromID(sender->GetId()))
+        return history->AddStep(*sender, type);
+    if (!SenderUndoRedoInit(sender)) {
+        m_unheld = true;
+        return false;
+    }
+    GetSenderUndoRedoFromID(sender->GetId())->SetNeverSaved(); // the edit is part of its base
+    return true;
+}
+
+bool CProjectUndoRedo::Undo(int steps, int* ports, int* count)
+{
+    return Move(steps, true, ports, count);
+}
+
+bool CProjectUndoRedo::Redo(int steps, int* ports, int* count)
+{
+    return Move(steps, false, ports, count);
+}
+
+bool CProjectUndoRedo::Move(int steps, bool back, int* ports, int* count)
+{
+    const int capacity = count ? *count : 0;
+    if (count)
+        *count = 0;
+    CSender* sender = GetLayoutLookup()->CurrentSender();
+    CSenderUndoRedo* history = GetCurSenderUndoRedo();
+    if (!sender || !history || steps < 0)
+        return false;
+    const int start = history->GetCurrentStep();
+    if (!history->Move(back ? -steps : steps))
+        return false;
+
+    const CSenderRecordItem& record = *history->GetRecord(history->GetCurrentStep());
+    int shown = record.GetRecentPortIndex();
+    if (steps > 0 && ports && capacity > steps) {
+        const int from = back ? history->GetCurrentStep() : start;
+        *count = CollectPorts(*history, from, from + steps, ports);
+        if (*count > 1)
+            shown = ports[1];
+    }
+    Restore(record, sender, shown);
+    return true;
+}
+
+void CProjectUndoRedo::Restore(const CSenderRecordItem& record, CSender* sender, int shownPort)
+{
+    for (int i = 0; i < kMaxPorts; ++i) {
+        CPort* port = sender->GetPort(i);
+        if (!port->IsVisible()) {
+            if (!record.IsLayoutEqual(i, *port))
+                m_unheld = true;
+            continue;
+        }
+        if (!record.RestorePort(i, port))
+            m_unheld = true;
+        if (i == shownPort)
+            sender->SetRecentPortIndex(i);
+    }
+}
+
+int CProjectUndoRedo::GetCanUndoStep()
+{
+    const CSenderUndoRedo* history = GetCurSenderUndoRedo();
+    return history ? history->GetCurrentStep() : 0;
+}
+
+int CProjectUndoRedo::GetCanRedoStep()
+{
+    const CSenderUndoRedo* history = GetCurSenderUndoRedo();
+    return history ? history->GetRecordCount() - 1 - history->GetCurrentStep() : 0;
+}
+
+const CSenderRecordItem* CProjectUndoRedo::RecordAhead(int n, bool back)
+{
+    const CSenderUndoRedo* history = GetCurSenderUndoRedo();
+    if (!history || n < 0 || n > CSenderUndoRedo::kStepLimit)
+        return nullptr;
+    return history->GetRecord(history->GetCurrentStep() + (back ? -n : n));
+}
+
+int CProjectUndoRedo::GetUndoStepType(int n)
+{
+    const CSenderRecordItem* record = RecordAhead(n, true);
+    return record ? record->GetType() : -1;
+}
+
+int CProjectUndoRedo::GetRedoStepType(int n)
+{
+    const CSenderRecordItem* record = RecordAhead(n, false);
+    return record ? record->GetType() : -1;
+}
+
+int CProjectUndoRedo::GetUndoStepPort(int n)
+{
+    const CSenderRecordItem* record = RecordAhead(n, true);
+    return record ? record->GetRecentPortIndex() : kNoPort;
+}
+
+int CProjectUndoRedo::GetRedoStepPort(int n)
+{
+    const CSenderRecordItem* record = RecordAhead(n, false);
+    return record ? record->GetRecentPortIndex() : kNoPort;
+}
+
+int CProjectUndoRedo::GetCurSenderCurStep()
+{
+    const CSenderUndoRedo* history = GetCurSenderUndoRedo();
+    return history ? history->GetCurrentStep() : -1;
+}
+
+bool CProjectUndoRedo::IsModidfied() const
+{
+    return m_unheld || m_marked
+           || std::any_of(m_histories.begin(), m_histories.end(),
+                          [](const CSenderUndoRedo& history) { return history.IsModified(); });
+}
+
+void CProjectUndoRedo::SetAsSaveStep()
+{
+    bool all = true;
+    for (const CSender* sender : GetLayoutLookup()->Senders()) {
+        if (CSenderUndoRedo* history = GetSenderUndoRedoFromID(sender->GetId()))
+            history->SetSaved();
+        else
+            all = false;
+    }
+    if (all)
+        m_unheld = false;
+}
+
+void CProjectUndoRedo::PrjModify()
+{
+    m_marked = true;
+}

@@ -1,1 +1,70 @@
 #pragma once
+
+#include "common/export.h"
+#include "layout/senderundoredo.h"
+
+#include <QUuid>
+
+#include <array>
+
+class CSender;
+
+/// The histories of all senders of the open project, and whether the project differs from what was saved.
+/// Undoing and redoing act on the project's current sender. Owned by the runtime state.
+class ORVANDATA_EXPORT CProjectUndoRedo
+{
+public:
+    using Type = CSenderRecordItem::VIEW_OPERATION_TYPE;
+    static constexpr int kSlotCount = 256; ///< at most that many senders have a history
+
+    CProjectUndoRedo();
+    CProjectUndoRedo(const CProjectUndoRedo&) = delete;
+    CProjectUndoRedo& operator=(const CProjectUndoRedo&) = delete;
+    virtual ~CProjectUndoRedo();
+
+    // life
+    bool Init();    ///< starts the histories of the project's senders anew, unmodified; always true
+    void Release(); ///< clears every slot
+    bool SenderUndoRedoInit(CSender* sender); ///< (re)starts one; false: null, without id, or no slot free
+    void SenderUndoRedoRelease(const QUuid& senderId);
+
+    // histories [ref], null when there is none
+    CSenderUndoRedo* GetSenderUndoRedoFromID(const QUuid& senderId);
+    CSenderUndoRedo* GetCurSenderUndoRedo();
+    CSenderUndoRedo* GetSenderUndoRedoEmpty(); ///< the first free slot
+
+    // steps
+    /// Records the sender after an edit. False: no such sender, no history to be had, or nothing changed.
+    bool AddOneStepToSender(int senderIndex, Type type);
+    bool AddOneStep(Type type); ///< of the current sender
+    /// Takes back (brings back) `steps` edits on the visible ports. `ports` with the capacity `*count`
+    /// receives the ports that those edits were made on, when the capacity is above `steps`; `*count` their
+    /// number.
+    bool Undo(int steps, int* ports, int* count);
+    bool Redo(int steps, int* ports, int* count);
+
+    // what the current sender's history holds; out of range: -1
+    int GetCanUndoStep(); ///< 0 without a history
+    int GetCanRedoStep(); ///< 0 without a history
+    int GetUndoStepType(int n);
+    int GetRedoStepType(int n);
+    int GetUndoStepPort(int n);
+    int GetRedoStepPort(int n);
+    int GetCurSenderCurStep();
+
+    // does the project differ from what was saved?
+    bool IsModidfied() const;
+    void SetAsSaveStep();
+    void PrjModify(); ///< marks a change outside the histories; it stays until Init
+
+private:
+    bool AddStep(CSender* sender, Type type);
+    bool Move(int steps, bool back, int* ports, int* count);
+    void Restore(const CSenderRecordItem& record, CSender* sender, int shownPort);
+    const CSenderRecordItem* RecordAhead(int n, bool back);
+    void Drop(CSenderUndoRedo* history);
+
+    std::array<CSenderUndoRedo, kSlotCount> m_histories;
+    bool m_unheld = false; ///< a change that no history holds, until the next save
+    bool m_marked = false; ///< a change of the project itself, until Init
+};

@@ -1,1 +1,410 @@
+#include "layout/projectundoredo.h"
+
+#include "layout/layoutsnapshot.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
+#include "support/wallbuilder.h"
+
 #include <gtest/gtest.h>
+
+#include <QRandomGenerator>
+#include <QSet>
+
+#include <deque>
+#include <limits>
+
+namespace {
+
+using Record = CSenderRecordItem;
+
+struct ProjectUndoRedoTest : testing::Test
+{
+    ProjectUndoRedoTest() { Open(MakeWall(2, 2, 4)); }
+
+    void Open(std::unique_ptr<CSender> sender)
+    {
+        lookup.senders = {sender.get()};
+        owned.push_back(std::move(sender));
+        history.Init();
+    }
+
+    CSender& Sender() { return *lookup.senders.first(); }
+    CPort& Port(int port) { return *Sender().GetPort(port); }
+    CTile& Tile(int port, int tile = 0) { return *TilesOf(Port(port)).GetTile(tile); }
+
+    /// Moves the first cabinet of a port to a place not taken before and records that.
+    bool Edit(int port = 0)
+    {
+        Tile(port).SetX(++place);
+        Sender().SetRecentPortIndex(port);
+        return history.AddOneStep(Record::OperationMoveTiles);
+    }
+
+    bool Undo(int steps = 1) { return history.Undo(steps, nullptr, nullptr); }
+    bool Redo(int steps = 1) { return history.Redo(steps, nullptr, nullptr); }
+
+    TestLookup lookup;
+    std::deque<std::unique_ptr<CSender>> owned;
+    CProjectUndoRedo history;
+    int place = 0;
+};
+
+bool AreGroupsEqual(const CTileGroupSet& a, const CTileGroupSet& b)
+{
+    if (a != b)
+        return false;
+    for (int i = 0; i < a.GetDirectCount(); ++i) {
+        if (!AreGroupsEqual(*a.GetDirectGroupByDirIndex(i)->GetSubGroupSet(),
+                            *b.GetDirectGroupByDirIndex(i)->GetSubGroupSet()))
+            return false;
+    }
+    return true;
+}
+
+void ExpectSameLayouts(const CSender& a, const CSender& b)
+{
+    for (int i = 0; i < kMaxPorts; ++i) {
+        const CPortProject& p = *a.GetPort(i)->GetPortProject();
+        const CPortProject& q = *b.GetPort(i)->GetPortProject();
+        ASSERT_TRUE(*p.GetTileSet() == *q.GetTileSet()) << "port " << i;
+        ASSERT_TRUE(AreGroupsEqual(*p.GetTileGroupSet(), *q.GetTileGroupSet())) << "port " << i;
+    }
+}
+
+int CountNewChunks(const TileRun& before, const TileRun& after)
+{
+    QSet<const TileRun::Chunk*> known;
+    for (const auto& chunk : before.GetChunks())
+        known.insert(chunk.constData());
+    int count = 0;
+    for (const auto& chunk : after.GetChunks())
+        count += known.contains(chunk.constData()) ? 0 : 1;
+    return count;
+}
+
+int CountNewRecords(const TileRun& before, const TileRun& after)
+{
+    QSet<const TileData*> known;
+    for (const auto& chunk : before.GetChunks()) {
+        for (const TileRun::Record& record : chunk->tiles)
+            known.insert(record.constData());
+    }
+    int count = 0;
+    for (const auto& chunk : after.GetChunks()) {
+        for (const TileRun::Record& record : chunk->tiles)
+            count += known.contains(record.constData()) ? 0 : 1;
+    }
+    return count;
+}
+
+/// One of the edits a user makes, on a port that may be empty.
+void EditAnyhow(CPort& port, int choice, int value)
+{
+    CTileSet& tiles = TilesOf(port);
+    CTileGroupSet& groups = GroupsOf(port);
+    const int count = tiles.GetCount();
+    const int tile = count == 0 ? 0 : value % count;
+    if (choice == 0 || count == 0) {
+        MakeWall(port, 1 + value % 40, 1 + value % 13);
+    } else if (choice == 1) {
+        tiles.DeteleTile(tile);
+    } else if (choice == 2) {
+        tiles.GetTile(tile)->SetX(value % 30000);
+    } else if (choice == 3) {
+        tiles.GetTile(tile)->GetTileRotateParam()->angle = value % 180; // written behind a pointer
+    } else if (choice == 4) {
+        tiles.AutoConnection(static_cast<EnAutoNumberType>(value % 8), 0);
+    } else if (choice == 5) {
+        tiles.ExchangeTile(0, tile);
+    } else if (choice == 6 && groups.GetDirectCount() > 1) {
+        NestGroups(port, groups.GetDirectGroupByDirIndex(0)->GetID(),
+                   {groups.GetDirectGroupByDirIndex(groups.GetDirectCount() - 1)->GetID()});
+    } else if (choice == 7 && groups.GetDirectCount() > 0) {
+        groups.GetDirectGroupByDirIndex(0)->SetSelected(3, value % 2 == 0);
+    } else if (choice == 8) {
+        port.GetPortProject()->DeleteSelectedTileAndGroup();
+    }
+}
+
+} // namespace
+
+TEST_F(ProjectUndoRedoTest, EveryKindOfEditIsTakenBackAndBroughtBack)
+{
+    QRandomGenerator random(7);
+    std::deque<CSender> states(1);
+    states.back().CopySender(Sender());
+    for (int i = 0; i < 150; ++i) {
+        EditAnyhow(Port(random.bounded(2)), random.bounded(9), random.bounded(1000000));
+        if (!history.AddOneStep(Record::OperationPasteTiles)) {
+            ExpectSameLayouts(Sender(), states.back());
+            continue;
+        }
+        states.emplace_back();
+        states.back().CopySender(Sender());
+    }
+    ASSERT_EQ(history.GetCanUndoStep(), static_cast<int>(states.size()) - 1);
+    const int last = history.GetCanUndoStep();
+    for (int i = last; i > 0; --i) {
+        ASSERT_TRUE(Undo());
+        ExpectSameLayouts(Sender(), states[static_cast<size_t>(i) - 1]);
+    }
+    for (int i = 0; i < 100; ++i) {
+        const int target = random.bounded(last + 1);
+        const int steps = target - history.GetCurSenderCurStep();
+        ASSERT_TRUE(steps < 0 ? Undo(-steps) : Redo(steps));
+        ExpectSameLayouts(Sender(), states[static_cast<size_t>(target)]);
+    }
+}
+
+TEST_F(ProjectUndoRedoTest, NeverUnmodifiedWhileTheWallDiffersFromWhatWasSaved)
+{
+    for (unsigned seed = 1; seed <= 4; ++seed) {
+        QRandomGenerator random(seed);
+        history.Init();
+        std::array<int, 2> saved = {Tile(0).GetX(), Tile(1).GetX()};
+        int clean = 0;
+        for (int i = 0; i < 1500; ++i) {
+            const int choice = random.bounded(100);
+            const int steps = random.bounded(choice < 88 ? 3 : 190);
+            if (choice < 60) {
+                EXPECT_TRUE(Edit(choice % 2));
+            } else if (choice < 75) {
+                Undo(steps);
+            } else if (choice < 92) {
+                Redo(steps);
+            } else if (choice < 96) {
+                history.SetAsSaveStep();
+                saved = {Tile(0).GetX(), Tile(1).GetX()};
+                EXPECT_FALSE(history.IsModidfied());
+            } else {
+                Port(1).SetVisible(choice != 96); // hidden now and then, and steps skip it
+            }
+            if (history.IsModidfied())
+                continue;
+            ++clean;
+            ASSERT_EQ((std::array<int, 2>{Tile(0).GetX(), Tile(1).GetX()}), saved) << "edit " << i;
+        }
+        EXPECT_GT(clean, 30);
+        EXPECT_LE(history.GetCanUndoStep() + history.GetCanRedoStep(), 199);
+        Port(1).SetVisible(true);
+    }
+}
+
+TEST_F(ProjectUndoRedoTest, TheLimitKeepsTheBaseAndMovesTheSavedPositionWithItsRecord)
+{
+    for (const int savedAt : {0, 1, 5}) {
+        history.Init();
+        const int base = Tile(0).GetX();
+        for (int i = 1; i <= 201; ++i) {
+            Edit();
+            if (i == savedAt)
+                history.SetAsSaveStep();
+        }
+        EXPECT_EQ(history.GetCanUndoStep(), 199) << "200 records";
+        EXPECT_TRUE(Undo(198));
+        EXPECT_EQ(Tile(0).GetX(), place - 198) << "the oldest edits after the base are gone";
+        EXPECT_TRUE(history.IsModidfied());
+        EXPECT_TRUE(Undo(1));
+        EXPECT_EQ(Tile(0).GetX(), base);
+        EXPECT_EQ(history.IsModidfied(), savedAt != 0);
+        Redo(3); // two records went, so what was edit 5 stands at 3 now
+        EXPECT_EQ(history.IsModidfied(), savedAt != 5);
+    }
+}
+
+TEST_F(ProjectUndoRedoTest, OnlyChangedLayoutsAreRecorded)
+{
+    EXPECT_FALSE(history.AddOneStep(Record::OperationAlign));
+    for (const auto type : {Record::OperationSelect, Record::OperationView}) {
+        Tile(0).SetX(5);
+        EXPECT_TRUE(history.AddOneStep(type));
+        EXPECT_EQ(history.GetCanUndoStep(), 0);
+    }
+    EXPECT_FALSE(history.IsModidfied());
+    EXPECT_TRUE(Edit());
+    EXPECT_TRUE(Edit());
+    EXPECT_TRUE(Undo(2));
+    EXPECT_FALSE(history.IsModidfied());
+    EXPECT_EQ(history.GetCanRedoStep(), 2);
+    EXPECT_TRUE(Edit());
+    EXPECT_EQ(history.GetCanRedoStep(), 0) << "an edit after an undo ends what could be redone";
+
+    const QUuid parent = GroupsOf(Port(0)).GetDirectGroupByDirIndex(0)->GetID();
+    const QUuid child = MakeWall(Port(0), 2, 1);
+    NestGroups(Port(0), parent, {child});
+    EXPECT_TRUE(history.AddOneStep(Record::OperationGroup));
+    GroupsOf(Port(0)).GetSubGroupBySubID(child)->GetRotateParam()->angle = 30;
+    EXPECT_TRUE(history.AddOneStep(Record::OperationRotate)) << "a change deep in the group tree counts";
+}
+
+TEST_F(ProjectUndoRedoTest, AStepCostsWhatItChanged)
+{
+    Open(MakeWall(100, 50));
+    CPort& port = Port(0);
+    CTileSet& tiles = TilesOf(port);
+    auto base = LayoutSnapshot::Take(*port.GetPortProject(), {});
+    const auto step = [&](int chunks, int records) {
+        const auto next = LayoutSnapshot::Take(*port.GetPortProject(), base);
+        EXPECT_LE(CountNewChunks(base->GetTiles(), next->GetTiles()), chunks);
+        EXPECT_EQ(CountNewRecords(base->GetTiles(), next->GetTiles()), records);
+        EXPECT_TRUE(next->IsEqual(*port.GetPortProject()));
+        base = next;
+    };
+    tiles.GetTile(2345)->SetX(1);
+    step(1, 1);
+    tiles.AutoConnection(AutoNumberColumnsTopRight, 0);
+    tiles.AutoConnection(tiles.GetConnectionType() < 0 ? AutoNumberRowsTopLeft : AutoNumberColumnsTopRight,
+                         0);
+    base = LayoutSnapshot::Take(*port.GetPortProject(), base);
+    tiles.AutoConnection(static_cast<EnAutoNumberType>(tiles.GetConnectionType()), 0);
+    EXPECT_EQ(LayoutSnapshot::Take(*port.GetPortProject(), base), base) << "numbered again as it was";
+    tiles.DeteleTile(1234);
+    step(1, 0);
+    tiles.AddTile(new CTile);
+    step(1, 1);
+    for (int i = 0; i < tiles.GetCount(); ++i)
+        tiles.GetTile(i)->GetTileRotateParam(); // from now on cabinets keep their records to themselves
+    EXPECT_EQ(LayoutSnapshot::Take(*port.GetPortProject(), base), base);
+    tiles.DeteleTile(0);
+    tiles.DeteleTile(4000);
+    step(20, 0);
+    for (int i = 0; i < 600; ++i) {
+        tiles.AddTile(new CTile);
+        base = LayoutSnapshot::Take(*port.GetPortProject(), base);
+    }
+    EXPECT_LE(base->GetTiles().GetChunks().size(), 40u) << "many small edits leave no crowd of small chunks";
+}
+
+TEST_F(ProjectUndoRedoTest, CabinetsThatStayKeepTheirAddressAndViewState)
+{
+    CTile* moved = &Tile(0, 1);
+    const SRotateParam* record = Tile(0, 2).GetTileRotateParam();
+    moved->SetTileShowColor(Qt::red);
+    history.Init();
+    moved->SetX(999);
+    Tile(0, 2).SetTileRotateParam([] {
+        static SRotateParam turned;
+        turned.angle = 45;
+        return &turned;
+    }());
+    MakeWall(Port(0), 3, 1);
+    EXPECT_TRUE(history.AddOneStep(Record::OperationAddTiles));
+    EXPECT_TRUE(Undo());
+    EXPECT_EQ(TilesOf(Port(0)).GetCount(), 4);
+    EXPECT_EQ(&Tile(0, 1), moved);
+    EXPECT_EQ(moved->GetX(), 128);
+    EXPECT_EQ(moved->GetTileShowColor(), QColor(Qt::red));
+    EXPECT_EQ(record->angle, 0) << "a pointer into a cabinet stays right";
+    EXPECT_EQ(record, Tile(0, 2).GetTileRotateParam());
+}
+
+TEST_F(ProjectUndoRedoTest, HiddenPortsAndPortsThatBecameBackupsAreLeftOut)
+{
+    const int before = Tile(0).GetX();
+    Edit(1);
+    Edit(0);
+    Port(1).SetVisible(false);
+    const int kept = Tile(1).GetX();
+    EXPECT_TRUE(Undo(2));
+    EXPECT_EQ(Tile(0).GetX(), before);
+    EXPECT_EQ(Tile(1).GetX(), kept);
+    EXPECT_EQ(Sender().GetRecentPortIndex(), 0);
+    EXPECT_TRUE(history.IsModidfied()) << "the hidden port still differs";
+    history.SetAsSaveStep();
+    EXPECT_FALSE(history.IsModidfied());
+
+    Port(0).SetBeBackupDest(QUuid::createUuid(), 1);
+    EXPECT_TRUE(Redo(2));
+    EXPECT_EQ(TilesOf(Port(0)).GetCount(), 0);
+    EXPECT_TRUE(Undo(2));
+    EXPECT_TRUE(history.IsModidfied()) << "the record's layout could not come back";
+}
+
+TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)
+{
+    for (const int port : {2, 3, 2, 1})
+        Edit(port);
+    int ports[8] = {-9, -9, -9, -9, -9, -9, -9, -9};
+    int count = 8;
+    EXPECT_TRUE(history.Undo(3, ports, &count)); // records of the ports 2, 3, 2, 1
+    EXPECT_EQ(std::vector<int>(ports, ports + count), (std::vector<int>{2, 3, 1}));
+    EXPECT_EQ(Sender().GetRecentPortIndex(), 3);
+    count = 4;
+    EXPECT_TRUE(history.Redo(3, ports, &count));
+    EXPECT_EQ(std::vector<int>(ports, ports + count), (std::vector<int>{2, 3, 1}));
+    EXPECT_EQ(Sender().GetRecentPortIndex(), 3);
+    count = 2;
+    EXPECT_TRUE(history.Undo(2, ports, &count)) << "a list too short is left empty";
+    EXPECT_EQ(count, 0);
+    EXPECT_EQ(Sender().GetRecentPortIndex(), 3) << "the record's own";
+    EXPECT_EQ(history.GetRedoStepPort(2), 1);
+    EXPECT_EQ(history.GetUndoStepPort(1), 2);
+    EXPECT_EQ(history.GetUndoStepType(2), Record::OperationBase);
+
+    for (const int steps : {-1, 3, 1000, std::numeric_limits<int>::max()}) {
+        count = 8;
+        EXPECT_FALSE(history.Undo(steps, ports, &count));
+        EXPECT_FALSE(history.Redo(steps, ports, &count));
+        EXPECT_EQ(history.GetUndoStepType(steps), -1);
+        EXPECT_EQ(history.GetRedoStepPort(steps), -1);
+    }
+    EXPECT_EQ(history.GetCurSenderCurStep(), 2);
+}
+
+TEST_F(ProjectUndoRedoTest, AHistoryThatAnEditStartedIsModified)
+{
+    history.Release();
+    EXPECT_FALSE(history.IsModidfied());
+    EXPECT_EQ(history.GetCurSenderCurStep(), -1);
+    EXPECT_TRUE(Edit());
+    EXPECT_EQ(history.GetCanUndoStep(), 0) << "the edit is part of the base";
+    EXPECT_TRUE(history.IsModidfied());
+    history.SetAsSaveStep();
+    EXPECT_FALSE(history.IsModidfied());
+
+    for (const bool restart : {true, false}) {
+        Edit();
+        if (restart)
+            EXPECT_TRUE(history.SenderUndoRedoInit(&Sender()));
+        else
+            history.SenderUndoRedoRelease(Sender().GetId());
+        EXPECT_TRUE(history.IsModidfied()) << "the change went with its history";
+        EXPECT_TRUE(history.SenderUndoRedoInit(&Sender()));
+        history.SetAsSaveStep();
+        EXPECT_FALSE(history.IsModidfied());
+    }
+    history.PrjModify();
+    history.SetAsSaveStep();
+    EXPECT_TRUE(history.IsModidfied()) << "a marked change stays until Init";
+    history.Init();
+    EXPECT_FALSE(history.IsModidfied());
+}
+
+TEST_F(ProjectUndoRedoTest, SendersBeyondTheSlotsOrWithoutIdHaveNoHistory)
+{
+    while (lookup.senders.size() <= CProjectUndoRedo::kSlotCount) {
+        owned.push_back(std::make_unique<CSender>());
+        lookup.senders.append(owned.back().get());
+    }
+    history.Init();
+    EXPECT_FALSE(history.IsModidfied());
+    EXPECT_FALSE(history.SenderUndoRedoInit(lookup.senders.last()));
+    EXPECT_FALSE(history.SenderUndoRedoInit(nullptr));
+    EXPECT_FALSE(history.AddOneStepToSender(CProjectUndoRedo::kSlotCount + 1, Record::OperationClear));
+    EXPECT_FALSE(history.AddOneStepToSender(-1, Record::OperationClear));
+    EXPECT_FALSE(history.IsModidfied());
+    EXPECT_FALSE(history.AddOneStepToSender(CProjectUndoRedo::kSlotCount, Record::OperationClear));
+    EXPECT_TRUE(history.IsModidfied()) << "an edit that no slot is left for";
+
+    history.SenderUndoRedoRelease(lookup.senders.takeAt(1)->GetId());
+    EXPECT_TRUE(history.SenderUndoRedoInit(lookup.senders.last()));
+    history.SetAsSaveStep();
+    EXPECT_FALSE(history.IsModidfied());
+    Sender().SetId(QUuid());
+    EXPECT_FALSE(Edit());
+    EXPECT_TRUE(history.IsModidfied());
+
+    lookup.senders.clear();
+    EXPECT_FALSE(history.AddOneStep(Record::OperationClear));
+    EXPECT_FALSE(Undo(0));
+}

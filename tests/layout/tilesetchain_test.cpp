@@ -1,12 +1,13 @@
+#include "common/canvaslimits.h"
 #include "layout/tile.h"
 #include "layout/tileset.h"
 
 #include <gtest/gtest.h>
 
 #include <QMutexLocker>
+#include <QRandomGenerator>
 
 #include <algorithm>
-#include <random>
 #include <vector>
 
 namespace {
@@ -41,8 +42,8 @@ struct OwningWall : CTileSet
 /// Mixed sizes, holes, overlaps, multi-receiver cabinets, a bound that is no whole number of cells.
 void AddScattered(CTileSet& set, int count, unsigned seed)
 {
-    std::mt19937 random(seed);
-    const auto below = [&](unsigned n) { return static_cast<int>(random() % n); };
+    QRandomGenerator random(seed);
+    const auto below = [&](int n) { return random.bounded(n); };
     for (int i = 0; i < count; ++i) {
         const QRect rect(37 + below(700), 13 + below(500), 30 + below(90), 20 + below(70));
         Add(set, rect, QSize(1 + below(3), 1 + below(3)));
@@ -153,15 +154,15 @@ TEST(TileSetChainTest, AnySetIsNumberedWholeAndLikeCellByCell)
 
 TEST(TileSetChainTest, BottomPatternsLayWholeCellsAgainstTheBottomEdge)
 {
-    OwningWall wall;
-    Add(wall, QRect(0, 0, 100, 60));   // cell 100 x 60, bound 130 high: the top cell is cut
-    Add(wall, QRect(100, 0, 100, 60)); // centre 30: in the upper strip either way
+    OwningWall wall; // rows of 60 pixels in a bound of 130
+    Add(wall, QRect(0, 0, 100, 60));
+    Add(wall, QRect(100, 0, 100, 60));
     Add(wall, QRect(0, 70, 100, 60));
-    Add(wall, QRect(100, 35, 100, 60)); // centre 65: above the middle from the top, below it from the bottom
+    Add(wall, QRect(100, 35, 100, 60)); // its centre is in the second row from the top, and from the bottom
     wall.AutoConnection(AutoNumberRowsTopLeft, 0);
     EXPECT_EQ(Indices(wall), (std::vector<int>{0, 1, 3, 2}));
     wall.AutoConnection(AutoNumberRowsBottomLeft, 0);
-    EXPECT_EQ(Indices(wall), (std::vector<int>{3, 2, 0, 1}));
+    EXPECT_EQ(Indices(wall), (std::vector<int>{3, 1, 0, 2}));
 }
 
 TEST(TileSetChainTest, CabinetsOffTheGridAndListedTwiceAreNumberedOnce)
@@ -298,7 +299,7 @@ TEST(TileSetChainTest, ArrowKeysNumberTheNearestCabinetThatOverlaps)
     EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Down));
     EXPECT_EQ(below->GetConnectionIndex(), 4);
     EXPECT_FALSE(wall.DirectionKeyConnection(Qt::Key_Up)) << "all are numbered";
-    EXPECT_EQ(wall.GetDirectionTile(below->GetBound(), Qt::Key_Up, false, false), shifted);
+    EXPECT_EQ(wall.GetDirectionTile(below->GetBound(), Qt::Key_Up, false, false), straight);
 }
 
 TEST(TileSetChainTest, ArrowKeysMoveTheMarkFromCardToCard)

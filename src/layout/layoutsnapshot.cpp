@@ -1,0 +1,298 @@
+#include "layout/layoutsnapshot.h"
+
+#include "common/interfacedlg.h"
+#include "layout/portproject.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
+
+#include <QHash>
+#include <QPair>
+
+#include <algorithm>
+#include <tuple>
+
+namespace {
+
+/// Unlike the comparison of records, to the last bit: what is shared is restored as it was.
+bool IsIdentical(const SRotateParam& a, const SRotateParam& b)
+{
+    const auto values = [](const SRotateParam& r) {
+        return std::tie(r.rotated, r.showCenter, r.centerX, r.centerY, r.leftTopX, r.leftTopY, r.angle,
+                        r.width, r.height);
+    };
+    return values(a) == values(b);
+}
+
+bool IsIdentical(const TileData& a, const TileData& b)
+{
+    return IsIdentical(a.rotate, b.rotate) && a.IsEqual(b);
+}
+
+/// Whether the cabinet is as recorded. One that came back to its record shares it again, which keeps both the
+/// wall small and the next comparison fast.
+bool IsAsRecorded(CTile* tile, const TileRun::Record& record)
+{
+    const TileData* data = tile->GetData();
+    if (data == record.constData())
+        return true;
+    if (!IsIdentical(*data, *record))
+        return false;
+    if (!data->handedOut)
+        tile->SetData(record.constData());
+    return true;
+}
+
+/// Whether the cabinets from `first` on are those of the chunk.
+bool Holds(const CTileSet& tiles, int first, const TileRun::Chunk& chunk)
+{
+    if (first < 0 || first + chunk.Size() > tiles.GetCount())
+        return false;
+    for (const TileRun::Record& record : chunk.tiles) {
+        if (!IsAsRecorded(tiles.GetTile(first++), record))
+            return false;
+    }
+    return true;
+}
+
+/// A record whose inside somebody points into changes without notice, so it is copied.
+TileRun::Record Fresh(const TileData* data)
+{
+    if (!data->handedOut)
+        return TileRun::Record(data);
+    auto* copy = new TileData(*data);
+    copy->handedOut = false;
+    return TileRun::Record(copy);
+}
+
+} // namespace
+
+TileRun TileRun::Take(const CTileSet& tiles, const TileRun& previous)
+{
+    const std::vector<ChunkPointer>& before = previous.m_chunks;
+    const int count = tiles.GetCount();
+    TileRun run;
+    if (count == previous.m_count) {
+        run.m_chunks.reserve(before.size());
+        for (const ChunkPointer& chunk : before)
+            run.AppendInPlace(tiles, chunk);
+        return run;
+    }
+
+    // Cabinets came or went: whatever lies before and behind them keeps its chunks.
+    size_t front = 0;
+    int head = 0;
+    while (front < before.size() && Holds(tiles, head, *before[front]))
+        head += before[front++]->Size();
+    size_t back = before.size();
+    int tail = count;
+    while (back > front && tail - before[back - 1]->Size() >= head
+           && Holds(tiles, tail - before[back - 1]->Size(), *before[back - 1]))
+        tail -= before[--back]->Size();
+    // A short rest joins its neighbours, so that chunks do not dwindle from edit to edit.
+    while (head < tail && front > 0 && tail - head + before[front - 1]->Size() <= kChunkSize)
+        head -= before[--front]->Size();
+    while (head < tail && back < before.size() && tail - head + before[back]->Size() <= kChunkSize)
+        tail += before[back++]->Size();
+
+    run.m_chunks.reserve(before.size() + static_cast<size_t>(tail - head) / kChunkSize + 1);
+    for (size_t i = 0; i < front; ++i)
+        run.Append(before[i]);
+    run.AppendMoved(tiles, tail, previous, front, back);
+    for (size_t i = back; i < before.size(); ++i)
+        run.Append(before[i]);
+    return run;
+}
+
+void TileRun::Append(const ChunkPointer& chunk)
+{
+    m_chunks.push_back(chunk);
+    m_count += chunk->Size();
+}
+
+/// Appends the cabinets that stand where the earlier chunk had its own.
+void TileRun::AppendInPlace(const CTileSet& tiles, const ChunkPointer& previous)
+{
+    if (Holds(tiles, m_count, *previous)) {
+        Append(previous);
+        return;
+    }
+    auto* chunk = new Chunk;
+    chunk->tiles.reserve(previous->tiles.size());
+    for (const Record& record : previous->tiles) {
+        CTile* tile = tiles.GetTile(m_count + chunk->Size());
+        chunk->tiles.push_back(IsAsRecorded(tile, record) ? record : Fresh(tile->GetData()));
+    }
+    Append(ChunkPointer(chunk));
+}
+
+/// Appends the cabinets up to `end`, which stand elsewhere in the earlier chunks `from` to `to`, if at all.
+void TileRun::AppendMoved(const CTileSet& tiles, int end, const TileRun& previous, size_t from, size_t to)
+{
+    QHash<QPair<int, int>, Record> byPlace; // only for cabinets whose record cannot be shared as it stands
+    const auto find = [&](const TileData* data) {
+        for (; from < to; ++from) {
+            for (const Record& record : previous.m_chunks[from]->tiles)
+                byPlace.insert({record->x, record->y}, record);
+        }
+        const Record record = byPlace.value({data->x, data->y});
+        return record && IsIdentical(*data, *record) ? record : Fresh(data);
+    };
+    while (m_count < end) {
+        auto* chunk = new Chunk;
+        const int size = qMin(kChunkSize, end - m_count);
+        chunk->tiles.reserve(static_cast<size_t>(size));
+        for (int i = m_count; i < m_count + size; ++i) {
+            const TileData* data = tiles.GetTile(i)->GetData();
+            chunk->tiles.push_back(data->handedOut ? find(data) : Fresh(data));
+        }
+        Append(ChunkPointer(chunk));
+    }
+}
+
+void TileRun::Restore(CTileSet* tiles) const
+{
+    const int present = tiles->GetCount();
+    int i = 0;
+    for (const ChunkPointer& chunk : m_chunks) {
+        for (const Record& record : chunk->tiles) {
+            CTile* tile = i < present ? tiles->GetTile(i) : new CTile;
+            if (tile->GetData() != record.constData())
+                tile->SetData(record.constData());
+            if (i >= present)
+                tiles->AddTile(tile);
+            ++i;
+        }
+    }
+    while (tiles->GetCount() > m_count)
+        tiles->DeteleTile(tiles->GetCount() - 1);
+}
+
+bool TileRun::IsEqual(const TileRun& other) const
+{
+    if (m_count != other.m_count)
+        return false;
+    size_t chunk = 0;
+    size_t place = 0; // inside the other's chunk
+    for (const ChunkPointer& mine : m_chunks) {
+        if (place == 0 && mine == other.m_chunks[chunk]) {
+            ++chunk;
+            continue;
+        }
+        for (const Record& record : mine->tiles) {
+            const std::vector<Record>& theirs = other.m_chunks[chunk]->tiles;
+            if (record != theirs[place] && !record->IsEqual(*theirs[place]))
+                return false;
+            if (++place == theirs.size()) {
+                ++chunk;
+                place = 0;
+            }
+        }
+    }
+    return true;
+}
+
+bool TileRun::IsEqual(const CTileSet& tiles) const
+{
+    if (m_count != tiles.GetCount())
+        return false;
+    int i = 0;
+    for (const ChunkPointer& chunk : m_chunks) {
+        for (const Record& record : chunk->tiles) {
+            const TileData* data = tiles.GetTile(i++)->GetData();
+            if (data != record.constData() && !data->IsEqual(*record))
+                return false;
+        }
+    }
+    return true;
+}
+
+GroupRecord::List GroupRecord::Take(const CTileGroupSet& groups, const List& previous)
+{
+    QHash<QUuid, Pointer> byId; // filled when groups no longer stand where they stood
+    const auto find = [&](size_t place, const QUuid& id) {
+        if (place < previous.size() && previous[place]->id == id)
+            return previous[place];
+        if (byId.isEmpty()) {
+            for (const Pointer& record : previous)
+                byId.insert(record->id, record);
+        }
+        return byId.value(id);
+    };
+    List list;
+    list.reserve(static_cast<size_t>(groups.GetDirectCount()));
+    for (int i = 0; i < groups.GetDirectCount(); ++i) {
+        const CTileGroup& group = *groups.GetDirectGroupByDirIndex(i);
+        const Pointer before = find(static_cast<size_t>(i), group.GetID());
+        List children = Take(*group.GetSubGroupSet(), before ? before->children : List());
+        if (before && before->parentId == group.GetParentGroupID()
+            && before->selected == group.IsSelected(InterfaceDesign)
+            && IsIdentical(before->rotate, *group.GetRotateParam()) && before->children == children) {
+            list.push_back(before);
+            continue;
+        }
+        auto* record = new GroupRecord;
+        record->id = group.GetID();
+        record->parentId = group.GetParentGroupID();
+        record->selected = group.IsSelected(InterfaceDesign);
+        record->rotate = *group.GetRotateParam();
+        record->children = std::move(children);
+        list.push_back(Pointer(record));
+    }
+    return list;
+}
+
+bool GroupRecord::IsEqual(const List& a, const List& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const Pointer& p, const Pointer& q) {
+        return p == q
+               || (p->id == q->id && p->parentId == q->parentId && p->selected == q->selected
+                   && p->rotate == q->rotate && IsEqual(p->children, q->children));
+    });
+}
+
+void GroupRecord::Restore(CTileGroupSet* groups, const List& records)
+{
+    for (const Pointer& record : records) {
+        auto* group = new CTileGroup;
+        group->SetID(record->id);
+        group->SetParentGroupID(record->parentId);
+        group->SetRotateParam(&record->rotate);
+        group->SetSelected(InterfaceDesign, record->selected); // before the children come, which would follow
+        Restore(group->GetSubGroupSet(), record->children);
+        groups->AddGroup(group, true);
+    }
+}
+
+LayoutSnapshot::Pointer LayoutSnapshot::Take(const CPortProject& layout, const Pointer& previous)
+{
+    static const LayoutSnapshot empty;
+    const LayoutSnapshot& before = previous ? *previous : empty;
+    auto* snapshot = new LayoutSnapshot;
+    Pointer holder(snapshot);
+    snapshot->m_tiles = TileRun::Take(*layout.GetTileSet(), before.m_tiles);
+    snapshot->m_groups = GroupRecord::Take(*layout.GetTileGroupSet(), before.m_groups);
+    if (previous && snapshot->m_tiles.IsSameRun(before.m_tiles) && snapshot->m_groups == before.m_groups)
+        return previous;
+    return holder;
+}
+
+void LayoutSnapshot::Restore(CPortProject* layout) const
+{
+    m_tiles.Restore(layout->GetTileSet());
+    CTileGroupSet* groups = layout->GetTileGroupSet();
+    if (GroupRecord::Take(*groups, m_groups) == m_groups)
+        return; // groups that are as recorded keep their address and visibility
+    groups->DeleteAll();
+    GroupRecord::Restore(groups, m_groups);
+}
+
+bool LayoutSnapshot::IsEqual(const LayoutSnapshot& other) const
+{
+    return m_tiles.IsEqual(other.m_tiles) && GroupRecord::IsEqual(m_groups, other.m_groups);
+}
+
+bool LayoutSnapshot::IsEqual(const CPortProject& layout) const
+{
+    return m_tiles.IsEqual(*layout.GetTileSet())
+           && GroupRecord::IsEqual(m_groups, GroupRecord::Take(*layout.GetTileGroupSet(), m_groups));
+}

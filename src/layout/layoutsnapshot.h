@@ -1,0 +1,87 @@
+#pragma once
+
+#include "common/rotateparam.h"
+#include "layout/tiledata.h"
+
+#include <QExplicitlySharedDataPointer>
+#include <QList>
+#include <QSharedData>
+#include <QUuid>
+
+#include <vector>
+
+class CPortProject;
+class CTileGroupSet;
+class CTileSet;
+
+/// The cabinets of a layout as a run of shared chunks of shared records, so that a later run that changed one
+/// cabinet costs one chunk. Never changes once recorded.
+class TileRun
+{
+public:
+    using Record = QExplicitlySharedDataPointer<const TileData>;
+    static constexpr int kChunkSize = 256; ///< at most that many cabinets share one chunk
+
+    struct Chunk : QSharedData
+    {
+        std::vector<Record> tiles;
+
+        int Size() const { return static_cast<int>(tiles.size()); }
+    };
+    using ChunkPointer = QExplicitlySharedDataPointer<const Chunk>;
+
+    /// Takes what equals `previous` from there. Cabinets that equal their earlier record share it again.
+    static TileRun Take(const CTileSet& tiles, const TileRun& previous);
+
+    void
+    Restore(CTileSet* tiles) const; ///< in place, so cabinets that stay keep their address and view state
+    bool IsSameRun(const TileRun& other) const { return m_chunks == other.m_chunks; } ///< by identity
+    bool IsEqual(const TileRun& other) const;
+    bool IsEqual(const CTileSet& tiles) const;
+    int GetCount() const { return m_count; }
+    const std::vector<ChunkPointer>& GetChunks() const { return m_chunks; }
+
+private:
+    void Append(const ChunkPointer& chunk);
+    void AppendInPlace(const CTileSet& tiles, const ChunkPointer& previous);
+    void AppendMoved(const CTileSet& tiles, int end, const TileRun& previous, size_t from, size_t to);
+
+    std::vector<ChunkPointer> m_chunks;
+    int m_count = 0;
+};
+
+/// One group and what lies below it, shared between records like the cabinets.
+struct GroupRecord : QSharedData
+{
+    using Pointer = QExplicitlySharedDataPointer<const GroupRecord>;
+    using List = std::vector<Pointer>;
+
+    QUuid id;
+    QUuid parentId;
+    bool selected = false;
+    SRotateParam rotate;
+    List children;
+
+    static List Take(const CTileGroupSet& groups, const List& previous);
+    static bool IsEqual(const List& a, const List& b); ///< in depth
+    static void Restore(CTileGroupSet* groups, const List& records);
+};
+
+/// The layout of one port at the time of an undo step. Never changes once taken.
+class LayoutSnapshot : public QSharedData
+{
+public:
+    using Pointer = QExplicitlySharedDataPointer<const LayoutSnapshot>;
+
+    /// `previous` itself when nothing changed, else a record that shares with it what did not; null for none.
+    static Pointer Take(const CPortProject& layout, const Pointer& previous);
+
+    void Restore(CPortProject* layout) const;
+    bool IsEqual(const LayoutSnapshot& other) const; ///< as layouts compare, but groups in depth
+    bool IsEqual(const CPortProject& layout) const;
+    const TileRun& GetTiles() const { return m_tiles; }
+
+private:
+    TileRun m_tiles;
+    GroupRecord::List m_groups;
+};
