@@ -1,0 +1,14 @@
+#include "settings/brokenfile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+bool SetBrokenFileAside(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists() || (info.isFile() && info.size() == 0))
+        return true;
+    const QString kept = path + QStringLiteral(".bak");
+    QFile::remove(kept);
+    return info.isFile() && QFile::rename(path, kept);
+}

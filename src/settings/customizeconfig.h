@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+/// What a vendor's edition of the host changes, in a JSON file. Members that nobody asks for are kept.
+class CustomizeConfig
+{
+public:
+    /// Starts from the file's values; false when there is none or it is broken and was set aside.
+    bool Load(const QString& path);
+    bool Save() const; ///< to the file loaded from; false before
+
+    QJsonValue Value(const QString& key, const QJsonValue& standard) const;
+    void SetValue(const QString& key, const QJsonValue& value);
+
+private:
+    QString m_path;
+    QJsonObject m_values;
+};

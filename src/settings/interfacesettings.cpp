@@ -1,0 +1,76 @@
+#include "settings/interfacesettings.h"
+
+#include "settings/brokenfile.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+namespace {
+
+const QString kEnableRotate = QStringLiteral("Function/EnableRotate");
+constexpr bool kEnableRotateDefault = false;
+constexpr qint64 kMaxFileSize = 1 << 24;
+
+void UseUtf8(QSettings& file)
+{
+    file.setIniCodec("UTF-8");
+}
+
+} // namespace
+
+bool InterfaceSettings::Load(const QString& path)
+{
+    m_path = path;
+    m_values.clear();
+    m_enableRotate = kEnableRotateDefault;
+    const QFileInfo info(path);
+    if (!info.isFile())
+        return false;
+    bool broken = info.size() > kMaxFileSize;
+    if (!broken) {
+        QSettings file(path, QSettings::IniFormat);
+        UseUtf8(file);
+        const QStringList keys = file.allKeys();
+        broken = file.status() != QSettings::NoError;
+        for (const QString& key : keys)
+            m_values.insert(key, file.value(key));
+    }
+    if (broken) {
+        m_values.clear();
+        SetBrokenFileAside(path);
+        return false;
+    }
+    m_enableRotate = Value(kEnableRotate, kEnableRotateDefault).toBool();
+    return true;
+}
+
+bool InterfaceSettings::Save() const
+{
+    if (m_path.isEmpty())
+        return false;
+    QSettings file(m_path, QSettings::IniFormat);
+    UseUtf8(file);
+    for (auto value = m_values.begin(); value != m_values.end(); ++value) {
+        if (file.value(value.key()) != value.value())
+            file.setValue(value.key(), value.value());
+    }
+    file.sync();
+    return file.status() == QSettings::NoError;
+}
+
+QVariant InterfaceSettings::Value(const QString& key, const QVariant& standard) const
+{
+    return m_values.value(key, standard);
+}
+
+void InterfaceSettings::SetValue(const QString& key, const QVariant& value)
+{
+    m_values.insert(key, value);
+    if (key == kEnableRotate)
+        m_enableRotate = value.toBool();
+}
+
+void InterfaceSettings::SetEnableRotate(bool enable)
+{
+    SetValue(kEnableRotate, int(enable));
+}

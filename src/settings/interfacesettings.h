@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QVariant>
+
+/// What the windows remember of themselves, in an INI file. Keys that no window asks for are kept.
+class InterfaceSettings
+{
+public:
+    /// Starts from the file's values; false when there is none or it is broken and was set aside.
+    bool Load(const QString& path);
+    bool Save() const; ///< to the file loaded from; false before
+
+    QVariant Value(const QString& key, const QVariant& standard) const; ///< "Group/Name"
+    void SetValue(const QString& key, const QVariant& value);
+
+    bool IsEnableRotate() const { return m_enableRotate; }
+    void SetEnableRotate(bool enable);
+
+private:
+    QString m_path;
+    QMap<QString, QVariant> m_values;
+    bool m_enableRotate = false; ///< also in the values; asked for every cabinet of a wall
+};

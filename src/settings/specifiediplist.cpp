@@ -1,0 +1,124 @@
+#include "settings/specifiediplist.h"
+
+#include "common/atomicfile.h"
+
+#include <QFile>
+#include <QNetworkInterface>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kMaxAddresses = 1024;
+constexpr qint64 kMaxFileSize = 1 << 20;
+constexpr int kOctets = 4;
+
+bool ParseOctet(const QString& text, quint32* octet)
+{
+    if (text.isEmpty() || text.size() > 3)
+        return false;
+    quint32 value = 0;
+    for (const QChar c : text) {
+        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+            return false;
+        value = value * 10 + quint32(c.unicode() - '0');
+    }
+    *octet = value;
+    return value <= 255;
+}
+
+bool ParseAddress(const QString& text, quint32* address)
+{
+    const QStringList octets = text.trimmed().split(QLatin1Char('.'));
+    if (octets.size() != kOctets)
+        return false;
+    quint32 value = 0;
+    for (const QString& octetText : octets) {
+        quint32 octet = 0;
+        if (!ParseOctet(octetText, &octet))
+            return false;
+        value = value << 8 | octet;
+    }
+    *address = value;
+    return true;
+}
+
+} // namespace
+
+QVector<Ipv4Network> GetLocalNetworks()
+{
+    QVector<Ipv4Network> networks;
+    const QList<QNetworkInterface> interfaces = QNetworkInterface::allInterfaces();
+    for (const QNetworkInterface& interface : interfaces) {
+        if (!interface.flags().testFlag(QNetworkInterface::IsUp))
+            continue;
+        const QList<QNetworkAddressEntry> entries = interface.addressEntries();
+        for (const QNetworkAddressEntry& entry : entries) {
+            if (entry.ip().protocol() == QAbstractSocket::IPv4Protocol)
+                networks.append({entry.ip().toIPv4Address(), entry.netmask().toIPv4Address()});
+        }
+    }
+    return networks;
+}
+
+bool SpecifiedIpList::Load(const QString& path)
+{
+    m_path = path;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kMaxFileSize)
+        return false;
+    QString text = QString::fromUtf8(file.readAll());
+    if (file.error() != QFileDevice::NoError)
+        return false;
+    m_addresses.clear();
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString& line : lines)
+        Add(line); // a comment or an empty line is no address
+    return true;
+}
+
+bool SpecifiedIpList::Save() const
+{
+    QByteArray content;
+    for (const QString& address : m_addresses)
+        content += address.toUtf8() + '\n';
+    return !m_path.isEmpty() && ReplaceFile(m_path, content);
+}
+
+bool SpecifiedIpList::Add(const QString& address)
+{
+    quint32 number = 0;
+    if (m_addresses.size() >= kMaxAddresses || !ParseAddress(address, &number))
+        return false;
+    const QString dotted = QHostAddress(number).toString();
+    if (m_addresses.contains(dotted))
+        return false;
+    m_addresses.append(dotted);
+    return true;
+}
+
+bool SpecifiedIpList::Remove(const QString& address)
+{
+    quint32 number = 0;
+    return ParseAddress(address, &number) && m_addresses.removeOne(QHostAddress(number).toString());
+}
+
+void SpecifiedIpList::Clear()
+{
+    m_addresses.clear();
+}
+
+QStringList SpecifiedIpList::Outside(const QVector<Ipv4Network>& networks) const
+{
+    QStringList outside;
+    for (const QString& dotted : m_addresses) {
+        const quint32 address = QHostAddress(dotted).toIPv4Address();
+        const bool inside =
+            std::any_of(networks.begin(), networks.end(), [address](const Ipv4Network& network) {
+                return ((address ^ network.address) & network.mask) == 0;
+            });
+        if (!inside)
+            outside.append(dotted);
+    }
+    return outside;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QStringList>
+#include <QVector>
+
+/// An IPv4 network, both numbers in host byte order.
+struct Ipv4Network
+{
+    quint32 address = 0;
+    quint32 mask = 0;
+};
+
+QVector<Ipv4Network> GetLocalNetworks(); ///< of the interfaces of this machine that are up
+
+/// Addresses of processors that a search of the local networks would not find, kept one a line in a text
+/// file of the user's.
+class SpecifiedIpList
+{
+public:
+    bool Load(const QString& path); ///< false, with the list unchanged, when the file cannot be read
+    bool Save() const;              ///< to the file loaded from; false before
+
+    const QStringList& Addresses() const { return m_addresses; }
+    bool Add(const QString& address);    ///< false for no dotted address, one listed already, or a full list
+    bool Remove(const QString& address); ///< false when it is not listed
+    void Clear();
+
+    /// The addresses that lie outside all these networks.
+    QStringList Outside(const QVector<Ipv4Network>& networks) const;
+
+private:
+    QString m_path;
+    QStringList m_addresses;
+};

@@ -1,0 +1,221 @@
+#include "settings/configdata.h"
+#include "settings/settingslookup.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QSettings>
+
+namespace {
+
+const QByteArray kOneItem = "<LedControlConfig><Config><Language>1041</Language><ShowGrid>0</ShowGrid>"
+                            "</Config></LedControlConfig>";
+
+} // namespace
+
+TEST(ConfigDataTest, FileThatIsNoSettingsDocumentIsKeptBesideTheDefaults)
+{
+    const QByteArray broken[] = {"no xml", kOneItem.left(60), "<Other/>",
+                                 "<!DOCTYPE a [<!ENTITY b 'c'>]>" + kOneItem,
+                                 QByteArray("<a>").repeated(5000)};
+    for (const QByteArray& content : broken) {
+        TestFolder folder;
+        const QString path = folder.Write(QStringLiteral("SystemConfig.xml"), content);
+        folder.Write(QStringLiteral("SystemConfig.xml.bak"), "an older one");
+        CConfigData config;
+        config.SetShowGrid(false);
+        EXPECT_FALSE(config.Load(path)) << content.left(40).constData();
+        EXPECT_TRUE(config.IsShowGrid());
+        EXPECT_EQ(ReadFile(path + QStringLiteral(".bak")), content);
+        EXPECT_TRUE(CConfigData().Load(path));
+    }
+}
+
+TEST(ConfigDataTest, MissingOrEmptyFileIsWrittenWithDefaultsAndLeavesNoBackup)
+{
+    TestFolder folder;
+    const QString empty = folder.Write(QStringLiteral("empty.xml"), QByteArray());
+    const QString missing = folder.Path(QStringLiteral("missing.xml"));
+    for (const QString& path : {empty, missing}) {
+        EXPECT_FALSE(CConfigData().Load(path));
+        EXPECT_TRUE(CConfigData().Load(path));
+        EXPECT_FALSE(QFileInfo::exists(path + QStringLiteral(".bak")));
+    }
+}
+
+TEST(ConfigDataTest, MissingItemsKeepTheirValuesOnReading)
+{
+    TestFolder folder;
+    CConfigData config;
+    config.SetDetectStrategy(2);
+    EXPECT_TRUE(config.XmlLoad(folder.Write(QStringLiteral("a.xml"), kOneItem)));
+    EXPECT_FALSE(config.IsShowGrid());
+    EXPECT_EQ(config.GetDetectStrategy(), 2);
+}
+
+TEST(ConfigDataTest, DefaultsWriteTheWatermarkBesideOtherKeys)
+{
+    const QString path = QDir::homePath() + QStringLiteral("/Documents/Orvan/LedConfig/ProductList.ini");
+    QSettings(path, QSettings::IniFormat).setValue(QStringLiteral("ProductListInfo/Product1"), 1);
+    EXPECT_TRUE(CConfigData().SetToDefault());
+    const QSettings file(path, QSettings::IniFormat);
+    EXPECT_EQ(file.value(QStringLiteral("Setup/PrintWatermark")).toString(), QStringLiteral("Vantrel"));
+    EXPECT_EQ(file.value(QStringLiteral("ProductListInfo/Product1")).toInt(), 1);
+}
+
+TEST(ConfigDataTest, FirstLanguageAfterEachLoadKeepsTheOneLoaded)
+{
+    TestFolder folder;
+    const QString path = folder.Write(QStringLiteral("a.xml"), kOneItem);
+    CConfigData config;
+    for (int round = 0; round < 2; ++round) {
+        ASSERT_TRUE(config.Load(path));
+        config.SetLanguage(LanguageChinese);
+        EXPECT_EQ(config.GetLanguageType(), LanguageJapanese);
+        EXPECT_TRUE(config.GetLanguageFilePath().endsWith(QLatin1String("/Language/orvandata_ja.qm")));
+        config.SetLanguage(LanguageChinese);
+        EXPECT_EQ(config.GetLanguageType(), LanguageChinese);
+        EXPECT_TRUE(config.GetLanguageFilePath().endsWith(QLatin1String("/Language/orvandata_zh_CN.qm")));
+    }
+}
+
+TEST(ConfigDataTest, LanguageFollowsTheLocaleWhenAsked)
+{
+    TestFolder folder;
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::Portuguese));
+    CConfigData config;
+    EXPECT_EQ(config.GetLanguageType(), LanguagePortuguese);
+    QByteArray content = kOneItem;
+    content.replace("<Language>", "<AutoSelectLanguage>1</AutoSelectLanguage><Language>");
+    ASSERT_TRUE(config.Load(folder.Write(QStringLiteral("a.xml"), content)));
+    EXPECT_EQ(config.GetLanguageType(), LanguagePortuguese);
+    QLocale::setDefault(QLocale(QLocale::Finnish));
+    EXPECT_EQ(GetSystemLanguage(), LanguageEnglish);
+    QLocale::setDefault(before);
+}
+
+TEST(ConfigDataTest, SavingWhileMonitoringWritesTheStatesFromBefore)
+{
+    struct Monitoring : SettingsLookup
+    {
+        bool IsMonitoring() const override { return true; }
+        bool StoredReadOnly(int interface) const override { return interface == InterfaceControl; }
+    } monitoring;
+    TestFolder folder;
+    const QString path = folder.Path(QStringLiteral("a.xml"));
+    CConfigData config;
+    config.Load(path);
+    for (int i = 0; i < kInterfaceCount; ++i)
+        config.SetInterfaceReadOnly(i, true);
+    SetSettingsLookup(&monitoring);
+    config.Save();
+    SetSettingsLookup(nullptr);
+    EXPECT_TRUE(config.GetInterfaceReadOnly(InterfaceDesign));
+
+    ASSERT_TRUE(config.Load(path));
+    for (int i = 0; i < kInterfaceCount; ++i)
+        EXPECT_EQ(config.GetInterfaceReadOnly(i), i == InterfaceControl) << i;
+    EXPECT_FALSE(config.GetInterfaceReadOnly(kInterfaceCount));
+}
+
+TEST(ConfigDataTest, RecentProjectsAreFiveDifferentOnesNewestFirst)
+{
+    CConfigData config;
+    for (const char* path : {"a", "b", "c", "d", "e", "f", "c", "", "f"})
+        config.AddProjectRecord(QLatin1String(path));
+    QString all;
+    for (int i = -1; i <= config.GetProjectRecordCount(); ++i)
+        all += config.GetProjectRecordPath(i);
+    EXPECT_EQ(all, QStringLiteral("fcedb"));
+}
+
+TEST(ConfigDataTest, SettersKeepValuesThatAFileCanHold)
+{
+    CConfigData config;
+    config.SetDeviceInformationLayoutSize(45.678f);
+    EXPECT_FLOAT_EQ(config.GetDeviceInformationLayoutSize(), 45.68f);
+    config.SetDeviceInformationLayoutSize(float(qQNaN()));
+    EXPECT_FLOAT_EQ(config.GetDeviceInformationLayoutSize(), 45.68f);
+    config.SetCustomerTileSize(QSize(0, 4000));
+    EXPECT_EQ(config.GetCustomerTileSize(), QSize(1, 1024));
+    config.SetUiStyles({{QStringLiteral("A"), QString()}});
+    EXPECT_EQ(config.GetCurrentUiStyle(), 0);
+}
+
+TEST(ConfigDataTest, HotkeyIsRefusedWhenItsKeyIsUnknownOrTaken)
+{
+    CConfigData config;
+    const SHotkey undo = config.GetHotkey(1, 4);
+    EXPECT_EQ(config.FindHotkey(1, QStringLiteral("ctrl+z")), 4);
+    EXPECT_FALSE(config.SetHotkey(1, 5, undo));
+    EXPECT_TRUE(config.SetHotkey(2, 5, undo));
+    SHotkey changed = undo;
+    changed.hotkey = QStringLiteral("Ctrl+Nothing");
+    EXPECT_FALSE(config.SetHotkey(1, 4, changed));
+    changed.enable = false;
+    changed.hotkey = QStringLiteral("F5");
+    EXPECT_TRUE(config.SetHotkey(1, 4, changed));
+    EXPECT_EQ(config.FindHotkey(1, QStringLiteral("F5")), -1);
+    EXPECT_FALSE(config.SetHotkey(3, 0, undo));
+    EXPECT_FALSE(config.SetHotkey(1, kHotkeysInMode, undo));
+    config.SetHotkeysToDefault();
+    EXPECT_EQ(config.GetHotkey(1, 4).hotkey, undo.hotkey);
+}
+
+TEST(ConfigDataTest, InterfaceSettingsKeepWhatTheyDoNotKnow)
+{
+    TestFolder folder;
+    const QString path =
+        folder.Write(QStringLiteral("SystemConfigUI.ini"), "[Function]\nEnableRotate=1\n[Other]\nTitle=屏\n");
+    CConfigData config;
+    EXPECT_FALSE(config.Save_UI());
+    ASSERT_TRUE(config.Load_UI(path));
+    EXPECT_TRUE(config.IsEnableRotate());
+    config.SetEnableRotate(false);
+    ASSERT_TRUE(config.Save_UI());
+
+    CConfigData again;
+    ASSERT_TRUE(again.Load_UI(path));
+    EXPECT_FALSE(again.IsEnableRotate());
+    EXPECT_EQ(again.GetUIValue(QStringLiteral("Other/Title")).toString(), QStringLiteral("屏"));
+    EXPECT_TRUE(ReadFile(path).contains("Title=屏"));
+}
+
+TEST(ConfigDataTest, BrokenInterfaceAndCustomisationFilesAreKeptBeside)
+{
+    TestFolder folder;
+    CConfigData config;
+    config.SetEnableRotate(true);
+    const QString ini = folder.Write(QStringLiteral("a.ini"), "[Function]\nEnableRotate\n\x01\x02\n");
+    EXPECT_FALSE(config.Load_UI(ini));
+    EXPECT_FALSE(config.IsEnableRotate());
+    EXPECT_EQ(ReadFile(ini + QStringLiteral(".bak")), "[Function]\nEnableRotate\n\x01\x02\n");
+
+    const QString json = folder.Write(QStringLiteral("a.json"), "{\"Logo\": ");
+    EXPECT_FALSE(config.LoadCustomizeConfig(json));
+    EXPECT_EQ(ReadFile(json + QStringLiteral(".bak")), "{\"Logo\": ");
+    EXPECT_TRUE(config.SaveCustomizeConfig());
+    EXPECT_TRUE(config.LoadCustomizeConfig(json));
+}
+
+TEST(ConfigDataTest, CustomisationKeepsWhatItDoesNotKnow)
+{
+    TestFolder folder;
+    const QString path = folder.Write(QStringLiteral("a.json"), "{\"Other\": {\"深\": [1, 2]}, \"Logo\": 1}");
+    CConfigData config;
+    EXPECT_FALSE(config.SaveCustomizeConfig());
+    ASSERT_TRUE(config.LoadCustomizeConfig(path));
+    config.SetCustomizeValue(QStringLiteral("Logo"), 2);
+    ASSERT_TRUE(config.SaveCustomizeConfig());
+    CConfigData again;
+    ASSERT_TRUE(again.LoadCustomizeConfig(path));
+    EXPECT_EQ(again.GetCustomizeValue(QStringLiteral("Logo")).toInt(), 2);
+    EXPECT_EQ(again.GetCustomizeValue(QStringLiteral("Other")),
+              config.GetCustomizeValue(QStringLiteral("Other")));
+    EXPECT_EQ(again.GetCustomizeValue(QStringLiteral("Missing"), 3).toInt(), 3);
+}

@@ -1,0 +1,217 @@
+#include "settings/configdescription.h"
+#include "settings/configfile.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDomDocument>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+/// Gives every item a value that is neither its default nor out of its limits.
+struct Scramble
+{
+    void Begin(const char*) {}
+    void End() {}
+    template <class T, class D> void Item(const char*, T& value, const D& standard)
+    {
+        Change(value, standard);
+    }
+    template <class T, class D> void Attribute(const char*, T& value, const D& standard)
+    {
+        Change(value, standard);
+    }
+    void Word(const char*, bool& value, bool standard) { value = !standard; }
+    void Clamped(const char*, int& value, int, int, int highest) { value = highest - ++m_count; }
+    void DefaultOutside(const char*, double& value, double, double, double highest) { value = highest; }
+    void Hundredths(const char*, float& value, float, float, float) { value = 45.67f; }
+    void OneOrTwo(const char*, int& value, int) { value = 2; }
+    template <class T> void Count(const char*, const char*, QList<T>& list, int, int most)
+    {
+        while (list.size() < most)
+            list.append(T());
+    }
+
+    void Change(bool& value, bool standard) { value = !standard; }
+    void Change(int& value, int) { value = ++m_count; }
+    void Change(float& value, float) { value = 0.5f / float(++m_count); }
+    void Change(double& value, double) { value = 0.25 * ++m_count; }
+    // A key text too, because every text is taken for one somewhere.
+    void Change(QString& value, const QString&)
+    {
+        value = QStringLiteral("Ctrl+F%1").arg(++m_count % 35 + 1);
+    }
+
+    int m_count = 2;
+};
+
+QDomElement ConfigOf(const QByteArray& content)
+{
+    QDomDocument document;
+    EXPECT_TRUE(document.setContent(content));
+    EXPECT_EQ(document.documentElement().tagName(), QStringLiteral("LedControlConfig"));
+    return document.documentElement().firstChildElement(QStringLiteral("Config"));
+}
+
+QByteArray Wrapped(const QByteArray& items)
+{
+    return "<LedControlConfig><Config>" + items + "</Config></LedControlConfig>";
+}
+
+SConfigItems Defaults()
+{
+    SConfigItems items;
+    SetConfigDefaults(&items);
+    return items;
+}
+
+SConfigItems Read(const QByteArray& items)
+{
+    TestFolder folder;
+    SConfigItems read = Defaults();
+    EXPECT_TRUE(ReadConfigFile(folder.Write(QStringLiteral("c.xml"), Wrapped(items)), &read));
+    return read;
+}
+
+QByteArray Written(const SConfigItems& items)
+{
+    TestFolder folder;
+    EXPECT_TRUE(WriteConfigFile(folder.Path(QStringLiteral("c.xml")), items));
+    return ReadFile(folder.Path(QStringLiteral("c.xml")));
+}
+
+void ExpectHeld(const QDomElement& element, const QJsonObject& expected)
+{
+    for (auto item = expected.begin(); item != expected.end(); ++item) {
+        const QDomElement child = element.firstChildElement(item.key());
+        // The one item that is written as hundredths.
+        const double factor = item.key() == QLatin1String("DeviceInformationLayoutSize") ? 100 : 1;
+        if (item->isObject())
+            ExpectHeld(child, item->toObject());
+        else
+            EXPECT_DOUBLE_EQ(child.text().toDouble(), item->toDouble() * factor) << qPrintable(item.key());
+    }
+}
+
+} // namespace
+
+TEST(ConfigFileTest, DefaultsAreWrittenInTheOrderOfTheFile)
+{
+    const QDomElement config = ConfigOf(Written(Defaults()));
+    QStringList flat;
+    for (QDomElement e = config.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+        flat << e.tagName() + QLatin1Char(' ') + (e.firstChildElement().isNull() ? e.text() : QString());
+    flat.removeAt(1); // the language is the machine's
+    EXPECT_EQ(flat.join(QLatin1Char(',')).toStdString(),
+              "AutoSelectLanguage 0,ShowGrid 1,ShowTileSort 0,SoftEdgeSheet 0,SetEdgePixel 0,DisTime 10,"
+              "EnableAttraction 1,AttractionDis 20,EnableFahrenheit 0,EnableGamutRGB 1,"
+              "EnableGamutAutoCalculate 0,OpenBackupProject 1,SendAfterModify 0,SupportMutiTileType 1,"
+              "ShowPowerSupply 0,DeviceInformationLayoutSize 4000,BeaconNoBorder 1,DetectStrategy 0,"
+              "CustomerTileSize ,ReadOnlyModeState ,CurrenGain ,ProjectRecord1 ,ProjectRecord2 ,"
+              "ProjectRecord3 ,ProjectRecord4 ,ProjectRecord5 ,BrightTableInfo ,VisableAutoBrightAdjust 0,"
+              "UiStyleEx ,HotkeyQT ");
+    QStringList states;
+    const QDomElement readOnly = config.firstChildElement(QStringLiteral("ReadOnlyModeState"));
+    for (QDomElement e = readOnly.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+        states << e.tagName();
+    EXPECT_EQ(states.join(QLatin1Char(' ')).toStdString(),
+              "DeviceInfomation Design Control SoftEdge Calibration GamutAdjustment VideoDesign Monitoring");
+    const QDomElement hotkeys = config.firstChildElement(QStringLiteral("HotkeyQT"));
+    EXPECT_EQ(hotkeys.lastChildElement().tagName(), QStringLiteral("Item40"));
+    const QDomElement styles = config.firstChildElement(QStringLiteral("UiStyleEx"));
+    EXPECT_EQ(styles.firstChildElement(QStringLiteral("UiStyle2")).attribute(QStringLiteral("Path")),
+              QStringLiteral("StyleDark"));
+}
+
+TEST(ConfigFileTest, EveryItemSurvivesASave)
+{
+    SConfigItems items = Defaults();
+    Scramble scramble;
+    DescribeConfig(scramble, items);
+    items.currentUiStyle = 15;
+    const QByteArray written = Written(items);
+
+    TestFolder folder;
+    SConfigItems read = Defaults();
+    ASSERT_TRUE(ReadConfigFile(folder.Write(QStringLiteral("c.xml"), written), &read));
+    EXPECT_EQ(Written(read).toStdString(), written.toStdString());
+    EXPECT_EQ(read.uiStyles.size(), kMaxUiStyles);
+    EXPECT_EQ(read.hotkeys[1][19].enable, false);
+}
+
+TEST(ConfigFileTest, SampleHoldsWhatItsDescriptionSays)
+{
+    SConfigItems items = Defaults();
+    ASSERT_TRUE(ReadConfigFile(SamplePath("system-config.xml"), &items));
+    const QJsonObject expected =
+        QJsonDocument::fromJson(ReadFile(SamplePath("system-config.xml.json"))).object();
+    ASSERT_FALSE(expected.isEmpty());
+    ExpectHeld(ConfigOf(Written(items)), expected);
+}
+
+TEST(ConfigFileTest, ValuesOutOfBoundsArePutRight)
+{
+    EXPECT_EQ(Read("<BeaconNoBorder>0</BeaconNoBorder>").beaconNoBorder, 2);
+    EXPECT_EQ(Read("<BeaconNoBorder>1</BeaconNoBorder>").beaconNoBorder, 1);
+    const auto layoutSize = [](const QByteArray& text) {
+        return Read("<DeviceInformationLayoutSize>" + text + "</DeviceInformationLayoutSize>")
+            .deviceInformationLayoutSize;
+    };
+    EXPECT_EQ(layoutSize("3312"), 33.12f);
+    EXPECT_EQ(layoutSize("1000"), 30);
+    EXPECT_EQ(layoutSize("text"), 30);
+    const auto attraction = [](const QByteArray& text) {
+        return Read("<AttractionDis>" + text + "</AttractionDis>").attractionDis;
+    };
+    EXPECT_EQ(attraction("8"), 8);
+    EXPECT_EQ(attraction("30"), 30);
+    EXPECT_EQ(attraction("7"), 20);
+    EXPECT_EQ(attraction("9.5"), 20);
+    const SConfigItems size =
+        Read("<CustomerTileSize><Width>-4</Width><Height>5000</Height></CustomerTileSize>");
+    EXPECT_EQ(size.customerTileWidth, 1);
+    EXPECT_EQ(size.customerTileHeight, 1024);
+    const SConfigItems gain = Read("<CurrenGain><CurrenGain_2 Red=\"nan\" Green=\"0.5\"/></CurrenGain>");
+    EXPECT_EQ(gain.currentGains[1].red, 1);
+    EXPECT_EQ(gain.currentGains[1].green, 0.5f);
+    EXPECT_EQ(gain.currentGains[1].blue, 1);
+}
+
+TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)
+{
+    const SConfigItems records = Read("<ProjectRecord1/><ProjectRecord2>b</ProjectRecord2>"
+                                      "<ProjectRecord3>b</ProjectRecord3><ProjectRecord5>c</ProjectRecord5>");
+    EXPECT_EQ(records.projectRecords[0], QStringLiteral("b"));
+    EXPECT_EQ(records.projectRecords[1], QStringLiteral("c"));
+
+    const SConfigItems styles = Read("<UiStyleEx><UiCount>2000000000</UiCount><UiCurrent>7</UiCurrent>"
+                                     "<UiStyle1 Path=\"A\" Name=\"Style A\"/><UiStyle2 Path=\"\"/>"
+                                     "<UiStyle3 Path=\"C\"/><UiStyle4 Path=\"D\"/></UiStyleEx>");
+    ASSERT_EQ(styles.uiStyles.size(), 3);
+    EXPECT_EQ(styles.uiStyles[0].name, QStringLiteral("Style A"));
+    EXPECT_EQ(styles.uiStyles[1].name, QStringLiteral("C"));
+    EXPECT_EQ(styles.currentUiStyle, 0);
+
+    const SConfigItems hotkeys = Read("<HotkeyQT><Item1 Enable=\"true\" HotKeyValue=\"ctrl+shift+q\"/>"
+                                      "<Item2 Enable=\"no\" HotKeyValue=\"no key\"/></HotkeyQT>");
+    EXPECT_TRUE(hotkeys.hotkeys[0][0].enable);
+    EXPECT_EQ(hotkeys.hotkeys[0][0].hotkey, QStringLiteral("Ctrl+Shift+Q"));
+    EXPECT_FALSE(hotkeys.hotkeys[0][1].enable);
+    EXPECT_EQ(hotkeys.hotkeys[0][1].hotkey, GetDefaultHotkey(0, 1).hotkey);
+}
+
+TEST(ConfigFileTest, DefaultHotkeysAreKeysAndNoneIsTwiceInAMode)
+{
+    for (int mode = 0; mode < kHotkeyModes; ++mode) {
+        QStringList keys;
+        for (int i = 0; i < kHotkeysInMode; ++i) {
+            QString key = GetDefaultHotkey(mode, i).hotkey;
+            EXPECT_TRUE(NormalizeHotkey(&key)) << qPrintable(key);
+            EXPECT_EQ(key, GetDefaultHotkey(mode, i).hotkey);
+            EXPECT_FALSE(keys.contains(key)) << qPrintable(key);
+            keys << key;
+        }
+    }
+}

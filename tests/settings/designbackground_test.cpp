@@ -1,0 +1,204 @@
+#include "settings/designbackground.h"
+#include "settings/settingslookup.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The windows of a host.
+class Windows : public SettingsLookup
+{
+public:
+    int CurrentInterface() const override { return interface; }
+    void SetCurrentInterface(int current) override { interface = current; }
+    int VideoSourceSubDlg() const override { return subDialog; }
+    int DesignSubDlg() const override { return subDialog; }
+    void SetDesignSubDlg(int current) override { subDialog = current; }
+    int CalibrationSubDlg() const override { return subDialog; }
+    int SoftEdgeSubDlg() const override { return subDialog; }
+
+    int interface = InterfaceDesign;
+    int subDialog = 0;
+};
+
+class DesignBackgroundTest : public testing::Test
+{
+protected:
+    DesignBackgroundTest() { SetSettingsLookup(&windows); }
+    ~DesignBackgroundTest() override { SetSettingsLookup(nullptr); }
+
+    Windows windows;
+    CDesignBackground background;
+    const QPoint noFix = QPoint(-1, -1);
+};
+
+} // namespace
+
+TEST_F(DesignBackgroundTest, EveryWindowHasItsViewAndCanvas)
+{
+    struct Case
+    {
+        int interface;
+        int subDialog;
+        int index;
+        int width;
+    };
+    const Case cases[] = {{0, 3, 0, 32768},  {1, 0, 4, 32768}, {1, 1, 11, 32768}, {1, 2, 6, 32768},
+                          {1, 3, 5, 32768},  {1, 4, 0, 32768}, {2, 1, 0, 32768},  {3, 0, 0, 32768},
+                          {3, 3, 1, 131072}, {4, 0, 7, 32768}, {4, 1, 8, 131072}, {5, 0, 2, 32768},
+                          {5, 1, 3, 131072}, {6, 1, 9, 32768}, {7, 1, 10, 32768}, {8, 1, 0, 32768}};
+    for (const Case& c : cases) {
+        windows.interface = c.interface;
+        windows.subDialog = c.subDialog;
+        EXPECT_EQ(background.GetScalingIndex(), c.index) << c.interface << " " << c.subDialog;
+        EXPECT_EQ(background.GetBackgroundMaxSize(), QSize(c.width, 16384)) << c.interface;
+    }
+}
+
+TEST_F(DesignBackgroundTest, WheelVisitsTheStepsOfItsDirection)
+{
+    const auto wheel = [this](float from, bool zoomIn) {
+        background.SetClientRect(0, QRect(0, 0, 100, 100));
+        background.ResetViewScaling();
+        background.SetViewScaling(from, noFix);
+        return background.MouseScalingModify(zoomIn, noFix) ? background.GetViewScaling() : -1;
+    };
+    EXPECT_FLOAT_EQ(wheel(1.0f, true), 1.2f);
+    EXPECT_FLOAT_EQ(wheel(1.0f, false), 0.9f);
+    EXPECT_FLOAT_EQ(wheel(0.05f, true), 0.055f);
+    EXPECT_FLOAT_EQ(wheel(0.055f, true), 0.06f);
+    EXPECT_FLOAT_EQ(wheel(0.06f, false), 0.05f);
+    EXPECT_FLOAT_EQ(wheel(0.18f, true), 0.2f);
+    EXPECT_FLOAT_EQ(wheel(0.47f, true), 0.5f);
+    EXPECT_FLOAT_EQ(wheel(4.5f, true), 5.0f);
+    EXPECT_FLOAT_EQ(wheel(10.0f, false), 9.0f);
+    EXPECT_FLOAT_EQ(wheel(10.0f, true), -1);
+    EXPECT_FLOAT_EQ(wheel(20.0f, false), -1);
+}
+
+TEST_F(DesignBackgroundTest, ScalingIsBoundByTheCanvas)
+{
+    float scaling = 0.01f;
+    EXPECT_FALSE(background.ViewScalingValid(scaling));
+    EXPECT_FLOAT_EQ(scaling, 1080.0f / 16384);
+    float nearly = scaling - 0.00005f;
+    EXPECT_TRUE(background.ViewScalingValid(nearly));
+    EXPECT_TRUE(background.SetViewScaling(0.01f, noFix));
+    EXPECT_FLOAT_EQ(background.GetViewScaling(), 1080.0f / 16384);
+
+    QPoint start(40000, -3);
+    EXPECT_TRUE(background.ViewStartPtValid(start, 0.5f));
+    EXPECT_EQ(start, QPoint(32768 - 3840, 0));
+    EXPECT_FALSE(background.ViewStartPtValid(start, 0.5f));
+}
+
+TEST_F(DesignBackgroundTest, ZoomKeepsThePixelUnderThePointer)
+{
+    background.SetViewStartPt(QPoint(1000, 2000));
+    EXPECT_TRUE(background.SetViewScaling(2.0f, QPoint(400, 300)));
+    EXPECT_EQ(background.GetViewStartPt(), QPoint(1200, 2150));
+    background.SetLockLeftTopScaling(true);
+    EXPECT_TRUE(background.SetViewScaling(4.0f, QPoint(400, 300)));
+    EXPECT_EQ(background.GetViewStartPt(), QPoint(1200, 2150));
+}
+
+TEST_F(DesignBackgroundTest, ZoomingInAgainReturnsToThePlaceThatTheEdgeTook)
+{
+    background.SetViewStartPt(QPoint(100, 50));
+    // Zooming out about a far pixel would put the start left of the canvas.
+    ASSERT_TRUE(background.SetViewScaling(0.5f, QPoint(1900, 1000)));
+    EXPECT_EQ(background.GetViewStartPt(), QPoint(0, 0));
+    ASSERT_TRUE(background.SetViewScaling(1.0f, QPoint(10, 10)));
+    EXPECT_EQ(background.GetViewStartPt(), QPoint(100, 50));
+
+    // A later move out from a larger scaling forgets the smaller ones.
+    ASSERT_TRUE(background.SetViewScaling(2.0f, QPoint(0, 0)));
+    ASSERT_TRUE(background.SetViewScaling(0.5f, QPoint(1900, 1000)));
+    ASSERT_TRUE(background.SetViewScaling(1.0f, QPoint(10, 10)));
+    EXPECT_EQ(background.GetViewStartPt(), QPoint(10, 10));
+    background.ResetViewScaling();
+    ASSERT_TRUE(background.SetViewScaling(2.0f, QPoint(100, 100)));
+    EXPECT_EQ(background.GetViewStartPt(), QPoint(50, 50));
+}
+
+TEST_F(DesignBackgroundTest, RefusedScalingLeavesTheViewUntouched)
+{
+    bool modified = true;
+    for (float scaling : {float(qQNaN()), float(qInf()), -float(qInf())}) {
+        EXPECT_FALSE(background.SetViewScaling(scaling, noFix));
+        background.GetViewScaling(&modified);
+        EXPECT_FALSE(modified);
+    }
+    background.SetClientRect(0, QRect());
+    EXPECT_FALSE(background.SetViewScaling(0, noFix));
+    for (const auto& [interface, subDialog] : {std::pair(3, 1), std::pair(1, 3)}) {
+        windows.interface = interface;
+        windows.subDialog = subDialog;
+        EXPECT_FALSE(background.SetViewScaling(0.5f, noFix));
+        background.GetViewScaling(&modified);
+        EXPECT_FALSE(modified);
+    }
+    windows.interface = InterfaceControl;
+    EXPECT_FALSE(background.SetViewScaling(1.0f, noFix));
+    background.GetViewScaling(&modified);
+    EXPECT_TRUE(modified); // the same scaling, but set by the user
+}
+
+TEST_F(DesignBackgroundTest, StartIsClampedAndChangesAreNotified)
+{
+    int notified = 0;
+    background.SetNotification([&notified] { ++notified; });
+    EXPECT_TRUE(background.SetViewStartPt(QPoint(-5, 10)));
+    EXPECT_EQ(background.GetViewStartPt(), QPoint(0, 10));
+    EXPECT_FALSE(background.SetViewStartPt(QPoint(-7, 10)));
+    EXPECT_EQ(notified, 1);
+    background.SetViewScaling(2.0f, noFix);
+    EXPECT_EQ(notified, 2);
+    background.SetViewScaling(3.0f, QPoint(1, 1));
+    EXPECT_EQ(notified, 2);
+}
+
+TEST_F(DesignBackgroundTest, AdaptiveScalingIsTheLargestPercentageThatFits)
+{
+    const QSize client(1920, 1080);
+    const auto adapted = [&](QSize content, int margin) {
+        background.ResetViewScaling();
+        return background.SetAdaptiveScaling(client, content, margin) ? background.GetViewScaling() : -1;
+    };
+    EXPECT_FLOAT_EQ(adapted(QSize(1000, 500), 0), 1.0f);
+    EXPECT_FLOAT_EQ(adapted(QSize(1920, 1079), 0), 0.99f); // equal does not fit
+    EXPECT_FLOAT_EQ(adapted(QSize(3000, 500), 0), 0.63f);  // 0.64 fills the client exactly
+    EXPECT_FLOAT_EQ(adapted(QSize(3000, 500), 100), 0.6f);
+    EXPECT_FLOAT_EQ(adapted(QSize(96000, 500), 0), -1);
+}
+
+TEST_F(DesignBackgroundTest, NewProjectAdaptsEveryInterfaceAndRestoresTheWindows)
+{
+    windows.interface = InterfaceSoftEdge;
+    windows.subDialog = 3;
+    background.SetClientRect(9, QRect(0, 0, 500, 1080));
+    EXPECT_TRUE(background.NewProSetAdeptScaling(QSize(3000, 500), 0));
+    EXPECT_EQ(windows.interface, int(InterfaceSoftEdge));
+    EXPECT_EQ(windows.subDialog, 3);
+    windows.subDialog = 0;
+    for (int i = 0; i <= 8; ++i) {
+        windows.interface = i;
+        EXPECT_FLOAT_EQ(background.GetViewScaling(), i == InterfaceGamutAdjustment ? 0.16f : 0.63f) << i;
+    }
+}
+
+TEST_F(DesignBackgroundTest, ConversionRoundsHalfAwayFromZeroAndSaturates)
+{
+    background.SetViewStartPt(QPoint(10, 20));
+    background.SetViewScaling(0.5f, noFix);
+    QPoint point;
+    EXPECT_TRUE(background.WholePixelToViewPixel(QPoint(13, 15), &point));
+    EXPECT_EQ(point, QPoint(2, -3));
+    QRect rect;
+    EXPECT_TRUE(background.WholePixelToViewPixel(QRect(10, 20, 101, 51), &rect));
+    EXPECT_EQ(rect, QRect(QPoint(0, 0), QPoint(50, 25)));
+    int length = 0;
+    background.SetViewScaling(3.0f, noFix);
+    EXPECT_TRUE(background.WholePixelToViewPixel(2000000000, &length));
+    EXPECT_EQ(length, 2147483647);
+}

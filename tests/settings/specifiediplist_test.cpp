@@ -1,0 +1,44 @@
+#include "settings/specifiediplist.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+TEST(SpecifiedIpListTest, OnlyDottedAddressesAreReadOnceAndInOrder)
+{
+    TestFolder folder;
+    const QString path =
+        folder.Write(QStringLiteral("SpecifiedIPs.txt"),
+                     "\xEF\xBB\xBF"
+                     "192.0.2.9\r\n# 备注\n\n 010.1.2.3 \n192.0.2.9\n256.1.1.1\n1.2.3\n1.2.3.4.5\n"
+                     "1.2.3.-4\n1.2.3.0x4\n::1\nhost\n1.2.3.٤\n1..2.3\n203.0.113.1");
+    SpecifiedIpList list;
+    EXPECT_FALSE(list.Save());
+    ASSERT_TRUE(list.Load(path));
+    const QStringList expected = {QStringLiteral("192.0.2.9"), QStringLiteral("10.1.2.3"),
+                                  QStringLiteral("203.0.113.1")};
+    EXPECT_EQ(list.Addresses(), expected);
+    EXPECT_TRUE(list.Remove(QStringLiteral("10.1.2.03")));
+    ASSERT_TRUE(list.Save());
+    EXPECT_EQ(ReadFile(path), "192.0.2.9\n203.0.113.1\n");
+    EXPECT_FALSE(list.Load(folder.Path(QStringLiteral("missing"))));
+    EXPECT_EQ(list.Addresses().size(), 2);
+}
+
+TEST(SpecifiedIpListTest, ListEndsAt1024Addresses)
+{
+    SpecifiedIpList list;
+    for (int i = 0; i < 1024; ++i)
+        EXPECT_TRUE(list.Add(QStringLiteral("10.0.%1.%2").arg(i / 256).arg(i % 256)));
+    EXPECT_FALSE(list.Add(QStringLiteral("10.1.0.0")));
+}
+
+TEST(SpecifiedIpListTest, AddressesOutsideEveryNetworkAreErrors)
+{
+    SpecifiedIpList list;
+    for (const char* address : {"10.1.2.3", "10.2.2.3", "192.168.7.128", "192.168.7.127"})
+        list.Add(QLatin1String(address));
+    const QVector<Ipv4Network> networks = {{0x0A010001, 0xFFFF0000}, {0xC0A807FE, 0xFFFFFF80}};
+    const QStringList expected = {QStringLiteral("10.2.2.3"), QStringLiteral("192.168.7.127")};
+    EXPECT_EQ(list.Outside(networks), expected);
+    EXPECT_EQ(list.Outside({}), list.Addresses());
+}
