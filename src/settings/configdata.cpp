@@ -127,12 +127,12 @@ void CConfigData::SetCurrentGain(int index, const SCurrentGain& gain)
         m_items.currentGains[size_t(index)] = gain;
 }
 
-bool CConfigData::GetInterfaceReadOnly(int interface) const
+bool CConfigData::GetReadOnlyState(int interface) const
 {
     return IsInterface(interface) && m_items.readOnly[size_t(interface)];
 }
 
-void CConfigData::SetInterfaceReadOnly(int interface, bool readOnly)
+void CConfigData::SetReadOnlyState(int interface, bool readOnly)
 {
     if (IsInterface(interface))
         m_items.readOnly[size_t(interface)] = readOnly;

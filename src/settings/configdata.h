@@ -89,8 +89,8 @@ public:
     void SetVisableAutoBrightAdjust(bool visible) { m_items.visableAutoBrightAdjust = visible; }
 
     // read-only state, by the numbers of EInterfaceDlg
-    bool GetInterfaceReadOnly(int interface) const;
-    void SetInterfaceReadOnly(int interface, bool readOnly);
+    bool GetReadOnlyState(int interface) const;
+    void SetReadOnlyState(int interface, bool readOnly);
 
     // recent projects, newest first
     void AddProjectRecord(const QString& path); ///< moves a path listed already to the front

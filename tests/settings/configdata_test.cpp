@@ -111,16 +111,16 @@ TEST(ConfigDataTest, SavingWhileMonitoringWritesTheStatesFromBefore)
     CConfigData config;
     config.Load(path);
     for (int i = 0; i < kInterfaceCount; ++i)
-        config.SetInterfaceReadOnly(i, true);
+        config.SetReadOnlyState(i, true);
     SetSettingsLookup(&monitoring);
     config.Save();
     SetSettingsLookup(nullptr);
-    EXPECT_TRUE(config.GetInterfaceReadOnly(InterfaceDesign));
+    EXPECT_TRUE(config.GetReadOnlyState(InterfaceDesign));
 
     ASSERT_TRUE(config.Load(path));
     for (int i = 0; i < kInterfaceCount; ++i)
-        EXPECT_EQ(config.GetInterfaceReadOnly(i), i == InterfaceControl) << i;
-    EXPECT_FALSE(config.GetInterfaceReadOnly(kInterfaceCount));
+        EXPECT_EQ(config.GetReadOnlyState(i), i == InterfaceControl) << i;
+    EXPECT_FALSE(config.GetReadOnlyState(kInterfaceCount));
 }
 
 TEST(ConfigDataTest, RecentProjectsAreFiveDifferentOnesNewestFirst)
