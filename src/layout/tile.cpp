@@ -392,6 +392,12 @@ void CTile::SetMultiRcvsLine(const unsigned char* line)
         std::memmove(Write().line, line, count);
 }
 
+void CTile::RestoreMultiRcvsLine(const unsigned char* line)
+{
+    if (line && std::memcmp(m_data->line, line, sizeof m_data->line) != 0)
+        std::memmove(Write().line, line, sizeof m_data->line);
+}
+
 unsigned char* CTile::GetMultiRcvsLine()
 {
     TileData& data = Write();

@@ -84,9 +84,10 @@ public:
     void SetMultiRcvsSize(const QSize& size); ///< receiving cards across and down
     QSize GetMultiRcvsSize() const;
     int GetMultiRcvsCount() const; ///< 0 when the size is negative or its product does not fit
-    void SetMultiRcvsLine(const unsigned char* line);    ///< as many bytes as there are cards, at most ten
-    unsigned char* GetMultiRcvsLine();                   ///< [ref] ten bytes, valid while the tile lives
-    unsigned char GetMultiRcvsLineCode(int index) const; ///< 0 outside 0 to 9
+    void SetMultiRcvsLine(const unsigned char* line);     ///< as many bytes as there are cards, at most ten
+    void RestoreMultiRcvsLine(const unsigned char* line); ///< all ten bytes, as a file stores them
+    unsigned char* GetMultiRcvsLine();                    ///< [ref] ten bytes, valid while the tile lives
+    unsigned char GetMultiRcvsLineCode(int index) const;  ///< 0 outside 0 to 9
     QRect GetMultiRcvRect(int index); ///< canvas pixels; null rectangle out of range; repairs an empty size
     QRect GetMultiRcvRelativeRect(int index); ///< the same, relative to the cabinet
     void SetMultiRcvDemarcateIndex(int index);

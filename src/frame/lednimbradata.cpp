@@ -1,0 +1,94 @@
+#include "frame/lednimbradata.h"
+
+#include "frame/lookups.h"
+#include "frame/runtimedata.h"
+#include "monitor/monitordata.h"
+#include "products/productdirectoryset.h"
+#include "project/projectdata.h"
+#include "project/projectmanagement.h"
+#include "settings/configdata.h"
+#include "settings/constantdata.h"
+
+namespace {
+
+CProjectData* g_project = nullptr;
+CProjectManagement* g_projects = nullptr;
+CConfigData* g_config = nullptr;
+CConstantData* g_constant = nullptr;
+CRuntimeData* g_runtime = nullptr;
+CMonitorData* g_monitor = nullptr;
+
+template <class Object> void CreateMissing(Object*& object)
+{
+    if (!object)
+        object = new Object;
+}
+
+template <class Object> void Destroy(Object*& object)
+{
+    delete object;
+    object = nullptr;
+}
+
+} // namespace
+
+void LedNimbraData_Init()
+{
+    CreateMissing(g_project);
+    CreateMissing(g_projects);
+    CreateMissing(g_config);
+    CreateMissing(g_constant);
+    CreateMissing(g_runtime);
+    CreateMissing(g_monitor);
+    InstallLookups();
+
+    g_config->Load(CConstantData::GetSysConfigDir() + QStringLiteral("SystemConfig.xml"));
+    g_config->UpdateErrorIPList();
+    g_config->LoadSpecifiedIP(CConstantData::GetSysConfigDir() + QStringLiteral("SpecifiedIPs.txt"));
+    // The interface settings lie beside the products, where hosts have always looked for them.
+    g_config->Load_UI(CProductDirectorySet::GetRootDir() + QStringLiteral("SystemConfigUI.ini"));
+    // The first call behind a load keeps the language loaded and only derives the language file's path.
+    g_config->SetLanguage(LanguageChinese);
+}
+
+void LedNimbraData_Release()
+{
+    // Not the reverse of the creation; hosts rely on this order.
+    Destroy(g_monitor);
+    Destroy(g_config);
+    Destroy(g_constant);
+    Destroy(g_runtime);
+    Destroy(g_projects);
+    Destroy(g_project);
+    RemoveLookups();
+}
+
+CProjectData* GetProjectData()
+{
+    return g_project;
+}
+
+CProjectManagement* GetProjectManagement()
+{
+    return g_projects;
+}
+
+CConfigData* GetConfigData()
+{
+    return g_config;
+}
+
+CConstantData* GetConstantData()
+{
+    return g_constant;
+}
+
+CRuntimeData* GetRuntimeData()
+{
+    return g_runtime;
+}
+
+CMonitorData* GetMonitorData()
+{
+    return g_monitor;
+}

@@ -1,0 +1,5 @@
+#pragma once
+
+/// Answers what the lower rooms ask from the six objects, as far as these exist.
+void InstallLookups();
+void RemoveLookups();

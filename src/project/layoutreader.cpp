@@ -1,0 +1,317 @@
+#include "project/layoutreader.h"
+
+#include "layout/sender.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+#include <algorithm>
+
+using namespace layoutnames;
+
+namespace {
+
+int ReadCount(XmlAttributes& attributes, const char* name)
+{
+    int count = 0;
+    AttributeReader(attributes).Field(name, count);
+    return count;
+}
+
+/// Begin receiver connections follow from the finished wiring: cabinets may be stored in any order, and each
+/// takes its predecessor's as CTile::SetConnectionIndex would, so they are derived along the chain.
+void DeriveBeginReceivers(const CTileSet& tiles)
+{
+    std::vector<CTile*> chain;
+    QHash<int, const CTile*> first; // of the tiles with an index, in list order
+    first.reserve(tiles.GetCount());
+    for (int i = 0; i < tiles.GetCount(); ++i) {
+        CTile* tile = tiles.GetTile(i);
+        if (!tile->HasSetConnectIndex())
+            continue;
+        chain.push_back(tile);
+        if (!first.contains(tile->GetConnectionIndex()))
+            first.insert(tile->GetConnectionIndex(), tile);
+    }
+
+    const auto before = [](const CTile* a, const CTile* b) {
+        return a->GetConnectionIndex() < b->GetConnectionIndex();
+    };
+    if (!std::is_sorted(chain.begin(), chain.end(), before))
+        std::stable_sort(chain.begin(), chain.end(), before);
+    for (CTile* tile : chain) {
+        const int index = tile->GetConnectionIndex();
+        if (index == 0)
+            tile->SetBeginRcvCnnt(0);
+        else if (const CTile* previous = first.value(index - 1))
+            tile->SetBeginRcvCnnt(previous->GetMultiRcvsCount() + previous->GetBeginRcvCnnt());
+    }
+}
+
+/// Drops each group whose id stands earlier in the tree, with all below it.
+void DropRepeatedGroups(CTileGroupSet& groups, QSet<QUuid>& seen, ReadReport& report)
+{
+    int kept = 0;
+    while (kept < groups.GetDirectCount()) {
+        CTileGroup* group = groups.GetDirectGroupByDirIndex(kept);
+        if (seen.contains(group->GetID())) {
+            report.Add(
+                QCoreApplication::translate("OrvanData", "跳过重复的分组%1").arg(group->GetID().toString()));
+            groups.DeleteGroupRecursive(kept);
+            continue;
+        }
+        seen.insert(group->GetID());
+        DropRepeatedGroups(*group->GetSubGroupSet(), seen, report);
+        ++kept;
+    }
+}
+
+} // namespace
+
+TileSetReader::TileSetReader(ReadReport& report) : m_tileReader(*this), m_tiles(kTile, report)
+{}
+
+void TileSetReader::SetTarget(CTileSet* tiles, const QUuid& senderId, int portIndex)
+{
+    m_target = tiles;
+    m_senderId = senderId;
+    m_portIndex = portIndex;
+}
+
+bool TileSetReader::Begin(XmlAttributes& attributes)
+{
+    m_tiles.Start(ReadCount(attributes, kTileCount));
+    return true;
+}
+
+XmlHandler* TileSetReader::Child(std::string_view name)
+{
+    return m_tiles.Expect(name) ? &m_tileReader : nullptr;
+}
+
+bool TileSetReader::TileReader::Begin(XmlAttributes& attributes)
+{
+    TileRecord record;
+    AttributeReader fields(attributes);
+    DescribeTile(fields, record);
+    m_set.m_tiles.Add(MakeTile(record, m_set.m_senderId, m_set.m_portIndex));
+    return true;
+}
+
+void TileSetReader::End()
+{
+    if (m_tiles.GetCount() < 1)
+        return;
+    m_target->DeleteAllTiles();
+    for (std::unique_ptr<CTile>& tile : m_tiles.Take())
+        m_target->AddTile(tile.release());
+    DeriveBeginReceivers(*m_target);
+}
+
+void GroupTreeDeleter::operator()(CTileGroup* group) const
+{
+    group->GetSubGroupSet()->DeleteAll();
+    delete group;
+}
+
+GroupLevelReader::GroupLevelReader(ReadReport& report, int depth, std::function<void(GroupTree)> take)
+    : m_report(report), m_depth(depth), m_take(std::move(take))
+{}
+
+void GroupLevelReader::SetName(std::string_view name)
+{
+    m_prefix.assign(name).push_back('_');
+}
+
+bool GroupLevelReader::Begin(XmlAttributes& attributes)
+{
+    GroupRecord record;
+    m_group.reset(new CTileGroup);
+    if (m_depth > 0) {
+        AttributeReader fields(attributes);
+        DescribeGroup(fields, record);
+        record.rotate.rotated = IsRotationAngle(record.rotate.angle);
+        if (!record.id.isNull())
+            m_group->SetID(record.id);
+        m_group->SetRotateParam(&record.rotate);
+    }
+    m_children = std::make_unique<NumberedChildren<GroupTree>>(m_prefix, m_report);
+    m_children->Start(ReadCount(attributes, kGroupCount));
+    return true;
+}
+
+XmlHandler* GroupLevelReader::Child(std::string_view name)
+{
+    if (!m_children->Expect(name))
+        return nullptr;
+    if (m_depth >= kMaxGroupDepth) {
+        m_report.Add(QCoreApplication::translate("OrvanData", "分组嵌套过深，更深的分组被跳过"));
+        return nullptr;
+    }
+    if (!m_below)
+        m_below = std::make_unique<GroupLevelReader>(
+            m_report, m_depth + 1, [this](GroupTree tree) { m_children->Add(std::move(tree)); });
+    m_below->SetName(name);
+    return m_below.get();
+}
+
+void GroupLevelReader::End()
+{
+    for (GroupTree& child : m_children->Take()) {
+        child->SetParentGroupID(m_depth > 0 ? m_group->GetID() : QUuid());
+        m_group->GetSubGroupSet()->AddGroup(child.release(), true);
+    }
+    m_take(std::move(m_group));
+}
+
+GroupTreeReader::GroupTreeReader(ReadReport& report)
+    : m_report(report), m_top(report, 0, [this](GroupLevelReader::GroupTree tree) { Take(std::move(tree)); })
+{
+    m_top.SetName(kGroup);
+}
+
+void GroupTreeReader::SetTarget(CTileGroupSet* groups)
+{
+    m_target = groups;
+}
+
+void GroupTreeReader::Take(GroupLevelReader::GroupTree tree)
+{
+    CTileGroupSet& groups = *tree->GetSubGroupSet();
+    if (m_top.GetCount() < 1)
+        return;
+    QSet<QUuid> seen;
+    DropRepeatedGroups(groups, seen, m_report);
+    m_target->DeleteAll();
+    m_target->AddFromOther(groups);
+    groups.RemoveAll();
+}
+
+PortReader::PortReader(ReadReport& report) : m_tiles(report), m_groups(report), m_report(report)
+{}
+
+void PortReader::SetTarget(CPort* port, const QUuid& senderId, int portIndex, bool keepLocked)
+{
+    m_target = keepLocked && port->IsFlagLock() ? nullptr : port;
+    m_senderId = senderId;
+    m_portIndex = portIndex;
+}
+
+bool PortReader::Begin(XmlAttributes& attributes)
+{
+    m_record = PortRecord();
+    AttributeReader fields(attributes);
+    DescribePort(fields, m_record);
+    if (!m_target)
+        return true;
+    m_tiles.SetTarget(m_target->GetPortProject()->GetTileSet(), m_senderId, m_portIndex);
+    m_groups.SetTarget(m_target->GetPortProject()->GetTileGroupSet());
+    return true;
+}
+
+XmlHandler* PortReader::Child(std::string_view name)
+{
+    if (!m_target)
+        return nullptr;
+    if (name == kTiles)
+        return &m_tiles;
+    if (name == kGroups)
+        return &m_groups;
+    m_report.AddElement(name);
+    return nullptr;
+}
+
+void PortReader::End()
+{
+    if (m_target)
+        ApplyRecord(m_record, m_senderId, m_portIndex, *m_target);
+}
+
+SenderReader::SenderReader(ReadReport& report) : m_ports(kPort, report), m_portReader(report)
+{}
+
+void SenderReader::SetTarget(CSender* sender, SenderParts parts, bool keepLocked)
+{
+    m_target = sender;
+    m_parts = parts;
+    m_keepLocked = keepLocked;
+}
+
+bool SenderReader::Begin(XmlAttributes& attributes)
+{
+    SenderRecord record;
+    AttributeReader fields(attributes);
+    DescribeSender(fields, record);
+    if (m_parts == SenderParts::Project)
+        m_target->SetId(m_idRule ? m_idRule(record.id) : record.id);
+    ApplyRecord(record, m_parts, *m_target);
+    m_ports.Start(m_target->GetPortCount());
+    m_seen.fill(false);
+    return true;
+}
+
+XmlHandler* SenderReader::Child(std::string_view name)
+{
+    if (!m_ports.Expect(name))
+        return nullptr;
+    const int port = m_ports.GetNumber() - 1;
+    if (m_seen[static_cast<size_t>(port)])
+        return nullptr;
+    m_seen[static_cast<size_t>(port)] = true;
+    m_ports.Add(port);
+    m_portReader.SetTarget(m_target->GetPort(port), m_target->GetId(), port, m_keepLocked);
+    return &m_portReader;
+}
+
+void SenderReader::End()
+{
+    m_ports.Take();
+    if (m_done)
+        m_done();
+}
+
+SenderLayoutReader::SenderLayoutReader(ReadReport& report, std::function<void(Senders)> take,
+                                       std::function<void(int)> progress)
+    : m_take(std::move(take)), m_progress(std::move(progress)), m_senders(kSender, report),
+      m_senderReader(report)
+{
+    m_senderReader.SetIdRule([this](const QUuid& fileId) { return UniqueId(fileId); });
+    m_senderReader.SetDone([this] { TakeSender(); });
+}
+
+SenderLayoutReader::~SenderLayoutReader() = default;
+
+bool SenderLayoutReader::Begin(XmlAttributes& attributes)
+{
+    m_senders.Start(ReadCount(attributes, kSenderCount));
+    return true;
+}
+
+XmlHandler* SenderLayoutReader::Child(std::string_view name)
+{
+    if (!m_senders.Expect(name))
+        return nullptr;
+    m_current = std::make_unique<CSender>();
+    m_senderReader.SetTarget(m_current.get(), SenderParts::Project, false);
+    return &m_senderReader;
+}
+
+void SenderLayoutReader::TakeSender()
+{
+    m_senders.Add(std::move(m_current));
+    ++m_done;
+    if (m_progress)
+        m_progress(static_cast<int>(qint64(100) * m_done / m_senders.GetCount()));
+}
+
+QUuid SenderLayoutReader::UniqueId(const QUuid& fileId)
+{
+    const QUuid id = fileId.isNull() || m_ids.contains(fileId) ? QUuid::createUuid() : fileId;
+    m_ids.insert(id);
+    return id;
+}
+
+void SenderLayoutReader::End()
+{
+    m_take(m_senders.Take());
+}

@@ -1,0 +1,190 @@
+#pragma once
+
+#include "common/xmlreader.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
+#include "project/layoutrecords.h"
+#include "project/numberedchildren.h"
+#include "project/readreport.h"
+
+#include <QSet>
+#include <QUuid>
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class CPort;
+class CSender;
+class CTileGroupSet;
+class CTileSet;
+
+// Readers of the layout elements, for a stream and for a DOM tree alike. They fill what they are told to fill
+// when their element ends, and say in the report what they passed over.
+
+/// The cabinets of one port.
+class TileSetReader : public XmlHandler
+{
+public:
+    explicit TileSetReader(ReadReport& report); ///< [ref]
+
+    /// [ref] A null sender id or a port of -1 takes what the file says. A count below 1 leaves the set as it
+    /// is.
+    void SetTarget(CTileSet* tiles, const QUuid& senderId, int portIndex);
+
+    bool Begin(XmlAttributes& attributes) override;
+    XmlHandler* Child(std::string_view name) override;
+    void End() override;
+
+private:
+    class TileReader : public XmlHandler
+    {
+    public:
+        explicit TileReader(TileSetReader& set) : m_set(set) {}
+        bool Begin(XmlAttributes& attributes) override;
+
+    private:
+        TileSetReader& m_set;
+    };
+
+    CTileSet* m_target = nullptr;
+    QUuid m_senderId;
+    int m_portIndex = -1;
+    TileReader m_tileReader;
+    NumberedChildren<std::unique_ptr<CTile>> m_tiles;
+};
+
+/// Frees a group with all below it.
+struct GroupTreeDeleter
+{
+    void operator()(CTileGroup* group) const;
+};
+
+/// One level of a group tree: the element of a group, or the one above all groups.
+class GroupLevelReader : public XmlHandler
+{
+public:
+    using GroupTree = std::unique_ptr<CTileGroup, GroupTreeDeleter>;
+
+    GroupLevelReader(ReadReport& report, int depth, std::function<void(GroupTree)> take);
+
+    int GetCount() const { return m_children->GetCount(); } ///< what the element states
+    void SetName(std::string_view name); ///< the element's own; its children's names begin with it
+
+    bool Begin(XmlAttributes& attributes) override;
+    XmlHandler* Child(std::string_view name) override;
+    void End() override;
+
+private:
+    ReadReport& m_report;
+    int m_depth;
+    std::function<void(GroupTree)> m_take;
+    std::string m_prefix;
+    GroupTree m_group;
+    std::unique_ptr<NumberedChildren<GroupTree>> m_children;
+    std::unique_ptr<GroupLevelReader> m_below;
+};
+
+/// The group tree of one port.
+class GroupTreeReader : public XmlHandler
+{
+public:
+    explicit GroupTreeReader(ReadReport& report); ///< [ref]
+
+    void SetTarget(CTileGroupSet* groups); ///< [ref] left as it is when the count is below 1
+    void SetNames(std::string_view prefix) { m_top.SetName(prefix); } ///< of the groups' elements
+
+    bool Begin(XmlAttributes& attributes) override { return m_top.Begin(attributes); }
+    XmlHandler* Child(std::string_view name) override { return m_top.Child(name); }
+    void End() override { m_top.End(); }
+
+private:
+    void Take(GroupLevelReader::GroupTree tree);
+
+    ReadReport& m_report;
+    CTileGroupSet* m_target = nullptr;
+    GroupLevelReader m_top;
+};
+
+/// One port with its layout.
+class PortReader : public XmlHandler
+{
+public:
+    explicit PortReader(ReadReport& report); ///< [ref]
+
+    /// [ref] With `keepLocked` a locked port is passed over.
+    void SetTarget(CPort* port, const QUuid& senderId, int portIndex, bool keepLocked);
+
+    bool Begin(XmlAttributes& attributes) override;
+    XmlHandler* Child(std::string_view name) override;
+    void End() override;
+
+private:
+    CPort* m_target = nullptr; ///< null while a locked port is passed over
+    QUuid m_senderId;
+    int m_portIndex = 0;
+    PortRecord m_record;
+    TileSetReader m_tiles;
+    GroupTreeReader m_groups;
+    ReadReport& m_report;
+};
+
+/// One sender with its ports, into a sender that exists.
+class SenderReader : public XmlHandler
+{
+public:
+    explicit SenderReader(ReadReport& report); ///< [ref]
+
+    void SetTarget(CSender* sender, SenderParts parts, bool keepLocked); ///< [ref]
+
+    /// Decides the id of a sender read whole; without one the file's id is taken.
+    void SetIdRule(std::function<QUuid(const QUuid& fileId)> rule) { m_idRule = std::move(rule); }
+
+    /// [keep] What takes a sender read whole, when its element ends.
+    void SetDone(std::function<void()> done) { m_done = std::move(done); }
+
+    bool Begin(XmlAttributes& attributes) override;
+    XmlHandler* Child(std::string_view name) override;
+    void End() override;
+
+private:
+    CSender* m_target = nullptr;
+    SenderParts m_parts = SenderParts::Project;
+    bool m_keepLocked = false;
+    std::function<QUuid(const QUuid&)> m_idRule;
+    std::function<void()> m_done;
+    std::array<bool, kMaxPorts> m_seen{};
+    NumberedChildren<int> m_ports;
+    PortReader m_portReader;
+};
+
+/// All senders of a project.
+class SenderLayoutReader : public XmlHandler
+{
+public:
+    using Senders = std::vector<std::unique_ptr<CSender>>;
+
+    /// [ref] `take` receives the senders when the element ends, `progress` (may be empty) percents on the
+    /// way.
+    SenderLayoutReader(ReadReport& report, std::function<void(Senders)> take,
+                       std::function<void(int)> progress);
+    ~SenderLayoutReader() override;
+
+    bool Begin(XmlAttributes& attributes) override;
+    XmlHandler* Child(std::string_view name) override;
+    void End() override;
+
+private:
+    void TakeSender();
+    QUuid UniqueId(const QUuid& fileId);
+
+    std::function<void(Senders)> m_take;
+    std::function<void(int)> m_progress;
+    std::unique_ptr<CSender> m_current;
+    QSet<QUuid> m_ids;
+    int m_done = 0;
+    NumberedChildren<std::unique_ptr<CSender>> m_senders;
+    SenderReader m_senderReader;
+};

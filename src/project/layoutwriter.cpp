@@ -1,0 +1,90 @@
+#include "project/layoutwriter.h"
+
+#include "layout/sender.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
+#include "project/layoutrecords.h"
+
+using namespace layoutnames;
+
+namespace {
+
+std::string Numbered(std::string_view prefix, int number)
+{
+    return std::string(prefix) + std::to_string(number);
+}
+
+} // namespace
+
+void WriteTiles(XmlWriter& writer, std::string_view name, const CTileSet& tiles)
+{
+    writer.BeginElement(name);
+    AttributeWriter fields(writer);
+    fields.Field(kTileCount, tiles.GetCount());
+    for (int i = 0; i < tiles.GetCount(); ++i) {
+        writer.BeginElement(Numbered(kTile, i + 1));
+        const TileRecord record = RecordOf(*tiles.GetTile(i));
+        DescribeTile(fields, record);
+        writer.EndElement();
+    }
+    writer.EndElement();
+}
+
+void WriteGroups(XmlWriter& writer, std::string_view name, const CTileGroupSet& groups)
+{
+    writer.BeginElement(name);
+    WriteGroupLevel(writer, kGroup, groups, 1);
+    writer.EndElement();
+}
+
+void WriteGroupLevel(XmlWriter& writer, const std::string& prefix, const CTileGroupSet& groups, int depth)
+{
+    const int count = depth > kMaxGroupDepth ? 0 : groups.GetDirectCount();
+    AttributeWriter fields(writer);
+    fields.Field(kGroupCount, count);
+    for (int i = 0; i < count; ++i) {
+        const CTileGroup& group = *groups.GetDirectGroupByDirIndex(i);
+        const std::string name = Numbered(prefix + '_', i + 1);
+        writer.BeginElement(name);
+        const GroupRecord record = RecordOf(group);
+        DescribeGroup(fields, record);
+        WriteGroupLevel(writer, name, *group.GetSubGroupSet(), depth + 1);
+        writer.EndElement();
+    }
+}
+
+void WritePortElement(XmlWriter& writer, std::string_view name, const CPort& port)
+{
+    writer.BeginElement(name);
+    AttributeWriter fields(writer);
+    const PortRecord record = RecordOf(port);
+    DescribePort(fields, record);
+    WriteTiles(writer, kTiles, *port.GetPortProject()->GetTileSet());
+    WriteGroups(writer, kGroups, *port.GetPortProject()->GetTileGroupSet());
+    writer.EndElement();
+}
+
+void WriteSenderElement(XmlWriter& writer, std::string_view name, const CSender& sender, bool withDevice)
+{
+    writer.BeginElement(name);
+    AttributeWriter fields(writer);
+    const SenderRecord record = RecordOf(sender);
+    if (withDevice)
+        DescribeSenderDevice(fields, record);
+    DescribeSender(fields, record);
+    for (int i = 0; i < sender.GetPortCount(); ++i)
+        WritePortElement(writer, Numbered(kPort, i + 1), *sender.GetPort(i));
+    writer.EndElement();
+}
+
+void WriteSenders(XmlWriter& writer, const QList<CSender*>& senders, const std::function<void(int)>& progress)
+{
+    writer.BeginElement(kSenderLayout);
+    AttributeWriter(writer).Field(kSenderCount, senders.size());
+    for (int i = 0; i < senders.size(); ++i) {
+        WriteSenderElement(writer, Numbered(kSender, i + 1), *senders[i], true);
+        if (progress)
+            progress(static_cast<int>(qint64(100) * (i + 1) / senders.size()));
+    }
+    writer.EndElement();
+}

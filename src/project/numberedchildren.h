@@ -1,0 +1,84 @@
+#pragma once
+
+#include "common/xmlreader.h"
+#include "project/readreport.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <charconv>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+/// The numbered children of an element ("Tile_1", "Tile_2" …), collected as they come and given out by their
+/// numbers: the first of equal ones, and none beyond the count that the element states.
+template <class Item> class NumberedChildren
+{
+public:
+    NumberedChildren(std::string prefix, ReadReport& report) : m_prefix(std::move(prefix)), m_report(report)
+    {}
+
+    void Start(int count)
+    {
+        m_count = std::max(count, 0);
+        m_items.clear();
+    }
+    int GetCount() const { return m_count; }
+
+    /// Whether a child of this name is wanted; its number is that of the next item added.
+    bool Expect(std::string_view name)
+    {
+        if (name.substr(0, m_prefix.size()) != m_prefix)
+            return Skip(name);
+        const std::string_view digits = name.substr(m_prefix.size());
+        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), m_number);
+        const bool isNumber =
+            error == std::errc() && end == digits.data() + digits.size() && digits[0] != '0';
+        return (isNumber && m_number >= 1 && m_number <= m_count) || Skip(name);
+    }
+
+    int GetNumber() const { return m_number; } ///< of the child last expected
+
+    void Add(Item item) { m_items.emplace_back(m_number, std::move(item)); }
+
+    /// The items in the order of their numbers.
+    std::vector<Item> Take()
+    {
+        const auto before = [](const auto& a, const auto& b) { return a.first < b.first; };
+        const auto equal = [](const auto& a, const auto& b) { return a.first == b.first; };
+        if (!std::is_sorted(m_items.begin(), m_items.end(), before))
+            std::stable_sort(m_items.begin(), m_items.end(), before);
+        m_items.erase(std::unique(m_items.begin(), m_items.end(), equal), m_items.end());
+        if (static_cast<int>(m_items.size()) < m_count)
+            ReportMissing();
+
+        std::vector<Item> items;
+        items.reserve(m_items.size());
+        for (auto& numbered : m_items)
+            items.push_back(std::move(numbered.second));
+        m_items.clear();
+        return items;
+    }
+
+private:
+    bool Skip(std::string_view name)
+    {
+        m_report.AddElement(name);
+        return false;
+    }
+
+    void ReportMissing()
+    {
+        m_report.Add(QCoreApplication::translate("OrvanData", "“%1”应有%2个，实有%3个")
+                         .arg(QString::fromStdString(m_prefix), QString::number(m_count),
+                              QString::number(m_items.size())));
+    }
+
+    std::string m_prefix;
+    ReadReport& m_report;
+    int m_count = 0;
+    int m_number = 0;
+    std::vector<std::pair<int, Item>> m_items;
+};

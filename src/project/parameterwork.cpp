@@ -1,0 +1,139 @@
+#include "project/parameterwork.h"
+
+#include "products/productdirectoryset.h"
+#include "project/readreport.h"
+#include "settings/constantdata.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace parameterwork {
+
+namespace {
+
+QString NumberedPath(int row)
+{
+    return ProjectFolder() + QString::number(row) + QStringLiteral(".rcvbp");
+}
+
+bool IsThere(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+bool HoldsType(const QString& path, const SMD5& type)
+{
+    const QFileInfo info(path);
+    return info.isFile() && !info.isSymLink() && !type.IsNull()
+           && CConstantData::GetMD5FromFile(path) == type;
+}
+
+bool Replace(const QString& source, const QString& target)
+{
+    if (IsThere(target) && !QFile::remove(target))
+        return false;
+    return QFile::copy(source, target);
+}
+
+/// Where the row's file is taken from when it is packed.
+QString SourceOf(const SParameterFileInfo& row, const CProductDirectorySet* products)
+{
+    const QString own = PathOf(row.name);
+    if (HoldsType(own, row.type))
+        return own;
+    const QString library = LibraryFile(products, row.type);
+    return library.isEmpty() ? own : library;
+}
+
+/// A product is told by its digest: the library keeps the file it has, and never loses one to another's name.
+void OfferToLibrary(const QString& source, const SParameterFileInfo& row, CProductDirectorySet* products)
+{
+    const QString target = CProductDirectorySet::GetRootDir() + row.name + QStringLiteral(".rcvbp");
+    if (!IsThere(target) && !products->FindProductFromGuid(CConstantData::GetMD5FromFile(source)))
+        QFile::copy(source, target);
+}
+
+void ReportMissing(const SParameterFileInfo& row, ReadReport& report)
+{
+    report.Add(QCoreApplication::translate("OrvanData", "缺少参数文件“%1”").arg(row.name));
+}
+
+} // namespace
+
+QString ProjectFolder()
+{
+    return CConstantData::GetProjectParamFileTemp() + QStringLiteral("project/");
+}
+
+QString DocumentPath()
+{
+    return ProjectFolder() + QStringLiteral("new.prj");
+}
+
+QString LockPath()
+{
+    QString folder = CConstantData::GetProjectParamFileTemp();
+    folder.chop(1);
+    return folder + QStringLiteral(".lock");
+}
+
+QString PathOf(const QString& name)
+{
+    return CConstantData::GetProjectParamFileTemp() + name + QStringLiteral(".rcvbp");
+}
+
+QString LibraryFile(const CProductDirectorySet* products, const SMD5& type)
+{
+    QString path;
+    if (products && !type.IsNull())
+        products->GetProductAbsolutePath(type, path);
+    return path;
+}
+
+bool Store(const QString& source, const QString& name, const SMD5& type)
+{
+    const QString target = PathOf(name);
+    return HoldsType(target, type) || Replace(source, target);
+}
+
+void ClearNumbered()
+{
+    static const QRegularExpression ours(QStringLiteral("^([0-9]+\\.rcvbp|new\\.prj)$"));
+    QDir folder(ProjectFolder());
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))
+        if (ours.match(name).hasMatch())
+            folder.remove(name);
+}
+
+void CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
+                      ReadReport& report)
+{
+    for (int i = 0; i < rows.size(); ++i)
+        if (!QFile::copy(SourceOf(rows[i], products), NumberedPath(i)))
+            ReportMissing(rows[i], report);
+}
+
+void DistributeAfterLoading(const QList<SParameterFileInfo>& rows, CProductDirectorySet* products,
+                            ReadReport& report)
+{
+    for (int i = 0; i < rows.size(); ++i) {
+        const QString source = NumberedPath(i);
+        if (!IsThere(source)) {
+            ReportMissing(rows[i], report);
+            continue;
+        }
+        if (rows[i].name.isEmpty()) // a repeated type, listed once under another row
+            continue;
+        Store(source, rows[i].name, rows[i].type);
+        if (products)
+            OfferToLibrary(source, rows[i], products);
+    }
+    if (products)
+        products->LoadProductInfo();
+}
+
+} // namespace parameterwork

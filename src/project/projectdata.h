@@ -1,0 +1,222 @@
+#pragma once
+
+#include "common/export.h"
+#include "common/interfacedlg.h"
+#include "monitor/monitorinterfacedata.h"
+#include "project/projectrecords.h"
+
+#include <QDomDocument>
+#include <QDomElement>
+#include <QList>
+#include <QString>
+#include <QUuid>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class CCustomProgressbar;
+class CPort;
+class CSender;
+class CTileGroupSet;
+class CTileSet;
+class QWidget;
+class ReadReport;
+class XmlWriter;
+struct MonitorRecord;
+struct ProjectContent;
+
+/// One project: senders in display order, sender groups, gamma table, parameter files, print form, demo mode.
+/// Owns its senders. Indices out of range give null, -1, false or an empty text.
+class ORVANDATA_EXPORT CProjectData
+{
+public:
+    CProjectData();
+    CProjectData(const CProjectData& other);
+    ~CProjectData();
+    CProjectData& operator=(const CProjectData& other); ///< CopyProject
+
+    void SetToDefault();                            ///< an empty project with a fresh id
+    void CopyProject(const CProjectData& other);    ///< a deep copy, the id included
+    void SetToSpecified(const CProjectData& other); ///< CopyProject
+
+    QUuid GetID() const;
+    void SetID(const QUuid& id);
+    QString GetDeviceSetName() const;
+    void SetDeviceSetName(const QString& name);
+    QString GetCurProjectName() const;
+    void SetCurProjectName(const QString& name);
+
+    // senders
+    CSender* NewSender();                ///< [ref] appended; current only when it is the first
+    void AddSender(CSender* sender);     ///< [own]
+    CSender* GetSender(int index) const; ///< [ref]
+    int GetSenderCount() const;
+    QList<CSender*> GetSenders() const; ///< [ref]
+    int GetScIndexByID(const QUuid& id) const;
+    void SetCurrentSender(int index);  ///< ignored out of range
+    CSender* GetCurrentSender() const; ///< [ref]
+    int GetCurSenderIndex() const;
+    int GetCurSenderIndexForRtCnnt() const; ///< 0 when the current index names no sender
+    int GetCurPortIndex() const;            ///< the current sender's recent port
+    QString GetSenderName(int index) const;
+    QString GetShowSenderName(int index,
+                              bool numbered) const; ///< "Processor" and the number for a nameless one
+    QString GetPortDescription(int sender, int port) const;
+    void DeleteSender(const QUuid& id);
+    bool DeleteSender(int index, bool ask, bool keepImages, bool selectPrevious, QWidget* parent);
+    bool DeleteSenderBefore(int index, bool ask, QWidget* parent); ///< may it go? Tells the user why not
+    void DeleteAllSender();
+    /// Appends a sender for each address (host-order IPv4) that none has; only while the detection strategy
+    /// is 2.
+    bool UpdateProjectSenders(const QList<unsigned long>& first, const QList<unsigned long>& second);
+    void CancelAllTileSelect(EInterfaceDlg iface);
+    void SelectAllTile(); ///< in the design view
+    bool HasTileRotated() const;
+
+    // backups between senders; self-backups do not count
+    bool IsSenderBackupDest(int sender, int* source) const; ///< `source`: -1 when it is not in the project
+    bool IsSenderBackupSource(int sender, int* dest) const;
+    bool IsSenderSelfPortBackup(int sender) const;
+    /// The sender and port that a port backs up: by id, else by address; -1, -1 and false when there is none.
+    bool MatchSrcBackup(int sender, int port, int& senderOut, int& portOut, bool& found) const;
+
+    // sender groups
+    QUuid AddGroupInfo(const QString& name);
+    void SetGroupName(const QUuid& id, const QString& name);
+    bool GetGroupExpand(const QUuid& id) const;
+    void SetGroupExpand(const QUuid& id, bool expanded);
+    void DeleteSenderGroup(const QUuid& id); ///< its senders belong to none afterwards
+    void GetSendersInGroup(const QUuid& id, QList<QUuid>& senders) const;
+    void GetAllSenderGroup(QList<SSenderGroupInfo>& groups) const;
+    int GetSenderGroupCount() const;
+    QUuid GetSenderGroupID(int index) const;
+    QUuid GetGroupIDBySenderIndex(int sender) const; ///< null when that group does not exist
+
+    // gamma of product types
+    void AddRcvParamGamma(const SMD5& type, float gamma); ///< a type that is there gets the new value
+    void SetRcvParamGamma(const SMD5& type, float gamma); ///< a type that is not there is ignored
+    bool GetRcvParamGamma(const SMD5& type, float* gamma) const;
+    void DeleteRcvParamGamma(const SMD5& type);
+    QList<SRcvParamGamma> GetRcvParamGammas() const;
+
+    // receiver parameter files, kept in the work folder as name + ".rcvbp"
+    /// Copies the product's file and lists it; a type that is listed keeps its row. The name becomes one that
+    /// is safe in a file system and unlike the other rows'.
+    void AddParameterFileInfo(const QString& name, const SMD5& type);
+    void DeleteParameterFileInfo(const SMD5& type);
+    void ExchangeNameByMD5(const SMD5& type, const QString& newName);
+    QList<SParameterFileInfo> GetParameterFiles() const;
+
+    // print form, demo mode
+    SPrintFormData* GetPrintSetData(); ///< [ref]
+    const SPrintFormData* GetPrintSetData() const;
+    bool GetDemoModeEnable() const;
+    void SetDemoModeEnable(bool enable);
+    int GetDemoSenderType() const;
+    void SetDemoSenderType(int type);
+
+    // texts
+    QString GetMailReceiversString() const; ///< "address,name;" a receiver, of the monitoring settings
+    static void SetReceiversFromString(SEmailSetting& setting, const QString& text);
+    QString GetVideoInfoString() const; ///< "slot,sourceType,sourceIndex,enable;" an input, of this project
+    void SetVideoInfoFromString(SSenderSetting& setting, const QString& text); ///< this project's list too
+    QList<SVideoInput> GetVideoInputs() const;
+    void SetVideoInputs(const QList<SVideoInput>& inputs);
+    static QString GetColorStr(int channel);                 ///< name of a colour channel in parameter files
+    static quint32 GetIntFromOctString(const QString& text); ///< host-order IPv4, or a decimal number; else 0
+
+    // project file
+    bool SaveProjectToFile(const QString& path, CCustomProgressbar* progress);
+    /// `error` receives the minimum version of a file that is too new. On failure the project is as it was.
+    bool LoadProjectFromFile(const char* path, QString& error, CCustomProgressbar* progress);
+    QString GetMinVersionSupport() const;
+    QString GetLastFileError() const; ///< why the last file operation did not do all; empty when it did
+
+    // elements of the project file
+    void WriteVersionSupport(QDomDocument document, QDomElement* parent);
+    bool ReadVersionSupport(QDomDocument document, QDomElement* element, QString& error);
+    void WriteDemoModeInfo(QDomDocument document, QDomElement* parent);
+    void ReadDemoModeInfo(QDomDocument document, QDomElement* element);
+    void WriteSenderGroup(QDomDocument document, QDomElement* parent);
+    void ReadSenderGroup(QDomDocument document, QDomElement* element);
+    void WriteTileGamma(QDomDocument document, QDomElement* parent);
+    void ReadTileGamma(QDomDocument document, QDomElement* element);
+    void WritePrintData(QDomDocument document, QDomElement* parent);
+    void ReadPrintData(QDomDocument document, QDomElement* element);
+    void WriteMonitorSet(QDomDocument document, QDomElement* parent);
+    void ReadMonitorSet(QDomDocument document, QDomElement* element);
+    void WriteParameterFileInfo(QDomDocument document, QDomElement* parent);
+    void ReadParameterFileInfo(QDomDocument document, QDomElement* element);
+
+    // elements of the layout
+    void WriteSender(QDomDocument document, QDomElement* parent, CCustomProgressbar* progress);
+    bool ReadSender(QDomDocument document, QDomElement* element, QString& error,
+                    CCustomProgressbar* progress);
+    void WriteSingleSender(QDomDocument document, QDomElement* parent, CSender* sender);
+    /// The sender keeps its identity and takes `newId` as its id; `attributes`: also how it is named and
+    /// shown.
+    void ReadSingleSender(QDomDocument document, QDomElement* element, CSender* sender, const QUuid& newId,
+                          bool keepLockedPorts, bool attributes);
+    void WritePort(QDomDocument document, const QString& name, CPort* port, QDomElement* parent);
+    /// True when the element is there; a locked port stays untouched when `keepLocked` is set.
+    bool ReadPort(QDomDocument document, const QString& name, CPort* port, QDomElement* element,
+                  const QUuid& senderId, int portIndex, bool keepLocked);
+    void WriteTileSet(QDomDocument document, const QString& name, CTileSet* tiles, QDomElement* parent);
+    void ReadTileSet(QDomDocument document, const QString& name, CTileSet* tiles, QDomElement* element,
+                     const QUuid& senderId, int portIndex);
+    void WriteTileGroupSet(QDomDocument document, const QString& name, CTileGroupSet* groups,
+                           QDomElement* parent);
+    void ReadTileGroupSet(QDomDocument document, const QString& name, CTileSet* tiles, CTileGroupSet* groups,
+                          QDomElement* element);
+    /// One level of the tree below an element, whose groups are named `prefix` + "_1" and so on.
+    void WriteSubTileGroup(QDomDocument document, const QString& prefix, CTileGroupSet* groups,
+                           QDomElement* element);
+    void ReadSubTileGroup(QDomDocument document, const QString& prefix, CTileSet* tiles,
+                          CTileGroupSet* groups, QDomElement* element, const QUuid& parentId);
+    static bool GetSubNode(QDomElement* element, const QString& name, QDomNode& node);
+    static void InsertChildNode(QDomDocument document, QDomElement* parent, const QString& name,
+                                const QString& text);
+    static void InsertNodeAttribute(QDomElement* element, const QString& name, const QString& value);
+
+private:
+    bool IsOpenDocument() const;
+    void MarkModified() const;
+    void RestartHistory() const;
+    void RemoveSenderAt(int index);
+    void DestroySenders();
+    void ClearLists();
+    int FindSourceOf(const CPort& port) const;
+    SSenderGroupInfo* FindGroup(const QUuid& id);
+    CSender* AppendDetectedSender(unsigned long ip);
+    void RenameSenderImages(int deleted, int countBefore, bool keepImages) const;
+
+    int FindParameterFile(const SMD5& type) const;
+    QStringList ParameterFileNames(int except) const;
+    /// Takes a file's list, a type once; the rows by the file's numbers, nameless where a type was repeated.
+    QList<SParameterFileInfo> TakeParameterFiles(const QList<SParameterFileInfo>& files);
+
+    MonitorRecord MakeMonitorRecord() const;
+    void TakeMonitorRecord(const MonitorRecord& record);
+    void WriteDocument(XmlWriter& writer, CCustomProgressbar* progress) const;
+    bool SaveDocument(CCustomProgressbar* progress);
+    bool LoadArchive(const QString& path, QString& version, CCustomProgressbar* progress);
+    bool LoadDocument(const QString& path, QString& version, CCustomProgressbar* progress,
+                      const std::function<void(const QList<SParameterFileInfo>&, ReadReport&)>& distribute);
+    QList<SParameterFileInfo> TakeContent(ProjectContent& content);
+    void TakeSenders(std::vector<std::unique_ptr<CSender>> senders);
+    bool FailFile(const QString& why);
+
+    QUuid m_id;
+    QString m_deviceSetName;
+    QString m_projectName;
+    QList<CSender*> m_senders;
+    int m_currentSender = -1;
+    QList<SSenderGroupInfo> m_groups;
+    QList<SRcvParamGamma> m_gamma;
+    QList<SParameterFileInfo> m_parameterFiles;
+    SPrintFormData m_print;
+    SDemoMode m_demo;
+    QList<SVideoInput> m_videoInputs;
+    QString m_lastFileError;
+};

@@ -1,0 +1,278 @@
+// The members that write one element into a DOM tree or read one from it: the same readers and writers that
+// the project file goes through, run over a tree.
+#include "common/xmlwriter.h"
+#include "layout/sender.h"
+#include "layout/tilegroup.h"
+#include "project/layoutwriter.h"
+#include "project/projectdata.h"
+#include "project/projectreader.h"
+
+#include "customprogressbar.h"
+
+namespace {
+
+template <class Write> void WriteInto(const QDomDocument& document, const QDomElement* parent, Write write)
+{
+    if (!parent)
+        return;
+    DomXmlWriter writer(document, *parent);
+    write(writer);
+}
+
+bool ReadFrom(const QDomElement* element, XmlHandler& reader)
+{
+    return element && !element->isNull() && WalkDom(*element, reader) == XmlResult::Done;
+}
+
+template <class Record>
+void ReadRecord(const QDomElement* element, Record& record, void (*describe)(AttributeReader&, Record&))
+{
+    LeafReader reader([&record, describe](XmlAttributes& attributes) {
+        AttributeReader fields(attributes);
+        describe(fields, record);
+        return true;
+    });
+    ReadFrom(element, reader);
+}
+
+template <class Record> QList<Record> ReadList(const QDomElement* element, const ListFormat<Record>& format)
+{
+    ReadReport report;
+    QList<Record> list;
+    ListReader<Record> reader(format, report, [&list](QList<Record> read) { list = std::move(read); });
+    ReadFrom(element, reader);
+    return list;
+}
+
+/// The element itself when it has the name, else its first child of that name.
+QDomElement Named(const QDomElement* element, const QString& name)
+{
+    if (!element || element->tagName() == name)
+        return element ? *element : QDomElement();
+    return element->firstChildElement(name);
+}
+
+std::string Utf8(const QString& text)
+{
+    return text.toStdString();
+}
+
+} // namespace
+
+void CProjectData::WriteVersionSupport(QDomDocument document, QDomElement* parent)
+{
+    WriteInto(document, parent, [this](XmlWriter& writer) {
+        WriteVersion(writer, {GetMinVersionSupport(), QString::fromLatin1(kFileVersion).toDouble()});
+    });
+}
+
+bool CProjectData::ReadVersionSupport(QDomDocument, QDomElement* element, QString& error)
+{
+    VersionRecord version;
+    ReadRecord<VersionRecord>(element, version, DescribeVersion);
+    if (IsVersionReadable(version.minimum))
+        return true;
+    error = version.minimum;
+    return false;
+}
+
+void CProjectData::WriteDemoModeInfo(QDomDocument document, QDomElement* parent)
+{
+    WriteInto(document, parent, [this](XmlWriter& writer) { WriteDemoMode(writer, m_demo); });
+}
+
+void CProjectData::ReadDemoModeInfo(QDomDocument, QDomElement* element)
+{
+    ReadRecord<SDemoMode>(element, m_demo, DescribeDemoMode);
+}
+
+void CProjectData::WriteSenderGroup(QDomDocument document, QDomElement* parent)
+{
+    WriteInto(document, parent, [this](XmlWriter& writer) { WriteList(writer, kSenderGroupList, m_groups); });
+}
+
+void CProjectData::ReadSenderGroup(QDomDocument, QDomElement* element)
+{
+    m_groups = ReadList(element, kSenderGroupList);
+}
+
+void CProjectData::WriteTileGamma(QDomDocument document, QDomElement* parent)
+{
+    WriteInto(document, parent, [this](XmlWriter& writer) { WriteList(writer, kGammaList, m_gamma); });
+}
+
+void CProjectData::ReadTileGamma(QDomDocument, QDomElement* element)
+{
+    m_gamma = ReadList(element, kGammaList);
+}
+
+void CProjectData::WritePrintData(QDomDocument document, QDomElement* parent)
+{
+    WriteInto(document, parent, [this](XmlWriter& writer) { WritePrintForm(writer, m_print); });
+}
+
+void CProjectData::ReadPrintData(QDomDocument, QDomElement* element)
+{
+    ReadRecord<SPrintFormData>(element, m_print, DescribePrintForm);
+}
+
+void CProjectData::WriteMonitorSet(QDomDocument document, QDomElement* parent)
+{
+    WriteInto(document, parent, [this](XmlWriter& writer) { WriteMonitor(writer, MakeMonitorRecord()); });
+}
+
+void CProjectData::ReadMonitorSet(QDomDocument, QDomElement* element)
+{
+    MonitorRecord record;
+    ReadRecord<MonitorRecord>(element, record, DescribeMonitor);
+    TakeMonitorRecord(record);
+}
+
+void CProjectData::WriteParameterFileInfo(QDomDocument document, QDomElement* parent)
+{
+    WriteInto(document, parent,
+              [this](XmlWriter& writer) { WriteList(writer, kParameterFileList, m_parameterFiles); });
+}
+
+void CProjectData::ReadParameterFileInfo(QDomDocument, QDomElement* element)
+{
+    TakeParameterFiles(ReadList(element, kParameterFileList));
+}
+
+void CProjectData::WriteSender(QDomDocument document, QDomElement* parent, CCustomProgressbar* progress)
+{
+    WriteInto(document, parent, [this, progress](XmlWriter& writer) {
+        WriteSenders(writer, m_senders,
+                     progress ? [progress](int percent) { progress->SetValue(percent); }
+                              : std::function<void(int)>());
+    });
+}
+
+bool CProjectData::ReadSender(QDomDocument, QDomElement* element, QString&, CCustomProgressbar* progress)
+{
+    ReadReport report;
+    SenderLayoutReader reader(
+        report, [this](SenderLayoutReader::Senders senders) { TakeSenders(std::move(senders)); },
+        progress ? [progress](int percent) { progress->SetValue(percent); } : std::function<void(int)>());
+    ReadFrom(element, reader);
+    return true;
+}
+
+void CProjectData::WriteSingleSender(QDomDocument document, QDomElement* parent, CSender* sender)
+{
+    WriteInto(document, sender ? parent : nullptr, [sender](XmlWriter& writer) {
+        WriteSenderElement(writer, layoutnames::kSenderLayout, *sender, false);
+    });
+}
+
+void CProjectData::ReadSingleSender(QDomDocument, QDomElement* element, CSender* sender, const QUuid& newId,
+                                    bool keepLockedPorts, bool attributes)
+{
+    if (!element || !sender)
+        return;
+    sender->SetId(newId);
+    ReadReport report;
+    SenderReader reader(report);
+    reader.SetTarget(sender, attributes ? SenderParts::LayoutAndView : SenderParts::LayoutOnly,
+                     keepLockedPorts);
+    ReadFrom(element, reader);
+}
+
+void CProjectData::WritePort(QDomDocument document, const QString& name, CPort* port, QDomElement* parent)
+{
+    WriteInto(document, port ? parent : nullptr,
+              [&name, port](XmlWriter& writer) { WritePortElement(writer, Utf8(name), *port); });
+}
+
+bool CProjectData::ReadPort(QDomDocument, const QString& name, CPort* port, QDomElement* element,
+                            const QUuid& senderId, int portIndex, bool keepLocked)
+{
+    const QDomElement found = Named(element, name);
+    if (found.isNull() || !port)
+        return false;
+    ReadReport report;
+    PortReader reader(report);
+    reader.SetTarget(port, senderId, portIndex, keepLocked);
+    return ReadFrom(&found, reader);
+}
+
+void CProjectData::WriteTileSet(QDomDocument document, const QString& name, CTileSet* tiles,
+                                QDomElement* parent)
+{
+    WriteInto(document, tiles ? parent : nullptr,
+              [&name, tiles](XmlWriter& writer) { WriteTiles(writer, Utf8(name), *tiles); });
+}
+
+void CProjectData::ReadTileSet(QDomDocument, const QString& name, CTileSet* tiles, QDomElement* element,
+                               const QUuid& senderId, int portIndex)
+{
+    const QDomElement found = Named(element, name);
+    if (!tiles)
+        return;
+    ReadReport report;
+    TileSetReader reader(report);
+    reader.SetTarget(tiles, senderId, portIndex);
+    ReadFrom(&found, reader);
+}
+
+void CProjectData::WriteTileGroupSet(QDomDocument document, const QString& name, CTileGroupSet* groups,
+                                     QDomElement* parent)
+{
+    WriteInto(document, groups ? parent : nullptr,
+              [&name, groups](XmlWriter& writer) { WriteGroups(writer, Utf8(name), *groups); });
+}
+
+void CProjectData::ReadTileGroupSet(QDomDocument document, const QString& name, CTileSet* tiles,
+                                    CTileGroupSet* groups, QDomElement* element)
+{
+    QDomElement found = Named(element, name);
+    ReadSubTileGroup(document, QString::fromLatin1(layoutnames::kGroup), tiles, groups, &found, QUuid());
+}
+
+void CProjectData::WriteSubTileGroup(QDomDocument document, const QString& prefix, CTileGroupSet* groups,
+                                     QDomElement* element)
+{
+    WriteInto(document, groups ? element : nullptr,
+              [&prefix, groups](XmlWriter& writer) { WriteGroupLevel(writer, Utf8(prefix), *groups, 1); });
+}
+
+void CProjectData::ReadSubTileGroup(QDomDocument, const QString& prefix, CTileSet*, CTileGroupSet* groups,
+                                    QDomElement* element, const QUuid& parentId)
+{
+    if (!groups)
+        return;
+    ReadReport report;
+    GroupTreeReader reader(report);
+    reader.SetTarget(groups);
+    reader.SetNames(Utf8(prefix));
+    if (!ReadFrom(element, reader) || parentId.isNull())
+        return;
+    for (int i = 0; i < groups->GetDirectCount(); ++i)
+        groups->GetDirectGroupByDirIndex(i)->SetParentGroupID(parentId);
+}
+
+bool CProjectData::GetSubNode(QDomElement* element, const QString& name, QDomNode& node)
+{
+    if (!element)
+        return false;
+    node = element->namedItem(name);
+    return !node.isNull();
+}
+
+void CProjectData::InsertChildNode(QDomDocument document, QDomElement* parent, const QString& name,
+                                   const QString& text)
+{
+    WriteInto(document, parent, [&name, &text](XmlWriter& writer) {
+        writer.BeginElement(Utf8(name));
+        std::string content;
+        fieldtext::Append(content, text);
+        writer.Text(content);
+        writer.EndElement();
+    });
+}
+
+void CProjectData::InsertNodeAttribute(QDomElement* element, const QString& name, const QString& value)
+{
+    if (element)
+        element->setAttribute(name, value);
+}

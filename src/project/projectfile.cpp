@@ -1,0 +1,251 @@
+// The project file: saving to an archive, loading from an archive or a bare document.
+#include "common/xmlwriter.h"
+#include "layout/sender.h"
+#include "layout/tile.h"
+#include "monitor/monitordata.h"
+#include "products/productdirectoryset.h"
+#include "project/layoutwriter.h"
+#include "project/parameterwork.h"
+#include "project/projectdata.h"
+#include "project/projectlookup.h"
+#include "project/projectreader.h"
+#include "settings/archive.h"
+#include "settings/constantdata.h"
+
+#include "customprogressbar.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+
+namespace {
+
+constexpr int kLockTimeout = 30000; ///< milliseconds
+
+QString Tr(const char* text)
+{
+    return QCoreApplication::translate("OrvanData", text);
+}
+
+std::function<void(int)> Reports(CCustomProgressbar* progress)
+{
+    if (!progress)
+        return {};
+    return [progress](int percent) { progress->SetValue(percent); };
+}
+
+/// Makes the folder that is packed, in the place of a file of that name if there is one.
+bool MakeProjectFolder()
+{
+    QString path = parameterwork::ProjectFolder();
+    if (QFileInfo(path.chopped(1)).isFile())
+        QFile::remove(path.chopped(1));
+    return QDir().mkpath(path);
+}
+
+} // namespace
+
+bool CProjectData::FailFile(const QString& why)
+{
+    m_lastFileError = why;
+    return false;
+}
+
+QString CProjectData::GetLastFileError() const
+{
+    return m_lastFileError;
+}
+
+bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* progress)
+{
+    m_lastFileError.clear();
+    QLockFile lock(parameterwork::LockPath());
+    if (!lock.tryLock(kLockTimeout))
+        return FailFile(Tr("另一个程序正在使用项目工作文件夹。"));
+    if (!MakeProjectFolder())
+        return FailFile(Tr("无法创建项目工作文件夹。"));
+    parameterwork::ClearNumbered();
+    if (!SaveDocument(progress))
+        return false;
+
+    ReadReport report;
+    parameterwork::CollectForSaving(m_parameterFiles, GetProjectLookup()->Products(), report);
+    QString error;
+    if (!PackFolder(parameterwork::ProjectFolder(), path, &error))
+        report.Add(error);
+    m_lastFileError = report.Text();
+    return true;
+}
+
+bool CProjectData::SaveDocument(CCustomProgressbar* progress)
+{
+    QFile file(parameterwork::DocumentPath());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return FailFile(file.errorString());
+    StreamXmlWriter writer(file);
+    WriteDocument(writer, progress);
+    return (writer.Flush() && file.flush()) || FailFile(file.errorString());
+}
+
+void CProjectData::WriteDocument(XmlWriter& writer, CCustomProgressbar* progress) const
+{
+    writer.BeginElement(projectnames::kRoot);
+    WriteVersion(writer, {GetMinVersionSupport(), QString::fromLatin1(kFileVersion).toDouble()});
+    WriteDemoMode(writer, m_demo);
+    WriteList(writer, kSenderGroupList, m_groups);
+    WriteList(writer, kGammaList, m_gamma);
+    WritePrintForm(writer, m_print);
+    WriteSenders(writer, m_senders, Reports(progress));
+    WriteMonitor(writer, MakeMonitorRecord());
+    WriteList(writer, kParameterFileList, m_parameterFiles);
+    writer.EndElement();
+}
+
+QString CProjectData::GetMinVersionSupport() const
+{
+    const auto hasMultiReceiverTile = [](CSender& sender) {
+        for (int i = 0; i < kMaxPorts; ++i) {
+            const CTileSet* tiles = sender.GetPort(i)->GetPortProject()->GetTileSet();
+            for (int t = 0; t < tiles->GetCount(); ++t)
+                if (tiles->GetTile(t)->IsMultiRcvTile())
+                    return true;
+        }
+        return false;
+    };
+    QString version = QStringLiteral("4.0");
+    for (CSender* sender : m_senders) {
+        if (hasMultiReceiverTile(*sender)) {
+            version = QStringLiteral("4.2");
+            break;
+        }
+    }
+    // What the cabinets need decided once; every file now asks for the version that knows all elements
+    // written.
+    version = QStringLiteral("4.5");
+    return version;
+}
+
+bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustomProgressbar* progress)
+{
+    m_lastFileError.clear();
+    if (!path)
+        return FailFile(Tr("没有给出文件。"));
+    const QString name = QFile::decodeName(path);
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        return FailFile(file.errorString());
+    const QByteArray start = file.peek(2);
+    file.close();
+
+    QString version;
+    bool loaded = false;
+    if (start == "PK")
+        loaded = LoadArchive(name, version, progress);
+    else if (start == "<?")
+        loaded = LoadDocument(name, version, progress, {});
+    else
+        return FailFile(Tr("不是项目文件。"));
+    if (!version.isNull())
+        error = version;
+    return loaded;
+}
+
+bool CProjectData::LoadArchive(const QString& path, QString& version, CCustomProgressbar* progress)
+{
+    QLockFile lock(parameterwork::LockPath());
+    if (!lock.tryLock(kLockTimeout))
+        return FailFile(Tr("另一个程序正在使用项目工作文件夹。"));
+    parameterwork::ClearNumbered();
+    QString error;
+    const bool unpacked =
+        UnpackArchive(path, CConstantData::GetProjectParamFileTemp(), QStringLiteral("project/"), &error);
+    if (!unpacked || !QFile::exists(parameterwork::DocumentPath()))
+        return FailFile(unpacked ? Tr("压缩包里没有“project/new.prj”。") : error);
+    return LoadDocument(parameterwork::DocumentPath(), version, progress,
+                        [](const QList<SParameterFileInfo>& rows, ReadReport& report) {
+                            parameterwork::DistributeAfterLoading(rows, GetProjectLookup()->Products(),
+                                                                  report);
+                        });
+}
+
+bool CProjectData::LoadDocument(
+    const QString& path, QString& version, CCustomProgressbar* progress,
+    const std::function<void(const QList<SParameterFileInfo>&, ReadReport&)>& distribute)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return FailFile(file.errorString());
+    ProjectContent content;
+    ReadReport report;
+    ProjectReader reader(content, report, Reports(progress));
+    QString error;
+    const XmlResult result = ParseXml(file, reader, &error);
+    if (result == XmlResult::Stopped) {
+        version = reader.GetRefusedVersion();
+        return FailFile(Tr("此文件需要更新的版本：") + version);
+    }
+    if (result == XmlResult::Failed || !reader.HasRoot())
+        return FailFile(result == XmlResult::Failed ? error : Tr("不是项目文件。"));
+
+    const QList<SParameterFileInfo> rows = TakeContent(content);
+    if (distribute)
+        distribute(rows, report);
+    RestartHistory();
+    m_lastFileError = report.Text();
+    return true;
+}
+
+QList<SParameterFileInfo> CProjectData::TakeContent(ProjectContent& content)
+{
+    ClearLists();
+    m_demo = content.demo;
+    m_groups = content.senderGroups;
+    m_gamma = content.gamma;
+    m_print = content.print;
+    TakeSenders(std::move(content.senders));
+    TakeMonitorRecord(content.monitor);
+    return TakeParameterFiles(content.parameterFiles);
+}
+
+void CProjectData::TakeSenders(std::vector<std::unique_ptr<CSender>> senders)
+{
+    DestroySenders();
+    for (std::unique_ptr<CSender>& sender : senders)
+        m_senders.append(sender.release());
+    if (!GetCurrentSender())
+        m_currentSender = 0;
+}
+
+MonitorRecord CProjectData::MakeMonitorRecord() const
+{
+    MonitorRecord record;
+    const CMonitorData* monitor = GetProjectLookup()->Monitor();
+    const CMonitorInterfaceData data = monitor ? monitor->GetInterfaceData() : CMonitorInterfaceData();
+    record.intervalTime = data.GetIntervalTime();
+    record.sender = data.GetSenderSetting();
+    record.videoInputs = GetVideoInfoString();
+    record.receiver = data.GetReceiverSetting();
+    record.mail = data.GetMailSetting();
+    record.mailReceivers = GetMailReceiversString();
+    record.line = data.GetLineSetting();
+    return record;
+}
+
+void CProjectData::TakeMonitorRecord(const MonitorRecord& record)
+{
+    SSenderSetting sender = record.sender;
+    SetVideoInfoFromString(sender, record.videoInputs);
+    SEmailSetting mail = record.mail;
+    SetReceiversFromString(mail, record.mailReceivers);
+
+    CMonitorInterfaceData data;
+    data.SetIntervalTime(record.intervalTime);
+    data.SetSenderSetting(sender);
+    data.SetReceiverSetting(record.receiver);
+    data.SetMailSetting(mail);
+    data.SetLineSetting(record.line);
+    if (CMonitorData* monitor = GetProjectLookup()->Monitor())
+        monitor->SetInterfaceData(data);
+}

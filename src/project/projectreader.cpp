@@ -1,0 +1,84 @@
+#include "project/projectreader.h"
+
+#include "layout/sender.h"
+
+using namespace projectnames;
+
+namespace {
+
+template <class Record> LeafReader::Take Into(Record& record, void (*describe)(AttributeReader&, Record&))
+{
+    return [&record, describe](XmlAttributes& attributes) {
+        AttributeReader fields(attributes);
+        describe(fields, record);
+        return true;
+    };
+}
+
+} // namespace
+
+ProjectContent::~ProjectContent() = default;
+
+ProjectReader::ProjectReader(ProjectContent& content, ReadReport& report, std::function<void(int)> progress)
+    : m_content(content), m_report(report), m_root(*this),
+      m_version([this](XmlAttributes& attributes) { return ReadVersion(attributes); }),
+      m_demo(Into<SDemoMode>(content.demo, DescribeDemoMode)),
+      m_senderGroups(kSenderGroupList, report,
+                     [&content](QList<SSenderGroupInfo> list) { content.senderGroups = std::move(list); }),
+      m_gamma(kGammaList, report,
+              [&content](QList<SRcvParamGamma> list) { content.gamma = std::move(list); }),
+      m_print(Into<SPrintFormData>(content.print, DescribePrintForm)),
+      m_senders(
+          report, [&content](SenderLayoutReader::Senders senders) { content.senders = std::move(senders); },
+          std::move(progress)),
+      m_monitor(Into<MonitorRecord>(content.monitor, DescribeMonitor)),
+      m_parameterFiles(kParameterFileList, report, [&content](QList<SParameterFileInfo> list) {
+          content.parameterFiles = std::move(list);
+      })
+{}
+
+ProjectReader::~ProjectReader() = default;
+
+XmlHandler* ProjectReader::Child(std::string_view name)
+{
+    m_root.wasSeen = name == kRoot;
+    return m_root.wasSeen ? &m_root : nullptr;
+}
+
+XmlHandler* ProjectReader::Root::Child(std::string_view name)
+{
+    return m_reader.Find(name);
+}
+
+XmlHandler* ProjectReader::Find(std::string_view name)
+{
+    if (name == kVersion)
+        return &m_version;
+    if (name == kDemoMode)
+        return &m_demo;
+    if (name == kSenderGroups)
+        return &m_senderGroups;
+    if (name == kGamma)
+        return &m_gamma;
+    if (name == kPrintForm)
+        return &m_print;
+    if (name == layoutnames::kSenderLayout)
+        return &m_senders;
+    if (name == kMonitor)
+        return &m_monitor;
+    if (name == kParameterFiles)
+        return &m_parameterFiles;
+    m_report.AddElement(name);
+    return nullptr;
+}
+
+bool ProjectReader::ReadVersion(XmlAttributes& attributes)
+{
+    VersionRecord version;
+    AttributeReader fields(attributes);
+    DescribeVersion(fields, version);
+    if (IsVersionReadable(version.minimum))
+        return true;
+    m_refusedVersion = version.minimum;
+    return false;
+}

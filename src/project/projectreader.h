@@ -1,0 +1,68 @@
+#pragma once
+
+#include "project/layoutreader.h"
+#include "project/projectelements.h"
+
+#include <memory>
+#include <vector>
+
+class CSender;
+
+/// What a project file holds, read whole before anything of an open document is touched.
+struct ProjectContent
+{
+    ~ProjectContent();
+
+    SDemoMode demo;
+    QList<SSenderGroupInfo> senderGroups;
+    QList<SRcvParamGamma> gamma;
+    SPrintFormData print;
+    std::vector<std::unique_ptr<CSender>> senders;
+    MonitorRecord monitor;
+    QList<SParameterFileInfo> parameterFiles;
+};
+
+/// Reads the document of a project file. Reading stops at a version that is too new.
+class ProjectReader : public XmlHandler
+{
+public:
+    /// [ref] All three are filled as the reading goes; `progress` may be empty.
+    ProjectReader(ProjectContent& content, ReadReport& report, std::function<void(int)> progress);
+    ~ProjectReader() override;
+
+    /// The minimum version that stopped the reading.
+    QString GetRefusedVersion() const { return m_refusedVersion; }
+
+    bool HasRoot() const { return m_root.wasSeen; } ///< whether the root was that of a project
+
+    XmlHandler* Child(std::string_view name) override;
+
+private:
+    class Root : public XmlHandler
+    {
+    public:
+        explicit Root(ProjectReader& reader) : m_reader(reader) {}
+        XmlHandler* Child(std::string_view name) override;
+
+        bool wasSeen = false;
+
+    private:
+        ProjectReader& m_reader;
+    };
+
+    bool ReadVersion(XmlAttributes& attributes);
+    XmlHandler* Find(std::string_view name);
+
+    ProjectContent& m_content;
+    ReadReport& m_report;
+    QString m_refusedVersion;
+    Root m_root;
+    LeafReader m_version;
+    LeafReader m_demo;
+    ListReader<SSenderGroupInfo> m_senderGroups;
+    ListReader<SRcvParamGamma> m_gamma;
+    LeafReader m_print;
+    SenderLayoutReader m_senders;
+    LeafReader m_monitor;
+    ListReader<SParameterFileInfo> m_parameterFiles;
+};

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "common/smd5.h"
+
+#include <QString>
+#include <QUuid>
+
+/// A group of senders in the host's sender tree.
+struct SSenderGroupInfo
+{
+    QUuid id;
+    QString name;
+    bool expanded = true;
+};
+
+/// Gamma of one cabinet product type.
+struct SRcvParamGamma
+{
+    SMD5 type;
+    float gamma = 0;
+};
+
+/// A receiver parameter file the project carries, kept in the work folder as name + ".rcvbp".
+struct SParameterFileInfo
+{
+    QString name; ///< without suffix
+    SMD5 type;
+};
+
+/// One line of the printed layout form.
+struct SPrintLine
+{
+    bool enable = false;
+    QString text;
+};
+
+/// The printed layout form.
+struct SPrintFormData
+{
+    SPrintLine projectName;
+    SPrintLine designer;
+    SPrintLine designDate;
+    SPrintLine approver;
+    SPrintLine approveDate;
+};
+
+/// Demo mode and the sender type it shows.
+struct SDemoMode
+{
+    bool enable = false;
+    int senderType = 0;
+};

@@ -1,0 +1,106 @@
+// Texts that stand for lists in a project file, and other small conversions.
+#include "monitor/monitordata.h"
+#include "project/projectdata.h"
+#include "project/projectlookup.h"
+
+#include <QStringList>
+
+namespace {
+
+/// The separators of the list cannot stand inside a text.
+QString WithoutSeparators(QString text)
+{
+    return text.replace(QLatin1Char(','), QLatin1Char(' ')).replace(QLatin1Char(';'), QLatin1Char(' '));
+}
+
+int OctetOrMinus1(const QString& text)
+{
+    const bool isDecimal =
+        !text.isEmpty() && text.size() <= 3 && std::all_of(text.begin(), text.end(), [](QChar c) {
+            return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+        });
+    const int value = isDecimal ? text.toInt() : -1;
+    return value <= 255 ? value : -1;
+}
+
+} // namespace
+
+QString CProjectData::GetMailReceiversString() const
+{
+    const CMonitorData* monitor = GetProjectLookup()->Monitor();
+    QString text;
+    if (!monitor)
+        return text;
+    const CMonitorInterfaceData data = monitor->GetInterfaceData();
+    for (const SMailReceiver& receiver : data.GetMailSetting().receivers)
+        text += WithoutSeparators(receiver.address) + QLatin1Char(',') + WithoutSeparators(receiver.name)
+                + QLatin1Char(';');
+    return text;
+}
+
+void CProjectData::SetReceiversFromString(SEmailSetting& setting, const QString& text)
+{
+    setting.receivers.clear();
+    for (const QString& receiver : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const int comma = receiver.indexOf(QLatin1Char(','));
+        setting.receivers.append({receiver.left(comma), comma < 0 ? QString() : receiver.mid(comma + 1)});
+    }
+}
+
+QString CProjectData::GetVideoInfoString() const
+{
+    QString text;
+    for (const SVideoInput& input : m_videoInputs)
+        text += QStringLiteral("%1,%2,%3,%4;")
+                    .arg(input.slot)
+                    .arg(input.sourceType)
+                    .arg(input.sourceIndex)
+                    .arg(input.enable ? 1 : 0);
+    return text;
+}
+
+void CProjectData::SetVideoInfoFromString(SSenderSetting& setting, const QString& text)
+{
+    QList<SVideoInput> inputs;
+    for (const QString& record : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const QStringList fields = record.split(QLatin1Char(','));
+        inputs.append({fields.value(0).toInt(), fields.value(1).toInt(), fields.value(2).toInt(),
+                       fields.value(3).toInt() != 0});
+    }
+    m_videoInputs = inputs;
+    setting.videoInputs = inputs;
+}
+
+QString CProjectData::GetColorStr(int channel)
+{
+    if (channel < 1)
+        return QStringLiteral("ColorRed");
+    switch (channel) {
+    case 1:
+        return QStringLiteral("ColorGreen");
+    case 2:
+        return QStringLiteral("ColorBlue");
+    case 3:
+        return QStringLiteral("ColorWrite");
+    default:
+        return {};
+    }
+}
+
+quint32 CProjectData::GetIntFromOctString(const QString& text)
+{
+    const QString trimmed = text.trimmed();
+    const QStringList octets = trimmed.split(QLatin1Char('.'));
+    if (octets.size() == 1)
+        return trimmed.toUInt();
+    if (octets.size() != 4)
+        return 0;
+    quint32 ip = 0;
+    for (const QString& text4 : octets) {
+        const int octet = OctetOrMinus1(text4);
+        if (octet < 0)
+            return 0;
+        ip = ip << 8 | static_cast<quint32>(octet);
+    }
+    return ip;
+}

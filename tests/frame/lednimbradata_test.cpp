@@ -1,0 +1,71 @@
+#include "frame/lednimbradata.h"
+
+#include "frame/runtimedata.h"
+#include "monitor/monitordata.h"
+#include "project/projectdata.h"
+#include "settings/configdata.h"
+#include "settings/constantdata.h"
+#include "support/library.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QStandardPaths>
+
+#include <array>
+
+namespace {
+
+std::array<void*, 6> Objects()
+{
+    return {GetProjectData(),  GetProjectManagement(), GetConfigData(),
+            GetConstantData(), GetRuntimeData(),       GetMonitorData()};
+}
+
+} // namespace
+
+TEST(LedNimbraDataTest, ObjectsLiveBetweenInitAndRelease)
+{
+    const std::array<void*, 6> none{};
+    EXPECT_EQ(Objects(), none);
+    LedNimbraData_Release();
+    {
+        Library library;
+        const auto objects = Objects();
+        EXPECT_EQ(std::count(objects.begin(), objects.end(), nullptr), 0);
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        EXPECT_TRUE(QDir(documents + QStringLiteral("/Orvan/SysConfig")).exists());
+        EXPECT_TRUE(QDir(documents + QStringLiteral("/Orvan/LedConfig")).exists());
+    }
+    EXPECT_EQ(Objects(), none);
+    LedNimbraData_Release();
+}
+
+TEST(LedNimbraDataTest, SecondInitKeepsTheObjectsAndLoadsTheSettingsAgain)
+{
+    Library library;
+    const auto objects = Objects();
+    GetConfigData()->SetShowGrid(false);
+    ASSERT_TRUE(GetConfigData()->IsShowGrid() == false);
+    LedNimbraData_Init();
+    EXPECT_EQ(Objects(), objects);
+    EXPECT_TRUE(GetConfigData()->IsShowGrid()) << "what was not saved is loaded over";
+}
+
+TEST(LedNimbraDataTest, LanguageOfTheSettingsOutlivesTheStart)
+{
+    Library library;
+    GetConfigData()->SetLanguage(LanguageEnglish);
+    ASSERT_TRUE(GetConfigData()->Save());
+    LedNimbraData_Release();
+    LedNimbraData_Init();
+    EXPECT_EQ(GetConfigData()->GetLanguageType(), LanguageEnglish);
+}
+
+TEST(LedNimbraDataTest, ConstructorsWorkWithoutTheObjects)
+{
+    CProjectData project;
+    CSender* sender = project.NewSender();
+    EXPECT_FALSE(project.HasTileRotated());
+    EXPECT_EQ(project.GetCurrentSender(), sender);
+}

@@ -1,0 +1,183 @@
+#include "common/xmldom.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
+#include "project/projectdata.h"
+#include "support/wallbuilder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QDomElement Parsed(const QByteArray& xml)
+{
+    QDomDocument document;
+    QString error;
+    EXPECT_TRUE(ParseXmlDom(xml, document, &error)) << error.toStdString();
+    return document.documentElement();
+}
+
+class LayoutElementsTest : public testing::Test
+{
+protected:
+    void ReadTiles(const QByteArray& xml)
+    {
+        QDomElement element = Parsed(xml);
+        project.ReadTileSet(QDomDocument(), QStringLiteral("TitleLayout"), &tiles, &element, sender, 3);
+    }
+
+    CProjectData project;
+    CTileSet tiles;
+    QUuid sender = QUuid::createUuid();
+
+    void SetUp() override { tiles.SetOwnerShip(true); }
+};
+
+} // namespace
+
+TEST_F(LayoutElementsTest, FirstReceiversFollowFromTheFinishedWiringInAnyOrder)
+{
+    ReadTiles(
+        "<TitleLayout TileCount=\"4\">"
+        "<Tile_1 index=\"2\" FirstRcvIndex=\"99\"/><Tile_2 index=\"0\" MultiRcvSizeX=\"2\" "
+        "MultiRcvSizeY=\"2\"/>"
+        "<Tile_3 index=\"1\" MultiRcvSizeX=\"3\" MultiRcvSizeY=\"1\"/><Tile_4 index=\"7\"/></TitleLayout>");
+    ASSERT_EQ(tiles.GetCount(), 4);
+    EXPECT_EQ(tiles.GetTile(0)->GetBeginRcvCnnt(), 7);
+    EXPECT_EQ(tiles.GetTile(1)->GetBeginRcvCnnt(), 0);
+    EXPECT_EQ(tiles.GetTile(2)->GetBeginRcvCnnt(), 4);
+    EXPECT_EQ(tiles.GetTile(3)->GetBeginRcvCnnt(), -1) << "nothing stands before it in the chain";
+    EXPECT_EQ(tiles.GetTile(0)->GetSenderId(), sender);
+    EXPECT_EQ(tiles.GetTile(0)->GetPortIndex(), 3);
+}
+
+TEST_F(LayoutElementsTest, AttributesAreTakenAsTheirRulesSay)
+{
+    ReadTiles("<TitleLayout TileCount=\"2\">"
+              "<Tile_1 Type=\"6a68bac7e613028bb11b40c35340e86\" X=\"40000\" Width=\"200\" Y=\"-131073\" "
+              "MultiLine_3=\"258\" IsMultiFixed=\"1\" RotateAngle=\"-30\" RotateCenterX=\"nan\"/>"
+              "<Tile_2 Type=\"6a68bac7e613028bb11b40c35340e863\" IsMultiCabinet=\"1\" IsMultiFixed=\"1\" "
+              "MultiRcvSizeX=\"0\" MultiRcvSizeY=\"5\" MultiOrdered=\"0\"/></TitleLayout>");
+    const CTile& first = *tiles.GetTile(0);
+    EXPECT_TRUE(first.GetType().IsNull()) << "31 characters are no digest";
+    EXPECT_EQ(first.GetX(), 32568);
+    EXPECT_EQ(first.GetY(), 0);
+    EXPECT_EQ(first.GetMultiRcvsLineCode(3), 2);
+    EXPECT_FALSE(first.IsMultiFixedLine()) << "one receiving card has no inner line";
+    EXPECT_TRUE(first.GetRotateRecord().rotated);
+    EXPECT_EQ(first.GetRotateRecord().centerX, -100) << "a number that is none leaves the default";
+    const CTile& second = *tiles.GetTile(1);
+    EXPECT_EQ(second.GetType().ToString(), QStringLiteral("6a68bac7e613028bb11b40c35340e863"));
+    EXPECT_EQ(second.GetMultiRcvsSize(), QSize(1, 1));
+    EXPECT_TRUE(second.IsMultiRcvsOrdered()) << "a fixed line is always ordered";
+}
+
+TEST_F(LayoutElementsTest, CountBelowOneKeepsWhatIsHeld)
+{
+    tiles.AddTile(new CTile);
+    ReadTiles("<TitleLayout TileCount=\"0\"><Tile_1/></TitleLayout>");
+    EXPECT_EQ(tiles.GetCount(), 1);
+    ReadTiles("<TitleLayout TileCount=\"3\"/>");
+    EXPECT_EQ(tiles.GetCount(), 0);
+}
+
+TEST_F(LayoutElementsTest, BackupsAreTakenOnlyWhenThePortSaysItIsOne)
+{
+    const QByteArray source = " bkSenderId=\"{c95ad16b-6333-4764-bb20-9ee65602cbb4}\" BkPortIndex=\"2\"";
+    const auto read = [this](const QByteArray& attributes, CPort& port) {
+        QDomElement element = Parsed("<PortLayout" + attributes + "/>");
+        EXPECT_TRUE(project.ReadPort(QDomDocument(), QStringLiteral("PortLayout"), &port, &element, sender, 1,
+                                     false));
+    };
+    CPort port;
+    read(source + " IsBackupDest=\"1\"", port);
+    EXPECT_TRUE(port.IsBackupDest());
+    EXPECT_EQ(port.GetBackupSrcPortIndex(), 2);
+    read(source + " IsBackupDest=\"1\" BkSenderIP=\"77\"", port);
+    EXPECT_EQ(port.GetBackupSrcIP(), 77u);
+    EXPECT_TRUE(port.GetBackupSrcSenderId().isNull());
+    read(source + " IsBackupDest=\"0\"", port);
+    EXPECT_FALSE(port.IsBackupDest());
+    EXPECT_EQ(port.GetBackupSrcPortIndex(), -1);
+
+    port.SetFlagLock(true);
+    QDomElement element = Parsed("<PortLayout Lock=\"0\"/>");
+    EXPECT_TRUE(
+        project.ReadPort(QDomDocument(), QStringLiteral("PortLayout"), &port, &element, sender, 1, true));
+    EXPECT_TRUE(port.IsFlagLock()) << "a locked port that is kept stays untouched";
+}
+
+TEST_F(LayoutElementsTest, GroupTreesKeepTheirNestingAndDropRepeatedIds)
+{
+    CPort port;
+    const QUuid a = MakeWall(port, 2, 1);
+    const QUuid b = MakeWall(port, 2, 1);
+    const QUuid c = MakeWall(port, 2, 1);
+    NestGroups(port, b, {c});
+    NestGroups(port, a, {b});
+    QDomDocument document;
+    QDomElement root = document.createElement(QStringLiteral("Port_1"));
+    project.WriteTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &GroupsOf(port), &root);
+    const QDomElement deepest = root.firstChildElement()
+                                    .firstChildElement(QStringLiteral("TileGroup_1"))
+                                    .firstChildElement(QStringLiteral("TileGroup_1_1"))
+                                    .firstChildElement(QStringLiteral("TileGroup_1_1_1"));
+    EXPECT_EQ(deepest.attribute(QStringLiteral("GroupId")), c.toString());
+
+    CTileGroupSet read;
+    project.ReadTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &tiles, &read, &root);
+    ASSERT_NE(read.GetSubGroupBySubID(c), nullptr);
+    EXPECT_EQ(read.GetSubGroupBySubID(c)->GetParentGroupID(), b);
+
+    QDomElement layout = root.firstChildElement();
+    layout.setAttribute(QStringLiteral("GroupCount"), 2);
+    QDomElement repeated = document.createElement(QStringLiteral("TileGroup_2"));
+    repeated.setAttribute(QStringLiteral("GroupId"), c.toString());
+    layout.appendChild(repeated);
+    project.ReadTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &tiles, &read, &root);
+    EXPECT_EQ(read.GetDirectCount(), 1);
+    read.DeleteAll();
+}
+
+TEST_F(LayoutElementsTest, GroupsDeeperThanTheLimitAreCutBothWays)
+{
+    CTileGroupSet deep;
+    CTileGroupSet* level = &deep;
+    for (int depth = 0; depth < 1010; ++depth) {
+        auto* group = new CTileGroup;
+        level->AddGroup(group, true);
+        level = group->GetSubGroupSet();
+    }
+    QDomDocument document;
+    QDomElement root = document.createElement(QStringLiteral("Port_1"));
+    project.WriteTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &deep, &root);
+    CTileGroupSet read;
+    project.ReadTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &tiles, &read, &root);
+    QList<CTileGroup*> groups;
+    EXPECT_EQ(read.GetGroupListRecursive(groups), 1000);
+    deep.DeleteAll();
+    read.DeleteAll();
+}
+
+TEST_F(LayoutElementsTest, SingleSenderKeepsItsIdentity)
+{
+    QDomElement element =
+        Parsed("<SenderLayout ID=\"{c95ad16b-6333-4764-bb20-9ee65602cbb4}\" Name=\"file\" IPAddr=\"5\" "
+               "PortCount=\"8\" "
+               "CanvasSizeWidth=\"640\" CanvasSizeHeight=\"480\" RecentPortIndex=\"160\"/>");
+    CSender target;
+    target.SetNetSenderIP(9);
+    project.ReadSingleSender(QDomDocument(), &element, &target, sender, false, false);
+    EXPECT_EQ(target.GetId(), sender);
+    EXPECT_EQ(target.GetNetSenderIP(), 9u);
+    EXPECT_EQ(target.GetPortCount(), 8);
+    EXPECT_EQ(target.GetRecentPortIndex(), 0);
+    EXPECT_EQ(target.GetSenderName(), QString());
+    project.ReadSingleSender(QDomDocument(), &element, &target, sender, false, true);
+    EXPECT_EQ(target.GetSenderName(), QStringLiteral("file"));
+    EXPECT_EQ(target.GetCanvasSize(), QSize(640, 480));
+
+    QDomDocument document;
+    QDomElement root = document.createElement(QStringLiteral("SenderLayout"));
+    project.WriteSingleSender(document, &root, &target);
+    EXPECT_FALSE(root.firstChildElement().hasAttribute(QStringLiteral("SenderType")));
+}

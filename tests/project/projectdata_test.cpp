@@ -1,0 +1,263 @@
+#include "project/projectdata.h"
+
+#include "frame/lednimbradata.h"
+#include "frame/runtimedata.h"
+#include "layout/projectundoredo.h"
+#include "monitor/monitordata.h"
+#include "products/productdirectoryset.h"
+#include "project/parameterwork.h"
+#include "settings/configdata.h"
+#include "settings/constantdata.h"
+#include "support/library.h"
+#include "support/testfolder.h"
+#include "support/wallbuilder.h"
+
+#include "custommessagebox.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QStringList>
+
+namespace {
+
+/// Answers boxes with `answer` and keeps their texts.
+class Boxes
+{
+public:
+    Boxes()
+    {
+        m_before = CCustomMessageBox::SetHandler([this](auto, const QString& text, auto) {
+            texts.append(text);
+            return answer;
+        });
+    }
+    ~Boxes() { CCustomMessageBox::SetHandler(m_before); }
+
+    QMessageBox::StandardButton answer = QMessageBox::No;
+    QStringList texts;
+
+private:
+    CCustomMessageBox::Handler m_before;
+};
+
+class ProjectDataTest : public testing::Test
+{
+protected:
+    void AddSenders(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            project.NewSender();
+    }
+
+    void PutImage(int sender, const QByteArray& content)
+    {
+        QFile file(CConstantData::GetSenderBKImgName(sender, true));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    QByteArray Image(int sender) { return ReadFile(CConstantData::GetSenderBKImgName(sender, true)); }
+
+    SMD5 AddProduct(const QString& name, const QByteArray& content)
+    {
+        QFile file(CProductDirectorySet::GetRootDir() + name + QStringLiteral(".rcvbp"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        GetRuntimeData()->GetProductDirectorySet()->LoadProductInfo();
+        return CConstantData::GetMD5FromFile(file.fileName());
+    }
+
+    Library library;
+    CProjectData& project = *GetProjectData();
+    Boxes boxes;
+};
+
+} // namespace
+
+TEST_F(ProjectDataTest, NamelessSendersShowTheirNumber)
+{
+    AddSenders(3);
+    project.GetSender(0)->SetSenderName(QStringLiteral("A"));
+    EXPECT_EQ(project.GetShowSenderName(2, true), QStringLiteral("Processor 3"));
+    EXPECT_EQ(project.GetShowSenderName(2, false), QStringLiteral("Processor"));
+    EXPECT_EQ(project.GetPortDescription(0, 1), QStringLiteral("主控 1(A),输出口 2 "));
+    EXPECT_EQ(project.GetPortDescription(3, 0), QString());
+    EXPECT_EQ(project.GetShowSenderName(-1, true), QString());
+}
+
+TEST_F(ProjectDataTest, DeletionAsksAndRefusesAsTheBackupsAndLocksSay)
+{
+    AddSenders(1);
+    EXPECT_FALSE(project.DeleteSender(0, true, false, false, nullptr)) << "the last sender stays";
+    EXPECT_TRUE(boxes.texts.isEmpty());
+
+    AddSenders(2);
+    project.GetSender(1)->GetPort(2)->SetBeBackupDest(project.GetSender(0)->GetId(), 0);
+    EXPECT_FALSE(project.DeleteSenderBefore(1, false, nullptr));
+    EXPECT_FALSE(project.DeleteSenderBefore(0, false, nullptr));
+    project.GetSender(2)->GetPort(0)->SetFlagLock(true);
+    EXPECT_FALSE(project.DeleteSenderBefore(2, false, nullptr));
+    project.GetSender(2)->GetPort(0)->SetFlagLock(false);
+    EXPECT_TRUE(project.DeleteSenderBefore(2, false, nullptr));
+    EXPECT_FALSE(project.DeleteSenderBefore(2, true, nullptr));
+    EXPECT_EQ(boxes.texts, QStringList({QStringLiteral("选择主控为备份主控，请先取消备份。"),
+                                        QStringLiteral("选择的主控存在备份主控，请先取消备份。"),
+                                        QStringLiteral("主控存在输出口被锁住，您确定要删除选择的主控吗？"),
+                                        QStringLiteral("您确定要删除选择的主控吗？")}));
+    boxes.answer = QMessageBox::Yes;
+    EXPECT_TRUE(project.DeleteSender(2, true, false, true, nullptr));
+    EXPECT_EQ(project.GetCurSenderIndex(), 1);
+}
+
+TEST_F(ProjectDataTest, ImagesFollowTheirSendersNumbers)
+{
+    AddSenders(4);
+    for (int i = 1; i < 4; ++i)
+        PutImage(i, QByteArray::number(i));
+    ASSERT_TRUE(project.DeleteSender(1, false, false, false, nullptr));
+    EXPECT_EQ(Image(1), "2");
+    EXPECT_EQ(Image(2), "3");
+    EXPECT_EQ(Image(3), "");
+    ASSERT_TRUE(project.DeleteSender(1, false, true, false, nullptr));
+    EXPECT_EQ(Image(1), "") << "the deleted sender's image goes in any case";
+    EXPECT_EQ(Image(2), "3");
+}
+
+TEST_F(ProjectDataTest, RemovalKeepsTheCurrentSenderAndReleasesTheHistory)
+{
+    AddSenders(3);
+    CProjectUndoRedo* history = GetRuntimeData()->GetProjectUndoRedo();
+    history->Init();
+    project.SetCurrentSender(2);
+    CSender* current = project.GetCurrentSender();
+    const QUuid first = project.GetSender(0)->GetId();
+    project.DeleteSender(first);
+    EXPECT_EQ(project.GetCurrentSender(), current);
+    EXPECT_EQ(history->GetSenderUndoRedoFromID(first), nullptr);
+    EXPECT_TRUE(history->IsModidfied());
+
+    history->Init();
+    CProjectData copy(project);
+    copy.DeleteAllSender();
+    EXPECT_FALSE(history->IsModidfied()) << "copies do not touch the open document's history";
+    EXPECT_NE(history->GetSenderUndoRedoFromID(current->GetId()), nullptr);
+}
+
+TEST_F(ProjectDataTest, BackupsAreFoundByIdAndByAddressButNotWithinASender)
+{
+    AddSenders(3);
+    project.GetSender(0)->SetNetSenderIP(77);
+    project.GetSender(1)->GetPort(0)->SetBeBackupDestIP(77, 3);
+    project.GetSender(2)->GetPort(1)->SetBeBackupDest(project.GetSender(2)->GetId(), 0);
+    int other = -1;
+    EXPECT_TRUE(project.IsSenderBackupDest(1, &other));
+    EXPECT_EQ(other, 0);
+    EXPECT_TRUE(project.IsSenderBackupSource(0, &other));
+    EXPECT_EQ(other, 1);
+    EXPECT_FALSE(project.IsSenderBackupDest(2, nullptr));
+    EXPECT_FALSE(project.IsSenderBackupSource(2, nullptr));
+    EXPECT_TRUE(project.IsSenderSelfPortBackup(2));
+
+    int sender = 0;
+    int port = 0;
+    bool found = false;
+    EXPECT_TRUE(project.MatchSrcBackup(1, 0, sender, port, found));
+    EXPECT_EQ(std::make_pair(sender, port), std::make_pair(0, 3));
+    project.GetSender(1)->GetPort(1)->SetBeBackupDest(QUuid::createUuid(), 2);
+    EXPECT_FALSE(project.MatchSrcBackup(1, 1, sender, port, found));
+    EXPECT_EQ(std::make_pair(sender, port), std::make_pair(-1, -1));
+    EXPECT_FALSE(found);
+
+    project.GetSender(1)->GetPort(0)->CancelBackupDest();
+    project.GetSender(1)->GetPort(1)->CancelBackupDest();
+    project.GetSender(1)->GetPort(100)->SetBeBackupDestIP(77, 0);
+    EXPECT_FALSE(project.IsSenderBackupDest(1, nullptr)) << "only the ports in use count";
+}
+
+TEST_F(ProjectDataTest, NetworkUpdateAppendsWhatIsNewAndDeletesNothing)
+{
+    AddSenders(1);
+    project.GetSender(0)->SetPortCount(8);
+    project.GetSender(0)->SetCanvasSize(QSize(640, 480));
+    project.GetSender(0)->SetNetSenderIP(5);
+    EXPECT_FALSE(project.UpdateProjectSenders({6}, {})) << "only in the strategy that follows the network";
+    GetConfigData()->SetDetectStrategy(2);
+    const QUuid group = project.AddGroupInfo(QStringLiteral("new"));
+    GetRuntimeData()->SetAddGroupId(group);
+    EXPECT_TRUE(project.UpdateProjectSenders({6, 0, 5, 6}, {7}));
+    ASSERT_EQ(project.GetSenderCount(), 3);
+    const CSender* added = project.GetSender(2);
+    EXPECT_EQ(added->GetNetSenderIP(), 7u);
+    EXPECT_EQ(added->GetPortCount(), 8);
+    EXPECT_EQ(added->GetCanvasSize(), QSize(640, 480));
+    EXPECT_EQ(added->GetOffset(), QSize(0, 0));
+    EXPECT_EQ(added->GetBelongGroup(), group);
+    EXPECT_FALSE(project.UpdateProjectSenders({5, 6}, {7}));
+
+    project.DeleteSenderGroup(group);
+    EXPECT_TRUE(added->GetBelongGroup().isNull());
+    EXPECT_EQ(project.GetSenderGroupCount(), 0);
+}
+
+TEST_F(ProjectDataTest, ParameterFilesAreKeptUnderSafeNamesOnceAType)
+{
+    const SMD5 type = AddProduct(QStringLiteral("a"), "cabinet a");
+    const SMD5 other = AddProduct(QStringLiteral("b"), "cabinet b");
+    project.AddParameterFileInfo(QStringLiteral("../a:b"), type);
+    project.AddParameterFileInfo(QStringLiteral("again"), type);
+    project.AddParameterFileInfo(QStringLiteral("_A_b"), other);
+    ASSERT_EQ(project.GetParameterFiles().size(), 2);
+    EXPECT_EQ(project.GetParameterFiles()[0].name, QStringLiteral("_a_b"));
+    EXPECT_EQ(project.GetParameterFiles()[1].name, QStringLiteral("_A_b_2"));
+    EXPECT_EQ(ReadFile(parameterwork::PathOf(QStringLiteral("_a_b"))), "cabinet a");
+
+    project.ExchangeNameByMD5(type, QStringLiteral("c"));
+    EXPECT_EQ(ReadFile(parameterwork::PathOf(QStringLiteral("c"))), "cabinet a");
+    EXPECT_FALSE(QFile::exists(parameterwork::PathOf(QStringLiteral("_a_b"))));
+    project.DeleteParameterFileInfo(type);
+    EXPECT_FALSE(QFile::exists(parameterwork::PathOf(QStringLiteral("c"))));
+    EXPECT_EQ(project.GetParameterFiles().size(), 1);
+}
+
+TEST_F(ProjectDataTest, ListsInTextsComeBackAndLoseOnlyTheirSeparators)
+{
+    CMonitorInterfaceData data;
+    SEmailSetting mail;
+    mail.receivers = {{QStringLiteral("a@x.test"), QStringLiteral("A;B,C")},
+                      {QStringLiteral("b@x.test"), {}}};
+    data.SetMailSetting(mail);
+    GetMonitorData()->SetInterfaceData(data);
+    const QString text = project.GetMailReceiversString();
+    EXPECT_EQ(text, QStringLiteral("a@x.test,A B C;b@x.test,;"));
+    SEmailSetting read;
+    CProjectData::SetReceiversFromString(read, text);
+    ASSERT_EQ(read.receivers.size(), 2);
+    EXPECT_EQ(read.receivers[0].name, QStringLiteral("A B C"));
+
+    SSenderSetting setting;
+    project.SetVideoInfoFromString(setting, QStringLiteral("1,2,3,1;4,5,6,0;"));
+    EXPECT_EQ(setting.videoInputs.size(), 2);
+    EXPECT_EQ(project.GetVideoInfoString(), QStringLiteral("1,2,3,1;4,5,6,0;"));
+}
+
+TEST(ProjectTextTest, AddressesAreFourDecimalOctetsOrOneNumber)
+{
+    const std::pair<const char*, quint32> cases[] = {
+        {"192.168.0.10", 3232235530u},
+        {" 3232235530 ", 3232235530u},
+        {"010.0.0.1", 167772161u},
+        {"4294967296", 0u},
+        {"1.2.3.256", 0u},
+        {"1.2.3", 0u},
+        {"1.2.3.4.5", 0u},
+        {"-1.2.3.4", 0u},
+        {"", 0u},
+    };
+    for (const auto& [text, ip] : cases)
+        EXPECT_EQ(CProjectData::GetIntFromOctString(QString::fromLatin1(text)), ip) << text;
+    EXPECT_EQ(CProjectData::GetColorStr(-5), QStringLiteral("ColorRed"));
+    EXPECT_EQ(CProjectData::GetColorStr(3), QStringLiteral("ColorWrite"));
+    EXPECT_EQ(CProjectData::GetColorStr(4), QString());
+}

@@ -1,0 +1,334 @@
+#include "common/xmldom.h"
+#include "frame/lednimbradata.h"
+#include "frame/runtimedata.h"
+#include "layout/projectundoredo.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
+#include "monitor/monitordata.h"
+#include "products/productdirectoryset.h"
+#include "project/parameterwork.h"
+#include "project/projectdata.h"
+#include "settings/archive.h"
+#include "settings/constantdata.h"
+#include "support/library.h"
+#include "support/testfolder.h"
+#include "support/wallbuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <random>
+
+namespace {
+
+/// The elements whose attributes differ, as paths; empty when two trees say the same.
+QString Difference(const QDomElement& a, const QDomElement& b)
+{
+    const QString place = a.tagName() + QLatin1Char('/');
+    const QDomNamedNodeMap attributes = a.attributes();
+    if (a.tagName() != b.tagName() || attributes.count() != b.attributes().count())
+        return place + b.tagName();
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QDomAttr attribute = attributes.item(i).toAttr();
+        if (attribute.value() != b.attribute(attribute.name()))
+            return place + attribute.name();
+    }
+    QDomElement x = a.firstChildElement();
+    QDomElement y = b.firstChildElement();
+    for (; !x.isNull() && !y.isNull(); x = x.nextSiblingElement(), y = y.nextSiblingElement()) {
+        const QString below = Difference(x, y);
+        if (!below.isEmpty())
+            return place + below;
+    }
+    return x.isNull() && y.isNull() ? QString() : place + QStringLiteral("children");
+}
+
+class ProjectFileTest : public testing::Test
+{
+protected:
+    bool Load(const QString& path)
+    {
+        versionError = QStringLiteral("untouched");
+        return project.LoadProjectFromFile(QFile::encodeName(path).constData(), versionError, nullptr);
+    }
+
+    bool LoadText(const QByteArray& elements)
+    {
+        return Load(folder.Write(QStringLiteral("a.xml"),
+                                 "<?xml version=\"1.0\"?><LedSetting>" + elements + "</LedSetting>"));
+    }
+
+    /// The document as it is written: equal texts are equal projects.
+    QByteArray Document()
+    {
+        EXPECT_TRUE(project.SaveProjectToFile(folder.Path(QStringLiteral("document.prj")), nullptr));
+        return ReadFile(parameterwork::DocumentPath());
+    }
+
+    void BuildProject()
+    {
+        const QUuid group = project.AddGroupInfo(QStringLiteral("门厅 <1>"));
+        project.SetDemoModeEnable(true);
+        project.SetDemoSenderType(3);
+        project.GetPrintSetData()->designer = {true, QStringLiteral("设计\t\"甲\"")};
+        project.AddRcvParamGamma(Type('a'), 2.85F);
+        CSender* sender = project.NewSender();
+        sender->SetSenderName(QStringLiteral("Hall & left"));
+        sender->SetBelongGroup(group);
+        sender->SetNetSenderIP(3232235786u);
+        sender->SetOffset(QSize(40, 30));
+        MakeWall(*sender->GetPort(0), 4, 3);
+        Wall multi;
+        multi.columns = 2;
+        multi.receivers = QSize(2, 2);
+        multi.leftTop = QPoint(600, 0);
+        multi.type = Type('b');
+        const QUuid inner = MakeWall(*sender->GetPort(1), multi);
+        const QUuid outer = MakeWall(*sender->GetPort(1), 2, 2);
+        NestGroups(*sender->GetPort(1), outer, {inner});
+        TilesOf(*sender->GetPort(1)).GetTile(0)->Offset(-700, -20);
+        sender->GetPort(2)->SetFlagLock(true);
+        sender->GetPort(2)->SetVisible(false);
+        sender->GetPort(3)->SetBeBackupDestIP(77, 1);
+        project.NewSender()->GetPort(0)->SetBeBackupDest(sender->GetId(), 1);
+        project.SetVideoInputs({{1, 2, 3, true}});
+    }
+
+    static SMD5 Type(char digit) { return SMD5::FromString(QString(32, QLatin1Char(digit))); }
+
+    Library library;
+    TestFolder folder;
+    CProjectData& project = *GetProjectData();
+    QString versionError;
+};
+
+} // namespace
+
+TEST_F(ProjectFileTest, SavedProjectLoadsEqualAndSavesTheSameBytes)
+{
+    BuildProject();
+    const QString path = folder.Path(QStringLiteral("壁 a.prj"));
+    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
+    const QByteArray document = ReadFile(parameterwork::DocumentPath());
+    const QByteArray archive = ReadFile(path);
+    GetMonitorData()->SetToDefaultForVideo();
+
+    CProjectData other;
+    QString error;
+    ASSERT_TRUE(other.LoadProjectFromFile(QFile::encodeName(path).constData(), error, nullptr));
+    EXPECT_EQ(other.GetLastFileError(), QString());
+    ASSERT_TRUE(other.SaveProjectToFile(path, nullptr));
+    EXPECT_EQ(ReadFile(parameterwork::DocumentPath()), document);
+    EXPECT_EQ(ReadFile(path), archive);
+    EXPECT_EQ(other.GetSender(0)->GetPort(1)->GetPortProject()->GetTileSet()->GetTile(0)->GetX(), -100)
+        << "what an offset made legal is restored";
+}
+
+TEST_F(ProjectFileTest, StreamAndTreeWriteTheSame)
+{
+    BuildProject();
+    QDomDocument file;
+    ASSERT_TRUE(ParseXmlDom(Document(), file, nullptr));
+    QDomDocument tree;
+    QDomElement root = tree.createElement(QStringLiteral("LedSetting"));
+    project.WriteVersionSupport(tree, &root);
+    project.WriteDemoModeInfo(tree, &root);
+    project.WriteSenderGroup(tree, &root);
+    project.WriteTileGamma(tree, &root);
+    project.WritePrintData(tree, &root);
+    project.WriteSender(tree, &root, nullptr);
+    project.WriteMonitorSet(tree, &root);
+    project.WriteParameterFileInfo(tree, &root);
+    EXPECT_EQ(Difference(file.documentElement(), root), QString());
+}
+
+TEST_F(ProjectFileTest, StreamAndTreeReadTheSame)
+{
+    ASSERT_TRUE(Load(SamplePath("small-wall.xml")));
+    EXPECT_EQ(project.GetLastFileError(), QString());
+    const QByteArray streamed = Document();
+    QDomDocument tree;
+    ASSERT_TRUE(LoadXmlDom(SamplePath("small-wall.xml"), tree, nullptr));
+    const auto element = [&tree](const char* name) {
+        return tree.documentElement().firstChildElement(QString::fromLatin1(name));
+    };
+    project.SetToDefault();
+    QDomElement demo = element("DemoModeInfo"), groups = element("SenderTreeGroup"),
+                gamma = element("TileTypeGamma");
+    QDomElement print = element("PrintFormData"), senders = element("SenderLayout"),
+                monitor = element("Monitor");
+    QDomElement files = element("ParameterFile");
+    project.ReadDemoModeInfo(tree, &demo);
+    project.ReadSenderGroup(tree, &groups);
+    project.ReadTileGamma(tree, &gamma);
+    project.ReadPrintData(tree, &print);
+    project.ReadSender(tree, &senders, versionError, nullptr);
+    project.ReadMonitorSet(tree, &monitor);
+    project.ReadParameterFileInfo(tree, &files);
+    EXPECT_EQ(Document(), streamed);
+}
+
+TEST_F(ProjectFileTest, ParameterFilesTravelWithTheProjectIntoTheLibrary)
+{
+    ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
+    EXPECT_EQ(project.GetLastFileError(), QString());
+    const QByteArray first = ReadFile(parameterwork::PathOf(QStringLiteral("箱体A128")));
+    EXPECT_EQ(first.size(), 1504);
+    EXPECT_EQ(ReadFile(parameterwork::ProjectFolder() + QStringLiteral("1.rcvbp")).size(), 1104);
+    EXPECT_EQ(ReadFile(CProductDirectorySet::GetRootDir() + QStringLiteral("箱体A128.rcvbp")), first);
+    EXPECT_NE(
+        GetRuntimeData()->GetProductDirectorySet()->FindProductFromGuid(project.GetParameterFiles()[0].type),
+        nullptr);
+    EXPECT_EQ(GetRuntimeData()->GetProductDirectorySet()->GetProductCount(), 2);
+
+    QFile::remove(parameterwork::PathOf(QStringLiteral("箱体A128"))); // the library's copy takes its place
+    const QString path = folder.Path(QStringLiteral("b.prj"));
+    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
+    EXPECT_EQ(project.GetLastFileError(), QString());
+    ASSERT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("unpacked"))));
+    EXPECT_EQ(ReadFile(folder.Path(QStringLiteral("unpacked/project/0.rcvbp"))), first);
+}
+
+TEST_F(ProjectFileTest, FileOfAnotherTypeInTheWorkFolderIsReplaced)
+{
+    QFile stale(parameterwork::PathOf(QStringLiteral("箱体A128")));
+    ASSERT_TRUE(stale.open(QIODevice::WriteOnly));
+    stale.write("of another project");
+    stale.close();
+    ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
+    EXPECT_EQ(ReadFile(stale.fileName()).size(), 1504);
+}
+
+TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
+{
+    BuildProject();
+    const QByteArray before = Document();
+    EXPECT_FALSE(Load(SamplePath("too-new.prj")));
+    EXPECT_EQ(versionError, QStringLiteral("7.0"));
+    const QString files[] = {
+        SamplePath("truncated.prj"),
+        folder.Path(QStringLiteral("missing.prj")),
+        folder.Write(QStringLiteral("empty.prj"), ""),
+        folder.Write(QStringLiteral("text.prj"), "hello"),
+        folder.Write(QStringLiteral("cut.xml"), ReadFile(SamplePath("small-wall.xml")).left(20000)),
+        folder.Write(QStringLiteral("other.xml"), "<?xml version=\"1.0\"?><LedControlConfig/>"),
+        folder.Write(QStringLiteral("zip.prj"), "PK\3\4 and nothing more"),
+        folder.Write(QStringLiteral("deep.xml"),
+                     "<?xml version=\"1.0\"?>" + QByteArray("<a>").repeated(20000)),
+    };
+    for (const QString& path : files) {
+        EXPECT_FALSE(Load(path)) << path.toStdString();
+        EXPECT_NE(project.GetLastFileError(), QString()) << path.toStdString();
+        EXPECT_EQ(versionError, QStringLiteral("untouched"));
+    }
+    EXPECT_FALSE(project.LoadProjectFromFile(nullptr, versionError, nullptr));
+    EXPECT_EQ(Document(), before);
+}
+
+TEST_F(ProjectFileTest, VersionsUpTo61AreRead)
+{
+    EXPECT_TRUE(LoadText("<VersionSupport MinimumVersion=\"6.1\"/>"));
+    EXPECT_TRUE(LoadText("<SenderLayout SenderCount=\"0\"/>")) << "no version asks for nothing";
+    EXPECT_FALSE(LoadText("<VersionSupport MinimumVersion=\"6.2\"/>"));
+    EXPECT_EQ(versionError, QStringLiteral("6.2"));
+}
+
+TEST_F(ProjectFileTest, ClimbingEntriesWriteNothingOutside)
+{
+    Load(SamplePath("climbing.prj"));
+    const QDir documents(CConstantData::GetProjectParamFileTemp() + QStringLiteral("../.."));
+    for (const QDir& place : {documents, QDir(documents.filePath(QStringLiteral(".."))), QDir::temp()})
+        EXPECT_FALSE(place.exists(QStringLiteral("evil.txt"))) << place.path().toStdString();
+
+    ASSERT_TRUE(LoadText("<ParameterFile Count=\"1\"><File1 Name=\"../../x/..\" Md5=\"\"/></ParameterFile>"));
+    EXPECT_EQ(project.GetParameterFiles()[0].name, QStringLiteral("_.._x_"));
+}
+
+TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
+{
+    ASSERT_TRUE(
+        LoadText("<Strange/><SenderLayout SenderCount=\"9\"><Sender_2 PortCount=\"2\" ID=\"x\">"
+                 "<Port_1><TitleLayout TileCount=\"2000000000\"><Tile_7 Width=\"64\" Height=\"64\" X=\"5\"/>"
+                 "<Tile_3 Width=\"32\" Height=\"32\"/><Tile_3/><Tile_0/></TitleLayout></Port_1>"
+                 "</Sender_2></SenderLayout>"));
+    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("Strange")));
+    ASSERT_EQ(project.GetSenderCount(), 1);
+    EXPECT_FALSE(project.GetSender(0)->GetId().isNull());
+    EXPECT_EQ(project.GetSender(0)->GetPortCount(), 2);
+    const CTileSet& tiles = TilesOf(*project.GetSender(0)->GetPort(0));
+    ASSERT_EQ(tiles.GetCount(), 2);
+    EXPECT_EQ(tiles.GetTile(0)->GetWidth(), 32) << "by number, and the first of equal ones";
+    EXPECT_EQ(tiles.GetTile(1)->GetX(), 5);
+}
+
+TEST_F(ProjectFileTest, RepeatedSenderIdsAreRenewedBeforeTheirPortsAreRead)
+{
+    const QByteArray sender =
+        " ID=\"{c95ad16b-6333-4764-bb20-9ee65602cbb4}\" PortCount=\"2\"><Port_1>"
+        "<TitleLayout TileCount=\"1\"><Tile_1 Width=\"8\" Height=\"8\"/></TitleLayout></Port_1>";
+    ASSERT_TRUE(LoadText("<SenderLayout SenderCount=\"2\"><Sender_1" + sender + "</Sender_1><Sender_2"
+                         + sender + "</Sender_2></SenderLayout>"));
+    ASSERT_EQ(project.GetSenderCount(), 2);
+    CSender* second = project.GetSender(1);
+    EXPECT_NE(second->GetId(), project.GetSender(0)->GetId());
+    EXPECT_EQ(TilesOf(*second->GetPort(0)).GetTile(0)->GetSenderId(), second->GetId());
+}
+
+TEST_F(ProjectFileTest, LoadingKeepsTheCurrentSenderAndStartsAnUnmodifiedHistory)
+{
+    project.NewSender();
+    project.NewSender();
+    project.SetCurrentSender(1);
+    EXPECT_TRUE(GetRuntimeData()->GetProjectUndoRedo()->IsModidfied());
+    ASSERT_TRUE(Load(SamplePath("small-wall.xml")));
+    EXPECT_EQ(project.GetCurSenderIndex(), 1);
+    EXPECT_FALSE(GetRuntimeData()->GetProjectUndoRedo()->IsModidfied());
+    ASSERT_TRUE(LoadText("<SenderLayout SenderCount=\"1\"><Sender_1/></SenderLayout>"));
+    EXPECT_EQ(project.GetCurSenderIndex(), 0);
+}
+
+TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
+{
+    project.NewSender();
+    const QString inTheWay = folder.Write(QStringLiteral("file"), "x");
+    EXPECT_TRUE(project.SaveProjectToFile(inTheWay + QStringLiteral("/a.prj"), nullptr));
+    EXPECT_NE(project.GetLastFileError(), QString());
+
+    QDir().mkpath(parameterwork::DocumentPath());
+    EXPECT_FALSE(project.SaveProjectToFile(folder.Path(QStringLiteral("b.prj")), nullptr));
+    EXPECT_NE(project.GetLastFileError(), QString());
+    QDir().rmdir(parameterwork::DocumentPath());
+}
+
+TEST_F(ProjectFileTest, DamagedFilesAreReadOrRefusedWhole)
+{
+    BuildProject();
+    const QString original = folder.Path(QStringLiteral("original.prj"));
+    ASSERT_TRUE(project.SaveProjectToFile(original, nullptr));
+    const QByteArray before = Document();
+    const QByteArray sample = ReadFile(SamplePath("small-wall.xml"));
+    std::mt19937 random(4711);
+    const auto below = [&random](int limit) {
+        return static_cast<int>(random() % static_cast<unsigned>(limit));
+    };
+    for (int round = 0; round < 150; ++round) {
+        QByteArray damaged = sample;
+        for (int hits = 1 + below(4); hits > 0; --hits)
+            damaged[2 + below(damaged.size() - 2)] = static_cast<char>(random());
+        if (below(4) == 0)
+            damaged.remove(2 + below(damaged.size() - 2), below(200));
+        const bool loaded = Load(folder.Write(QStringLiteral("damaged.xml"), damaged));
+        const QByteArray after = Document();
+        if (!loaded)
+            ASSERT_EQ(after, before) << "round " << round;
+        CProjectData again;
+        QString error;
+        const QString path = folder.Path(QStringLiteral("document.prj"));
+        ASSERT_TRUE(again.LoadProjectFromFile(QFile::encodeName(path).constData(), error, nullptr)) << round;
+        if (loaded)
+            ASSERT_TRUE(Load(original));
+    }
+}

@@ -1,0 +1,18 @@
+#include "support/library.h"
+
+#include "frame/lednimbradata.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+Library::Library()
+{
+    QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + QStringLiteral("/Orvan"))
+        .removeRecursively();
+    LedNimbraData_Init();
+}
+
+Library::~Library()
+{
+    LedNimbraData_Release();
+}
