@@ -25,10 +25,12 @@ int Saturated(qint64 value)
     return static_cast<int>(qBound<qint64>(Limits::min(), value, Limits::max()));
 }
 
-int Rounded(double value) ///< half away from zero
+constexpr double kFar = 1 << 29; ///< beyond every canvas, and differences of such places still fit
+
+QPoint Rounded(double x, double y) ///< half away from zero
 {
-    using Limits = std::numeric_limits<int>;
-    return static_cast<int>(std::round(qBound<double>(Limits::min(), value, Limits::max())));
+    return QPoint(static_cast<int>(std::round(qBound(-kFar, x, kFar))),
+                  static_cast<int>(std::round(qBound(-kFar, y, kFar))));
 }
 
 SRotateParam BlockRecord(const SAddTileInfo& info)
@@ -130,22 +132,13 @@ bool FillGrid(const CTileSet& tiles)
     return true;
 }
 
-// Whether the cabinet lies where its rotation centre, taken as its middle, puts it.
-bool HasOwnCentre(const CTile& tile, const SRotateParam& record)
-{
-    CTile placed(tile);
-    placed.SetX(Rounded(record.centerX - tile.GetWidth() * 0.5));
-    placed.SetY(Rounded(record.centerY - tile.GetHeight() * 0.5));
-    return placed.GetPosition() == tile.GetPosition();
-}
-
 // Turns a cabinet, as it shows, by the angle of `turn` about the centre of `turn`. Its own centre turns along
 // unrounded, so that rounding of the place does not add up over many turns.
 void TurnTile(CTile& tile, const SRotateParam& turn)
 {
     SRotateParam record = tile.GetRotateRecord();
-    QPointF corner(-tile.GetWidth() * 0.5, -tile.GetHeight() * 0.5); // seen from the centre
-    if (!HasOwnCentre(tile, record)) {
+    QPointF corner(-tile.GetWidth() * 0.5, -tile.GetHeight() * 0.5); // left top seen from the centre
+    if (Rounded(record.centerX + corner.x(), record.centerY + corner.y()) != tile.GetPosition()) {
         const bool onPivot =
             std::abs(record.centerX - turn.centerX) < 0.01 && std::abs(record.centerY - turn.centerY) < 0.01;
         if (onPivot || std::abs(record.angle) > kNoAngle) {
@@ -161,8 +154,9 @@ void TurnTile(CTile& tile, const SRotateParam& turn)
     record.centerY = centre.y;
     record.angle = NormalizedAngle(record.angle + turn.angle);
     record.rotated = std::abs(record.angle) > kNoAngle;
-    tile.SetX(Rounded(centre.x + corner.x()));
-    tile.SetY(Rounded(centre.y + corner.y()));
+    // Not clamped: what is turned may lie on the canvas while its left top, before turning, does not.
+    const QPoint move = Rounded(centre.x + corner.x(), centre.y + corner.y()) - tile.GetPosition();
+    tile.Offset(move.x(), move.y());
     tile.SetTileRotateParam(&record);
 }
 

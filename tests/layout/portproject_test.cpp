@@ -1,1 +1,399 @@
+#include "layout/portproject.h"
+
+#include "layout/rotation.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
+#include "support/wallbuilder.h"
+
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr int kView = 3;
+
+SAddTileInfo Block(int columns, int rows)
+{
+    SAddTileInfo info;
+    info.columns = columns;
+    info.rows = rows;
+    info.width = 100;
+    info.height = 50;
+    return info;
+}
+
+} // namespace
+
+class PortProjectTest : public testing::Test
+{
+protected:
+    CPort port;
+    CPortProject& layout = *port.GetPortProject();
+    CTileSet& tiles = TilesOf(port);
+    CTileGroupSet& groups = GroupsOf(port);
+
+    CTile* Tile(int index) { return tiles.GetTile(index); }
+    CTileSet Tiles(std::initializer_list<int> indices)
+    {
+        CTileSet set;
+        for (const int index : indices)
+            set.AddTile(tiles.GetTile(index));
+        return set;
+    }
+};
+
+TEST_F(PortProjectTest, AddTilePlacesABlockRowByRowAsASelectedGroup)
+{
+    ASSERT_TRUE(layout.AddTile(Block(1, 1)));
+    EXPECT_TRUE(Tile(0)->GetGroupId().isNull());
+    EXPECT_TRUE(Tile(0)->IsSelected(kView));
+    EXPECT_EQ(groups.GetDirectCount(), 0);
+
+    SAddTileInfo info = Block(3, 2);
+    info.left = 40;
+    info.top = 10;
+    info.portIndex = 2;
+    ASSERT_TRUE(layout.AddTile(info));
+    ASSERT_EQ(tiles.GetCount(), 7);
+    EXPECT_FALSE(Tile(0)->IsSelected(kView));
+    EXPECT_EQ(Tile(3)->GetPosition(), QPoint(240, 10));
+    EXPECT_EQ(Tile(4)->GetPosition(), QPoint(40, 60));
+    EXPECT_EQ(Tile(6)->GetSize(), QSize(100, 50));
+    EXPECT_EQ(Tile(6)->GetPortIndex(), 2);
+    EXPECT_FALSE(Tile(6)->HasSetConnectIndex());
+    EXPECT_TRUE(Tile(6)->IsSelected(kView));
+    EXPECT_TRUE(Tile(6)->GetTileShowColor().isValid());
+    SRotateParam record;
+    record.centerX = 290;
+    record.centerY = 85;
+    record.width = 100;
+    record.height = 50;
+    EXPECT_EQ(Tile(6)->GetRotateRecord(), record);
+
+    ASSERT_EQ(groups.GetDirectCount(), 1);
+    CTileGroup* group = groups.GetDirectGroupByDirIndex(0);
+    EXPECT_EQ(Tile(6)->GetGroupId(), group->GetID());
+    EXPECT_TRUE(group->IsSelected(kView));
+    EXPECT_FALSE(group->IsRotated());
+    EXPECT_EQ(group->GetRotateParam()->centerX, 190);
+    EXPECT_EQ(group->GetRotateParam()->leftTopY, 10);
+    EXPECT_EQ(group->GetRotateParam()->height, 100);
+}
+
+TEST_F(PortProjectTest, AddTileRefusesEmptyAndEnormousBlocks)
+{
+    for (const QSize& size :
+         {QSize(0, 5), QSize(5, 0), QSize(-1, -1), QSize(1024, 1025), QSize(65536, 65536)})
+        EXPECT_FALSE(layout.AddTile(Block(size.width(), size.height())));
+    EXPECT_EQ(tiles.GetCount(), 0);
+    EXPECT_EQ(groups.GetDirectCount(), 0);
+}
+
+TEST_F(PortProjectTest, AddTileKeepsCabinetsOnTheCanvasEvenFarBeyondIt)
+{
+    SAddTileInfo info = Block(2, 2);
+    info.left = std::numeric_limits<int>::max() - 50;
+    info.top = -20;
+    ASSERT_TRUE(layout.AddTile(info));
+    EXPECT_EQ(Tile(3)->GetPosition(), QPoint(kMaxCanvasWidth - 100, 30));
+    EXPECT_EQ(Tile(0)->GetPosition(), QPoint(kMaxCanvasWidth - 100, 0));
+    EXPECT_EQ(Tile(0)->GetRotateRecord().centerY, 25);
+}
+
+TEST_F(PortProjectTest, AddTileLetsTheBlockOverruleTheProductAndRegistersIt)
+{
+    TestLookup lookup;
+    lookup.productType = SMD5::FromString(QString(32, QLatin1Char('a')));
+    lookup.product = {QStringLiteral("cabinet"), false, false};
+
+    SAddTileInfo info = Block(2, 1);
+    info.type = lookup.productType;
+    info.multi = true;
+    info.fixedLine = true;
+    info.ordered = false;
+    info.multiSize = QSize(2, 2);
+    const unsigned char line[] = {1, 0, 3, 2};
+    std::copy(std::begin(line), std::end(line), info.line);
+    ASSERT_TRUE(layout.AddTile(info));
+    EXPECT_TRUE(Tile(1)->IsMultiRcvTile());
+    EXPECT_TRUE(Tile(1)->IsMultiRcvsOrdered()); // as every fixed line
+    EXPECT_EQ(Tile(1)->GetMultiRcvsCount(), 4);
+    EXPECT_EQ(Tile(1)->GetMultiRcvsLineCode(2), 3);
+    EXPECT_EQ(lookup.parameterFiles, QList<QString>{QStringLiteral("cabinet")});
+
+    ASSERT_TRUE(layout.AddTile(Block(1, 1)));
+    EXPECT_EQ(lookup.parameterFiles.size(), 1);
+}
+
+TEST_F(PortProjectTest, CopiesAreEqualAndStandAlone)
+{
+    const QUuid outer = MakeWall(port, 2, 1);
+    const QUuid inner = MakeWall(port, 2, 1);
+    NestGroups(port, outer, {inner});
+
+    auto copy = std::make_unique<CPortProject>(layout);
+    CPortProject assigned;
+    assigned.AddTile(Block(2, 2));
+    assigned = *copy;
+    EXPECT_EQ(*copy, layout);
+    copy->GetTileSet()->GetTile(0)->Offset(1, 0);
+    EXPECT_NE(*copy, layout);
+    copy.reset();
+    EXPECT_EQ(assigned, layout);
+    EXPECT_NE(assigned.GetTileGroupSet()->GetSubGroupBySubID(inner), groups.GetSubGroupBySubID(inner));
+
+    groups.GetDirectGroupByDirID(outer)->SetSelected(kView, false);
+    EXPECT_NE(assigned, layout);
+}
+
+TEST_F(PortProjectTest, DeletingTheSelectionTakesSelectedGroupsAtEveryDepth)
+{
+    QList<QUuid> ids;
+    for (int i = 0; i < 4; ++i)
+        ids.append(MakeWall(port, 2, 1));
+    NestGroups(port, ids[2], {ids[0], ids[1]});
+    layout.CancelAllSelected();
+    EXPECT_FALSE(groups.GetSubGroupBySubID(ids[0])->IsSelected(kView));
+    groups.GetSubGroupBySubID(ids[0])->SetSelected(kView, true);
+    groups.GetDirectGroupByDirID(ids[3])->SetSelected(kView, true);
+    const QList<CTile*> staying{Tile(2), Tile(3), Tile(5)};
+    for (const int index : {0, 1, 4, 6, 7})
+        Tile(index)->SetSelected(true, kView, -1);
+
+    EXPECT_TRUE(layout.DeleteSelectedTileAndGroup());
+    ASSERT_EQ(tiles.GetCount(), 3);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(Tile(i), staying[i]);
+    EXPECT_TRUE(tiles.IsOwner());
+    ASSERT_EQ(groups.GetDirectCount(), 1);
+    EXPECT_FALSE(groups.GetSubGroupBySubID(ids[0]));
+    EXPECT_TRUE(groups.GetSubGroupBySubID(ids[1]));
+}
+
+// Cabinets 0-1 lie in `left`, 2-3 in `right`, both below `above` with 4-5; 6-7 in `single`, 8 in none.
+class PortProjectGroupTest : public PortProjectTest
+{
+protected:
+    PortProjectGroupTest()
+    {
+        left = MakeWall(port, 2, 1);
+        right = MakeWall(port, 2, 1);
+        above = MakeWall(port, 2, 1);
+        single = MakeWall(port, 2, 1);
+        MakeWall(port, 1, 1);
+        NestGroups(port, above, {right, left});
+    }
+
+    void ExpectTiles(const CTileSet& set, std::initializer_list<int> indices)
+    {
+        const CTileSet expected = Tiles(indices);
+        ASSERT_EQ(set.GetCount(), expected.GetCount());
+        for (int i = 0; i < set.GetCount(); ++i)
+            EXPECT_EQ(set.GetTile(i), expected.GetTile(i)) << i;
+    }
+
+    QUuid left, right, above, single;
+    const QUuid unknown = QUuid::createUuid();
+};
+
+TEST_F(PortProjectGroupTest, TilesOfAGroupComeGroupByGroupFromTheTop)
+{
+    CTileSet out = Tiles({8});
+    EXPECT_TRUE(layout.GetTileSetInGroupRecursive(out, above));
+    ExpectTiles(out, {8, 4, 5, 2, 3, 0, 1});
+    EXPECT_TRUE(layout.GetAllTileSetInFirstGroup(out, above));
+    ExpectTiles(out, {4, 5, 2, 3, 0, 1});
+
+    EXPECT_FALSE(layout.GetAllTileSetInFirstGroup(out, left)); // not at the top
+    ExpectTiles(out, {});
+    EXPECT_TRUE(layout.GetTileSetInGroupRecursive(out, left));
+    ExpectTiles(out, {0, 1});
+    const CTileGroup* group = groups.GetDirectGroupByDirID(above);
+    EXPECT_TRUE(layout.GetAllTileSetInFirstGroupPart(out, group->GetSubGroupSet()));
+    ExpectTiles(out, {0, 1, 2, 3, 0, 1});
+    EXPECT_FALSE(layout.GetAllTileSetInFirstGroupPart(out, nullptr));
+    EXPECT_FALSE(
+        layout.GetAllTileSetInFirstGroupPart(out, groups.GetSubGroupBySubID(left)->GetSubGroupSet()));
+
+    Tile(8)->SetGroupId(unknown);
+    CTileSet stray;
+    EXPECT_FALSE(layout.GetTileSetInGroupRecursive(stray, unknown));
+    ExpectTiles(stray, {8});
+}
+
+TEST_F(PortProjectGroupTest, GroupsOfTilesAreListedOnceInOrder)
+{
+    Tile(8)->SetGroupId(unknown);
+    const CTileSet some = Tiles({7, 8, 0, 1, 4});
+    QList<QUuid> ids{unknown};
+    EXPECT_TRUE(layout.GetDirectGroupsInTileSet(ids, some));
+    EXPECT_EQ(ids, QList<QUuid>({above, single}));
+    EXPECT_TRUE(layout.GetAllGroupsFromTileSet(ids, some));
+    EXPECT_EQ(ids, QList<QUuid>({single, left, above}));
+    EXPECT_TRUE(layout.GetAllTileGroupIDInTileSet(&some, ids));
+    EXPECT_EQ(ids, QList<QUuid>({single, unknown, left, above}));
+
+    EXPECT_FALSE(layout.GetDirectGroupsInTileSet(ids, Tiles({8})));
+    EXPECT_FALSE(layout.GetAllGroupsFromTileSet(ids, Tiles({8})));
+    EXPECT_FALSE(layout.GetAllTileGroupIDInTileSet(nullptr, ids));
+    EXPECT_TRUE(ids.isEmpty());
+}
+
+TEST_F(PortProjectGroupTest, OnlyGroupsThatAreWhollyInTheSetStay)
+{
+    QList<QUuid> ids{left, unknown, single, above};
+    EXPECT_TRUE(layout.RemoveGroupWhenTileOut(ids, Tiles({0, 1, 6, 7, 8})));
+    EXPECT_EQ(ids, QList<QUuid>{single}); // left itself is whole, the group at its top is not
+
+    ids = {right, single};
+    EXPECT_FALSE(layout.RemoveGroupWhenTileOut(ids, tiles));
+    EXPECT_EQ(ids.size(), 2);
+    ids.clear();
+    EXPECT_FALSE(layout.RemoveGroupWhenTileOut(ids, tiles));
+}
+
+TEST_F(PortProjectTest, TheRotationCentreGoesToTheOneTileOrTheOneGroup)
+{
+    MakeWall(port, 2, 1);
+    layout.ChangeRotateCenter(QPointF(7, 8), Tiles({1}));
+    EXPECT_EQ(Tile(1)->GetRotateRecord().centerX, 7);
+    EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetRotateParam()->centerX, 128);
+    layout.ChangeRotateCenter(QPointF(5, 6), tiles);
+    EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetRotateParam()->centerY, 6);
+    EXPECT_EQ(Tile(0)->GetRotateRecord().centerX, 64);
+
+    MakeWall(port, 2, 1);
+    layout.ChangeRotateCenter(QPointF(9, 9), tiles);
+    EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetRotateParam()->centerX, 5);
+}
+
+TEST_F(PortProjectTest, AQuarterTurnMovesTilesAboutTheGivenCentre)
+{
+    ASSERT_TRUE(layout.AddTile(Block(2, 1)));
+    SRotateParam record;
+    record.centerX = 100;
+    record.centerY = 25;
+    record.angle = 90;
+    layout.SetTileGroupRotateParam(&record, tiles, 90);
+    EXPECT_EQ(Tile(0)->GetPosition(), QPoint(50, -50)); // what shows begins at (75, -75)
+    EXPECT_EQ(Tile(1)->GetPosition(), QPoint(50, 50));
+    EXPECT_EQ(Tile(1)->GetRotateRecord().centerY, 75);
+    EXPECT_TRUE(Tile(1)->GetRotateRecord().rotated);
+    EXPECT_EQ(*groups.GetDirectGroupByDirIndex(0)->GetRotateParam(), record);
+
+    layout.SetTileGroupRotateParam(&record, tiles, 180);
+    EXPECT_EQ(Tile(1)->GetRotateRecord().angle, -90);
+    layout.SetTileGroupRotateParam(&record, tiles, 90);
+    EXPECT_FALSE(Tile(1)->GetRotateRecord().rotated);
+    EXPECT_EQ(Tile(1)->GetPosition(), QPoint(100, 0));
+    EXPECT_EQ(Tile(0)->GetPosition(), QPoint(0, 0));
+
+    layout.SetTileGroupRotateParam(nullptr, tiles, 90);
+    layout.SetTileGroupRotateParam(&record, tiles, std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(Tile(1)->GetRotateRecord().angle, 0);
+}
+
+TEST_F(PortProjectTest, TurnedBackByTheSameAngleEverythingIsWhereItWas)
+{
+    Wall wall;
+    wall.columns = 7;
+    wall.rows = 5;
+    wall.cabinet = QSize(129, 65); // middles at half pixels
+    wall.leftTop = QPoint(3000, 2000);
+    MakeWall(port, wall);
+    const CPortProject before(layout);
+    SRotateParam record = *groups.GetDirectGroupByDirIndex(0)->GetRotateParam();
+
+    for (double angle = -720; angle <= 720; angle += 13.7) {
+        layout.SetTileGroupRotateParam(&record, tiles, angle);
+        layout.SetTileGroupRotateParam(&record, tiles, -angle);
+    }
+    for (int i = 0; i < tiles.GetCount(); ++i) {
+        const CTile* old = before.GetTileSet()->GetTile(i);
+        EXPECT_EQ(Tile(i)->GetPosition(), old->GetPosition());
+        EXPECT_NEAR(Tile(i)->GetRotateRecord().centerX, old->GetRotateRecord().centerX, 0.01);
+        EXPECT_NEAR(Tile(i)->GetRotateRecord().centerY, old->GetRotateRecord().centerY, 0.01);
+        EXPECT_NEAR(Tile(i)->GetRotateRecord().angle, 0, 0.01);
+    }
+}
+
+TEST_F(PortProjectTest, TilesTurnAsTheyShowWhateverTheirOwnCentreIs)
+{
+    TestLookup lookup;
+    lookup.rotateEnabled = true;
+    Wall wall;
+    wall.cabinet = QSize(100, 50);
+    wall.leftTop = QPoint(1000, 1000);
+    MakeWall(port, wall); // turned about a corner before
+    MakeWall(port, wall); // resized after it was placed
+    layout.ChangeRotateCenter(QPointF(1100, 1050), Tiles({0}));
+    Tile(0)->GetTileRotateParam()->angle = 30;
+    Tile(0)->GetTileRotateParam()->rotated = true;
+    Tile(1)->SetWidth(300);
+
+    SRotateParam turn;
+    turn.centerX = 1200;
+    turn.centerY = 1100;
+    turn.angle = 60;
+    for (const int index : {0, 1}) {
+        CPointEx<double> old[4];
+        CPointEx<double> now[4];
+        Tile(index)->GetRotateArea(old);
+        layout.SetTileGroupRotateParam(&turn, Tiles({index}), 60);
+        Tile(index)->GetRotateArea(now);
+        for (int i = 0; i < 4; ++i) {
+            const CPointEx<double> expected = GetRotatePoint(&turn, old[i].x, old[i].y);
+            EXPECT_NEAR(now[i].x, expected.x, 1) << index << ' ' << i;
+            EXPECT_NEAR(now[i].y, expected.y, 1) << index << ' ' << i;
+        }
+    }
+}
+
+TEST_F(PortProjectTest, OnlyAWholeRegularBlockMayBeChanged)
+{
+    EXPECT_FALSE(layout.SelTileCountModifyEnable());
+    MakeWall(port, 1, 1);
+    EXPECT_TRUE(layout.SelTileCountModifyEnable());
+    EXPECT_FALSE(layout.SelTileShapeModifyEnable());
+
+    const QUuid group = MakeWall(port, 3, 2);
+    const auto both = [this] {
+        EXPECT_EQ(layout.SelTileCountModifyEnable(), layout.SelTileShapeModifyEnable());
+        return layout.SelTileCountModifyEnable();
+    };
+    EXPECT_TRUE(both());
+    Tile(1)->SetSelected(false, kView, -1);
+    EXPECT_FALSE(both()); // not the whole group
+    Tile(1)->SetSelected(true, kView, -1);
+    Tile(0)->SetSelected(true, kView, -1);
+    EXPECT_FALSE(both()); // not only the group
+    Tile(0)->SetSelected(false, kView, -1);
+    Tile(2)->Offset(1, 0);
+    EXPECT_FALSE(both()); // off the grid
+    Tile(2)->Offset(-129, 0);
+    EXPECT_FALSE(both()); // two in one cell
+    Tile(2)->Offset(128, 0);
+    Tile(2)->SetWidth(64);
+    EXPECT_FALSE(both()); // another size
+    Tile(2)->SetWidth(128);
+    EXPECT_TRUE(both());
+
+    const QUuid inner = MakeWall(port, 2, 1);
+    NestGroups(port, group, {inner});
+    layout.CancelAllSelected();
+    for (int i = 1; i <= 6; ++i)
+        Tile(i)->SetSelected(true, kView, -1);
+    EXPECT_FALSE(both()); // the group has a sub-group
+}
+
+TEST_F(PortProjectTest, ABlockWithoutSizeIsRefusedAndItsFirstTileRepaired)
+{
+    Wall wall;
+    wall.columns = 2;
+    wall.cabinet = QSize(0, 0);
+    MakeWall(port, wall);
+    EXPECT_FALSE(layout.SelTileCountModifyEnable());
+    EXPECT_EQ(Tile(0)->GetSize(), QSize(1, 1));
+}

@@ -1,1 +1,239 @@
+#include "layout/sender.h"
+
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
+#include "support/wallbuilder.h"
+
 #include <gtest/gtest.h>
+
+#include <QVariant>
+
+TEST(SenderTest, PortsKnowTheirOwnerAndColour)
+{
+    CSender sender;
+    for (const QUuid& id : {sender.GetId(), QUuid::createUuid()}) {
+        sender.SetId(id);
+        for (int i = 0; i < kMaxPorts; ++i) {
+            EXPECT_EQ(sender.GetPort(i)->GetSenderId(), id);
+            EXPECT_EQ(sender.GetPort(i)->GetPortIndex(), i);
+        }
+    }
+    EXPECT_EQ(sender.GetPort(20)->GetPortColor(), QColor(204, 94, 16, 204));
+    EXPECT_EQ(sender.GetPort(-1), nullptr);
+    EXPECT_EQ(sender.GetPort(kMaxPorts), nullptr);
+}
+
+TEST(SenderTest, OnlyPortCountsThatDevicesHaveAreTaken)
+{
+    CSender sender;
+    sender.SetPortCount(160);
+    for (const int refused : {-4, 1, 3, 41, 100, 161}) {
+        sender.SetPortCount(refused);
+        EXPECT_EQ(sender.GetPortCount(), 160) << refused;
+    }
+    sender.SetPortCount(0);
+    EXPECT_EQ(sender.GetPortCount(), 4);
+}
+
+namespace {
+
+QVariantList Fields(const CSender& sender)
+{
+    const CPort& port = *sender.GetPort(159);
+    return {sender.GetCanvasSize(),
+            sender.GetId(),
+            sender.GetSenderName(),
+            sender.GetPrintName(),
+            sender.GetPortCount(),
+            sender.GetOffset(),
+            quint32(sender.GetNetSenderIP()),
+            sender.GetMonitorRenderArea(),
+            sender.GetMonitorRenderRelativePos(),
+            sender.GetMonitorRcvOffsetPt(),
+            sender.GetRecentPortIndex(),
+            sender.GetBelongGroup(),
+            sender.IsPrintNameEnable(),
+            sender.IsBKImgShow(),
+            sender.IsBKImgStretch(),
+            sender.GetBKImgAlpha(),
+            sender.GetDeviceClass(),
+            port.IsBackupDest(),
+            port.IsFlagLock(),
+            port.IsVisible(),
+            port.GetPortArea(),
+            port.GetPortColor()};
+}
+
+} // namespace
+
+TEST(SenderTest, ACopyEqualsItsSourceInEveryField)
+{
+    const auto source = MakeWall(2, 2, 3);
+    source->SetCanvasSize(QSize(1, 2));
+    source->SetSenderName(QStringLiteral("name"));
+    source->SetPrintName(QStringLiteral("print"));
+    source->SetOffset(QSize(3, 4));
+    source->SetNetSenderIP(5);
+    source->SetMonitorRenderArea(QRect(6, 7, 8, 9));
+    source->SetMonitorRenderRelativePos(10);
+    source->SetMonitorRcvOffsetPt(QPoint(11, 12));
+    source->SetRecentPortIndex(13);
+    source->SetBelongGroup(QUuid::createUuid());
+    source->SetPrintNameEnable(true);
+    source->SetBKImgShow(true);
+    source->SetBKImgStretch(true);
+    source->SetBKImgAlpha(14);
+    source->SetDeviceClass(4);
+    source->SetPortCount(160);
+    CPort& port = *source->GetPort(159);
+    port.SetBeBackupDest(source->GetId(), 1);
+    port.SetFlagLock(true);
+    port.SetVisible(false);
+    port.SetPortArea(QRect(1, 2, 3, 4));
+    port.SetPortColor(Qt::red);
+    const QVariantList defaults = Fields(CSender());
+    const QVariantList expected = Fields(*source);
+    for (int i = 0; i < expected.size(); ++i)
+        ASSERT_NE(expected[i], defaults[i]) << i;
+
+    CSender copy;
+    MakeWall(*copy.GetPort(7), 3, 3);
+    copy.CopySender(*source);
+    copy.CopySender(copy);
+    EXPECT_EQ(Fields(copy), expected);
+    for (int i = 0; i < kMaxPorts; ++i)
+        EXPECT_TRUE(copy.GetPort(i)->BeSameAs(*source->GetPort(i))) << i;
+
+    CSender layoutOnly;
+    layoutOnly.LayoutCopy(*source);
+    EXPECT_EQ(*layoutOnly.GetPort(2)->GetPortProject(), *source->GetPort(2)->GetPortProject());
+    EXPECT_FALSE(layoutOnly.GetPort(159)->IsBackupDest());
+}
+
+TEST(SenderTest, TheFirstBackupInUseTellsWhetherItIsASelfBackup)
+{
+    CSender sender;
+    bool self = true;
+    sender.GetPort(4)->SetBeBackupDest(sender.GetId(), 0);
+    EXPECT_FALSE(sender.ExistBackupDest(&self)); // port 4 is not in use
+    EXPECT_FALSE(sender.HaveBkPorts());
+    EXPECT_TRUE(self);
+
+    sender.SetPortCount(6);
+    self = false;
+    EXPECT_TRUE(sender.ExistBackupDest(&self));
+    EXPECT_TRUE(self);
+    sender.GetPort(1)->SetBeBackupDestIP(1, 0);
+    EXPECT_TRUE(sender.ExistBackupDest(&self));
+    EXPECT_FALSE(self);
+    EXPECT_TRUE(sender.ExistBackupDest(nullptr));
+}
+
+TEST(SenderTest, TheOffsetNeverStartsTheLayoutBeforeTheCanvas)
+{
+    CSender sender;
+    EXPECT_EQ(sender.GetBound(), QRect(QPoint(0, 0), QPoint(-1, -1)));
+    sender.OffsetValid();
+    EXPECT_EQ(sender.GetOffset(), QSize(-1, -1));
+
+    Wall wall;
+    wall.leftTop = QPoint(0, 5);
+    MakeWall(*sender.GetPort(3), wall);
+    TilesOf(*sender.GetPort(3)).SetOffset(-30, 0);
+    sender.SetOffset(QSize(10, 0));
+    sender.OffsetValid();
+    EXPECT_EQ(sender.GetOffset(), QSize(30, 0));
+    sender.SetOffset(QSize(31, -6));
+    sender.OffsetValid();
+    EXPECT_EQ(sender.GetOffset(), QSize(31, -5));
+}
+
+TEST(SenderTest, TheBoundUnitesThePortsInUse)
+{
+    CSender sender;
+    Wall wall;
+    wall.leftTop = QPoint(1000, 500);
+    MakeWall(*sender.GetPort(1), wall);
+    EXPECT_EQ(sender.GetBound(), QRect(1000, 500, 128, 64));
+    wall.leftTop = QPoint(2000, 100);
+    MakeWall(*sender.GetPort(3), wall);
+    MakeWall(*sender.GetPort(4), 1, 1); // not in use
+    EXPECT_EQ(sender.GetBound(), QRect(1000, 100, 1128, 464));
+}
+
+TEST(SenderTest, ASelectionOnSeveralPortsIsNoticed)
+{
+    const auto sender = MakeWall(2, 1, 3);
+    EXPECT_TRUE(sender->IsSelectMultiPortTile(-1));
+    TilesOf(*sender->GetPort(1)).UnSelectAll(3);
+    TilesOf(*sender->GetPort(2)).UnSelectAll(3);
+    EXPECT_FALSE(sender->IsSelectMultiPortTile(-1));
+    EXPECT_FALSE(sender->IsSelectMultiPortTile(0));
+    EXPECT_TRUE(sender->IsSelectMultiPortTile(1));
+    TilesOf(*sender->GetPort(0)).UnSelectAll(3);
+    EXPECT_FALSE(sender->IsSelectMultiPortTile(1));
+}
+
+TEST(SenderTest, GroupOperationsWorkOnAllPortsInUse)
+{
+    const auto sender = MakeWall(2, 1, 2);
+    CPort& second = *sender->GetPort(1);
+    const QUuid first = TilesOf(*sender->GetPort(0)).GetTile(0)->GetGroupId();
+    const QUuid outer = TilesOf(second).GetTile(0)->GetGroupId();
+    const QUuid inner = MakeWall(second, 2, 1);
+    NestGroups(second, outer, {inner});
+    TilesOf(*sender->GetPort(0)).GetTile(1)->SetGroupId(inner); // one group over two ports
+
+    CTileSet all;
+    EXPECT_TRUE(sender->GetTileSet(all));
+    ASSERT_EQ(all.GetCount(), 6);
+    CTileSet tiles;
+    EXPECT_TRUE(sender->GetAllTileSetInGroup(tiles, outer));
+    ASSERT_EQ(tiles.GetCount(), 5);
+    EXPECT_EQ(tiles.GetTile(2), all.GetTile(1));
+    EXPECT_FALSE(sender->GetAllTileSetInGroup(tiles, inner));
+    EXPECT_EQ(tiles.GetCount(), 0);
+    EXPECT_TRUE(sender->GetTileSetInGroupRecursive(tiles, inner));
+    EXPECT_EQ(tiles.GetCount(), 3);
+    EXPECT_TRUE(sender->GetAllTileSetInGroupPart(
+        tiles, GroupsOf(second).GetDirectGroupByDirID(outer)->GetSubGroupSet()));
+    EXPECT_EQ(tiles.GetCount(), 6);
+
+    QList<QUuid> ids;
+    EXPECT_TRUE(sender->GetAllGroupsFromTileSet(ids, all));
+    EXPECT_EQ(ids, QList<QUuid>({first, inner, outer}));
+    EXPECT_TRUE(sender->RemoveGroupWhenTileOut(ids, TilesOf(second)));
+    EXPECT_TRUE(ids.isEmpty());
+    ids = {first, outer};
+    EXPECT_FALSE(sender->RemoveGroupWhenTileOut(ids, all));
+}
+
+TEST(SenderTest, AskingForTheGroupsAgainDeletesOnlyStrangers)
+{
+    TestLookup lookup;
+    const auto sender = MakeWall(2, 1, 2);
+    const auto other = MakeWall(2, 1, 1);
+    lookup.senders = {sender.get(), other.get()};
+
+    CTileGroupSet out;
+    out.AddGroup(new CTileGroup, true);
+    EXPECT_TRUE(sender->GetTileGroupSet(out));
+    EXPECT_EQ(out.GetDirectCount(), 2);
+    EXPECT_TRUE(other->GetTileGroupSet(out));
+    EXPECT_EQ(out.GetDirectCount(), 1);
+    EXPECT_TRUE(sender->GetTileGroupSet(out));
+    EXPECT_EQ(out.GetDirectGroupByDirIndex(1), GroupsOf(*sender->GetPort(1)).GetDirectGroupByDirIndex(0));
+
+    EXPECT_FALSE(sender->GetTileGroupSet(GroupsOf(*sender->GetPort(0))));
+    EXPECT_EQ(GroupsOf(*sender->GetPort(0)).GetDirectCount(), 1);
+}
+
+TEST(SenderTest, ClearingReachesPortsThatAreNotInUse)
+{
+    CSender sender;
+    MakeWall(*sender.GetPort(0), 2, 1);
+    MakeWall(*sender.GetPort(159), 2, 1);
+    sender.ClearAllTiles();
+    EXPECT_EQ(TilesOf(*sender.GetPort(159)).GetCount(), 0);
+    EXPECT_EQ(GroupsOf(*sender.GetPort(159)).GetDirectCount(), 0);
+}
