@@ -7,11 +7,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QRandomGenerator>
 #include <QSet>
 
 #include <deque>
-#include <limits>
+#include <random>
 
 namespace {
 
@@ -98,18 +97,18 @@ int CountNewRecords(const TileRun& before, const TileRun& after)
 }
 
 /// One of the edits a user makes, on a port that may be empty.
-void EditAnyhow(CPort& port, int choice, int value)
+void EditAnyhow(CPort& port, unsigned choice, unsigned value)
 {
     CTileSet& tiles = TilesOf(port);
     CTileGroupSet& groups = GroupsOf(port);
     const int count = tiles.GetCount();
-    const int tile = count == 0 ? 0 : value % count;
+    const int tile = count == 0 ? 0 : static_cast<int>(value) % count;
     if (choice == 0 || count == 0) {
-        MakeWall(port, 1 + value % 40, 1 + value % 13);
+        MakeWall(port, 1 + static_cast<int>(value % 40), 1 + static_cast<int>(value % 13));
     } else if (choice == 1) {
         tiles.DeteleTile(tile);
     } else if (choice == 2) {
-        tiles.GetTile(tile)->SetX(value % 30000);
+        tiles.GetTile(tile)->SetX(static_cast<int>(value % 30000));
     } else if (choice == 3) {
         tiles.GetTile(tile)->GetTileRotateParam()->angle = value % 180; // written behind a pointer
     } else if (choice == 4) {
@@ -130,11 +129,11 @@ void EditAnyhow(CPort& port, int choice, int value)
 
 TEST_F(ProjectUndoRedoTest, EveryKindOfEditIsTakenBackAndBroughtBack)
 {
-    QRandomGenerator random(7);
+    std::mt19937 random(7);
     std::deque<CSender> states(1);
     states.back().CopySender(Sender());
     for (int i = 0; i < 150; ++i) {
-        EditAnyhow(Port(random.bounded(2)), random.bounded(9), random.bounded(1000000));
+        EditAnyhow(Port(static_cast<int>(random() % 2)), random() % 9, static_cast<unsigned>(random()));
         if (!history.AddOneStep(Record::OperationPasteTiles)) {
             ExpectSameLayouts(Sender(), states.back());
             continue;
@@ -149,7 +148,7 @@ TEST_F(ProjectUndoRedoTest, EveryKindOfEditIsTakenBackAndBroughtBack)
         ExpectSameLayouts(Sender(), states[static_cast<size_t>(i) - 1]);
     }
     for (int i = 0; i < 100; ++i) {
-        const int target = random.bounded(last + 1);
+        const int target = static_cast<int>(random() % states.size());
         const int steps = target - history.GetCurSenderCurStep();
         ASSERT_TRUE(steps < 0 ? Undo(-steps) : Redo(steps));
         ExpectSameLayouts(Sender(), states[static_cast<size_t>(target)]);
@@ -159,15 +158,15 @@ TEST_F(ProjectUndoRedoTest, EveryKindOfEditIsTakenBackAndBroughtBack)
 TEST_F(ProjectUndoRedoTest, NeverUnmodifiedWhileTheWallDiffersFromWhatWasSaved)
 {
     for (unsigned seed = 1; seed <= 4; ++seed) {
-        QRandomGenerator random(seed);
+        std::mt19937 random(seed);
         history.Init();
         std::array<int, 2> saved = {Tile(0).GetX(), Tile(1).GetX()};
         int clean = 0;
         for (int i = 0; i < 1500; ++i) {
-            const int choice = random.bounded(100);
-            const int steps = random.bounded(choice < 88 ? 3 : 190);
+            const unsigned choice = random() % 100;
+            const int steps = static_cast<int>(random() % (choice < 88 ? 3 : 190));
             if (choice < 60) {
-                EXPECT_TRUE(Edit(choice % 2));
+                EXPECT_TRUE(Edit(static_cast<int>(choice % 2)));
             } else if (choice < 75) {
                 Undo(steps);
             } else if (choice < 92) {
@@ -260,8 +259,8 @@ TEST_F(ProjectUndoRedoTest, AStepCostsWhatItChanged)
     EXPECT_EQ(LayoutSnapshot::Take(*port.GetPortProject(), base), base) << "numbered again as it was";
     tiles.DeteleTile(1234);
     step(1, 0);
-    tiles.AddTile(new CTile);
-    step(1, 1);
+    MakeWall(port, 1, 1);
+    step(2, 1);
     for (int i = 0; i < tiles.GetCount(); ++i)
         tiles.GetTile(i)->GetTileRotateParam(); // from now on cabinets keep their records to themselves
     EXPECT_EQ(LayoutSnapshot::Take(*port.GetPortProject(), base), base);
@@ -269,7 +268,7 @@ TEST_F(ProjectUndoRedoTest, AStepCostsWhatItChanged)
     tiles.DeteleTile(4000);
     step(20, 0);
     for (int i = 0; i < 600; ++i) {
-        tiles.AddTile(new CTile);
+        MakeWall(port, 1, 1);
         base = LayoutSnapshot::Take(*port.GetPortProject(), base);
     }
     EXPECT_LE(base->GetTiles().GetChunks().size(), 40u) << "many small edits leave no crowd of small chunks";
