@@ -34,3 +34,12 @@ TEST(AtomicFileTest, LinkStaysAndItsTargetIsReplaced)
     EXPECT_EQ(ReadFile(target), "new");
     EXPECT_TRUE(QFileInfo(link).isSymLink());
 }
+
+TEST(AtomicFileTest, OnlyRegularFilesAreReplaced)
+{
+    TestFolder folder;
+    QString error;
+    EXPECT_FALSE(ReplaceFile(folder.Path(), QByteArray("new"), &error));
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_FALSE(ReplaceFile(QStringLiteral("/dev/null"), QByteArray("new"), &error));
+}
