@@ -163,7 +163,7 @@ bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, QString* err
 
 bool PackFolder(const QString& folder, const QString& zipPath, QString* error)
 {
-    const QString root = QDir::cleanPath(folder);
+    const QString root = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
     if (folder.isEmpty() || zipPath.isEmpty() || !QFileInfo(root).isDir())
         return Fail(error, QCoreApplication::translate("OrvanData", "文件夹不存在: %1").arg(folder));
     if (!HasArchiveCodec())

@@ -123,7 +123,7 @@ public:
 
     // interface settings
     bool Load_UI(const QString& path); ///< a broken file is kept beside as ".bak"
-    bool Save_UI() const;              ///< false before Load_UI
+    bool Save_UI() const;              ///< nothing to do, and true, before Load_UI
     bool IsEnableRotate() const;
     void SetEnableRotate(bool enable);
     QVariant GetUIValue(const QString& key, const QVariant& standard = QVariant()) const; ///< "Group/Name"

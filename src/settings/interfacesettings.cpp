@@ -47,7 +47,7 @@ bool InterfaceSettings::Load(const QString& path)
 bool InterfaceSettings::Save() const
 {
     if (m_path.isEmpty())
-        return false;
+        return true;
     QSettings file(m_path, QSettings::IniFormat);
     UseUtf8(file);
     for (auto value = m_values.begin(); value != m_values.end(); ++value) {

@@ -10,7 +10,7 @@ class InterfaceSettings
 public:
     /// Starts from the file's values; false when there is none or it is broken and was set aside.
     bool Load(const QString& path);
-    bool Save() const; ///< to the file loaded from; false before
+    bool Save() const; ///< to the file loaded from; nothing to do, and true, before
 
     QVariant Value(const QString& key, const QVariant& standard) const; ///< "Group/Name"
     void SetValue(const QString& key, const QVariant& value);

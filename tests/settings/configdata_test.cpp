@@ -113,7 +113,7 @@ TEST(ConfigDataTest, SavingWhileMonitoringWritesTheStatesFromBefore)
     for (int i = 0; i < kInterfaceCount; ++i)
         config.SetReadOnlyState(i, true);
     SetSettingsLookup(&monitoring);
-    config.Save();
+    EXPECT_TRUE(config.Save());
     SetSettingsLookup(nullptr);
     EXPECT_TRUE(config.GetReadOnlyState(InterfaceDesign));
 
@@ -173,7 +173,7 @@ TEST(ConfigDataTest, InterfaceSettingsKeepWhatTheyDoNotKnow)
     const QString path =
         folder.Write(QStringLiteral("SystemConfigUI.ini"), "[Function]\nEnableRotate=1\n[Other]\nTitle=屏\n");
     CConfigData config;
-    EXPECT_FALSE(config.Save_UI());
+    EXPECT_TRUE(config.Save_UI());
     ASSERT_TRUE(config.Load_UI(path));
     EXPECT_TRUE(config.IsEnableRotate());
     config.SetEnableRotate(false);
