@@ -154,7 +154,8 @@ bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, QString* err
         done = done && AddEntry(archive, entry);
     if (done && zip_close(archive) == 0)
         return true;
-    Fail(error, QString::fromUtf8(zip_strerror(archive)));
+    if (zip_error_code_zip(zip_get_error(archive)) != ZIP_ER_WRITE) // the device knows better why
+        Fail(error, QString::fromUtf8(zip_strerror(archive)));
     zip_discard(archive);
     return false;
 }
