@@ -77,12 +77,24 @@ struct Output
     zip_error_t error;
 };
 
+zip_int64_t FailedOutput(Output& output)
+{
+    zip_error_set(&output.error, ZIP_ER_WRITE, 0);
+    return -1;
+}
+
+zip_int64_t Write(Output& output, const void* data, zip_uint64_t length)
+{
+    const auto size = static_cast<qint64>(length);
+    return output.device.write(static_cast<const char*>(data), size) == size ? size : FailedOutput(output);
+}
+
 zip_int64_t Seek(Output& output, void* data, zip_uint64_t length)
 {
     const zip_int64_t position = zip_source_seek_compute_offset(
         static_cast<zip_uint64_t>(output.device.pos()), static_cast<zip_uint64_t>(output.device.size()), data,
         length, &output.error);
-    return position >= 0 && output.device.seek(position) ? 0 : -1;
+    return position >= 0 && output.device.seek(position) ? 0 : FailedOutput(output);
 }
 
 zip_int64_t OnOutput(void* state, void* data, zip_uint64_t length, zip_source_cmd_t command)
@@ -94,13 +106,8 @@ zip_int64_t OnOutput(void* state, void* data, zip_uint64_t length, zip_source_cm
     case ZIP_SOURCE_STAT:
         zip_stat_init(static_cast<zip_stat_t*>(data));
         return sizeof(zip_stat_t);
-    case ZIP_SOURCE_WRITE: {
-        const qint64 written =
-            output.device.write(static_cast<const char*>(data), static_cast<qint64>(length));
-        if (written < 0)
-            zip_error_set(&output.error, ZIP_ER_WRITE, 0);
-        return written;
-    }
+    case ZIP_SOURCE_WRITE:
+        return Write(output, data, length);
     case ZIP_SOURCE_SEEK_WRITE:
         return Seek(output, data, length);
     case ZIP_SOURCE_TELL_WRITE:
@@ -154,7 +161,9 @@ bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, QString* err
         done = done && AddEntry(archive, entry);
     if (done && zip_close(archive) == 0)
         return true;
-    if (zip_error_code_zip(zip_get_error(archive)) != ZIP_ER_WRITE) // the device knows better why
+    if (zip_error_code_zip(zip_get_error(archive)) == ZIP_ER_WRITE)
+        Fail(error, QCoreApplication::translate("OrvanData", "文件无法写入"));
+    else
         Fail(error, QString::fromUtf8(zip_strerror(archive)));
     zip_discard(archive);
     return false;
