@@ -67,24 +67,6 @@ void AppendIdsOfSubtree(QList<QUuid>& ids, const CTileGroup& group)
 
 } // namespace
 
-void GroupQueries::SetResult(CTileSet& out, const CTileSet& found)
-{
-    CTileSet dropped;
-    if (out.IsOwner()) {
-        QSet<const CTile*> kept;
-        for (int i = 0; i < found.GetCount(); ++i)
-            kept.insert(found.GetTile(i));
-        for (int i = 0; i < out.GetCount(); ++i) {
-            if (!kept.contains(out.GetTile(i)))
-                dropped.AddTile(out.GetTile(i));
-        }
-        dropped.SetOwnerShip(true);
-    }
-    out.SetOwnerShip(false);
-    out.DeleteAllTiles();
-    out.AddFromOther(found);
-}
-
 bool GroupQueries::AppendTilesOfGroup(CTileSet& out, const CTileSet& tiles, const CTileGroupSet& groups,
                                       const QUuid& id)
 {
@@ -121,7 +103,7 @@ bool GroupQueries::TilesOfTopGroup(CTileSet& out, const CTileSet& tiles, const C
         AppendIdsOfSubtree(ids, *group);
         AppendTilesOfIds(found, tiles, ids);
     }
-    SetResult(out, found);
+    out = found;
     return group;
 }
 

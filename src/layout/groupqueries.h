@@ -31,9 +31,6 @@ private:
 /// tiles once, however many groups there are.
 namespace GroupQueries {
 
-/// Makes `out` the non-owning list of `found`. What `out` owned is deleted unless it was found.
-void SetResult(CTileSet& out, const CTileSet& found);
-
 /// Appends the tiles of a group and of those below it, group by group in pre-order. False when the tree does
 /// not have the group; tiles that name it are appended even then.
 bool AppendTilesOfGroup(CTileSet& out, const CTileSet& tiles, const CTileGroupSet& groups, const QUuid& id);

@@ -1,6 +1,5 @@
 #include "layout/port.h"
 
-#include "layout/groupqueries.h"
 #include "layout/layoutlookup.h"
 #include "layout/sender.h"
 
@@ -209,5 +208,5 @@ void CPort::GetPortTileSetOrBackupSrc(CTileSet& out)
         for (int i = 0; i < source->GetCount(); ++i)
             shown.AddTile(source->GetTile(i));
     }
-    GroupQueries::SetResult(out, shown);
+    out = shown;
 }

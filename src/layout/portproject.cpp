@@ -1,6 +1,7 @@
 #include "layout/portproject.h"
 
 #include "common/interfacedlg.h"
+#include "common/saturated.h"
 #include "layout/groupqueries.h"
 #include "layout/layoutlookup.h"
 #include "layout/rotation.h"
@@ -11,21 +12,13 @@
 #include <QVector>
 
 #include <cmath>
-#include <limits>
 
 namespace {
 
 constexpr int kView = InterfaceDesign; ///< the view whose selection is edited
 constexpr qint64 kMaxBlockCabinets = 1048576;
 constexpr double kNoAngle = 0.0001; ///< degrees, below it nothing counts as turned
-
-int Saturated(qint64 value)
-{
-    using Limits = std::numeric_limits<int>;
-    return static_cast<int>(qBound<qint64>(Limits::min(), value, Limits::max()));
-}
-
-constexpr double kFar = 1 << 29; ///< beyond every canvas, and differences of such places still fit
+constexpr double kFar = 1 << 29;    ///< beyond every canvas, and differences of such places still fit
 
 QPoint Rounded(double x, double y) ///< half away from zero
 {
@@ -227,17 +220,11 @@ void CPortProject::CancelAllSelected()
 
 bool CPortProject::DeleteSelectedTileAndGroup()
 {
-    CTileSet doomed;
     CTileSet staying;
-    m_tiles.GetSelTileSet(doomed, kView);
     m_tiles.GetUnselectedTileSet(staying);
-    if (doomed.GetCount() > 0) {
-        const bool owning = m_tiles.IsOwner();
-        m_tiles.SetOwnerShip(false);
-        m_tiles = staying;
-        m_tiles.SetOwnerShip(owning);
-        doomed.SetOwnerShip(owning);
-    }
+    const bool owning = m_tiles.IsOwner();
+    m_tiles = staying; // frees the others in one pass
+    m_tiles.SetOwnerShip(owning);
     DeleteSelectedGroups(m_groups);
     return true;
 }
@@ -266,8 +253,8 @@ bool CPortProject::AddTile(const SAddTileInfo& info)
         for (int column = 0; column < info.columns; ++column) {
             auto* tile = new CTile;
             *tile = pattern;
-            tile->SetX(Saturated(info.left + qint64(column) * info.width));
-            tile->SetY(Saturated(info.top + qint64(row) * info.height));
+            tile->SetX(SaturatedInt(info.left + qint64(column) * info.width));
+            tile->SetY(SaturatedInt(info.top + qint64(row) * info.height));
             tile->SetSelected(true, kView, -1);
             const SRotateParam record = TileRecord(*tile);
             tile->SetTileRotateParam(&record);

@@ -286,7 +286,7 @@ bool CSender::GetTileSet(CTileSet& out) const
     CTileSet found;
     for (int i = 0; i < m_portCount; ++i)
         found.AddFromOther(*GetPort(i)->GetPortProject()->GetTileSet());
-    GroupQueries::SetResult(out, found);
+    out = found;
     return m_portCount > 0;
 }
 
