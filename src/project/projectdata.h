@@ -133,6 +133,14 @@ public:
     QString GetMinVersionSupport() const;
     QString GetLastFileError() const; ///< why the last file operation did not do all; empty when it did
 
+    // layout files of one sender or one port
+    bool ExportSender(const QString& path, const QUuid& senderId);
+    /// The sender stays who it is and takes the file's ports; locked ones stay as they are when wanted, and
+    /// with `attributes` it also takes how it is named and shown. A file of another kind leaves it untouched.
+    bool ImportSender(const QString& path, const QUuid& senderId, bool keepLockedPorts, bool attributes);
+    bool ExportPort(const QString& path); ///< of the current sender's recent port
+    bool ImportPort(const QString& path); ///< into the current sender's recent port
+
     // elements of the project file
     void WriteVersionSupport(QDomDocument document, QDomElement* parent);
     bool ReadVersionSupport(QDomDocument document, QDomElement* element, QString& error);
@@ -206,6 +214,7 @@ private:
     QList<SParameterFileInfo> TakeContent(ProjectContent& content);
     void TakeSenders(std::vector<std::unique_ptr<CSender>> senders);
     bool FailFile(const QString& why);
+    void RenewGroupIdsOf(const QList<CPort*>& ports) const; ///< that are used in other ports of the project
 
     QUuid m_id;
     QString m_deviceSetName;

@@ -1,0 +1,207 @@
+// The layout of one sender or of one port in a file of its own.
+#include "common/atomicfile.h"
+#include "common/xmlwriter.h"
+#include "layout/sender.h"
+#include "layout/tile.h"
+#include "project/layoutreader.h"
+#include "project/layoutwriter.h"
+#include "project/projectdata.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QHash>
+#include <QSet>
+
+namespace {
+
+constexpr char kPortRoot[] = "PortLayout";
+
+QString Tr(const char* text)
+{
+    return QCoreApplication::translate("OrvanData", text);
+}
+
+/// Finds an element by the names on the way to it and hands it to its reader; others are passed over.
+class PathReader : public XmlHandler
+{
+public:
+    PathReader(std::initializer_list<std::string_view> names, XmlHandler& reader)
+        : m_names(names), m_reader(reader)
+    {}
+
+    bool WasFound() const { return m_found; }
+
+    XmlHandler* Child(std::string_view name) override
+    {
+        if (m_found || m_depth >= m_names.size() || name != m_names[m_depth])
+            return nullptr;
+        if (++m_depth < m_names.size())
+            return this;
+        m_found = true;
+        return &m_reader;
+    }
+
+private:
+    std::vector<std::string_view> m_names;
+    XmlHandler& m_reader;
+    size_t m_depth = 0;
+    bool m_found = false;
+};
+
+bool ReadElement(const QString& path, std::initializer_list<std::string_view> names, XmlHandler& reader,
+                 QString& error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = file.errorString();
+        return false;
+    }
+    PathReader document(names, reader);
+    if (ParseXml(file, document, &error) != XmlResult::Done)
+        return false;
+    if (!document.WasFound())
+        error = Tr("不是这种布局文件。");
+    return document.WasFound();
+}
+
+bool WriteFile(const QString& path, const std::function<void(XmlWriter&)>& write, QString& error)
+{
+    return ReplaceFile(
+        path,
+        [&write](QIODevice& file) {
+            StreamXmlWriter writer(file);
+            write(writer);
+            return writer.Flush();
+        },
+        &error);
+}
+
+/// Gives the groups of a port whose ids are used elsewhere fresh ones, and adds all of the port's to the
+/// used.
+void RenewGroupIds(CPortProject& layout, QSet<QUuid>& used)
+{
+    QHash<QUuid, QUuid> renewed;
+    QList<CTileGroup*> groups;
+    layout.GetTileGroupSet()->GetGroupListRecursive(groups);
+    for (CTileGroup* group : groups) {
+        const QUuid id = group->GetID();
+        if (used.contains(id)) {
+            group->SetID(QUuid::createUuid());
+            renewed.insert(id, group->GetID());
+        }
+        used.insert(group->GetID());
+    }
+    CTileSet* tiles = layout.GetTileSet();
+    for (int i = 0; !renewed.isEmpty() && i < tiles->GetCount(); ++i) {
+        const auto found = renewed.constFind(tiles->GetTile(i)->GetGroupId());
+        if (found != renewed.constEnd())
+            tiles->GetTile(i)->SetGroupId(*found);
+    }
+}
+
+void AddGroupIds(const CPort& port, QSet<QUuid>& ids)
+{
+    QList<CTileGroup*> groups;
+    port.GetPortProject()->GetTileGroupSet()->GetGroupListRecursive(groups);
+    for (const CTileGroup* group : qAsConst(groups))
+        ids.insert(group->GetID());
+}
+
+} // namespace
+
+bool CProjectData::ExportSender(const QString& path, const QUuid& senderId)
+{
+    m_lastFileError.clear();
+    const CSender* sender = GetSender(GetScIndexByID(senderId));
+    if (!sender)
+        return FailFile(Tr("没有这个主控。"));
+    return WriteFile(
+        path,
+        [sender](XmlWriter& writer) {
+            writer.BeginElement(layoutnames::kSenderLayout);
+            WriteSenderElement(writer, layoutnames::kSenderLayout, *sender, false);
+            writer.EndElement();
+        },
+        m_lastFileError);
+}
+
+bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool keepLockedPorts,
+                                bool attributes)
+{
+    m_lastFileError.clear();
+    CSender* sender = GetSender(GetScIndexByID(senderId));
+    if (!sender || sender->GetPortCount() < 1)
+        return FailFile(Tr("没有这个主控。"));
+
+    // Read once to see that it can be read whole, and only then into the sender.
+    const auto names = {std::string_view(layoutnames::kSenderLayout),
+                        std::string_view(layoutnames::kSenderLayout)};
+    ReadReport checked;
+    CSender probe;
+    SenderReader check(checked);
+    check.SetTarget(&probe, SenderParts::LayoutOnly, false);
+    if (!ReadElement(path, names, check, m_lastFileError))
+        return false;
+
+    QList<CPort*> replaced;
+    for (int i = 0; i < kMaxPorts; ++i)
+        if (!keepLockedPorts || !sender->GetPort(i)->IsFlagLock())
+            replaced.append(sender->GetPort(i));
+    for (CPort* port : qAsConst(replaced))
+        port->GetPortProject()->ClearAllTiles();
+    ReadReport report;
+    SenderReader reader(report);
+    reader.SetTarget(sender, attributes ? SenderParts::LayoutAndView : SenderParts::LayoutOnly,
+                     keepLockedPorts);
+    if (!ReadElement(path, names, reader, m_lastFileError))
+        return false;
+    RenewGroupIdsOf(replaced);
+    m_lastFileError = report.Text();
+    return true;
+}
+
+bool CProjectData::ExportPort(const QString& path)
+{
+    m_lastFileError.clear();
+    const CSender* sender = GetCurrentSender();
+    const CPort* port = sender ? sender->GetPort(sender->GetRecentPortIndex()) : nullptr;
+    if (!port)
+        return FailFile(Tr("没有这个输出口。"));
+    return WriteFile(
+        path, [port](XmlWriter& writer) { WritePortElement(writer, kPortRoot, *port); }, m_lastFileError);
+}
+
+bool CProjectData::ImportPort(const QString& path)
+{
+    m_lastFileError.clear();
+    CSender* sender = GetCurrentSender();
+    CPort* port = sender ? sender->GetPort(sender->GetRecentPortIndex()) : nullptr;
+    if (!port)
+        return FailFile(Tr("没有这个输出口。"));
+
+    const int index = sender->GetRecentPortIndex();
+    CPort imported;
+    ReadReport report;
+    PortReader reader(report);
+    reader.SetTarget(&imported, sender->GetId(), index, false);
+    if (!ReadElement(path, {kPortRoot}, reader, m_lastFileError))
+        return false;
+
+    port->GetPortProject()->ClearAllTiles();
+    *port = imported;
+    port->SetSenderIdAndPortIndex(sender->GetId(), index);
+    RenewGroupIdsOf({port});
+    m_lastFileError = report.Text();
+    return true;
+}
+
+void CProjectData::RenewGroupIdsOf(const QList<CPort*>& ports) const
+{
+    QSet<QUuid> used;
+    for (CSender* sender : m_senders)
+        for (int i = 0; i < kMaxPorts; ++i)
+            if (!ports.contains(sender->GetPort(i)))
+                AddGroupIds(*sender->GetPort(i), used);
+    for (CPort* port : ports)
+        RenewGroupIds(*port->GetPortProject(), used);
+}

@@ -1,0 +1,151 @@
+#include "frame/lednimbradata.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
+#include "project/projectdata.h"
+#include "support/library.h"
+#include "support/testfolder.h"
+#include "support/wallbuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+QJsonObject Sample(const char* name)
+{
+    return QJsonDocument::fromJson(ReadFile(SamplePath(name))).object();
+}
+
+void ExpectTiles(const CPort& port, const QJsonObject& expected)
+{
+    const CTileSet& tiles = *port.GetPortProject()->GetTileSet();
+    const QJsonArray list = expected[QLatin1String("tiles")].toArray();
+    ASSERT_EQ(tiles.GetCount(), list.size());
+    for (int i = 0; i < list.size(); ++i) {
+        const QJsonObject tile = list[i].toObject();
+        const auto number = [&tile](const char* key) { return tile[QLatin1String(key)].toInt(); };
+        EXPECT_EQ(tiles.GetTile(i)->GetPosition(), QPoint(number("x"), number("y")));
+        EXPECT_EQ(tiles.GetTile(i)->GetConnectionIndex(), number("index"));
+        EXPECT_EQ(tiles.GetTile(i)->GetBeginRcvCnnt(), number("firstReceiver"));
+        EXPECT_EQ(tiles.GetTile(i)->GetType().ToString(), tile[QLatin1String("type")].toString());
+    }
+}
+
+class LayoutFilesTest : public testing::Test
+{
+protected:
+    LayoutFilesTest()
+    {
+        project.NewSender();
+        target = project.NewSender();
+        target->SetNetSenderIP(9);
+        project.SetCurrentSender(1);
+    }
+
+    Library library;
+    TestFolder folder;
+    CProjectData& project = *GetProjectData();
+    CSender* target = nullptr;
+};
+
+} // namespace
+
+TEST_F(LayoutFilesTest, SenderFileReplacesTheLayoutAndKeepsTheIdentity)
+{
+    const QUuid id = target->GetId();
+    MakeWall(*target->GetPort(100), 2, 2);
+    ASSERT_TRUE(project.ImportSender(SamplePath("sender-layout.xml"), id, false, true));
+    EXPECT_EQ(project.GetLastFileError(), QString());
+    EXPECT_EQ(target->GetId(), id);
+    EXPECT_EQ(target->GetNetSenderIP(), 9u);
+    EXPECT_TRUE(target->GetBelongGroup().isNull());
+    EXPECT_EQ(TilesOf(*target->GetPort(100)).GetCount(), 0);
+    const QJsonObject sample = Sample("sender-layout.xml.json");
+    EXPECT_EQ(target->GetSenderName(), sample[QLatin1String("name")].toString());
+    EXPECT_EQ(target->GetPortCount(), sample[QLatin1String("portCount")].toInt());
+    const QJsonArray ports = sample[QLatin1String("ports")].toArray();
+    for (int i = 0; i < ports.size(); ++i)
+        ExpectTiles(*target->GetPort(i), ports[i].toObject());
+    EXPECT_EQ(TilesOf(*target->GetPort(0)).GetTile(0)->GetSenderId(), id);
+}
+
+TEST_F(LayoutFilesTest, LockedPortsAreKeptWhenWanted)
+{
+    MakeWall(*target->GetPort(1), 1, 1);
+    target->GetPort(1)->SetFlagLock(true);
+    MakeWall(*target->GetPort(2), 7, 1);
+    ASSERT_TRUE(project.ImportSender(SamplePath("sender-layout.xml"), target->GetId(), true, false));
+    EXPECT_EQ(TilesOf(*target->GetPort(0)).GetCount(), 12);
+    EXPECT_EQ(TilesOf(*target->GetPort(1)).GetCount(), 1);
+    EXPECT_TRUE(target->GetPort(1)->IsFlagLock());
+    EXPECT_EQ(TilesOf(*target->GetPort(2)).GetCount(), 4);
+    EXPECT_EQ(target->GetSenderName(), QString()) << "only the layout was asked for";
+}
+
+TEST_F(LayoutFilesTest, GroupIdsUsedElsewhereAreRenewed)
+{
+    ASSERT_TRUE(project.ImportSender(SamplePath("sender-layout.xml"), target->GetId(), false, false));
+    CSender* other = project.GetSender(0);
+    ASSERT_TRUE(project.ImportSender(SamplePath("sender-layout.xml"), other->GetId(), false, false));
+    QMap<QUuid, CTileGroup*> first;
+    QMap<QUuid, CTileGroup*> second;
+    GroupsOf(*target->GetPort(0)).GetGroupListRecursive(first);
+    GroupsOf(*other->GetPort(0)).GetGroupListRecursive(second);
+    ASSERT_EQ(second.size(), first.size());
+    for (auto group = second.cbegin(); group != second.cend(); ++group) {
+        EXPECT_FALSE(first.contains(group.key()));
+        EXPECT_TRUE(group.value()->GetParentGroupID().isNull()
+                    || second.contains(group.value()->GetParentGroupID()));
+    }
+    for (int i = 0; i < 12; ++i)
+        EXPECT_TRUE(second.contains(TilesOf(*other->GetPort(0)).GetTile(i)->GetGroupId()));
+}
+
+TEST_F(LayoutFilesTest, PortFileGoesToTheCurrentSendersRecentPort)
+{
+    target->SetRecentPortIndex(2);
+    ASSERT_TRUE(project.ImportPort(SamplePath("port-layout.xml")));
+    const CPort& port = *target->GetPort(2);
+    ExpectTiles(port, Sample("port-layout.xml.json"));
+    EXPECT_EQ(port.GetPortIndex(), 2);
+    EXPECT_EQ(port.GetPortProject()->GetTileSet()->GetTile(0)->GetPortIndex(), 2);
+}
+
+TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
+{
+    MakeWall(*target->GetPort(0), 2, 2);
+    const QString port = SamplePath("port-layout.xml");
+    const QString sender = SamplePath("sender-layout.xml");
+    const QString cut = folder.Write(QStringLiteral("cut.xml"), ReadFile(sender).left(9000));
+    const QString hollow = folder.Write(QStringLiteral("hollow.xml"), "<SenderLayout SenderCount=\"1\"/>");
+    for (const QString& path : {port, cut, hollow, folder.Path(QStringLiteral("missing"))}) {
+        EXPECT_FALSE(project.ImportSender(path, target->GetId(), false, true));
+        EXPECT_NE(project.GetLastFileError(), QString());
+    }
+    EXPECT_FALSE(project.ImportSender(sender, QUuid::createUuid(), false, true));
+    EXPECT_FALSE(project.ImportPort(sender));
+    EXPECT_FALSE(project.ImportPort(cut));
+    EXPECT_EQ(TilesOf(*target->GetPort(0)).GetCount(), 4);
+}
+
+TEST_F(LayoutFilesTest, ExportedFilesComeBackTheSame)
+{
+    ASSERT_TRUE(project.ImportSender(SamplePath("sender-layout.xml"), target->GetId(), false, true));
+    const QString first = folder.Path(QStringLiteral("first.xml"));
+    const QString second = folder.Path(QStringLiteral("second.xml"));
+    ASSERT_TRUE(project.ExportSender(first, target->GetId()));
+    EXPECT_FALSE(ReadFile(first).contains("DeviceClass"));
+    ASSERT_TRUE(project.ImportSender(first, target->GetId(), false, true));
+    ASSERT_TRUE(project.ExportSender(second, target->GetId()));
+    EXPECT_EQ(ReadFile(second), ReadFile(first));
+
+    target->SetRecentPortIndex(1);
+    ASSERT_TRUE(project.ExportPort(first));
+    ASSERT_TRUE(project.ImportPort(first));
+    ASSERT_TRUE(project.ExportPort(second));
+    EXPECT_EQ(ReadFile(second), ReadFile(first));
+    EXPECT_FALSE(project.ExportSender(first, QUuid()));
+}
