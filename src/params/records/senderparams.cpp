@@ -1,51 +1,228 @@
 #include "params/records/senderparams.h"
 
-void CSenderParams::SetDeviceClass(int deviceClass)
+#include <algorithm>
+
+namespace {
+
+const QSharedDataPointer<SenderParamData>& DefaultData()
 {
-    m_deviceClass = deviceClass;
+    static const QSharedDataPointer<SenderParamData> defaults(new SenderParamData);
+    return defaults;
 }
 
-int CSenderParams::GetDeviceClass() const
+template <class Entry> const Entry* Find(const QList<Entry>& entries, int slot, int source)
 {
-    return m_deviceClass;
+    const auto found = std::find_if(entries.begin(), entries.end(), [=](const Entry& entry) {
+        return entry.slotNum == slot && entry.sourceIndex == source;
+    });
+    return found == entries.end() ? nullptr : &*found;
 }
 
-void CSenderParams::SetProcessorType(int type)
+template <class Entry> Entry& FindOrAdd(QList<Entry>& entries, int slot, int source)
 {
-    m_processorType = type;
+    for (Entry& entry : entries)
+        if (entry.slotNum == slot && entry.sourceIndex == source)
+            return entry;
+    Entry added;
+    added.slotNum = slot;
+    added.sourceIndex = source;
+    entries.append(added);
+    return entries.last();
 }
 
-int CSenderParams::GetProcessorType() const
+bool IsWholeSender(int slot, int source)
 {
-    return m_processorType;
+    return slot == 0 && source == 0;
 }
 
-bool CSenderParams::IsExportConfig() const
+bool IsCurveChannel(int channel)
 {
-    return m_exportConfig;
+    return channel >= 0 && channel < kColorCurveChannels;
 }
 
-void CSenderParams::SetExportConfig(bool exported)
+} // namespace
+
+CSenderParams::CSenderParams() : m_data(DefaultData())
+{}
+
+bool CSenderParams::operator==(const CSenderParams& other) const
 {
-    m_exportConfig = exported;
+    return m_data == other.m_data || *m_data == *other.m_data;
 }
 
-int CSenderParams::GetSignalFreq() const
+float CSenderParams::GetBlackoutFadeTime() const
 {
-    return m_signalFreq;
+    return m_data->deviceClass == kPictureInFirstRecord ? m_data->blackoutFadeTime : 0.0F;
 }
 
-void CSenderParams::SetSignalFreq(int frequency)
+int CSenderParams::GetVSyncFreq() const
 {
-    m_signalFreq = frequency;
+    return m_data->deviceClass == kPictureInFirstRecord ? 0 : m_data->vSyncFreq;
 }
 
-int CSenderParams::GetColorDepth() const
+void CSenderParams::GetFrameSetting(SFrameRemapping* frame, int index) const
 {
-    return m_colorDepth;
+    if (frame && index >= 0 && index < kFrameRemappings)
+        *frame = m_data->multi.frames[static_cast<size_t>(index)];
 }
 
-void CSenderParams::SetColorDepth(int depth)
+void CSenderParams::SetFrameSetting(const SFrameRemapping& frame, int index)
 {
-    m_colorDepth = depth;
+    if (index >= 0 && index < kFrameRemappings)
+        m_data->multi.frames[static_cast<size_t>(index)] = frame;
+}
+
+void CSenderParams::GetLayerInfo(SLayerWndParam* layers) const
+{
+    if (layers)
+        std::copy(m_data->layers.begin(), m_data->layers.end(), layers);
+}
+
+void CSenderParams::SetLayerInfo(const SLayerWndParam* layers)
+{
+    if (layers)
+        std::copy_n(layers, kMaxLayers, m_data->layers.begin());
+}
+
+bool CSenderParams::GetColorCubeParam(SInputVideoColorCubeParam& cube, int slot, int source) const
+{
+    const SInputVideoColorCubeParam* found = Find(m_data->cubes, slot, source);
+    if (!found)
+        return false;
+    cube = *found;
+    return true;
+}
+
+void CSenderParams::SetColorCubeParam(const SInputVideoColorCubeParam& cube)
+{
+    FindOrAdd(m_data->cubes, cube.slotNum, cube.sourceIndex) = cube;
+}
+
+bool CSenderParams::GetColorCubeEnable(int slot, int source) const
+{
+    if (IsWholeSender(slot, source))
+        return m_data->cubeEnable;
+    const SInputVideoColorCubeParam* found = Find(m_data->cubes, slot, source);
+    return found && found->enable;
+}
+
+void CSenderParams::SetColorCubeEnable(bool enable, int slot, int source)
+{
+    if (IsWholeSender(slot, source))
+        m_data->cubeEnable = enable;
+    else
+        FindOrAdd(m_data->cubes, slot, source).enable = enable;
+}
+
+bool CSenderParams::GetColorCurveParam(SInputVideoColorCurveParam& curve, int slot, int source) const
+{
+    const SInputVideoColorCurveParam* found = Find(m_data->curves, slot, source);
+    if (!found)
+        return false;
+    curve = *found;
+    return true;
+}
+
+void CSenderParams::SetColorCurveParam(const SInputVideoColorCurveParam& curve)
+{
+    FindOrAdd(m_data->curves, curve.slotNum, curve.sourceIndex) = curve;
+}
+
+bool CSenderParams::GetColorCurveEnable(int slot, int source) const
+{
+    if (IsWholeSender(slot, source))
+        return m_data->curveEnable;
+    const SInputVideoColorCurveParam* found = Find(m_data->curves, slot, source);
+    return found && found->enable;
+}
+
+void CSenderParams::SetColorCurveEnable(bool enable, int slot, int source)
+{
+    if (IsWholeSender(slot, source))
+        m_data->curveEnable = enable;
+    else
+        FindOrAdd(m_data->curves, slot, source).enable = enable;
+}
+
+bool CSenderParams::GetColorCurveLock(int slot, int source) const
+{
+    const SInputVideoColorCurveParam* found = Find(m_data->curves, slot, source);
+    return found && found->lock;
+}
+
+void CSenderParams::SetColorCurveLock(bool lock, int slot, int source)
+{
+    FindOrAdd(m_data->curves, slot, source).lock = lock;
+}
+
+bool CSenderParams::GetColorCurveAdjPoint(int channel, QList<QPointF>& points, int slot, int source) const
+{
+    points.clear();
+    const SInputVideoColorCurveParam* found = Find(m_data->curves, slot, source);
+    if (!found || !IsCurveChannel(channel))
+        return false;
+    points = found->points[static_cast<size_t>(channel)];
+    return true;
+}
+
+void CSenderParams::SetColorCurveAdjPoint(int channel, const QList<QPointF>& points, int slot, int source)
+{
+    if (IsCurveChannel(channel))
+        FindOrAdd(m_data->curves, slot, source).points[static_cast<size_t>(channel)] = points;
+}
+
+SInputVideo3DLUTParam CSenderParams::Get3DLUTData(int slot, int source) const
+{
+    const SInputVideo3DLUTParam* found = Find(m_data->luts, slot, source);
+    return found ? *found : SInputVideo3DLUTParam();
+}
+
+void CSenderParams::Set3DLUTData(const SInputVideo3DLUTParam& lut)
+{
+    FindOrAdd(m_data->luts, lut.slotNum, lut.sourceIndex) = lut;
+}
+
+void CSenderParams::Reset3DLUTData()
+{
+    m_data->luts.clear();
+}
+
+bool CSenderParams::Get3DLUTEnable(int slot, int source) const
+{
+    return Get3DLUTData(slot, source).enable;
+}
+
+void CSenderParams::Set3DLUTEnable(bool enable, int slot, int source)
+{
+    FindOrAdd(m_data->luts, slot, source).enable = enable;
+}
+
+QString CSenderParams::Get3DLUTFileName(int slot, int source) const
+{
+    return Get3DLUTData(slot, source).fileName;
+}
+
+void CSenderParams::Set3DLUTFileName(const QString& name, int slot, int source)
+{
+    FindOrAdd(m_data->luts, slot, source).fileName = name;
+}
+
+QString CSenderParams::Get3DLUTFileTitle(int slot, int source) const
+{
+    return Get3DLUTData(slot, source).fileTitle;
+}
+
+void CSenderParams::Set3DLUTFileTitle(const QString& title, int slot, int source)
+{
+    FindOrAdd(m_data->luts, slot, source).fileTitle = title;
+}
+
+float CSenderParams::Get3DLUTStrength(int slot, int source) const
+{
+    return Get3DLUTData(slot, source).strength;
+}
+
+void CSenderParams::Set3DLutStrength(float strength, int slot, int source)
+{
+    FindOrAdd(m_data->luts, slot, source).strength = strength;
 }
