@@ -78,7 +78,7 @@ struct SLayerWndParam : WalkedRecord<SLayerWndParam>
     }
 };
 
-/// The lines that split the output canvas. Counts above 32 make the record invalid.
+/// The lines that split the output canvas. Counts outside 0 to 32 make the record invalid.
 struct SCuttingLineParam : WalkedRecord<SCuttingLineParam>
 {
     bool show = false;
@@ -87,7 +87,11 @@ struct SCuttingLineParam : WalkedRecord<SCuttingLineParam>
     std::array<quint32, kMaxCuttingLines> horizontal{}; ///< canvas pixels
     std::array<quint32, kMaxCuttingLines> vertical{};
 
-    bool IsValid() const { return horizontalCount <= kMaxCuttingLines && verticalCount <= kMaxCuttingLines; }
+    bool IsValid() const
+    {
+        return horizontalCount >= 0 && horizontalCount <= kMaxCuttingLines && verticalCount >= 0
+               && verticalCount <= kMaxCuttingLines;
+    }
 
     template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
     {

@@ -1,0 +1,300 @@
+#include "params/paramfile.h"
+
+#include "common/atomicfile.h"
+#include "common/xmldom.h"
+#include "custommessagebox.h"
+#include "layout/sender.h"
+#include "params/elementnames.h"
+#include "params/paramresult.h"
+#include "params/paramslookup.h"
+#include "params/processorelement.h"
+#include "params/senderelement.h"
+
+#include <QCoreApplication>
+#include <QDomDocument>
+#include <QHash>
+#include <QTextStream>
+#include <QVector>
+
+namespace params {
+
+namespace {
+
+constexpr const char* kCheckValue = "CheckValue";
+constexpr const char* kSpecifyIp = "bSpecifyIP";
+constexpr const char* kProcessorCount = "ProcessorCount";
+constexpr int kIndent = 4;
+constexpr int kNamedProcessors = 4; ///< in the message about addresses that no processor of a file has
+
+/// What tells the two families apart.
+struct Family
+{
+    const char* root;
+    const char* encoding; ///< as the declaration names it
+    QVector<const char*> zeroAttributes;
+    quint32 (*write)(QDomDocument&, QDomElement*, const CSender*);
+    quint32 (*read)(QDomDocument&, const QDomElement*, CSender*);
+    quint32 (*importSingle)(ParamsLookup&, const QString&, const QUuid&);
+};
+
+const Family& SenderFamily()
+{
+    static const Family family{"SenderParams",        "utf-8",          {}, WriteSingleSenderParam,
+                               ReadSingleSenderParam, ImportSenderParam};
+    return family;
+}
+
+const Family& ProcessorFamily()
+{
+    static const Family family{"DeviceParams",
+                               "UTF-8",
+                               {"ParamFileMainVersion", "DeviceReserveFlag"},
+                               WriteSingleProcessorParam,
+                               ReadSingleProcessorParam,
+                               ImportProcessorParam};
+    return family;
+}
+
+QString ProcessorName(int number)
+{
+    return QStringLiteral("Processor_%1").arg(number);
+}
+
+/// The senders meant by an id, or by the choice for a null one.
+QList<int> ChosenSenders(const ParamsLookup& lookup, const QUuid& id)
+{
+    return id.isNull() ? lookup.Prepared().senders : QList<int>{lookup.SenderIndex(id)};
+}
+
+bool SaveDocument(ParamsLookup& lookup, const QDomDocument& document, const QString& path)
+{
+    QString error;
+    const bool saved = ReplaceFile(
+        path,
+        [&](QIODevice& file) {
+            QTextStream stream(&file);
+            stream.setCodec("utf-8");
+            document.save(stream, kIndent); // keeps the spelling of the encoding in the declaration
+            stream.flush();
+            return stream.status() == QTextStream::Ok;
+        },
+        &error);
+    lookup.SetFileError(saved ? QString() : error);
+    return saved;
+}
+
+quint32 Export(const Family& family, ParamsLookup& lookup, const QString& path, const QUuid& id)
+{
+    const QList<int> chosen = ChosenSenders(lookup, id);
+    if (!id.isNull() && !lookup.Sender(chosen.first())) {
+        lookup.SetFileError(QCoreApplication::translate("OrvanData", "找不到主控。"));
+        return kFailed;
+    }
+    QDomDocument document;
+    document.appendChild(document.createProcessingInstruction(
+        QStringLiteral("xml"),
+        QStringLiteral("version=\"1.0\" encoding=\"%1\"").arg(QLatin1String(family.encoding))));
+    QDomElement root = document.createElement(QLatin1String(family.root));
+    document.appendChild(root);
+    for (const char* attribute : family.zeroAttributes)
+        root.setAttribute(QLatin1String(attribute), 0);
+    root.setAttribute(QLatin1String(kCheckValue), 1);
+    root.setAttribute(QLatin1String(kSpecifyIp), lookup.Prepared().matchByIp ? 1 : 0);
+    root.setAttribute(QLatin1String(kProcessorCount), chosen.size());
+    for (int i = 0; i < chosen.size(); ++i) {
+        const CSender* sender = lookup.Sender(chosen[i]);
+        if (!sender)
+            continue;
+        QDomElement element = document.createElement(ProcessorName(i + 1));
+        root.appendChild(element);
+        family.write(document, &element, sender);
+    }
+    return SaveDocument(lookup, document, path) ? kDone : kFailed;
+}
+
+/// Null, with the reason told, when the file cannot be read or is of the other family.
+QDomElement LoadRoot(const Family& family, ParamsLookup& lookup, const QString& path, QDomDocument& document)
+{
+    QString error;
+    if (!LoadXmlDom(path, document, &error)) {
+        lookup.SetFileError(error);
+        return {};
+    }
+    const QDomElement root = document.documentElement();
+    if (root.tagName() != QLatin1String(family.root)) {
+        lookup.SetFileError(QCoreApplication::translate("OrvanData", "不是该类型的参数文件。"));
+        return {};
+    }
+    lookup.SetFileError(QString());
+    return root;
+}
+
+/// Without addresses: the chosen senders take the processors of the file in order.
+quint32 ImportByPosition(const Family& family, QDomDocument& document, const QVector<CSender*>& senders)
+{
+    for (int i = 0; i < senders.size(); ++i) {
+        const QDomElement element = document.documentElement().firstChildElement(ProcessorName(i + 1));
+        const quint32 result = family.read(document, &element, senders[i]);
+        if (result != kDone)
+            return result;
+    }
+    return kDone;
+}
+
+/// The processors of a file by address, the first of equal ones. Address 0 stands for none.
+QHash<quint32, QDomElement> ProcessorsByIp(const QDomElement& root, int count)
+{
+    QHash<QString, QDomElement> children;
+    for (QDomElement child = root.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        if (!children.contains(child.tagName()))
+            children.insert(child.tagName(), child);
+
+    QHash<quint32, QDomElement> processors;
+    const int numbers = qMin(count, root.childNodes().size() + 1);
+    for (int number = 1; number <= numbers; ++number) {
+        const QDomElement element = children.value(ProcessorName(number));
+        const quint32 ip = GetIntFromOctString(element.firstChildElement(QLatin1String(kNetIp)).text());
+        if (ip != 0 && !processors.contains(ip))
+            processors.insert(ip, element);
+    }
+    return processors;
+}
+
+void ShowUnmatched(const QList<int>& senders)
+{
+    QStringList numbers;
+    for (int index : senders.mid(0, kNamedProcessors))
+        numbers.append(QString::number(index + 1));
+    QString list = numbers.join(QLatin1Char(','));
+    if (senders.size() >= kNamedProcessors)
+        list += QStringLiteral("...");
+    CCustomMessageBox::information(
+        nullptr, QCoreApplication::translate("OrvanData", "主控%1未找到对应IP的主控参数。").arg(list));
+}
+
+quint32 ImportByIp(const Family& family, QDomDocument& document, int count, const QList<int>& chosen,
+                   const QVector<CSender*>& senders)
+{
+    const QHash<quint32, QDomElement> processors = ProcessorsByIp(document.documentElement(), count);
+    QList<int> unmatched;
+    for (int i = 0; i < senders.size(); ++i) {
+        const auto found = processors.constFind(static_cast<quint32>(senders[i]->GetNetSenderIP()));
+        if (found == processors.constEnd()) {
+            unmatched.append(chosen[i]);
+            continue;
+        }
+        const quint32 result = family.read(document, &*found, senders[i]);
+        if (result != kDone)
+            return result;
+    }
+    if (!unmatched.isEmpty())
+        ShowUnmatched(unmatched);
+    return unmatched.size() == senders.size() && !senders.isEmpty() ? kFailed : kDone;
+}
+
+quint32 ImportMulti(const Family& family, ParamsLookup& lookup, const QString& path, const QUuid& id)
+{
+    QDomDocument document;
+    const QDomElement root = LoadRoot(family, lookup, path, document);
+    if (root.isNull())
+        return kFailed;
+    if (!root.hasAttribute(QLatin1String(kCheckValue)))
+        return family.importSingle(lookup, path, id);
+
+    const bool matchByIp = root.attribute(QLatin1String(kSpecifyIp)).toInt() != 0;
+    if (matchByIp != lookup.Prepared().matchByIp) {
+        CCustomMessageBox::information(
+            nullptr, QCoreApplication::translate("OrvanData", "不可导入，无法匹配对应IP的主控参数。"));
+        return kFailed;
+    }
+    const int count = root.attribute(QLatin1String(kProcessorCount)).toInt();
+    if (count < 1)
+        return kFailed;
+
+    const QList<int> chosen = ChosenSenders(lookup, id);
+    QVector<CSender*> senders;
+    for (int index : chosen) {
+        senders.append(lookup.Sender(index));
+        if (!senders.last())
+            return kFailed;
+    }
+    const quint32 result = matchByIp ? ImportByIp(family, document, count, chosen, senders)
+                                     : ImportByPosition(family, document, senders);
+    ShowImportResult(result);
+    return result;
+}
+
+/// The processor of a file of one sender.
+QDomElement SingleProcessor(const QDomElement& root)
+{
+    return SelfOrChild(root, "Processor_1");
+}
+
+} // namespace
+
+quint32 ExportMutiSenderParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
+{
+    return Export(SenderFamily(), lookup, path, id);
+}
+
+quint32 ExportMutiProcessorParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
+{
+    return Export(ProcessorFamily(), lookup, path, id);
+}
+
+quint32 ImportMutiSenderParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
+{
+    return ImportMulti(SenderFamily(), lookup, path, id);
+}
+
+quint32 ImportMutiProcessorParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
+{
+    return ImportMulti(ProcessorFamily(), lookup, path, id);
+}
+
+quint32 ImportSenderParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
+{
+    CSender* sender = lookup.Sender(lookup.SenderIndex(id));
+    if (!sender)
+        return kFailed;
+    QDomDocument document;
+    const QDomElement root = LoadRoot(SenderFamily(), lookup, path, document);
+    if (root.isNull())
+        return kFailed;
+    const QDomElement element = SingleProcessor(root);
+    const quint32 result = ReadSingleSenderParam(document, &element, sender);
+    ShowImportResult(result);
+    return result;
+}
+
+quint32 ImportProcessorParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
+{
+    CSender* sender = lookup.Sender(lookup.SenderIndex(id));
+    if (!sender)
+        return kFailed;
+    QDomDocument document;
+    const QDomElement root = LoadRoot(ProcessorFamily(), lookup, path, document);
+    return root.isNull() ? kFailed : ImportProcessorBlocks(document, SingleProcessor(root), sender);
+}
+
+quint32 GetIntFromOctString(const QString& text)
+{
+    const QStringList octets = text.trimmed().split(QLatin1Char('.'));
+    const auto isDecimal = [](const QString& digits) {
+        for (const QChar c : digits)
+            if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+                return false;
+        return !digits.isEmpty();
+    };
+    quint32 ip = 0;
+    for (const QString& octet : octets) {
+        bool fits = false;
+        const quint32 value = octet.toUInt(&fits);
+        if (!isDecimal(octet) || !fits || (octets.size() == 4 && value > 255))
+            return 0;
+        ip = octets.size() == 4 ? ip << 8 | value : value;
+    }
+    return octets.size() == 4 || octets.size() == 1 ? ip : 0;
+}
+
+} // namespace params
