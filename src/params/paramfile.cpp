@@ -2,6 +2,7 @@
 
 #include "common/atomicfile.h"
 #include "common/xmldom.h"
+#include "common/xmlwriter.h"
 #include "custommessagebox.h"
 #include "layout/sender.h"
 #include "params/elementnames.h"
@@ -13,7 +14,6 @@
 #include <QCoreApplication>
 #include <QDomDocument>
 #include <QHash>
-#include <QTextStream>
 #include <QVector>
 
 namespace params {
@@ -23,7 +23,6 @@ namespace {
 constexpr const char* kCheckValue = "CheckValue";
 constexpr const char* kSpecifyIp = "bSpecifyIP";
 constexpr const char* kProcessorCount = "ProcessorCount";
-constexpr int kIndent = 4;
 constexpr int kNamedProcessors = 4; ///< in the message about addresses that no processor of a file has
 
 /// What tells the two families apart.
@@ -66,21 +65,39 @@ QList<int> ChosenSenders(const ParamsLookup& lookup, const QUuid& id)
     return id.isNull() ? lookup.Prepared().senders : QList<int>{lookup.SenderIndex(id)};
 }
 
-bool SaveDocument(ParamsLookup& lookup, const QDomDocument& document, const QString& path)
+std::string Utf8(const QString& text)
 {
-    QString error;
-    const bool saved = ReplaceFile(
-        path,
-        [&](QIODevice& file) {
-            QTextStream stream(&file);
-            stream.setCodec("utf-8");
-            document.save(stream, kIndent); // keeps the spelling of the encoding in the declaration
-            stream.flush();
-            return stream.status() == QTextStream::Ok;
-        },
-        &error);
-    lookup.SetFileError(saved ? QString() : error);
-    return saved;
+    return text.toStdString();
+}
+
+/// An element of ours: children or one text, no attributes.
+void WriteElement(XmlWriter& writer, const QDomElement& element)
+{
+    writer.BeginElement(Utf8(element.tagName()));
+    QDomElement child = element.firstChildElement();
+    if (child.isNull())
+        writer.Text(Utf8(element.text()));
+    for (; !child.isNull(); child = child.nextSiblingElement())
+        WriteElement(writer, child);
+    writer.EndElement();
+}
+
+/// A tree keeps no order of attributes, so the root is written by hand.
+bool WriteFile(QIODevice& file, const Family& family, bool matchByIp, int count,
+               const QDomElement& processors)
+{
+    StreamXmlWriter writer(file, family.encoding);
+    writer.BeginElement(family.root);
+    for (const char* attribute : family.zeroAttributes)
+        writer.Attribute(attribute, "0");
+    writer.Attribute(kCheckValue, "1");
+    writer.Attribute(kSpecifyIp, matchByIp ? "1" : "0");
+    writer.Attribute(kProcessorCount, std::to_string(count));
+    for (QDomElement element = processors.firstChildElement(); !element.isNull();
+         element = element.nextSiblingElement())
+        WriteElement(writer, element);
+    writer.EndElement();
+    return writer.Flush();
 }
 
 quint32 Export(const Family& family, ParamsLookup& lookup, const QString& path, const QUuid& id)
@@ -91,25 +108,23 @@ quint32 Export(const Family& family, ParamsLookup& lookup, const QString& path, 
         return kFailed;
     }
     QDomDocument document;
-    document.appendChild(document.createProcessingInstruction(
-        QStringLiteral("xml"),
-        QStringLiteral("version=\"1.0\" encoding=\"%1\"").arg(QLatin1String(family.encoding))));
-    QDomElement root = document.createElement(QLatin1String(family.root));
-    document.appendChild(root);
-    for (const char* attribute : family.zeroAttributes)
-        root.setAttribute(QLatin1String(attribute), 0);
-    root.setAttribute(QLatin1String(kCheckValue), 1);
-    root.setAttribute(QLatin1String(kSpecifyIp), lookup.Prepared().matchByIp ? 1 : 0);
-    root.setAttribute(QLatin1String(kProcessorCount), chosen.size());
+    QDomElement processors = document.createElement(QLatin1String(family.root));
     for (int i = 0; i < chosen.size(); ++i) {
         const CSender* sender = lookup.Sender(chosen[i]);
         if (!sender)
             continue;
         QDomElement element = document.createElement(ProcessorName(i + 1));
-        root.appendChild(element);
+        processors.appendChild(element);
         family.write(document, &element, sender);
     }
-    return SaveDocument(lookup, document, path) ? kDone : kFailed;
+
+    const bool matchByIp = lookup.Prepared().matchByIp;
+    QString error;
+    const bool saved = ReplaceFile(
+        path, [&](QIODevice& file) { return WriteFile(file, family, matchByIp, chosen.size(), processors); },
+        &error);
+    lookup.SetFileError(saved ? QString() : error);
+    return saved ? kDone : kFailed;
 }
 
 /// Null, with the reason told, when the file cannot be read or is of the other family.

@@ -1,0 +1,502 @@
+#include "common/xmldom.h"
+#include "layout/sender.h"
+#include "params/colorblocks.h"
+#include "params/deviceblocks.h"
+#include "params/elementfields.h"
+#include "params/inputblock.h"
+#include "params/outputblock.h"
+#include "params/paramresult.h"
+#include "params/processorelement.h"
+#include "params/senderelement.h"
+
+#include "messagerecorder.h"
+#include "recordwalkers.h"
+
+#include <gtest/gtest.h>
+
+using namespace params;
+
+namespace {
+
+struct Block
+{
+    explicit Block(const QByteArray& content = QByteArray())
+    {
+        EXPECT_TRUE(ParseXmlDom("<root>" + content + "</root>", document, nullptr));
+        root = document.documentElement();
+    }
+    QByteArray Text() const { return document.toByteArray(-1); }
+    QDomElement At(const char* path) const
+    {
+        QDomElement element = root;
+        for (const QString& name : QString::fromLatin1(path).split(QLatin1Char('/')))
+            element = element.firstChildElement(name);
+        return element;
+    }
+
+    QDomDocument document;
+    QDomElement root;
+};
+
+/// Distinct values in every field, counts and texts such as a device can have them.
+void FillForFile(CSender& sender, int deviceClass)
+{
+    SenderParamData& data = sender.Params();
+    ChangeValues().Visit(data);
+    data.deviceClass = deviceClass;
+    data.processorType = 17;
+    data.inputVideos[0].cardSlot = 1;
+    data.inputVideos[1].cardSlot = 2;
+    data.cuttingLines.horizontalCount = kMaxCuttingLines;
+    data.cuttingLines.verticalCount = kMaxCuttingLines;
+    data.portGroups.groupCount = kMaxPortGroups;
+    for (SPortGroup& group : data.portGroups.groups)
+        paramtext::FromText(QStringLiteral("组 %1").arg(group.bright), group.name);
+    sender.SetCanvasSize(QSize(3840, 2160));
+}
+
+/// What neither family of files holds, and what the device class hides, as a fresh sender has it.
+void ResetWhatNoFileHolds(SenderParamData& data)
+{
+    const SenderParamData fresh;
+    data.exportConfig = data.freezed = data.blackout = data.picAdjEnable = false;
+    data.syncSource = data.zeroLatency = data.uh5Change = false;
+    data.support = fresh.support;
+    if (data.deviceClass == 4) {
+        data.picture = fresh.picture;
+        data.vSyncFreq = 0;
+    } else {
+        data.firstPicture = fresh.firstPicture;
+        data.blackoutFadeTime = 0;
+    }
+    data.balanced.clear();
+    data.inputRange = data.selVideoSourceIndex = data.selSubBoardIndex = data.selSubBoardType = 0;
+    data.netPortConfig = data.originalCanvasWidth = data.originalCanvasHeight = 0;
+    data.cubeGamma = 0;
+    data.processorCube = fresh.processorCube;
+    data.processorCurve = fresh.processorCurve;
+    data.luts.clear();
+}
+
+void ResetWhatProcessorFilesLack(SenderParamData& data)
+{
+    const SenderParamData fresh;
+    ResetWhatNoFileHolds(data);
+    for (SLayerWndParam& layer : data.layers) {
+        layer.showTitle = false;
+        layer.wndSizeState = layer.alpha = layer.scaler = 0;
+    }
+    for (SInputVideoColorCurveParam& curve : data.curves)
+        curve.lock = false;
+    data.videoInfos.clear();
+    data.inputClips.clear();
+    data.inputEdids.clear();
+    data.inputJoints.clear();
+    data.netPorts.clear();
+    data.dmx = fresh.dmx;
+    data.hdrEnable = data.hdrDynamicCali = false;
+    data.hdrStatus = fresh.hdrStatus;
+    data.colorSpaceTransMode = fresh.colorSpaceTransMode;
+    data.hdrSet = fresh.hdrSet;
+}
+
+void ResetWhatSenderFilesLack(SenderParamData& data)
+{
+    const SenderParamData fresh;
+    ResetWhatNoFileHolds(data);
+    for (SLayerWndParam& layer : data.layers) {
+        layer.groupIndex = layer.layerIndex = 0;
+        layer.posLock = false;
+    }
+    data.exactColor.afterMode = data.exactColor.afterColorSpace = data.exactColor.hdrIndex = 0;
+    data.exactColor.dynamicCalibration = false;
+    SPictureParam& picture = data.Picture();
+    const SPictureParam& freshPicture = data.deviceClass == 4 ? fresh.firstPicture : fresh.picture;
+    picture.hue = freshPicture.hue;
+    picture.saturation = freshPicture.saturation;
+    picture.brightComp = freshPicture.brightComp;
+    picture.contrast = freshPicture.contrast;
+    data.blackoutFadeTime = 0;
+    data.deviceMode = data.fiberMode = data.videoOutputMode = 0;
+    data.signalAbnormal = data.cubeEnable = data.cubeAllSignal = false;
+    data.curveEnable = data.curveAllSignal = false;
+    data.vSync = fresh.vSync;
+    data.multi = fresh.multi;
+    data.inputVideos.clear();
+    data.hotBackup = fresh.hotBackup;
+    data.cubes.clear();
+    data.curves.clear();
+}
+
+/// The values of a sender that differ, for the message of a failed comparison.
+QByteArray ProcessorText(const CSender& sender)
+{
+    Block block;
+    WriteSingleProcessorParam(block.document, &block.root, &sender);
+    return block.Text();
+}
+
+} // namespace
+
+TEST(ParamBlocksTest, ProcessorElementRestoresEveryValueItHolds)
+{
+    for (const int deviceClass : {2, 4}) {
+        CSender source;
+        FillForFile(source, deviceClass);
+        source.Params().support.portGroupBrightness = true;
+        source.GetPort(3)->SetPortArea(QRect(1, 2, 30, 40));
+        Block block;
+        ASSERT_EQ(WriteSingleProcessorParam(block.document, &block.root, &source), kDone);
+
+        CSender target;
+        target.SetDeviceClass(deviceClass);
+        target.SetProcessorType(17);
+        ASSERT_EQ(ReadSingleProcessorParam(block.document, &block.root, &target), kDone);
+        ResetWhatProcessorFilesLack(source.Params());
+        EXPECT_TRUE(target.Params() == source.Params())
+            << ProcessorText(source).constData() << ProcessorText(target).constData();
+        EXPECT_EQ(target.GetCanvasSize(), source.GetCanvasSize());
+        EXPECT_EQ(target.GetPort(3)->GetPortArea(), QRect(1, 2, 30, 40));
+        EXPECT_NE(target.GetId(), source.GetId());
+    }
+}
+
+TEST(ParamBlocksTest, SenderElementRestoresEveryValueItHoldsAndWritesItAgain)
+{
+    for (const int deviceClass : {2, 4}) {
+        CSender source;
+        FillForFile(source, deviceClass);
+        Block block;
+        ASSERT_EQ(WriteSingleSenderParam(block.document, &block.root, &source), kDone);
+
+        CSender target;
+        target.SetDeviceClass(deviceClass);
+        target.SetProcessorType(17);
+        ASSERT_EQ(ReadSingleSenderParam(block.document, &block.root, &target), kDone);
+        Block again;
+        WriteSingleSenderParam(again.document, &again.root, &target);
+        EXPECT_EQ(again.Text(), block.Text());
+        ResetWhatSenderFilesLack(source.Params());
+        EXPECT_TRUE(target.Params() == source.Params());
+        EXPECT_EQ(target.GetCanvasSize(), source.GetCanvasSize());
+    }
+}
+
+TEST(ParamBlocksTest, CopiedSenderHasEveryParameter)
+{
+    CSender source;
+    ChangeValues().Visit(source.Params());
+    CSender copy;
+    copy.CopySender(source);
+    EXPECT_TRUE(copy.Params() == source.Params());
+}
+
+TEST(ParamBlocksTest, OddNamesAndNumberingStayAsFilesInTheFieldHaveThem)
+{
+    CSender sender;
+    sender.Params().stereo.leftEyeFirst = true;
+    sender.SetColorCurveEnable(true, 3, 1);
+    sender.Params().exactColor.afterLedLuminance[3] = {1, 2.5F, 3};
+    Block block;
+    WriteSingleProcessorParam(block.document, &block.root, &sender);
+    EXPECT_EQ(block.At("Set3DParam/Set3DbRightFirt").text(), QStringLiteral("0"));
+    EXPECT_FALSE(block.At("Set3DParam/Set3DRightEyeOffset/RightNumber8").isNull());
+    EXPECT_TRUE(block.At("Set3DParam/Set3DRightEyeOffset/RightNumber0").isNull());
+    EXPECT_FALSE(block.At("DeviceSetParamsMultiRoot/DeviceSetParamsFrameData9").isNull());
+    EXPECT_EQ(block.At("boardCount").text(), QStringLiteral("1"));
+    EXPECT_EQ(block.At("ColorCurveBoard0/Red/AdjPointCount").text(), QStringLiteral("0"));
+    EXPECT_EQ(block.At("ColorCubeParamRoot/BoardCount").text(), QStringLiteral("0"));
+    EXPECT_EQ(block.At("groupParamRoot/groupParamRootBase1/outputLayerParamRoot0/outputLayerCount").text(),
+              QStringLiteral("0"));
+    QDomElement luminance = block.At("groupParamRoot/groupParamRootBase1/outputExactColorParmXmlRoot/"
+                                     "ColorWriteoutputExactColorLedcaliAfter_ledLimu");
+    EXPECT_EQ(luminance.text(), QStringLiteral("1"));
+    luminance = luminance.nextSiblingElement(luminance.tagName());
+    EXPECT_EQ(luminance.text(), QStringLiteral("2.5"));
+    EXPECT_TRUE(block.At("OutputParamsXmlRoot/OutPortGroupAdjBrightParamXmlRoot").isNull());
+    EXPECT_EQ(block.At("inputParamXmlRoot").childNodes().size(), 0);
+}
+
+TEST(ParamBlocksTest, BasicBlockChecksTheTypeAloneAndTellsTheUser)
+{
+    MessageRecorder messages;
+    CSender sender;
+    sender.SetProcessorType(17);
+    struct Case
+    {
+        QByteArray content;
+        quint32 result;
+        QStringList messages;
+    };
+    const Case cases[] = {
+        {"<DeviceClass>9</DeviceClass><DeviceType> 17 </DeviceType>", kDone, {}},
+        {"<DeviceClass>9</DeviceClass>", kFailed, {QStringLiteral("导入失败。")}},
+        {"<DeviceType>18</DeviceType>", kFailed, {QStringLiteral("导入失败，无法导入不同类型主控的参数。")}},
+    };
+    for (const Case& c : cases) {
+        Block block(c.content);
+        EXPECT_EQ(LoadBasicInfoParam(block.document, &block.root, &sender), c.result)
+            << c.content.constData();
+        EXPECT_EQ(messages.Take(), c.messages);
+    }
+}
+
+TEST(ParamBlocksTest, NumbersWiderThanTheirFieldAreTakenModuloItsWidth)
+{
+    CSender sender;
+    Block block("<DeviceSetParamsFrequencyFlag>258</DeviceSetParamsFrequencyFlag>"
+                "<DeviceSetParamsFrameCount>-1</DeviceSetParamsFrameCount>"
+                "<DeviceSetParamsFrameData9><DeviceSetParamsFrameYlabel>65537</DeviceSetParamsFrameYlabel>"
+                "<DeviceSetParamsFrameXlabel>4294967296</DeviceSetParamsFrameXlabel>"
+                "<DeviceSetParamsFrameRlabel>0x10</DeviceSetParamsFrameRlabel></DeviceSetParamsFrameData9>");
+    ASSERT_EQ(LoadMultiParam(block.document, block.root, &sender), kDone);
+    EXPECT_EQ(sender.GetFrequencyFlag(), 2);
+    EXPECT_EQ(sender.GetFrameCount(), 255);
+    SFrameRemapping frame;
+    sender.GetFrameSetting(&frame, 9);
+    EXPECT_EQ(frame.yLabel, 1);
+    EXPECT_EQ(frame.xLabel, 0);
+    EXPECT_EQ(frame.rLabel, 0);
+
+    Block delay("<Set3DEnable>7</Set3DEnable><Set3DDelayTime>4294967297</Set3DDelayTime>");
+    ASSERT_EQ(Load3DParam(delay.document, delay.root, &sender), kDone);
+    EXPECT_TRUE(sender.Get3DEnable());
+    EXPECT_EQ(sender.Get3D().delayTime, 1U);
+
+    Block fade("<outputOtherParamXmlRoot><outputOtherParamFadeTime>nan</outputOtherParamFadeTime>"
+               "</outputOtherParamXmlRoot>");
+    sender.SetFadeTime(3);
+    ASSERT_EQ(LoadOneGroupParam(fade.document, &fade.root, 0, &sender), kDone);
+    EXPECT_EQ(sender.GetFadeTime(), 0);
+}
+
+TEST(ParamBlocksTest, NullArgumentsFailAndWriteNothing)
+{
+    CSender sender;
+    Block block;
+    const QByteArray before = block.Text();
+    EXPECT_EQ(SaveBasicInfoParam(block.document, nullptr, &block.root), kFailed);
+    EXPECT_EQ(SaveDeviceSetParam(block.document, &block.root, nullptr), kFailed);
+    EXPECT_EQ(Save3DParam(block.document, nullptr, &sender), kFailed);
+    EXPECT_EQ(SaveOutputParam(block.document, nullptr, &block.root), kFailed);
+    EXPECT_EQ(SaveInputParam(block.document, &block.root, &sender), kFailed) << "no inputs";
+    EXPECT_EQ(LoadInputParam(block.document, nullptr, &sender), 1U);
+    EXPECT_EQ(LoadMultiParam(block.document, QDomElement(), &sender), kFailed);
+    EXPECT_EQ(ReadSingleSenderParam(block.document, &block.root, nullptr), kImportFailed);
+    EXPECT_EQ(block.Text(), before);
+}
+
+TEST(ParamBlocksTest, InputsAreWrittenByCardAndReadBackWhereTheyAre)
+{
+    CSender sender;
+    QList<SInputVideoParam> videos;
+    for (const int slot : {5, 2, 5}) {
+        SInputVideoParam video;
+        video.cardSlot = slot;
+        video.videoIndexOnCard = videos.size();
+        video.cropX = -7;
+        video.name = QStringLiteral("摄像机 <%1>").arg(slot);
+        videos.append(video);
+    }
+    sender.SetInputVideoInfo(videos);
+    Block block;
+    ASSERT_EQ(SaveInputParam(block.document, &block.root, &sender), kDone);
+    EXPECT_EQ(block.At("inputBoardOneCardParmXmlRootBase1/inputBoardCardSlotNum").text(),
+              QStringLiteral("2"));
+    EXPECT_EQ(block.At("inputBoardOneCardParmXmlRootBase2/inputBoardVideoCountOnCard").text(),
+              QStringLiteral("2"));
+
+    CSender target;
+    ASSERT_EQ(LoadInputParam(block.document, &block.root, &target), kDone);
+    EXPECT_EQ(target.GetInputVideoInfo(), (QList<SInputVideoParam>{videos[1], videos[0], videos[2]}));
+    Block nothing;
+    ASSERT_EQ(LoadInputParam(nothing.document, &nothing.root, &target), kDone);
+    EXPECT_TRUE(target.GetInputVideoInfo().isEmpty());
+}
+
+TEST(ParamBlocksTest, InputsThatAreAbsentOrIncompleteAreReadAsFarAsTheyGo)
+{
+    CSender sender;
+    Block block("<inputBoardCardCount>2000000000</inputBoardCardCount>"
+                "<inputBoardOneCardParmXmlRootBase3><inputBoardVideoCountOnCard>2000000000"
+                "</inputBoardVideoCountOnCard>"
+                "<inputBoardOneVideoParmXmlRootBase9><inputVideoCropParamXmlRoot>"
+                "<inputVideoCropX>65535</inputVideoCropX><inputVideoCropY>nine</inputVideoCropY>"
+                "</inputVideoCropParamXmlRoot></inputBoardOneVideoParmXmlRootBase9>"
+                "<inputBoardOneVideoParmXmlRootBase2><inputVideoSignalParamXmlRoot>"
+                "<inputVideoSignalVideoCardSlot>4</inputVideoSignalVideoCardSlot>"
+                "</inputVideoSignalParamXmlRoot></inputBoardOneVideoParmXmlRootBase2>"
+                "<inputBoardOneVideoParmXmlRootBase02/>"
+                "</inputBoardOneCardParmXmlRootBase3>");
+    ASSERT_EQ(LoadInputParam(block.document, &block.root, &sender), kDone);
+    const QList<SInputVideoParam> videos = sender.GetInputVideoInfo();
+    ASSERT_EQ(videos.size(), 2);
+    EXPECT_EQ(videos[0].cardSlot, 4);
+    EXPECT_EQ(videos[0].videoIndexOnCard, -1);
+    SInputVideoParam expected;
+    expected.cropX = -1;
+    EXPECT_EQ(videos[1], expected);
+}
+
+TEST(ParamBlocksTest, LayersAreWrittenWithoutGapsAndReadIntoFreeEntries)
+{
+    CSender sender;
+    std::array<SLayerWndParam, kMaxLayers> layers;
+    for (const size_t i : {3, 7}) {
+        layers[i].width = 100;
+        layers[i].height = static_cast<int>(i);
+    }
+    layers[5].width = 100;
+    sender.SetLayerInfo(layers.data());
+    Block block;
+    ASSERT_EQ(SaveOneGroupParam(block.document, &block.root, 0, &sender), kDone);
+    EXPECT_EQ(block.At("outputLayerParamRoot0/outputLayerCount").text(), QStringLiteral("2"));
+    EXPECT_EQ(block.At("outputLayerParamRoot0/outputLayerParamRootBase2/outputLayerHeight").text(),
+              QStringLiteral("7"));
+
+    layers.fill(SLayerWndParam());
+    layers[1].width = layers[1].height = 50;
+    sender.SetLayerInfo(layers.data());
+    QDomElement root = block.root.firstChildElement(QStringLiteral("outputLayerParamRoot0"));
+    root.setTagName(QStringLiteral("outputLayerParamRoot1"));
+    ASSERT_EQ(LoadOneGroupParam(block.document, &block.root, 1, &sender), kDone);
+    sender.GetLayerInfo(layers.data());
+    EXPECT_EQ(layers[0].height, 3);
+    EXPECT_EQ(layers[1].height, 50);
+    EXPECT_EQ(layers[2].height, 7);
+    root.setTagName(QStringLiteral("outputLayerParamRoot0"));
+    ASSERT_EQ(LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
+    sender.GetLayerInfo(layers.data());
+    EXPECT_EQ(layers[1].height, 7);
+    EXPECT_TRUE(layers[2].IsEmpty());
+}
+
+TEST(ParamBlocksTest, MoreLayersThanTheTableHoldsAreCut)
+{
+    QByteArray content = "<outputLayerParamRoot0><outputLayerCount>70</outputLayerCount>";
+    for (int i = 1; i <= 70; ++i) {
+        const QByteArray name = "outputLayerParamRootBase" + QByteArray::number(i);
+        content += "<" + name + "><outputLayerIndex>" + QByteArray::number(i)
+                   + "</outputLayerIndex><outputLayerWidth>1</outputLayerWidth>"
+                     "<outputLayerHeight>1</outputLayerHeight></"
+                   + name + ">";
+    }
+    Block block(content + "</outputLayerParamRoot0>");
+    CSender sender;
+    ASSERT_EQ(LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
+    EXPECT_EQ(sender.Params().layers.back().layerIndex, 64);
+}
+
+TEST(ParamBlocksTest, SplitLinesBeyondTheRecordAreNeitherWrittenNorRead)
+{
+    CSender sender;
+    SCuttingLineParam lines;
+    lines.show = true;
+    lines.horizontalCount = 33;
+    sender.SetCuttingLineInfo(lines);
+    Block block;
+    ASSERT_EQ(SaveOneGroupParam(block.document, &block.root, 0, &sender), kDone);
+    EXPECT_TRUE(block.At("outputSpiltLineParamRoot").firstChild().isNull());
+
+    lines.horizontalCount = 1;
+    lines.horizontal[0] = 4000000000U;
+    sender.SetCuttingLineInfo(lines);
+    for (const char* count : {"33", "-1", "2147483647"}) {
+        Block hostile("<outputSpiltLineParamRoot><outputSpiltLineVLineCount>" + QByteArray(count)
+                      + "</outputSpiltLineVLineCount></outputSpiltLineParamRoot>");
+        EXPECT_EQ(LoadOutputSpiltLineParam(hostile.document, &hostile.root, 0, &sender), kDone);
+        EXPECT_EQ(sender.GetCuttingLineInfo(), lines) << count;
+    }
+}
+
+TEST(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
+{
+    CSender sender;
+    SSupportOptionsInfo support;
+    support.portGroupBrightness = true;
+    sender.SetProcessorSupportInfo(support);
+    SPortGroupParam groups;
+    groups.groupCount = 2;
+    groups.groups[1].portFlags = {0x00, 0xAB};
+    sender.SetPortGroupInfo(groups);
+    Block block;
+    ASSERT_EQ(SaveOutputParam(block.document, &sender, &block.root), kDone);
+    const QString base = QStringLiteral("OutPortGroupAdjBrightParamXmlRoot/OutPortGroupAdjBrightGroupIndex");
+    EXPECT_EQ(block.At(qPrintable(base + QStringLiteral("0/OutPortGroupAdjBrightGroupName"))).text(),
+              QStringLiteral("Group 1"));
+    QString flags =
+        block.At(qPrintable(base + QStringLiteral("1/OutPortGroupAdjBrightGroupPortFlag"))).text();
+    EXPECT_EQ(flags.size(), 32 * 3 - 1);
+    EXPECT_TRUE(flags.startsWith(QStringLiteral("00 AB 00")));
+
+    const QByteArray longName = QString(22, QChar(0x5C4F)).toUtf8(); // 66 bytes
+    Block read("<OutPortGroupAdjBrightParamXmlRoot>"
+               "<OutPortGroupAdjBrightGroupCount>2000000000</OutPortGroupAdjBrightGroupCount>"
+               "<OutPortGroupAdjBrightGroupIndex7><OutPortGroupAdjBrightGroupName>"
+               + longName
+               + "</OutPortGroupAdjBrightGroupName>"
+                 "<OutPortGroupAdjBrightGroupPortFlag> 1 zz  ff "
+               + QByteArray(" 02").repeated(40)
+               + "</OutPortGroupAdjBrightGroupPortFlag></OutPortGroupAdjBrightGroupIndex7>"
+                 "</OutPortGroupAdjBrightParamXmlRoot>");
+    ASSERT_EQ(LoadOutputParam(read.document, &read.root, &sender), kDone);
+    groups = sender.GetPortGroupInfo();
+    EXPECT_EQ(groups.groupCount, 8);
+    EXPECT_EQ(QByteArray(groups.groups[7].name.data()), longName.left(63));
+    EXPECT_EQ(groups.groups[7].portFlags[0], 1);
+    EXPECT_EQ(groups.groups[7].portFlags[1], 0);
+    EXPECT_EQ(groups.groups[7].portFlags[2], 0xFF);
+    EXPECT_EQ(groups.groups[7].portFlags[31], 2);
+    paramtext::FromText(QStringLiteral("a") + QString(21, QChar(0x5C4F)), groups.groups[0].name);
+    EXPECT_EQ(qstrlen(groups.groups[0].name.data()), 61U) << "no half character";
+}
+
+TEST(ParamBlocksTest, LedLuminancesAreReadUnderOneNameOrNumbered)
+{
+    const QByteArray red = "ColorRedoutputExactColorLedcaliAfter_ledLimu";
+    const QByteArray blue = "ColorBlueoutputExactColorLedcaliAfter_ledLimu";
+    QByteArray content = "<outputExactColorParmXmlRoot>";
+    for (int k = 0; k < 3; ++k) {
+        const QByteArray value = QByteArray::number(k + 1);
+        content += "<" + red + ">" + value + "</" + red + ">";
+        const QByteArray numbered = blue + QByteArray::number(k);
+        content += "<" + numbered + ">" + value + "</" + numbered + ">";
+    }
+    Block block(content + "</outputExactColorParmXmlRoot>");
+    CSender sender;
+    ASSERT_EQ(LoadOutputExactColorParam(block.document, &block.root, 0, &sender), kDone);
+    const SExactColorParam::LedLuminance expected{1, 2, 3};
+    EXPECT_EQ(sender.GetExactColorInfo().afterLedLuminance[0], expected);
+    EXPECT_EQ(sender.GetExactColorInfo().afterLedLuminance[2], expected);
+}
+
+TEST(ParamBlocksTest, ColorEntriesWithoutSourceStandForTheirSlot)
+{
+    CSender sender;
+    sender.SetColorCubeEnable(true, 2, 5);
+    sender.SetColorCurveEnable(true, 2, 5);
+    Block block;
+    SaveColorCubeParam(block.document, &block.root, &sender, false);
+    SaveColorCurveParam(block.document, &block.root, &sender, false);
+    EXPECT_TRUE(block.At("ColorCubeParamRoot/ColorCubeBoard0/SourceIndex").isNull());
+    CSender target;
+    ASSERT_EQ(LoadColorCubeParam(block.document, block.root, &target, true), kDone);
+    ASSERT_EQ(LoadColorCurveParam(block.document, block.root, &target, true), kDone);
+    ASSERT_EQ(target.GetColorCubeParams().size(), 1);
+    EXPECT_EQ(target.GetColorCubeParams()[0].sourceIndex, 0);
+    EXPECT_FALSE(target.GetColorCubeParams()[0].enable);
+    EXPECT_EQ(target.GetColorCurveParams()[0].slotNum, 2);
+}
+
+TEST(ParamBlocksTest, CurvePointsAreBelievedAsFarAsTheFileHoldsThem)
+{
+    Block block("<ColorCurveParamRoot><boardCount>2000000000</boardCount>"
+                "<ColorCurveBoard0><SlotNum>1</SlotNum><Red><AdjPointCount>2000000000</AdjPointCount>"
+                "<PointX0>0.5</PointX0><PointY1>inf</PointY1><PointX1>1</PointX1></Red></ColorCurveBoard0>"
+                "</ColorCurveParamRoot>");
+    CSender sender;
+    ASSERT_EQ(LoadColorCurveParam(block.document, block.root, &sender, true), kDone);
+    QList<QPointF> points;
+    ASSERT_TRUE(sender.GetColorCurveAdjPoint(ColorCurveRed, points, 1, 0));
+    EXPECT_EQ(points, (QList<QPointF>{QPointF(0.5, 0), QPointF(1, 0)}));
+}

@@ -1,0 +1,392 @@
+#include "layout/sender.h"
+#include "params/paramcontents.h"
+#include "params/paramfile.h"
+#include "params/paramresult.h"
+#include "params/paramslookup.h"
+
+#include "messagerecorder.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <memory>
+#include <vector>
+
+using namespace params;
+
+namespace {
+
+const QString kImportFailedText = QStringLiteral("导入失败。");
+const QString kTypeDiffersText = QStringLiteral("导入失败，无法导入不同类型主控的参数。");
+const QString kIpModeText = QStringLiteral("不可导入，无法匹配对应IP的主控参数。");
+
+/// Senders of type 17, all chosen.
+class TestProject : public ParamsLookup
+{
+public:
+    explicit TestProject(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            senders.push_back(std::make_unique<CSender>());
+            senders.back()->SetProcessorType(17);
+            senders.back()->SetSignalFreq(50 + i);
+            senders.back()->SetNetSenderIP(0x0A000001U + static_cast<unsigned>(i));
+            prepared.senders.append(i);
+        }
+    }
+
+    CSender* Sender(int index) const override
+    {
+        return index >= 0 && index < static_cast<int>(senders.size())
+                   ? senders[static_cast<size_t>(index)].get()
+                   : nullptr;
+    }
+    int SenderIndex(const QUuid& id) const override
+    {
+        for (size_t i = 0; i < senders.size(); ++i)
+            if (senders[i]->GetId() == id)
+                return static_cast<int>(i);
+        return -1;
+    }
+    SImpExpPrepareInfo Prepared() const override { return prepared; }
+    void SetFileError(const QString& reason) override { error = reason; }
+
+    QList<int> SignalFreqs() const
+    {
+        QList<int> frequencies;
+        for (const auto& sender : senders)
+            frequencies.append(sender->GetSignalFreq());
+        return frequencies;
+    }
+
+    std::vector<std::unique_ptr<CSender>> senders;
+    SImpExpPrepareInfo prepared;
+    QString error;
+};
+
+using Export = quint32 (*)(ParamsLookup&, const QString&, const QUuid&);
+
+struct FamilyCase
+{
+    const char* name;
+    Export exportFile;
+    Export importFile;
+};
+
+const FamilyCase kFamilies[] = {
+    {"SenderParams", ExportMutiSenderParam, ImportMutiSenderParam},
+    {"DeviceParams", ExportMutiProcessorParam, ImportMutiProcessorParam},
+};
+
+QJsonObject Contents(const QString& path)
+{
+    QString error;
+    const QJsonObject contents = ParamFileContents(path, &error);
+    EXPECT_TRUE(error.isEmpty()) << qPrintable(error);
+    return contents;
+}
+
+void Replace(const QString& path, const QByteArray& before, const QByteArray& after)
+{
+    QByteArray content = ReadFile(path);
+    ASSERT_TRUE(content.contains(before)) << before.constData();
+    content.replace(before, after);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+/// Everything in `part` is in `whole` with the same text.
+void ExpectPart(const QJsonObject& part, const QJsonObject& whole, const QString& path = QString())
+{
+    for (auto member = part.constBegin(); member != part.constEnd(); ++member) {
+        const QString name = path + QLatin1Char('/') + member.key();
+        if (member->isObject())
+            ExpectPart(member->toObject(), whole.value(member.key()).toObject(), name);
+        else
+            EXPECT_EQ(member.value(), whole.value(member.key())) << qPrintable(name);
+    }
+}
+
+} // namespace
+
+TEST(ParamFileTest, ContentsOfTheSampleAreItsTexts)
+{
+    const QByteArray json = ReadFile(SamplePath("device-params.xml.json"));
+    EXPECT_EQ(Contents(SamplePath("device-params.xml")), QJsonDocument::fromJson(json).object());
+    TestFolder folder;
+    QString error;
+    EXPECT_TRUE(ParamFileContents(folder.Write(QStringLiteral("a.xml"), "<Other/>"), &error).isEmpty());
+    EXPECT_FALSE(error.isEmpty());
+    const QString repeated =
+        folder.Write(QStringLiteral("b.xml"), "<SenderParams a='1'><P><n>1</n><n>2</n></P></SenderParams>");
+    EXPECT_EQ(Contents(repeated)[QStringLiteral("P")].toObject()[QStringLiteral("n")].toArray(),
+              (QJsonArray{QStringLiteral("1"), QStringLiteral("2")}));
+}
+
+TEST(ParamFileTest, SampleIsImportedIntoTwoSendersAndExportedAgain)
+{
+    MessageRecorder messages;
+    TestProject project(2);
+    project.senders[0]->SetDeviceClass(2);
+    project.senders[1]->SetDeviceClass(4);
+    project.senders[1]->SetProcessorType(21);
+    project.senders[1]->SetInputVideoInfo({SInputVideoParam()});
+    ASSERT_EQ(ImportMutiProcessorParam(project, SamplePath("device-params.xml"), QUuid()), kDone);
+    EXPECT_TRUE(messages.Take().isEmpty());
+    CSender& first = *project.senders[0];
+    EXPECT_EQ(first.GetFadeTime(), 1.5F);
+    EXPECT_TRUE(first.Get3D().leftEyeFirst);
+    EXPECT_EQ(first.GetPort(2)->GetPortArea(), QRect(1100, 400, 256, 256));
+    EXPECT_EQ(first.GetNetSenderIP(), 0x0A000001U) << "an address never comes from a file";
+    EXPECT_TRUE(project.senders[1]->GetInputVideoInfo().isEmpty());
+
+    SSupportOptionsInfo support;
+    support.portGroupBrightness = true;
+    first.SetProcessorSupportInfo(support);
+    project.senders[1]->SetPortCount(2);
+    TestFolder folder;
+    const QString path = folder.Path(QStringLiteral("导出.xml"));
+    ASSERT_EQ(ExportMutiProcessorParam(project, path, QUuid()), kDone);
+    QByteArray sample = QJsonDocument(Contents(SamplePath("device-params.xml"))).toJson();
+    // The identity is the sender's own, its port count too; fading to black is for class 4.
+    for (const char* own : {"DeviceGuid", "NetIP", "outputOtherParamBlackFade", "OutNetPortAreaCount"})
+        sample.replace('"' + QByteArray(own) + "\": ", "\"own\": null, \"\": ");
+    QJsonDocument part = QJsonDocument::fromJson(sample.replace("\"own\": null, \"\": ", "\"-\": "));
+    const auto withoutOwn = [](QJsonObject object, const auto& self) -> QJsonObject {
+        object.remove(QStringLiteral("-"));
+        for (auto member = object.begin(); member != object.end(); ++member)
+            if (member->isObject())
+                *member = self(member->toObject(), self);
+        return object;
+    };
+    ExpectPart(withoutOwn(part.object(), withoutOwn), Contents(path));
+}
+
+TEST(ParamFileTest, RootSaysWhatTheFileHolds)
+{
+    TestFolder folder;
+    TestProject project(3);
+    project.prepared.senders = {2, 9, 0};
+    for (const FamilyCase& family : kFamilies) {
+        const QString path = folder.Path(QString::fromLatin1(family.name));
+        ASSERT_EQ(family.exportFile(project, path, QUuid()), kDone);
+        QJsonObject contents = Contents(path);
+        EXPECT_EQ(contents[QStringLiteral("ProcessorCount")].toString(), QStringLiteral("3"));
+        EXPECT_TRUE(contents.contains(QStringLiteral("Processor_1")));
+        EXPECT_FALSE(contents.contains(QStringLiteral("Processor_2"))) << "no such sender";
+        EXPECT_TRUE(contents.contains(QStringLiteral("Processor_3")));
+
+        project.prepared.matchByIp = true;
+        ASSERT_EQ(family.exportFile(project, path, project.senders[1]->GetId()), kDone);
+        project.prepared.matchByIp = false;
+        contents = Contents(path);
+        EXPECT_EQ(contents[QStringLiteral("bSpecifyIP")].toString(), QStringLiteral("1"));
+        EXPECT_EQ(contents[QStringLiteral("ProcessorCount")].toString(), QStringLiteral("1"));
+        EXPECT_EQ(contents[QStringLiteral("Processor_1")].toObject()[QStringLiteral("NetIP")].toString(),
+                  QStringLiteral("167772162"));
+
+        const QByteArray before = ReadFile(path);
+        EXPECT_EQ(family.exportFile(project, path, QUuid::createUuid()), kFailed);
+        EXPECT_EQ(ReadFile(path), before);
+        EXPECT_FALSE(project.error.isEmpty());
+    }
+    EXPECT_TRUE(ReadFile(folder.Path(QStringLiteral("SenderParams")))
+                    .startsWith("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
+                                "<SenderParams CheckValue=\"1\" bSpecifyIP=\"1\" ProcessorCount=\"1\">\n"
+                                "    <Processor_1>\n        <SenderType>"));
+    EXPECT_TRUE(ReadFile(folder.Path(QStringLiteral("DeviceParams")))
+                    .startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                "<DeviceParams ParamFileMainVersion=\"0\" DeviceReserveFlag=\"0\" "));
+}
+
+TEST(ParamFileTest, SendersTakeProcessorsByPositionOfTheChoice)
+{
+    TestFolder folder;
+    MessageRecorder messages;
+    for (const FamilyCase& family : kFamilies) {
+        TestProject source(2);
+        const QString path = folder.Path(QString::fromLatin1(family.name));
+        ASSERT_EQ(family.exportFile(source, path, QUuid()), kDone);
+
+        TestProject target(3);
+        target.prepared.senders = {2, 0};
+        EXPECT_EQ(family.importFile(target, path, QUuid()), kDone);
+        EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 51, 50}));
+        EXPECT_EQ(family.importFile(target, path, target.senders[1]->GetId()), kDone);
+        EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 50, 50}));
+        EXPECT_TRUE(messages.Take().isEmpty());
+
+        target.prepared.senders = {0, 1, 2};
+        EXPECT_EQ(family.importFile(target, path, QUuid()), kImportFailed) << "no third processor";
+        EXPECT_EQ(messages.Take(), QStringList{kImportFailedText});
+        target.prepared.senders = {0, 3};
+        EXPECT_EQ(family.importFile(target, path, QUuid()), kFailed) << "no such sender";
+        EXPECT_EQ(family.importFile(target, path, QUuid::createUuid()), kFailed);
+        EXPECT_TRUE(messages.Take().isEmpty());
+    }
+}
+
+TEST(ParamFileTest, OtherOrMissingTypeChangesNothingAndIsToldOnce)
+{
+    TestFolder folder;
+    MessageRecorder messages;
+    for (const FamilyCase& family : kFamilies) {
+        TestProject source(2);
+        source.senders[1]->SetProcessorType(18);
+        const QString path = folder.Path(QString::fromLatin1(family.name));
+        ASSERT_EQ(family.exportFile(source, path, QUuid()), kDone);
+        TestProject target(2);
+        target.senders[1]->SetSignalFreq(99);
+        EXPECT_EQ(family.importFile(target, path, QUuid()), kTypeDiffers);
+        EXPECT_EQ(target.SignalFreqs(), (QList<int>{50, 99}));
+        EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
+
+        Replace(path, "SenderType>", "AType>");
+        if (ReadFile(path).contains("DeviceType"))
+            Replace(path, "DeviceType>", "BType>");
+        EXPECT_EQ(family.importFile(target, path, QUuid()), kImportFailed);
+        EXPECT_EQ(messages.Take(), QStringList{kImportFailedText});
+    }
+}
+
+TEST(ParamFileTest, ProcessorWithoutSenderTypeIsComparedByItsBasicBlock)
+{
+    TestFolder folder;
+    MessageRecorder messages;
+    TestProject project(1);
+    const QString path = folder.Path(QStringLiteral("a.xml"));
+    ASSERT_EQ(ExportMutiProcessorParam(project, path, QUuid()), kDone);
+    Replace(path, "SenderType>", "AType>");
+    EXPECT_EQ(ImportMutiProcessorParam(project, path, QUuid()), kDone);
+    Replace(path, "<DeviceType>17<", "<DeviceType>18<");
+    EXPECT_EQ(ImportMutiProcessorParam(project, path, QUuid()), kTypeDiffers);
+    EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
+}
+
+TEST(ParamFileTest, SendersTakeProcessorsOfTheirAddress)
+{
+    TestFolder folder;
+    MessageRecorder messages;
+    for (const FamilyCase& family : kFamilies) {
+        TestProject source(4);
+        source.prepared.matchByIp = true;
+        source.senders[2]->SetNetSenderIP(0x0A000002);
+        source.senders[3]->SetNetSenderIP(0);
+        const QString path = folder.Path(QString::fromLatin1(family.name));
+        ASSERT_EQ(family.exportFile(source, path, QUuid()), kDone);
+        Replace(path, "<NetIP>167772161<", "<NetIP> 10.000.00.1 <");
+
+        TestProject target(3);
+        EXPECT_EQ(family.importFile(target, path, QUuid()), kFailed);
+        EXPECT_EQ(messages.Take(), QStringList{kIpModeText});
+
+        target.prepared.matchByIp = true;
+        target.senders[0]->SetNetSenderIP(0x0A000002);
+        target.senders[1]->SetNetSenderIP(0x0A000001);
+        target.senders[2]->SetNetSenderIP(0);
+        target.senders[2]->SetSignalFreq(99);
+        EXPECT_EQ(family.importFile(target, path, QUuid()), kDone);
+        EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 50, 99}));
+        EXPECT_EQ(messages.Take(), QStringList{QStringLiteral("主控3未找到对应IP的主控参数。")});
+    }
+}
+
+TEST(ParamFileTest, FourSendersWithoutTheirAddressAreNamedAtMost)
+{
+    TestFolder folder;
+    MessageRecorder messages;
+    TestProject source(1);
+    source.prepared.matchByIp = true;
+    const QString path = folder.Path(QStringLiteral("a.xml"));
+    ASSERT_EQ(ExportMutiSenderParam(source, path, QUuid()), kDone);
+    const char* expected[] = {"", "2", "2,3", "2,3,4", "2,3,4,5...", "2,3,4,5..."};
+    for (int unmatched = 1; unmatched <= 5; ++unmatched) {
+        TestProject target(unmatched + 1);
+        target.prepared.matchByIp = true;
+        EXPECT_EQ(ImportMutiSenderParam(target, path, QUuid()), kDone);
+        EXPECT_EQ(
+            messages.Take(),
+            QStringList{
+                QStringLiteral("主控%1未找到对应IP的主控参数。").arg(QLatin1String(expected[unmatched]))});
+    }
+}
+
+TEST(ParamFileTest, FileWithoutMarkIsOneOfASingleSender)
+{
+    TestFolder folder;
+    MessageRecorder messages;
+    TestProject project(2);
+    CSender& second = *project.senders[1];
+    const QString path = folder.Write(
+        QStringLiteral("a.xml"), "<SenderParams><SenderType>17</SenderType><OtherParam><AdvancedParam>"
+                                 "<SignalFreq>144</SignalFreq></AdvancedParam></OtherParam></SenderParams>");
+    EXPECT_EQ(ImportMutiSenderParam(project, path, second.GetId()), kDone);
+    EXPECT_EQ(project.SignalFreqs(), (QList<int>{50, 144}));
+    second.SetProcessorType(18);
+    EXPECT_EQ(ImportMutiSenderParam(project, path, second.GetId()), kTypeDiffers);
+    EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
+    EXPECT_EQ(ImportMutiSenderParam(project, path, QUuid()), kFailed);
+
+    // Of a single processor only the blocks in front of one that does not fit are taken.
+    const QString processor = folder.Write(
+        QStringLiteral("b.xml"),
+        "<DeviceParams><DeviceOtherParamsXmlRoot><DeviceOtherParamVideoAbnormalColseOut>2"
+        "</DeviceOtherParamVideoAbnormalColseOut></DeviceOtherParamsXmlRoot><basicInfoParamsXmlRoot/>"
+        "<DeviceSetParamsXmlRoot><DeviceSetParamsVSyncSource>3</DeviceSetParamsVSyncSource>"
+        "</DeviceSetParamsXmlRoot></DeviceParams>");
+    EXPECT_EQ(ImportMutiProcessorParam(project, processor, second.GetId()), kFailed);
+    EXPECT_EQ(messages.Take(), QStringList{kImportFailedText});
+    EXPECT_TRUE(second.IsSignalAbnormal());
+    EXPECT_EQ(second.GetVSyncInfo().syncSource, 0);
+}
+
+TEST(ParamFileTest, DamagedFilesFailWithTheirReason)
+{
+    TestFolder folder;
+    MessageRecorder messages;
+    TestProject project(1);
+    const QByteArray sample = ReadFile(SamplePath("device-params.xml"));
+    const QString paths[] = {
+        folder.Path(QStringLiteral("absent.xml")),
+        folder.Write(QStringLiteral("cut.xml"), sample.left(sample.size() / 2)),
+        folder.Write(QStringLiteral("empty.xml"), QByteArray()),
+        folder.Write(QStringLiteral("other.xml"), "<SystemConfig CheckValue='1' ProcessorCount='1'/>"),
+    };
+    const CSenderParams before = *project.senders[0];
+    for (const QString& path : paths) {
+        project.error.clear();
+        EXPECT_EQ(ImportMutiProcessorParam(project, path, QUuid()), kFailed) << qPrintable(path);
+        EXPECT_FALSE(project.error.isEmpty()) << qPrintable(path);
+        EXPECT_EQ(ImportSenderParam(project, path, project.senders[0]->GetId()), kFailed);
+    }
+    const QString none = folder.Write(QStringLiteral("none.xml"),
+                                      "<DeviceParams CheckValue='1' bSpecifyIP='0' ProcessorCount='0'/>");
+    EXPECT_EQ(ImportMutiProcessorParam(project, none, QUuid()), kFailed);
+    EXPECT_TRUE(messages.Take().isEmpty());
+    EXPECT_TRUE(*project.senders[0] == before);
+}
+
+TEST(ParamFileTest, AddressIsFourDecimalOctetsOrOneNumber)
+{
+    const QPair<const char*, quint32> cases[] = {
+        {"192.168.1.10", 0xC0A8010A},
+        {" 010.0.0.09\n", 0x0A000009},
+        {"3232235786", 0xC0A8010A},
+        {"4294967295", 0xFFFFFFFF},
+        {"4294967296", 0},
+        {"-1", 0},
+        {"+1", 0},
+        {"1.2.3", 0},
+        {"1.2.3.256", 0},
+        {"1.2..4", 0},
+        {"0x10", 0},
+        {"", 0},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(GetIntFromOctString(QString::fromLatin1(c.first)), c.second) << c.first;
+}
