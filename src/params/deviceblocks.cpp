@@ -1,5 +1,6 @@
 #include "params/deviceblocks.h"
 
+#include "custommessagebox.h"
 #include "layout/sender.h"
 #include "params/elementfields.h"
 #include "params/elementnames.h"
@@ -28,8 +29,10 @@ quint32 LoadBasicInfoParam(QDomDocument&, const QDomElement* element, const CSen
     if (!sender || !element)
         return kFailed;
     const quint32 result = CheckBasicInfo(*element, *sender);
-    ShowImportResult(result);
-    return result == kDone ? kDone : kFailed;
+    if (result == kDone)
+        return kDone;
+    CCustomMessageBox::information(nullptr, ImportResultText(result));
+    return kFailed;
 }
 
 quint32 SaveDeviceSetParam(QDomDocument& document, QDomElement* element, const CSender* sender)

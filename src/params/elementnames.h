@@ -5,6 +5,9 @@
 /// Names of elements that more than one block or file knows.
 namespace params {
 
+constexpr const char* kSenderFileRoot = "SenderParams";
+constexpr const char* kProcessorFileRoot = "DeviceParams";
+
 constexpr const char* kDeviceType = "DeviceType";
 constexpr const char* kSenderType = "SenderType";
 constexpr const char* kDeviceClass = "DeviceClass";
@@ -13,6 +16,8 @@ constexpr const char* kNetIp = "NetIP";
 constexpr const char* kBasicRoot = "basicInfoParamsXmlRoot";
 constexpr const char* kMultiRoot = "DeviceSetParamsMultiRoot";
 constexpr const char* k3DRoot = "Set3DParam";
+constexpr const char* kOtherRoot = "OtherParam";
+constexpr const char* kAdvancedRoot = "AdvancedParam";
 constexpr const char* kCuttingLineRoot = "outputSpiltLineParamRoot";
 constexpr const char* kColorCubeRoot = "ColorCubeParamRoot";
 constexpr const char* kColorCurveRoot = "ColorCurveParamRoot"; ///< read only; written without a root

@@ -20,7 +20,7 @@ constexpr const char* kLayer = "outputLayerParamRootBase";
 constexpr const char* kLayerCount = "outputLayerCount";
 constexpr const char* kColorBrightRoot = "outputBrightColorParmXmlRoot";
 constexpr const char* kExactColorRoot = "outputExactColorParmXmlRoot";
-constexpr const char* kOtherRoot = "outputOtherParamXmlRoot";
+constexpr const char* kOtherOutputRoot = "outputOtherParamXmlRoot";
 
 constexpr int kFarAway = 1 << 20; ///< beyond any canvas; keeps edges of areas from files inside an int
 
@@ -190,7 +190,7 @@ quint32 SaveOneGroupParam(QDomDocument& document, QDomElement* element, int grou
         DescribeColorBright(writer, data, data.Picture(), rgb);
     });
     writer.Record(kExactColorRoot, data.exactColor);
-    writer.Group(kOtherRoot, [&] { DescribeOther(writer, data); });
+    writer.Group(kOtherOutputRoot, [&] { DescribeOther(writer, data); });
     return kDone;
 }
 
@@ -211,7 +211,7 @@ quint32 LoadOneGroupParam(QDomDocument& document, const QDomElement* element, in
     LoadOutputSpiltLineParam(document, element, group, sender);
     LoadOutputColorBrightParam(document, element, group, sender);
     LoadOutputExactColorParam(document, element, group, sender);
-    reader.Group(kOtherRoot, [&] { DescribeOther(reader, sender->Params()); });
+    reader.Group(kOtherOutputRoot, [&] { DescribeOther(reader, sender->Params()); });
     return kDone;
 }
 

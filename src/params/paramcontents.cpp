@@ -1,6 +1,7 @@
 #include "params/paramcontents.h"
 
 #include "common/xmldom.h"
+#include "params/elementnames.h"
 
 #include <QCoreApplication>
 #include <QDomDocument>
@@ -40,7 +41,8 @@ QJsonObject ParamFileContents(const QString& path, QString* error)
     if (!LoadXmlDom(path, document, error))
         return {};
     const QDomElement root = document.documentElement();
-    if (root.tagName() != QLatin1String("DeviceParams") && root.tagName() != QLatin1String("SenderParams")) {
+    if (root.tagName() != QLatin1String(kProcessorFileRoot)
+        && root.tagName() != QLatin1String(kSenderFileRoot)) {
         if (error)
             *error = QCoreApplication::translate("OrvanData", "不是参数文件。");
         return {};

@@ -5,6 +5,7 @@
 #include "common/xmlwriter.h"
 #include "custommessagebox.h"
 #include "layout/sender.h"
+#include "params/elementfields.h"
 #include "params/elementnames.h"
 #include "params/paramresult.h"
 #include "params/paramslookup.h"
@@ -20,6 +21,7 @@ namespace params {
 
 namespace {
 
+constexpr const char* kProcessor = "Processor_"; ///< and a number from 1 on
 constexpr const char* kCheckValue = "CheckValue";
 constexpr const char* kSpecifyIp = "bSpecifyIP";
 constexpr const char* kProcessorCount = "ProcessorCount";
@@ -38,14 +40,14 @@ struct Family
 
 const Family& SenderFamily()
 {
-    static const Family family{"SenderParams",        "utf-8",          {}, WriteSingleSenderParam,
+    static const Family family{kSenderFileRoot,       "utf-8",          {}, WriteSingleSenderParam,
                                ReadSingleSenderParam, ImportSenderParam};
     return family;
 }
 
 const Family& ProcessorFamily()
 {
-    static const Family family{"DeviceParams",
+    static const Family family{kProcessorFileRoot,
                                "UTF-8",
                                {"ParamFileMainVersion", "DeviceReserveFlag"},
                                WriteSingleProcessorParam,
@@ -56,13 +58,19 @@ const Family& ProcessorFamily()
 
 QString ProcessorName(int number)
 {
-    return QStringLiteral("Processor_%1").arg(number);
+    return QLatin1String(kProcessor) + QString::number(number);
 }
 
 /// The senders meant by an id, or by the choice for a null one.
 QList<int> ChosenSenders(const ParamsLookup& lookup, const QUuid& id)
 {
     return id.isNull() ? lookup.Prepared().senders : QList<int>{lookup.SenderIndex(id)};
+}
+
+quint32 NoSender(ParamsLookup& lookup)
+{
+    lookup.SetFileError(QCoreApplication::translate("OrvanData", "找不到主控。"));
+    return kFailed;
 }
 
 std::string Utf8(const QString& text)
@@ -103,10 +111,8 @@ bool WriteFile(QIODevice& file, const Family& family, bool matchByIp, int count,
 quint32 Export(const Family& family, ParamsLookup& lookup, const QString& path, const QUuid& id)
 {
     const QList<int> chosen = ChosenSenders(lookup, id);
-    if (!id.isNull() && !lookup.Sender(chosen.first())) {
-        lookup.SetFileError(QCoreApplication::translate("OrvanData", "找不到主控。"));
-        return kFailed;
-    }
+    if (!id.isNull() && !lookup.Sender(chosen.first()))
+        return NoSender(lookup);
     QDomDocument document;
     QDomElement processors = document.createElement(QLatin1String(family.root));
     for (int i = 0; i < chosen.size(); ++i) {
@@ -147,8 +153,9 @@ QDomElement LoadRoot(const Family& family, ParamsLookup& lookup, const QString& 
 /// Without addresses: the chosen senders take the processors of the file in order.
 quint32 ImportByPosition(const Family& family, QDomDocument& document, const QVector<CSender*>& senders)
 {
+    const ElementReader root(document.documentElement());
     for (int i = 0; i < senders.size(); ++i) {
-        const QDomElement element = document.documentElement().firstChildElement(ProcessorName(i + 1));
+        const QDomElement element = root.Child(ProcessorName(i + 1));
         const quint32 result = family.read(document, &element, senders[i]);
         if (result != kDone)
             return result;
@@ -159,23 +166,33 @@ quint32 ImportByPosition(const Family& family, QDomDocument& document, const QVe
 /// The processors of a file by address, the first of equal ones. Address 0 stands for none.
 QHash<quint32, QDomElement> ProcessorsByIp(const QDomElement& root, int count)
 {
-    QHash<QString, QDomElement> children;
-    for (QDomElement child = root.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
-        if (!children.contains(child.tagName()))
-            children.insert(child.tagName(), child);
-
     QHash<quint32, QDomElement> processors;
-    const int numbers = qMin(count, root.childNodes().size() + 1);
-    for (int number = 1; number <= numbers; ++number) {
-        const QDomElement element = children.value(ProcessorName(number));
-        const quint32 ip = GetIntFromOctString(element.firstChildElement(QLatin1String(kNetIp)).text());
+    const auto elements = ElementReader(root).NumberedChildren(QLatin1String(kProcessor), 1, count);
+    for (const auto& numbered : elements) {
+        const QString text = numbered.second.firstChildElement(QLatin1String(kNetIp)).text();
+        const quint32 ip = GetIntFromOctString(text);
         if (ip != 0 && !processors.contains(ip))
-            processors.insert(ip, element);
+            processors.insert(ip, numbered.second);
     }
     return processors;
 }
 
-void ShowUnmatched(const QList<int>& senders)
+/// Tells the user, and whoever asks for the reason later.
+void Tell(ParamsLookup& lookup, const QString& text)
+{
+    lookup.SetFileError(text);
+    CCustomMessageBox::information(nullptr, text);
+}
+
+quint32 Told(ParamsLookup& lookup, quint32 result)
+{
+    const QString text = ImportResultText(result);
+    if (!text.isEmpty())
+        Tell(lookup, text);
+    return result;
+}
+
+void TellUnmatched(ParamsLookup& lookup, const QList<int>& senders)
 {
     QStringList numbers;
     for (int index : senders.mid(0, kNamedProcessors))
@@ -183,12 +200,11 @@ void ShowUnmatched(const QList<int>& senders)
     QString list = numbers.join(QLatin1Char(','));
     if (senders.size() >= kNamedProcessors)
         list += QStringLiteral("...");
-    CCustomMessageBox::information(
-        nullptr, QCoreApplication::translate("OrvanData", "主控%1未找到对应IP的主控参数。").arg(list));
+    Tell(lookup, QCoreApplication::translate("OrvanData", "主控%1未找到对应IP的主控参数。").arg(list));
 }
 
-quint32 ImportByIp(const Family& family, QDomDocument& document, int count, const QList<int>& chosen,
-                   const QVector<CSender*>& senders)
+quint32 ImportByIp(const Family& family, ParamsLookup& lookup, QDomDocument& document, int count,
+                   const QList<int>& chosen, const QVector<CSender*>& senders)
 {
     const QHash<quint32, QDomElement> processors = ProcessorsByIp(document.documentElement(), count);
     QList<int> unmatched;
@@ -203,7 +219,7 @@ quint32 ImportByIp(const Family& family, QDomDocument& document, int count, cons
             return result;
     }
     if (!unmatched.isEmpty())
-        ShowUnmatched(unmatched);
+        TellUnmatched(lookup, unmatched);
     return unmatched.size() == senders.size() && !senders.isEmpty() ? kFailed : kDone;
 }
 
@@ -218,31 +234,32 @@ quint32 ImportMulti(const Family& family, ParamsLookup& lookup, const QString& p
 
     const bool matchByIp = root.attribute(QLatin1String(kSpecifyIp)).toInt() != 0;
     if (matchByIp != lookup.Prepared().matchByIp) {
-        CCustomMessageBox::information(
-            nullptr, QCoreApplication::translate("OrvanData", "不可导入，无法匹配对应IP的主控参数。"));
+        Tell(lookup, QCoreApplication::translate("OrvanData", "不可导入，无法匹配对应IP的主控参数。"));
         return kFailed;
     }
     const int count = root.attribute(QLatin1String(kProcessorCount)).toInt();
-    if (count < 1)
+    if (count < 1) {
+        lookup.SetFileError(QCoreApplication::translate("OrvanData", "文件中没有主控参数。"));
         return kFailed;
+    }
 
     const QList<int> chosen = ChosenSenders(lookup, id);
     QVector<CSender*> senders;
     for (int index : chosen) {
         senders.append(lookup.Sender(index));
         if (!senders.last())
-            return kFailed;
+            return NoSender(lookup);
     }
-    const quint32 result = matchByIp ? ImportByIp(family, document, count, chosen, senders)
+    const quint32 result = matchByIp ? ImportByIp(family, lookup, document, count, chosen, senders)
                                      : ImportByPosition(family, document, senders);
-    ShowImportResult(result);
-    return result;
+    return Told(lookup, result);
 }
 
 /// The processor of a file of one sender.
 QDomElement SingleProcessor(const QDomElement& root)
 {
-    return SelfOrChild(root, "Processor_1");
+    const QDomElement element = root.firstChildElement(ProcessorName(1));
+    return element.isNull() ? root : element;
 }
 
 } // namespace
@@ -271,25 +288,29 @@ quint32 ImportSenderParam(ParamsLookup& lookup, const QString& path, const QUuid
 {
     CSender* sender = lookup.Sender(lookup.SenderIndex(id));
     if (!sender)
-        return kFailed;
+        return NoSender(lookup);
     QDomDocument document;
     const QDomElement root = LoadRoot(SenderFamily(), lookup, path, document);
     if (root.isNull())
         return kFailed;
     const QDomElement element = SingleProcessor(root);
-    const quint32 result = ReadSingleSenderParam(document, &element, sender);
-    ShowImportResult(result);
-    return result;
+    return Told(lookup, ReadSingleSenderParam(document, &element, sender));
 }
 
 quint32 ImportProcessorParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
 {
     CSender* sender = lookup.Sender(lookup.SenderIndex(id));
     if (!sender)
-        return kFailed;
+        return NoSender(lookup);
     QDomDocument document;
     const QDomElement root = LoadRoot(ProcessorFamily(), lookup, path, document);
-    return root.isNull() ? kFailed : ImportProcessorBlocks(document, SingleProcessor(root), sender);
+    if (root.isNull())
+        return kFailed;
+    const quint32 result = ImportProcessorBlocks(document, SingleProcessor(root), sender);
+    if (result != kDone)
+        lookup.SetFileError(
+            ImportResultText(kImportFailed)); // which the block has told the user in its words
+    return result;
 }
 
 quint32 GetIntFromOctString(const QString& text)

@@ -35,8 +35,8 @@ template <class Fields, class Data> void DescribeDeviceOther(Fields& f, Data& da
 
 template <class Fields, class Data> void DescribeOther(Fields& f, Data& data)
 {
-    f.Group("OtherParam", [&] {
-        f.Group("AdvancedParam", [&] {
+    f.Group(kOtherRoot, [&] {
+        f.Group(kAdvancedRoot, [&] {
             DescribeAdvanced(f, data);
             f.Field("outputOtherParamBlackFade", data.blackoutFadeTime, FieldUse::IfPresent);
             f.Field("outputOtherParamWorkMode", data.deviceMode, FieldUse::IfPresent);
@@ -63,7 +63,7 @@ bool ReadHotBackup(const QDomElement& element, CSender& sender)
     SInputVideoHotBackup backup;
     SInputVideoHotBackup::Walk(reader, backup);
     const int count = reader.Value<int>(kHotBackupCount);
-    const auto ids = reader.NumberedChildren(QStringLiteral("hotbackupId"), 0, count);
+    const auto ids = reader.NumberedChildren(QLatin1String(kHotBackupId), 0, count);
     for (const auto& id : ids) {
         SHotBackupPair pair;
         SHotBackupPair::WalkNumbered(reader, id.first, pair);
@@ -112,8 +112,7 @@ void LoadOptionalRows(QDomDocument& document, const QDomElement& element, CSende
     Load3DParam(document, reader.Child(QLatin1String(k3DRoot)), sender);
     DescribeOther(reader, sender->Params());
     if (!ReadHotBackup(element, *sender))
-        reader.Group("OtherParam",
-                     [&] { ReadHotBackup(reader.Child(QStringLiteral("AdvancedParam")), *sender); });
+        reader.Group(kOtherRoot, [&] { ReadHotBackup(reader.Child(QLatin1String(kAdvancedRoot)), *sender); });
 }
 
 /// The type of the element, else that of its basic block; when both are there both have to fit.

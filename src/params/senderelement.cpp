@@ -80,8 +80,8 @@ template <class Fields, class Data> void DescribeRest(Fields& f, Data& data, Rgb
     f.Record("ArtNetParam", data.dmx);
     f.Record(k3DRoot, data.stereo);
     DescribeAudio(f, data);
-    f.Group("OtherParam", [&] {
-        f.Group("AdvancedParam", [&] { DescribeAdvanced(f, data); });
+    f.Group(kOtherRoot, [&] {
+        f.Group(kAdvancedRoot, [&] { DescribeAdvanced(f, data); });
         DescribeHdr(f, data);
     });
     DescribePicture(f, data, data.Picture(), rgb);

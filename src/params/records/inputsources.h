@@ -56,6 +56,8 @@ struct SHotBackupSource : WalkedRecord<SHotBackupSource>
     }
 };
 
+constexpr const char* kHotBackupId = "hotbackupId";
+
 /// An input and the one that takes its place when it fails.
 struct SHotBackupPair : WalkedRecord<SHotBackupPair>
 {
@@ -70,7 +72,7 @@ struct SHotBackupPair : WalkedRecord<SHotBackupPair>
 
     template <class Fields, class... Records> static void WalkNumbered(Fields& f, int pair, Records&... r)
     {
-        f.Field(FieldName("hotbackupId") + pair, r.id...);
+        f.Field(FieldName(kHotBackupId) + pair, r.id...);
         SHotBackupSource::WalkNumbered(f, QStringLiteral("hotbackupMain"), pair, r.main...);
         SHotBackupSource::WalkNumbered(f, QStringLiteral("hotbackupBackup"), pair, r.backup...);
     }
