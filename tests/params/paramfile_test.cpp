@@ -1,3 +1,4 @@
+#include "common/xmldom.h"
 #include "layout/sender.h"
 #include "params/paramcontents.h"
 #include "params/paramfile.h"
@@ -13,7 +14,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <iterator>
 #include <memory>
+#include <random>
 #include <vector>
 
 using namespace params;
@@ -363,6 +366,49 @@ TEST(ParamFileTest, DamagedFilesFailWithTheirReason)
     EXPECT_EQ(ImportMutiProcessorParam(project, none, QUuid()), kFailed);
     EXPECT_TRUE(messages.Take().isEmpty());
     EXPECT_TRUE(*project.senders[0] == before);
+}
+
+TEST(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
+{
+    const char* const kTexts[] = {"",           "-1",   "33",  "4096", "2147483647", "-2147483648",
+                                  "4294967296", "1e39", "nan", "x"};
+    TestFolder folder;
+    MessageRecorder messages;
+    std::mt19937 random(20240607);
+    const auto below = [&](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };
+    int imported = 0;
+    for (int round = 0; round < 40; ++round) {
+        QDomDocument document;
+        ASSERT_TRUE(LoadXmlDom(SamplePath("device-params.xml"), document, nullptr));
+        QVector<QDomElement> all{document.documentElement()};
+        for (int i = 0; i < all.size(); ++i)
+            for (auto child = all[i].firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+                all.append(child);
+        for (int damage = 0; damage < 60; ++damage) {
+            QDomElement element = all[1 + below(all.size() - 1)];
+            if (element.firstChildElement().isNull() && !element.firstChild().isNull())
+                element.firstChild().setNodeValue(QLatin1String(kTexts[below(std::size(kTexts))]));
+            else if (element.tagName() != QLatin1String("Processor_1"))
+                element.parentNode().removeChild(element);
+        }
+        TestProject project(1);
+        const QString damaged = folder.Write(QStringLiteral("damaged.xml"), document.toByteArray());
+        const quint32 result = ImportMutiProcessorParam(project, damaged, QUuid());
+        EXPECT_TRUE(result == kDone || result == kTypeDiffers || result == kImportFailed) << result;
+        imported += result == kDone;
+
+        TestProject again(1);
+        for (const FamilyCase& family : kFamilies) {
+            const QString path = folder.Path(QStringLiteral("a.xml"));
+            ASSERT_EQ(family.exportFile(project, path, QUuid()), kDone);
+            ASSERT_EQ(family.importFile(again, path, QUuid()), kDone);
+            const QByteArray first = ReadFile(path);
+            again.senders[0]->SetId(project.senders[0]->GetId());
+            ASSERT_EQ(family.exportFile(again, path, QUuid()), kDone);
+            EXPECT_EQ(ReadFile(path), first) << "round " << round;
+        }
+    }
+    EXPECT_GT(imported, 20);
 }
 
 TEST(ParamFileTest, AddressIsFourDecimalOctetsOrOneNumber)
