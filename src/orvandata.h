@@ -20,6 +20,8 @@
 #include "layout/tilegroupset.h"
 #include "layout/tileset.h"
 #include "monitor/monitordata.h"
+#include "params/paramcontents.h"
+#include "params/paramslookup.h"
 #include "products/product.h"
 #include "products/productdirectory.h"
 #include "products/productdirectoryset.h"

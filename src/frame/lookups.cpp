@@ -114,6 +114,10 @@ public:
         return GetRuntimeData() ? GetRuntimeData()->GetProjectUndoRedo() : nullptr;
     }
     CMonitorData* Monitor() const override { return GetMonitorData(); }
+    SImpExpPrepareInfo ImpExpPrepareInfo() const override
+    {
+        return GetRuntimeData() ? *GetRuntimeData()->GetImpExpPrepareInfo() : SImpExpPrepareInfo();
+    }
     int DetectStrategy() const override { return GetConfigData() ? GetConfigData()->GetDetectStrategy() : 0; }
     QUuid AddGroupId() const override
     {

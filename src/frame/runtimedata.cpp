@@ -26,6 +26,16 @@ CDesignBackground* CRuntimeData::GetDesignBackground() const
     return m_designBackground.get();
 }
 
+SImpExpPrepareInfo* CRuntimeData::GetImpExpPrepareInfo()
+{
+    return &m_impExpPrepareInfo;
+}
+
+void CRuntimeData::SetImpExpPrepareInfo(const SImpExpPrepareInfo& info)
+{
+    m_impExpPrepareInfo = info;
+}
+
 QUuid CRuntimeData::GetAddGroupId() const
 {
     return m_addGroupId;

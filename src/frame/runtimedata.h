@@ -2,6 +2,7 @@
 
 #include "common/export.h"
 #include "common/interfacedlg.h"
+#include "params/paramslookup.h"
 
 #include <QUuid>
 
@@ -25,6 +26,10 @@ public:
     CProjectUndoRedo* GetProjectUndoRedo() const;         ///< [ref] of the open document
     CDesignBackground* GetDesignBackground() const;       ///< [ref]
 
+    /// [ref] The choice of processors for the next export or import of parameter files.
+    SImpExpPrepareInfo* GetImpExpPrepareInfo();
+    void SetImpExpPrepareInfo(const SImpExpPrepareInfo& info);
+
     QUuid GetAddGroupId() const; ///< sender group that new senders join, null: none
     void SetAddGroupId(const QUuid& id);
     int GetCurSelectNode() const; ///< sender selected in the host's tree, -1: none
@@ -46,6 +51,7 @@ private:
     std::unique_ptr<CProductDirectorySet> m_products;
     std::unique_ptr<CProjectUndoRedo> m_history;
     std::unique_ptr<CDesignBackground> m_designBackground;
+    SImpExpPrepareInfo m_impExpPrepareInfo;
     QUuid m_addGroupId;
     int m_curSelectNode = -1;
     int m_curInterface = InterfaceDesign;

@@ -141,6 +141,51 @@ public:
     bool ExportPort(const QString& path); ///< of the current sender's recent port
     bool ImportPort(const QString& path); ///< into the current sender's recent port
 
+    // parameter files: 0, or a result code of params/paramresult.h
+    quint32 ExportMutiSenderParam(const QString& path, const QUuid& id);
+    quint32 ExportMutiProcessorParam(const QString& path, const QUuid& id);
+    quint32 ImportSenderParam(const QString& path, const QUuid& id);
+    quint32 ImportProcessorParam(const QString& path, const QUuid& id);
+    quint32 ImportMutiSenderParam(const QString& path, const QUuid& id);
+    quint32 ImportMutiProcessorParam(const QString& path, const QUuid& id);
+
+    // blocks of parameter files: 0, or a result code
+    static quint32 SaveBasicInfoParam(QDomDocument& document, CSender* sender, QDomElement* element);
+    static quint32 LoadBasicInfoParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 SaveDeviceSetParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 LoadDeviceSetParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 SaveMultiParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 LoadMultiParam(QDomDocument& document, QDomElement& element, CSender* sender);
+    static quint32 Save3DParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 Load3DParam(QDomDocument& document, QDomElement& element, CSender* sender);
+    static quint32 SaveInputParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 LoadInputParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 SaveOutputParam(QDomDocument& document, CSender* sender, QDomElement* element);
+    static quint32 LoadOutputParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 LoadVideoOutParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 SaveOneGroupParam(QDomDocument& document, QDomElement* element, int group,
+                                     CSender* sender);
+    static quint32 LoadOneGroupParam(QDomDocument& document, QDomElement* element, int group,
+                                     CSender* sender);
+    static quint32 LoadOutputSpiltLineParam(QDomDocument& document, QDomElement* element, int group,
+                                            CSender* sender);
+    static quint32 LoadOutputColorBrightParam(QDomDocument& document, QDomElement* element, int group,
+                                              CSender* sender);
+    static quint32 LoadOutputExactColorParam(QDomDocument& document, QDomElement* element, int group,
+                                             CSender* sender);
+    static quint32 SaveColorCubeParam(QDomDocument& document, QDomElement* element, CSender* sender,
+                                      bool perSource);
+    static quint32 LoadColorCubeParam(QDomDocument& document, QDomElement& element, CSender* sender,
+                                      bool perSource);
+    static quint32 SaveColorCurveParam(QDomDocument& document, QDomElement* element, CSender* sender,
+                                       bool perSource);
+    static quint32 LoadColorCurveParam(QDomDocument& document, QDomElement& element, CSender* sender,
+                                       bool perSource);
+    static quint32 WriteSingleSenderParam(QDomDocument document, QDomElement* element, CSender* sender);
+    static quint32 ReadSingleSenderParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 WriteSingleProcessorParam(QDomDocument& document, QDomElement* element, CSender* sender);
+    static quint32 ReadSingleProcessorParam(QDomDocument document, QDomElement* element, CSender* sender);
+
     // elements of the project file
     void WriteVersionSupport(QDomDocument document, QDomElement* parent);
     bool ReadVersionSupport(QDomDocument document, QDomElement* element, QString& error);

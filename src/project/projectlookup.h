@@ -1,5 +1,7 @@
 #pragma once
 
+#include "params/paramslookup.h"
+
 #include <QUuid>
 
 class CMonitorData;
@@ -21,6 +23,7 @@ public:
     virtual CProjectUndoRedo* History() const { return nullptr; }
     virtual CMonitorData* Monitor() const { return nullptr; }
 
+    virtual SImpExpPrepareInfo ImpExpPrepareInfo() const { return {}; }
     virtual int DetectStrategy() const { return 0; }
     virtual QUuid AddGroupId() const { return {}; }  ///< sender group that new senders join, null: none
     virtual int CurSelectNode() const { return -1; } ///< sender selected in the host's tree

@@ -1,5 +1,7 @@
 // Texts that stand for lists in a project file, and other small conversions.
 #include "monitor/monitordata.h"
+#include "params/paramfile.h"
+#include "params/records/exactcolorparam.h"
 #include "project/projectdata.h"
 #include "project/projectlookup.h"
 
@@ -11,16 +13,6 @@ namespace {
 QString WithoutSeparators(QString text)
 {
     return text.replace(QLatin1Char(','), QLatin1Char(' ')).replace(QLatin1Char(';'), QLatin1Char(' '));
-}
-
-int OctetOrMinus1(const QString& text)
-{
-    const bool isDecimal =
-        !text.isEmpty() && text.size() <= 3 && std::all_of(text.begin(), text.end(), [](QChar c) {
-            return c >= QLatin1Char('0') && c <= QLatin1Char('9');
-        });
-    const int value = isDecimal ? text.toInt() : -1;
-    return value <= 255 ? value : -1;
 }
 
 } // namespace
@@ -73,34 +65,10 @@ void CProjectData::SetVideoInfoFromString(SSenderSetting& setting, const QString
 
 QString CProjectData::GetColorStr(int channel)
 {
-    if (channel < 1)
-        return QStringLiteral("ColorRed");
-    switch (channel) {
-    case 1:
-        return QStringLiteral("ColorGreen");
-    case 2:
-        return QStringLiteral("ColorBlue");
-    case 3:
-        return QStringLiteral("ColorWrite");
-    default:
-        return {};
-    }
+    return params::GetColorStr(channel);
 }
 
 quint32 CProjectData::GetIntFromOctString(const QString& text)
 {
-    const QString trimmed = text.trimmed();
-    const QStringList octets = trimmed.split(QLatin1Char('.'));
-    if (octets.size() == 1)
-        return trimmed.toUInt();
-    if (octets.size() != 4)
-        return 0;
-    quint32 ip = 0;
-    for (const QString& text4 : octets) {
-        const int octet = OctetOrMinus1(text4);
-        if (octet < 0)
-            return 0;
-        ip = ip << 8 | static_cast<quint32>(octet);
-    }
-    return ip;
+    return params::GetIntFromOctString(text);
 }
