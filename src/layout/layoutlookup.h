@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/seam.h"
 #include "common/smd5.h"
 
 #include <QList>
@@ -34,8 +35,12 @@ public:
     virtual void AddParameterFile(const QString& /*name*/, const SMD5&) {}
 };
 
-/// The installed lookup, or one that gives the harmless answers. Never null.
-LayoutLookup* GetLayoutLookup();
+inline LayoutLookup* GetLayoutLookup()
+{
+    return Seam<LayoutLookup>::Get();
+}
 
-/// [keep] Installs a lookup, null for none; the caller removes it before destroying it.
-void SetLayoutLookup(LayoutLookup* lookup);
+inline void SetLayoutLookup(LayoutLookup* lookup)
+{
+    Seam<LayoutLookup>::Install(lookup);
+}

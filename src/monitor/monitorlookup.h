@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/seam.h"
+
 /// What monitoring asks of the settings: the read-only state of the interfaces, numbered as EInterfaceDlg.
 /// Every question has a harmless answer, which stands while nothing is installed.
 class MonitorLookup
@@ -11,9 +13,12 @@ public:
     virtual void SetInterfaceReadOnly(int /*interfaceIndex*/, bool /*readOnly*/) {}
 };
 
-/// The installed lookup, or one that gives the harmless answers. Never null.
-MonitorLookup* GetMonitorLookup();
+inline MonitorLookup* GetMonitorLookup()
+{
+    return Seam<MonitorLookup>::Get();
+}
 
-/// [keep] Installs a lookup, null for none; the caller removes it before destroying it. Not while other
-/// threads use the monitoring data.
-void SetMonitorLookup(MonitorLookup* lookup);
+inline void SetMonitorLookup(MonitorLookup* lookup)
+{
+    Seam<MonitorLookup>::Install(lookup);
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/seam.h"
 #include "params/paramslookup.h"
 
 #include <QUuid>
@@ -30,8 +31,12 @@ public:
     virtual void SetCurSelectNode(int) {}
 };
 
-/// The installed lookup, or one that gives the harmless answers. Never null.
-ProjectLookup* GetProjectLookup();
+inline ProjectLookup* GetProjectLookup()
+{
+    return Seam<ProjectLookup>::Get();
+}
 
-/// [keep] Installs a lookup, null for none; the caller removes it before destroying it.
-void SetProjectLookup(ProjectLookup* lookup);
+inline void SetProjectLookup(ProjectLookup* lookup)
+{
+    Seam<ProjectLookup>::Install(lookup);
+}

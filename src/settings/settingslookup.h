@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/interfacedlg.h"
+#include "common/seam.h"
 #include "settings/languagetype.h"
 
 /// What the settings room asks of the objects above it: the settings in force, the monitoring state and the
@@ -26,8 +27,12 @@ public:
     virtual int SoftEdgeSubDlg() const { return 0; }
 };
 
-/// The installed lookup, or one that gives the harmless answers. Never null.
-SettingsLookup* GetSettingsLookup();
+inline SettingsLookup* GetSettingsLookup()
+{
+    return Seam<SettingsLookup>::Get();
+}
 
-/// [keep] Installs a lookup, null for none; the caller removes it before destroying it.
-void SetSettingsLookup(SettingsLookup* lookup);
+inline void SetSettingsLookup(SettingsLookup* lookup)
+{
+    Seam<SettingsLookup>::Install(lookup);
+}
