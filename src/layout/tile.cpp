@@ -16,46 +16,17 @@ namespace {
 constexpr int kLowestStoredPlace = -131072;
 constexpr double kNoAngle = 0.0001; ///< degrees, up to it nothing counts as turned
 
-using DataPointer = QExplicitlySharedDataPointer<TileData>;
+/// The selection bit of each view; 0 for a view without selection.
+constexpr unsigned char kViewBits[kInterfaceCount] = {0, 0, 0, 0x01, 0x20, 0x10, 0x40, 0};
 
-/// Tiles that were not written to yet share one record, so that making many is cheap.
-const DataPointer& DefaultData()
+unsigned char ViewBit(int iface)
 {
-    static const DataPointer data(new TileData);
-    return data;
-}
-
-TileData* NewCopy(const TileData& data)
-{
-    auto* copy = new TileData(data);
-    copy->handedOut = false;
-    return copy;
-}
-
-unsigned char ViewBit(int iface) ///< 0 for a view without selection
-{
-    switch (iface) {
-    case InterfaceDesign:
-        return 0x01;
-    case InterfaceCalibration:
-        return 0x20;
-    case InterfaceSoftEdge:
-        return 0x10;
-    case InterfaceGamutAdjustment:
-        return 0x40;
-    default:
-        return 0;
-    }
+    return iface >= 0 && iface < kInterfaceCount ? kViewBits[iface] : static_cast<unsigned char>(0);
 }
 
 bool IsReceiverIndex(int index)
 {
     return index >= 0 && index < kMaxReceiversInTile;
-}
-
-unsigned short ReceiverBit(int index)
-{
-    return static_cast<unsigned short>(1U << index);
 }
 
 int OnCanvas(int value, int canvas, int size)
@@ -79,22 +50,12 @@ const CTileSet* SetOfOwnPort(const TileData& data)
 
 } // namespace
 
-bool TileFields::IsEqual(const TileFields& other) const
-{
-    return x == other.x && y == other.y && width == other.width && height == other.height
-           && connectionIndex == other.connectionIndex && beginRcvCnnt == other.beginRcvCnnt
-           && portIndex == other.portIndex && senderId == other.senderId && groupId == other.groupId
-           && type == other.type && selection == other.selection && multi == other.multi
-           && fixedLine == other.fixedLine && ordered == other.ordered && visible == other.visible
-           && multiSize == other.multiSize && demarcateIndex == other.demarcateIndex && rotate == other.rotate
-           && std::memcmp(line, other.line, sizeof line) == 0;
-}
-
-CTile::CTile() : m_data(DefaultData()), m_showColor(160, 163, 173, 200)
+CTile::CTile() : m_data(TileData::Default()), m_showColor(160, 163, 173, 200)
 {}
 
 CTile::CTile(const CTile& other)
-    : m_data(other.m_data->handedOut ? DataPointer(NewCopy(*other.m_data)) : other.m_data)
+    : m_data(other.m_data->handedOut ? QExplicitlySharedDataPointer<TileData>(other.m_data->NewCopy())
+                                     : other.m_data)
 {}
 
 CTile::~CTile() = default;
@@ -294,14 +255,14 @@ void CTile::SetSelected(bool selected, int iface, int rcvIndex)
 
 bool CTile::IsRcvSelected(int index) const
 {
-    return IsReceiverIndex(index) && (m_rcvSelected & ReceiverBit(index)) != 0;
+    return IsReceiverIndex(index) && (m_rcvSelected >> index & 1) != 0;
 }
 
 void CTile::SetRcvSelected(int index, bool selected)
 {
     if (!IsReceiverIndex(index))
         return;
-    const unsigned bit = ReceiverBit(index);
+    const unsigned bit = 1U << index;
     m_rcvSelected = static_cast<unsigned short>(selected ? m_rcvSelected | bit : m_rcvSelected & ~bit);
 }
 
@@ -508,11 +469,6 @@ bool CTile::IsTileRotated() const
     return m_data->rotate.rotated && GetLayoutLookup()->IsRotateEnabled();
 }
 
-const TileData* CTile::GetData() const
-{
-    return m_data.constData();
-}
-
 void CTile::SetData(const TileData* data)
 {
     if (!data || data == m_data.constData())
@@ -520,7 +476,7 @@ void CTile::SetData(const TileData* data)
     if (m_data->handedOut)
         static_cast<TileFields&>(*m_data) = *data;
     else if (data->handedOut)
-        m_data = NewCopy(*data);
+        m_data = data->NewCopy();
     else
         m_data =
             const_cast<TileData*>(data); // written to only through Write(), which leaves shared data alone

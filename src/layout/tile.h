@@ -109,7 +109,7 @@ public:
     bool IsTileRotated() const;                         ///< false while the rotation setting is off
 
     // inside the library: the shared record, so that snapshots compare and share without copying
-    const TileData* GetData() const;
+    const TileData* GetData() const { return m_data.constData(); }
     void SetData(const TileData* data); ///< shares it; copies into place where a pointer is out
 
 private:

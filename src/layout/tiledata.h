@@ -4,6 +4,7 @@
 #include "common/rotateparam.h"
 #include "common/smd5.h"
 
+#include <QExplicitlySharedDataPointer>
 #include <QSharedData>
 #include <QSize>
 #include <QUuid>
@@ -39,4 +40,9 @@ struct TileData : QSharedData, TileFields
 {
     /// A pointer into this record is out, so it stays this cabinet's alone and at its place.
     bool handedOut = false;
+
+    TileData* NewCopy() const; ///< [new] of which no pointer is out
+
+    /// Tiles that were not written to yet share one record, so that making many is cheap.
+    static const QExplicitlySharedDataPointer<TileData>& Default();
 };

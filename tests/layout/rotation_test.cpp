@@ -1,1 +1,84 @@
+#include "layout/rotation.h"
+
 #include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+SRotateParam About(double x, double y, double angle)
+{
+    SRotateParam record;
+    record.centerX = x;
+    record.centerY = y;
+    record.angle = angle;
+    return record;
+}
+
+} // namespace
+
+TEST(RotationTest, QuarterTurnsAreExactAndClockwise)
+{
+    const struct
+    {
+        double angle;
+        double x;
+        double y;
+    } cases[] = {{0, 10, 3},    {90, -3, 10},    {180, -10, -3}, {270, 3, -10},  {360, 10, 3},
+                 {-90, 3, -10}, {-180, -10, -3}, {450, -3, 10},  {-270, -3, 10}, {36000000, 10, 3}};
+    for (const auto& c : cases) {
+        const SRotateParam record = About(7, 5, c.angle);
+        const CPointEx<double> point = GetRotatePoint(&record, 17, 8);
+        EXPECT_EQ(point.x, 7 + c.x) << c.angle;
+        EXPECT_EQ(point.y, 5 + c.y) << c.angle;
+    }
+}
+
+TEST(RotationTest, TurnedBackIsWhereItWas)
+{
+    for (double angle = -360; angle <= 360; angle += 7.3) {
+        const SRotateParam there = About(1000.5, -3, angle);
+        const SRotateParam back = About(1000.5, -3, -angle);
+        const CPointEx<double> turned = GetRotatePoint(&there, 30000, 16000);
+        EXPECT_NEAR(std::hypot(turned.x - 1000.5, turned.y + 3), std::hypot(28999.5, 16003), 1e-6);
+        const CPointEx<double> point = GetRotatePoint(&back, turned.x, turned.y);
+        EXPECT_NEAR(point.x, 30000, 1e-6) << angle;
+        EXPECT_NEAR(point.y, 16000, 1e-6) << angle;
+    }
+}
+
+TEST(RotationTest, WithoutAUsableRecordThePointStays)
+{
+    const SRotateParam broken = About(0, 0, std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(GetRotatePoint(nullptr, 3, 4).y, 4);
+    EXPECT_EQ(GetRotatePoint(&broken, 3, 4).x, 3);
+}
+
+TEST(RotationTest, BoundTruncatesPlaceAndSizeTowardZero)
+{
+    const CPointEx<double> corners[] = {{-1.5, 0.9}, {3.9, -0.9}, {8.2, 4}, {2, 6.05}};
+    EXPECT_EQ(GetCornerBound(corners), QRect(-1, 0, 9, 6));
+    const CPointEx<double> far[] = {{-1e30, 0}, {1e30, 0}, {1e30, 5}, {-1e30, 5}};
+    EXPECT_EQ(GetCornerBound(far).height(), 5) << "places beyond all numbers do no harm";
+}
+
+TEST(RotationTest, EdgesAndCornersAreInsideWhicheverWayTheCornersRun)
+{
+    const CPointEx<double> clockwise[] = {{0, -10}, {10, 0}, {0, 10}, {-10, 0}};
+    const CPointEx<double> reversed[] = {{0, -10}, {-10, 0}, {0, 10}, {10, 0}};
+    for (const auto* corners : {clockwise, reversed}) {
+        EXPECT_TRUE(IsInQuadrilateral(corners, 0, 0));
+        EXPECT_TRUE(IsInQuadrilateral(corners, 5, 5));
+        EXPECT_TRUE(IsInQuadrilateral(corners, 10, 0));
+        EXPECT_FALSE(IsInQuadrilateral(corners, 5.1, 5));
+        EXPECT_FALSE(IsInQuadrilateral(corners, 20, -10));
+    }
+}
+
+TEST(RotationTest, AnglesAreBroughtAboveMinus180UpTo180)
+{
+    const double cases[][2] = {{180, 180}, {-180, 180}, {181, -179}, {-181, 179}, {720, 0}, {-540, 180}};
+    for (const auto& [angle, normal] : cases)
+        EXPECT_EQ(NormalizedAngle(angle), normal) << angle;
+}

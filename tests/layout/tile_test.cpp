@@ -1,1 +1,369 @@
+#include "layout/tile.h"
+
+#include "common/interfacedlg.h"
+#include "layout/tiledata.h"
+#include "layout/tileset.h"
+#include "support/wallbuilder.h"
+
 #include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+SMD5 TypeOf(char digit)
+{
+    return SMD5::FromString(QString(SMD5::kDigits, QLatin1Char(digit)));
+}
+
+CTile TileAt(int x, int y, int width, int height)
+{
+    CTile tile;
+    tile.SetWidth(width);
+    tile.SetHeight(height);
+    tile.SetX(x);
+    tile.SetY(y);
+    return tile;
+}
+
+/// A cabinet of 2 x 2 receiving cards, 128 x 128 pixels at (100, 50), wired 1, 0, 3, 2.
+CTile FourCards()
+{
+    CTile tile = TileAt(100, 50, 128, 128);
+    tile.SetBeMultiRcvsTile(true);
+    tile.SetMultiRcvsOrdered(true);
+    tile.SetMultiRcvsSize(QSize(2, 2));
+    const unsigned char line[] = {1, 0, 3, 2};
+    tile.SetMultiRcvsLine(line);
+    return tile;
+}
+
+void Turn(CTile& tile, double angle, double centerX, double centerY)
+{
+    SRotateParam record;
+    record.rotated = true;
+    record.angle = angle;
+    record.centerX = centerX;
+    record.centerY = centerY;
+    tile.SetTileRotateParam(&record);
+}
+
+} // namespace
+
+TEST(TileTest, PlaceIsClampedToTheCanvasByThePresentSize)
+{
+    CTile tile = TileAt(0, 0, 200, 100);
+    const struct
+    {
+        int wanted;
+        int x;
+        bool xHeld;
+        int y;
+        bool yHeld;
+    } cases[] = {{-5, 0, false, 0, false},
+                 {16383, 16383, true, 16383, true},
+                 {16384, 16384, true, 16284, false},
+                 {32767, 32767, true, 16284, false},
+                 {32768, 32568, false, 16284, false}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(tile.SetX(c.wanted), c.xHeld) << c.wanted;
+        EXPECT_EQ(tile.SetY(c.wanted), c.yHeld) << c.wanted;
+        EXPECT_EQ(tile.GetPosition(), QPoint(c.x, c.y)) << c.wanted;
+    }
+    tile.SetWidth(2000);
+    tile.SetHeight(-3);
+    EXPECT_EQ(tile.GetSize(), QSize(1024, -3));
+}
+
+TEST(TileTest, StoredPlaceLeftOfTheCanvasIsRestored)
+{
+    CTile tile = TileAt(0, 0, 100, 100);
+    const int cases[][2] = {{-1, -1}, {-131072, -131072}, {-131073, 0}, {7, 7}, {40000, 32668}};
+    for (const auto& [stored, x] : cases) {
+        tile.RestorePosition(stored, -3);
+        EXPECT_EQ(tile.GetPosition(), QPoint(x, -3)) << stored;
+    }
+}
+
+TEST(TileTest, EveryFieldCountsInComparisonAndWritingItLeavesCopiesAlone)
+{
+    const std::function<void(CTile&)> writes[] = {
+        [](CTile& t) { t.SetSenderId(QUuid::createUuid()); },
+        [](CTile& t) { t.SetPortIndex(7); },
+        [](CTile& t) { t.SetGroupId(QUuid::createUuid()); },
+        [](CTile& t) { t.SetType(TypeOf('b')); },
+        [](CTile& t) { t.SetX(1); },
+        [](CTile& t) { t.SetY(1); },
+        [](CTile& t) { t.SetWidth(1); },
+        [](CTile& t) { t.SetHeight(1); },
+        [](CTile& t) { t.Offset(0, 1); },
+        [](CTile& t) { t.SetTileVisible(false); },
+        [](CTile& t) { t.SetSelected(true, InterfaceDesign, -1); },
+        [](CTile& t) { t.SetBeMultiFixedLine(true); },
+        [](CTile& t) { t.SetMultiRcvsOrdered(false); },
+        [](CTile& t) { t.SetMultiRcvsSize(QSize(1, 4)); },
+        [](CTile& t) { t.GetMultiRcvsLine()[9] = 1; },
+        [](CTile& t) { t.SetMultiRcvDemarcateIndex(1); },
+        [](CTile& t) { t.SetConnectionIndex(-2, nullptr); },
+        [](CTile& t) { t.SetBeginRcvCnnt(4); },
+        [](CTile& t) { t.GetTileRotateParam()->showCenter = true; },
+        [](CTile& t) { t.GetTileRotateParam()->angle = 0.5; },
+    };
+    const CTile source = FourCards();
+    for (size_t i = 0; i < std::size(writes); ++i) {
+        CTile copy(source);
+        const CTile before(copy);
+        writes[i](copy);
+        EXPECT_NE(copy, source) << i;
+        EXPECT_EQ(before, source) << i;
+        CTile target;
+        target = copy;
+        EXPECT_EQ(target, copy) << i;
+    }
+}
+
+TEST(TileTest, SmallDifferencesOfRotationDoNotCount)
+{
+    CTile tile;
+    CTile other;
+    tile.GetTileRotateParam()->centerY += 0.3;
+    EXPECT_EQ(tile, other);
+    tile.GetTileRotateParam()->centerY += 0.3;
+    EXPECT_NE(tile, other);
+}
+
+TEST(TileTest, ViewStateIsNeitherCopiedNorCompared)
+{
+    CTile source = FourCards();
+    source.SetTileShowColor(Qt::red);
+    source.SetTileGamutStatus(3);
+    source.SetRcvSelected(2, true);
+    const CTile copy(source);
+    EXPECT_EQ(copy, source);
+    EXPECT_FALSE(copy.GetTileShowColor().isValid());
+    EXPECT_EQ(copy.GetTileGamutStatus(), 0);
+    EXPECT_FALSE(copy.IsRcvSelected(2));
+
+    CTile target;
+    target.SetTileShowColor(Qt::blue);
+    target.SetTileGamutStatus(5);
+    target.SetRcvSelected(1, true);
+    target = source;
+    EXPECT_EQ(target.GetTileShowColor(), QColor(Qt::blue));
+    EXPECT_EQ(target.GetTileGamutStatus(), 5);
+    EXPECT_TRUE(target.IsRcvSelected(1) && !target.IsRcvSelected(2));
+}
+
+TEST(TileTest, WritesThatChangeNothingKeepCopiesSharing)
+{
+    const CTile source = FourCards();
+    CTile copy(source);
+    copy.SetX(100);
+    copy.SetSelected(false, InterfaceDesign, -1);
+    const unsigned char line[] = {1, 0, 3, 2};
+    copy.SetMultiRcvsLine(line);
+    copy.SetBeMultiRcvsTile(true);
+    copy.SetMultiRcvsOrdered(true);
+    copy.SetConnectionIndex(-1, nullptr);
+    copy.Offset(0, 0);
+    EXPECT_EQ(copy.GetData(), source.GetData());
+}
+
+TEST(TileTest, PointerHandedOutStaysTheTilesOwn)
+{
+    CTile tile = FourCards();
+    const CTile before(tile);
+    SRotateParam* record = tile.GetTileRotateParam();
+    unsigned char* line = tile.GetMultiRcvsLine();
+    CTile copy(tile);
+    CTile target;
+    target = tile;
+    record->angle = 45;
+    line[3] = 9;
+    EXPECT_EQ(copy, before);
+    EXPECT_EQ(target, before);
+    EXPECT_EQ(tile.GetRotateRecord().angle, 45);
+
+    const CTile other = TileAt(1, 2, 3, 4);
+    tile = other;
+    EXPECT_EQ(tile, other);
+    EXPECT_EQ(&tile.GetRotateRecord(), record);
+    record->angle = 30;
+    line[0] = 7;
+    EXPECT_EQ(tile.GetRotateRecord().angle, 30);
+    EXPECT_EQ(tile.GetMultiRcvsLineCode(0), 7);
+    EXPECT_EQ(other.GetRotateRecord().angle, 0);
+
+    tile.SetTileRotateParam(&copy.GetRotateRecord());
+    copy = tile; // takes what it gave away
+    EXPECT_EQ(copy, tile);
+}
+
+TEST(TileTest, TypeBringsTheFlagsOfItsProduct)
+{
+    TestLookup lookup;
+    lookup.productType = TypeOf('a');
+    lookup.product.multi = true;
+    lookup.product.multiSet = true;
+    CTile tile;
+    tile.SetType(TypeOf('a'));
+    EXPECT_TRUE(tile.IsMultiRcvTile() && tile.IsMultiRcvsOrdered());
+    tile.SetType(TypeOf('b'));
+    EXPECT_FALSE(tile.IsMultiRcvTile() || tile.IsMultiRcvsOrdered());
+}
+
+TEST(TileTest, ViewsKeepSelectionsOfTheirOwn)
+{
+    for (int iface = -1; iface <= kInterfaceCount; ++iface) {
+        CTile tile;
+        tile.SetSelected(true, iface, -1);
+        for (int other = -1; other <= kInterfaceCount; ++other)
+            EXPECT_EQ(tile.IsSelected(other), other == iface && iface >= 3 && iface <= 6) << iface << other;
+        tile.SetSelected(false, iface, 65535);
+        EXPECT_EQ(tile, CTile());
+    }
+}
+
+TEST(TileTest, CabinetIsSelectedWhileOneOfItsCardsIs)
+{
+    CTile tile = FourCards();
+    tile.SetSelected(true, InterfaceCalibration, 2);
+    tile.SetSelected(true, InterfaceCalibration, 3);
+    tile.SetMultiRcvDemarcateIndex(2);
+    EXPECT_TRUE(tile.IsRcvSelected(2) && tile.IsSelected(InterfaceCalibration));
+    tile.SetSelected(false, InterfaceCalibration, 2);
+    EXPECT_TRUE(!tile.IsRcvSelected(2) && tile.IsSelected(InterfaceCalibration));
+    EXPECT_EQ(tile.GetMultiRcvDemarcateIndex(), -1);
+    tile.SetSelected(false, InterfaceCalibration, 3);
+    EXPECT_FALSE(tile.IsSelected(InterfaceCalibration));
+
+    // A card that the cabinet does not have selects nothing, one that no cabinet has is ignored.
+    for (int index : {-2, 4, 10, 64}) {
+        tile.SetSelected(true, InterfaceCalibration, index);
+        EXPECT_FALSE(tile.IsSelected(InterfaceCalibration)) << index;
+    }
+    tile.SetMultiRcvsSize(QSize(100, 100));
+    tile.SetSelected(true, InterfaceCalibration, -1);
+    EXPECT_TRUE(tile.IsRcvSelected(9) && !tile.IsRcvSelected(10) && !tile.IsRcvSelected(-1));
+}
+
+TEST(TileTest, WiringFlagsFollowEachOther)
+{
+    CTile tile;
+    tile.SetBeMultiFixedLine(true);
+    EXPECT_FALSE(tile.IsMultiFixedLine());
+    tile.SetBeMultiRcvsTile(true);
+    tile.SetBeMultiFixedLine(true);
+    tile.SetMultiRcvsOrdered(false);
+    EXPECT_TRUE(tile.IsMultiRcvsOrdered());
+    tile.SetBeMultiRcvsTile(false);
+    EXPECT_FALSE(tile.IsMultiRcvsOrdered());
+}
+
+TEST(TileTest, CardsLieColumnByColumnInWiringOrder)
+{
+    CTile tile = FourCards();
+    EXPECT_EQ(tile.GetMultiRcvRect(0), QRect(100, 114, 64, 64));
+    EXPECT_EQ(tile.GetMultiRcvRect(3), QRect(164, 50, 64, 64));
+    EXPECT_EQ(tile.GetMultiRcvRelativeRect(3), QRect(64, 0, 64, 64));
+    tile.SetMultiRcvsOrdered(false);
+    EXPECT_EQ(tile.GetMultiRcvRect(0), QRect(164, 50, 64, 64));
+    for (int index : {-1, 4, 400})
+        EXPECT_EQ(tile.GetMultiRcvRect(index), QRect()) << index;
+    EXPECT_EQ(tile.GetMultiRcvRelativeRect(4), QRect());
+}
+
+TEST(TileTest, OddGridsOfCardsAreHarmless)
+{
+    CTile tile = FourCards();
+    for (const QSize& size : {QSize(-2, 2), QSize(-2, -2), QSize(65536, 65536), QSize(0, 3)}) {
+        tile.SetMultiRcvsSize(size);
+        EXPECT_EQ(tile.GetMultiRcvsCount(), 0);
+        EXPECT_EQ(tile.GetMultiRcvRect(0), QRect());
+    }
+    EXPECT_EQ(tile.GetMultiRcvRelativeRect(-1), QRect(0, 0, 1, 1));
+    EXPECT_EQ(tile.GetMultiRcvsSize(), QSize(128, 128)) << "an empty grid is repaired";
+
+    tile.SetMultiRcvsSize(QSize(4, 4)); // more cards than codes are kept
+    EXPECT_EQ(tile.GetMultiRcvRect(15), QRect(100, 50, 32, 32));
+    EXPECT_EQ(tile.GetMultiRcvsLineCode(15), 0);
+    const unsigned char codes[16] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 77};
+    tile.SetMultiRcvsLine(codes);
+    EXPECT_EQ(tile.GetMultiRcvsLineCode(9), 9);
+}
+
+TEST(TileTest, ChainCountsTheCardsOfThePredecessor)
+{
+    CTile before;
+    before.SetMultiRcvsSize(QSize(2, 1));
+    before.SetConnectionIndex(2, nullptr);
+    before.SetBeginRcvCnnt(5);
+    CTileSet set;
+    set.AddTile(&before);
+
+    CTile tile;
+    tile.SetConnectionIndex(3, &set);
+    EXPECT_EQ(tile.GetBeginRcvCnnt(), 7);
+    tile.SetConnectionIndex(9, &set);
+    EXPECT_EQ(tile.GetBeginRcvCnnt(), 7) << "no predecessor";
+    tile.SetConnectionIndex(-1, &set);
+    EXPECT_EQ(tile.GetBeginRcvCnnt(), 7) << "taken out of the chain";
+    tile.SetConnectionIndex(0, &set);
+    EXPECT_EQ(tile.GetBeginRcvCnnt(), 0);
+}
+
+TEST(TileTest, PredecessorIsLookedForOnTheTilesOwnPort)
+{
+    const auto sender = MakeWall(3, 1, 2);
+    TestLookup lookup;
+    lookup.senders.append(sender.get());
+    CTile tile;
+    tile.SetSenderId(sender->GetId());
+    tile.SetPortIndex(1);
+    tile.SetConnectionIndex(3, nullptr);
+    EXPECT_EQ(tile.GetBeginRcvCnnt(), 3);
+    tile.SetPortIndex(kMaxPorts);
+    tile.SetConnectionIndex(2, nullptr);
+    EXPECT_EQ(tile.GetBeginRcvCnnt(), 3) << "no such port";
+}
+
+TEST(TileTest, TurnedTileIsBoundedByItsCornersWhileRotationIsEnabled)
+{
+    TestLookup lookup;
+    CTile tile = TileAt(0, 0, 100, 50);
+    Turn(tile, 90, 50, 25);
+    EXPECT_EQ(tile.GetBound(), QRect(0, 0, 100, 50));
+    lookup.rotateEnabled = true;
+    EXPECT_EQ(tile.GetBound(), QRect(25, -25, 50, 100));
+    EXPECT_EQ(tile.GetCenter(), QPoint(50, 25));
+    CPointEx<double> corners[4];
+    tile.GetRotateArea(corners);
+    EXPECT_EQ(QPointF(corners[0].x, corners[0].y), QPointF(75, -25));
+    EXPECT_EQ(QPointF(corners[2].x, corners[2].y), QPointF(25, 75));
+
+    Turn(tile, 90, 0, 0); // about its own left-top corner
+    EXPECT_EQ(tile.GetBound(), QRect(-50, 0, 50, 100));
+    EXPECT_EQ(tile.GetCenter(), QPoint(-25, 50));
+    tile.Offset(10, -20);
+    EXPECT_EQ(tile.GetBound(), QRect(-40, -20, 50, 100)) << "its rotation moves along";
+}
+
+TEST(TileTest, AnAngleMakesARecordCountAsRotated)
+{
+    TestLookup lookup;
+    lookup.rotateEnabled = true;
+    CTile tile;
+    const struct
+    {
+        bool flag;
+        double angle;
+        bool rotated;
+    } cases[] = {{false, 0.0001, false}, {false, 0.001, true}, {false, -30, false}, {true, -30, true}};
+    for (const auto& c : cases) {
+        SRotateParam record;
+        record.rotated = c.flag;
+        record.angle = c.angle;
+        tile.SetTileRotateParam(&record);
+        EXPECT_EQ(tile.IsTileRotated(), c.rotated) << c.angle;
+    }
+}

@@ -1,0 +1,27 @@
+#include "layout/tiledata.h"
+
+#include <cstring>
+
+bool TileFields::IsEqual(const TileFields& other) const
+{
+    return x == other.x && y == other.y && width == other.width && height == other.height
+           && connectionIndex == other.connectionIndex && beginRcvCnnt == other.beginRcvCnnt
+           && portIndex == other.portIndex && senderId == other.senderId && groupId == other.groupId
+           && type == other.type && selection == other.selection && multi == other.multi
+           && fixedLine == other.fixedLine && ordered == other.ordered && visible == other.visible
+           && multiSize == other.multiSize && demarcateIndex == other.demarcateIndex && rotate == other.rotate
+           && std::memcmp(line, other.line, sizeof line) == 0;
+}
+
+TileData* TileData::NewCopy() const
+{
+    auto* copy = new TileData(*this);
+    copy->handedOut = false;
+    return copy;
+}
+
+const QExplicitlySharedDataPointer<TileData>& TileData::Default()
+{
+    static const QExplicitlySharedDataPointer<TileData> data(new TileData);
+    return data;
+}
