@@ -1,1 +1,197 @@
+#include "layout/tilegroupset.h"
+
+#include "common/interfacedlg.h"
+#include "layout/tilegroup.h"
+
 #include <gtest/gtest.h>
+
+namespace {
+
+/// Knows how many of its kind live.
+class CountedGroup : public CTileGroup
+{
+public:
+    CountedGroup() { ++alive; }
+    ~CountedGroup() override { --alive; }
+    static int alive;
+};
+
+int CountedGroup::alive = 0;
+
+CTileGroup* AddTo(CTileGroupSet& set, CTileGroup* parent = nullptr)
+{
+    auto* group = new CountedGroup;
+    if (parent)
+        group->SetParentGroupID(parent->GetID());
+    (parent ? *parent->GetSubGroupSet() : set).AddGroup(group, true);
+    return group;
+}
+
+/// Two top-level groups; the first holds `below`, which holds `deep`.
+class TileGroupSetTest : public testing::Test
+{
+protected:
+    ~TileGroupSetTest() override
+    {
+        m_set.DeleteAll();
+        EXPECT_EQ(CountedGroup::alive, 0);
+    }
+
+    CTileGroupSet m_set;
+    CTileGroup* m_first = AddTo(m_set);
+    CTileGroup* m_below = AddTo(m_set, m_first);
+    CTileGroup* m_deep = AddTo(m_set, m_below);
+    CTileGroup* m_last = AddTo(m_set);
+};
+
+} // namespace
+
+TEST_F(TileGroupSetTest, CopiesAreSeparateGroupsWithTheSameIds)
+{
+    CTileGroupSet copy;
+    AddTo(copy);
+    copy = m_set;
+    EXPECT_EQ(CountedGroup::alive, 4) << "what the target held is gone";
+    EXPECT_EQ(copy, m_set);
+    const CTileGroup* deep = copy.GetSubGroupBySubID(m_deep->GetID());
+    EXPECT_TRUE(deep && deep != m_deep);
+    copy.GetDirectGroupByDirIndex(1)->SetSelected(InterfaceDesign, true);
+    EXPECT_NE(copy, m_set);
+    EXPECT_EQ(copy.DeleteAll(), 2);
+    EXPECT_NE(copy, m_set);
+}
+
+TEST_F(TileGroupSetTest, SetMayBecomeALevelOfItsOwnTree)
+{
+    const QUuid below = m_below->GetID();
+    m_set = *m_first->GetSubGroupSet();
+    EXPECT_EQ(CountedGroup::alive, 0) << "all replaced by copies";
+    EXPECT_EQ(m_set.GetDirectCount(), 1);
+    EXPECT_NE(m_set.GetDirectGroupByDirID(below), nullptr);
+}
+
+TEST_F(TileGroupSetTest, AGroupListedTwiceIsFreedOnce)
+{
+    m_set.AddFromOther(m_set);
+    EXPECT_EQ(m_set.GetDirectCount(), 4);
+    EXPECT_TRUE(m_set.DeleteGroupRecursive(2));
+    EXPECT_EQ(m_set.GetDirectCount(), 2);
+    EXPECT_EQ(CountedGroup::alive, 1);
+    EXPECT_EQ(m_set.DeleteAll(), 2);
+    EXPECT_EQ(CountedGroup::alive, 0);
+}
+
+TEST_F(TileGroupSetTest, AnIdIsAddedOnceUnlessForced)
+{
+    CTileGroup twin(*m_deep);
+    EXPECT_FALSE(m_set.AddGroup(&twin, false));
+    EXPECT_FALSE(m_set.AddGroup(nullptr, true));
+    EXPECT_EQ(m_set.GetDirectCount(), 2);
+    EXPECT_TRUE(m_set.AddGroup(&twin, true));
+    EXPECT_EQ(m_set.RemoveDirectGroup(m_deep->GetID()), &twin);
+    EXPECT_EQ(m_set.RemoveDirectGroup(m_deep->GetID()), nullptr) << "only the direct level";
+    EXPECT_EQ(m_set.RemoveDirectGroup(2), nullptr);
+}
+
+TEST_F(TileGroupSetTest, GroupsAreFoundAtTheirLevel)
+{
+    const QUuid deep = m_deep->GetID();
+    EXPECT_EQ(m_set.GetSubGroupBySubID(deep), m_deep);
+    EXPECT_EQ(m_set.GetDirectGroupBySubID(deep), m_first);
+    EXPECT_EQ(m_set.GetDirectGroupBySubID(m_last->GetID()), m_last);
+    EXPECT_EQ(m_set.GetDirectGroupByDirID(deep), nullptr);
+    EXPECT_EQ(m_set.GetDirectGroupIndex(deep), -1);
+    EXPECT_EQ(m_set.GetDirectGroupIndex(m_last->GetID()), 1);
+    EXPECT_EQ(m_set.GetDirectGroupBySubID(QUuid::createUuid()), nullptr);
+    EXPECT_EQ(m_set.GetDirectGroupByDirIndex(-1), nullptr);
+
+    QList<CTileGroup*> list{m_last};
+    EXPECT_EQ(m_set.GetGroupListRecursive(list), 4);
+    EXPECT_EQ(list, (QList<CTileGroup*>{m_last, m_first, m_below, m_deep, m_last}));
+    QMap<QUuid, CTileGroup*> map;
+    m_set.GetGroupListRecursive(map);
+    EXPECT_EQ(map.size(), 4);
+    EXPECT_EQ(map.value(deep), m_deep);
+}
+
+TEST_F(TileGroupSetTest, OnlyTheDirectLevelIsListedAsSelectedAndMoved)
+{
+    QList<CTileGroup*> selected;
+    m_set.SelectAll(InterfaceDesign);
+    EXPECT_TRUE(m_deep->IsSelected(InterfaceDesign));
+    m_set.GetSelTileGroup(selected, InterfaceDesign);
+    EXPECT_EQ(selected, (QList<CTileGroup*>{m_first, m_last}));
+    m_set.CancelAllSelect(InterfaceDesign);
+    m_set.GetSelTileGroup(selected, InterfaceDesign);
+    EXPECT_TRUE(selected.isEmpty() && !m_deep->IsSelected(InterfaceDesign));
+
+    m_set.SetOffset(0, 150);
+    EXPECT_EQ(m_last->GetRotateParam()->centerX, 50);
+    EXPECT_EQ(m_below->GetRotateParam()->centerX, -100);
+}
+
+TEST_F(TileGroupSetTest, AncestorsAreListedOnceFromTheGroupUp)
+{
+    QList<QUuid> ids{m_below->GetID()};
+    EXPECT_FALSE(m_set.GroupAndParentAddGuidArray(ids, QUuid::createUuid()));
+    EXPECT_TRUE(m_set.GroupAndParentAddGuidArray(ids, m_deep->GetID()));
+    EXPECT_EQ(ids, (QList<QUuid>{m_below->GetID(), m_deep->GetID(), m_first->GetID()}));
+    m_first->SetParentGroupID(m_deep->GetID()); // a circle, as a damaged file may hold
+    EXPECT_TRUE(m_set.GroupAndParentAddGuidArray(ids, m_deep->GetID()));
+    EXPECT_EQ(ids.size(), 3);
+}
+
+TEST_F(TileGroupSetTest, TopLevelIdsAreCountedUnlessOneIsUnknown)
+{
+    QUuid first;
+    EXPECT_EQ(m_set.GetGroupCountWithoutParent({}, &first), 0);
+    const QList<QUuid> ids{m_deep->GetID(), m_last->GetID(), m_first->GetID()};
+    EXPECT_EQ(m_set.GetGroupCountWithoutParent(ids, &first), 2);
+    EXPECT_EQ(first, m_last->GetID());
+    EXPECT_EQ(m_set.GetGroupCountWithoutParent(ids, nullptr), 2);
+    EXPECT_EQ(m_set.GetGroupCountWithoutParent(ids + QList<QUuid>{QUuid::createUuid()}, nullptr), 0);
+}
+
+TEST_F(TileGroupSetTest, DeletingKnowsItsBounds)
+{
+    for (int index : {-1, 3})
+        EXPECT_FALSE(m_set.DeleteDirectGroup(index));
+    EXPECT_TRUE(m_set.DeleteDirectGroup(2)) << "one past the last is let through";
+    for (int index : {-1, 2})
+        EXPECT_FALSE(m_set.DeleteGroupRecursive(index) || m_set.DeleteGroupSelectedRecursive(index));
+    EXPECT_EQ(CountedGroup::alive, 4);
+    EXPECT_TRUE(m_set.DeleteDirectGroup(0));
+    EXPECT_EQ(CountedGroup::alive, 3) << "its sub-groups are left";
+    m_set.AddGroup(m_below, true);
+    EXPECT_TRUE(m_set.DeleteGroupRecursive(1));
+    EXPECT_EQ(m_set.RemoveAll(), 1);
+    EXPECT_EQ(CountedGroup::alive, 1);
+    m_set.AddGroup(m_last, true);
+}
+
+TEST_F(TileGroupSetTest, SelectedGroupsGoWithWhatTheyHold)
+{
+    AddTo(m_set, m_first);
+    m_below->SetSelected(InterfaceDesign, true);
+    m_deep->SetSelected(InterfaceDesign, false);
+    EXPECT_TRUE(m_set.DeleteGroupSelectedRecursive(0));
+    EXPECT_EQ(CountedGroup::alive, 3);
+    EXPECT_EQ(m_first->GetSubGroupCount(), 1);
+    m_first->SetSelected(InterfaceDesign, true);
+    EXPECT_TRUE(m_set.DeleteGroupSelectedRecursive(0));
+    EXPECT_EQ(m_set.GetDirectGroupByDirIndex(0), m_last);
+}
+
+TEST_F(TileGroupSetTest, NestingAThousandDeepIsHandled)
+{
+    CTileGroup* group = m_last;
+    for (int i = 0; i < 1000; ++i)
+        group = AddTo(m_set, group);
+    CTileGroupSet copy(m_set);
+    EXPECT_NE(copy.GetSubGroupBySubID(group->GetID()), nullptr);
+    copy.SelectAll(InterfaceDesign);
+    copy.DeleteAll();
+    QList<QUuid> ids;
+    EXPECT_TRUE(m_set.GroupAndParentAddGuidArray(ids, group->GetID()));
+    EXPECT_EQ(ids.size(), 1001);
+}

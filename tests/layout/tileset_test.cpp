@@ -1,1 +1,324 @@
+#include "layout/tileset.h"
+
+#include "common/interfacedlg.h"
+#include "layout/tile.h"
+#include "support/wallbuilder.h"
+
 #include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr int kView = InterfaceDesign;
+
+/// Knows how many of its kind live.
+class CountedTile : public CTile
+{
+public:
+    CountedTile() { ++alive; }
+    ~CountedTile() override { --alive; }
+    static int alive;
+};
+
+int CountedTile::alive = 0;
+
+CTile* Add(CTileSet& set, const QRect& rect)
+{
+    auto* tile = new CountedTile;
+    tile->SetWidth(rect.width());
+    tile->SetHeight(rect.height());
+    tile->SetX(rect.x());
+    tile->SetY(rect.y());
+    set.AddTile(tile);
+    return tile;
+}
+
+std::vector<const CTile*> Contents(const CTileSet& set)
+{
+    std::vector<const CTile*> tiles;
+    for (int i = 0; i < set.GetCount(); ++i)
+        tiles.push_back(set.GetTile(i));
+    return tiles;
+}
+
+using Tiles = std::vector<const CTile*>;
+
+/// An owning set with tiles 0, 1, 2 side by side, each 100 x 100 pixels.
+class TileSetTest : public testing::Test
+{
+protected:
+    TileSetTest()
+    {
+        m_set.SetOwnerShip(true);
+        for (int i = 0; i < 3; ++i)
+            m_tiles.push_back(Add(m_set, QRect(100 * i, 0, 100, 100)));
+    }
+
+    CTileSet m_set;
+    std::vector<CTile*> m_tiles;
+    TestLookup m_lookup;
+};
+
+void Turn(CTile* tile, double angle, double centerX, double centerY)
+{
+    SRotateParam record;
+    record.angle = angle;
+    record.centerX = centerX;
+    record.centerY = centerY;
+    tile->SetTileRotateParam(&record);
+}
+
+} // namespace
+
+TEST_F(TileSetTest, CopiesShareTilesUnlessTheSourceOwnsThem)
+{
+    {
+        CTileSet query;
+        m_set.GetTileSetUngrouped(query);
+        const CTileSet copy(query);
+        EXPECT_EQ(Contents(copy), Contents(m_set));
+        EXPECT_NE(copy, m_set) << "ownership counts";
+    }
+    EXPECT_EQ(CountedTile::alive, 3);
+    {
+        CTileSet copy(m_set);
+        CTileSet assigned;
+        assigned = m_set;
+        for (const CTileSet* set : {&copy, &assigned}) {
+            EXPECT_TRUE(set->IsOwner());
+            EXPECT_EQ(*set, m_set);
+            EXPECT_NE(set->GetTile(0), m_set.GetTile(0));
+        }
+    }
+    m_set.DeleteAllTiles();
+    EXPECT_EQ(CountedTile::alive, 0);
+    EXPECT_TRUE(m_set.IsOwner());
+}
+
+TEST_F(TileSetTest, OwningSetFreesWhatItDropsOnce)
+{
+    m_set.AddTile(m_tiles[1]); // twice
+    m_set.DeteleTile(1);
+    EXPECT_EQ(CountedTile::alive, 3) << "still listed";
+    m_set.DeteleTile(m_tiles[0]);
+    EXPECT_EQ(CountedTile::alive, 2);
+    m_set.AddTile(m_tiles[1]);
+    EXPECT_EQ(Contents(m_set), (Tiles{m_tiles[2], m_tiles[1], m_tiles[1]}));
+    for (int index : {-1, 3})
+        m_set.DeteleTile(index);
+    m_set.DeteleTile(nullptr);
+    m_set.AddTile(nullptr);
+    EXPECT_EQ(m_set.GetCount(), 3);
+    m_set.Truncate(2);
+    EXPECT_EQ(CountedTile::alive, 2);
+    m_set.Truncate(1);
+    EXPECT_EQ(CountedTile::alive, 1);
+    m_set.AddTile(m_tiles[2]);
+    m_set = CTileSet();
+    EXPECT_EQ(CountedTile::alive, 0);
+    EXPECT_FALSE(m_set.IsOwner());
+}
+
+TEST_F(TileSetTest, SetMayBeReadAndFilledAtOnce)
+{
+    CTileSet found;
+    found.AddFromOther(m_set);
+    found.GetTileSetAtPosition(found, 150, 50);
+    EXPECT_EQ(Contents(found), Tiles{m_tiles[1]});
+    found.AddFromOther(found);
+    EXPECT_TRUE(found.GetTileSetInGroup(found, QUuid(), true));
+    EXPECT_EQ(Contents(found), Tiles(4, m_tiles[1]));
+
+    // What a query finds in the owning set that it fills lives on, what it does not find goes.
+    m_tiles[2]->SetSelected(true, kView, -1);
+    m_set.GetSelTileSet(m_set, kView);
+    EXPECT_EQ(Contents(m_set), Tiles{m_tiles[2]});
+    EXPECT_EQ(CountedTile::alive, 1);
+    m_set.SetOwnerShip(true);
+    m_set.AddFromOther(m_set);
+    EXPECT_EQ(m_set.GetCount(), 2);
+    EXPECT_NE(m_set.GetTile(0), m_set.GetTile(1));
+
+    CTileSet part;
+    part.AddTile(m_tiles[2]);
+    m_set = part;
+    EXPECT_EQ(CountedTile::alive, 1);
+    m_set.SetOwnerShip(true);
+}
+
+TEST_F(TileSetTest, OrderCountsInComparison)
+{
+    CTileSet other(m_set);
+    other.ExchangeTile(1, 1);
+    other.ExchangeTile(0, 3);
+    EXPECT_EQ(other, m_set);
+    other.ExchangeTile(2, 0);
+    EXPECT_NE(other, m_set);
+}
+
+TEST_F(TileSetTest, SubsetIsByIdentity)
+{
+    CTileSet part;
+    CTileSet copies(m_set);
+    EXPECT_TRUE(m_set.IsSubset(nullptr) && part.IsSubset(&part));
+    part.AddTile(m_tiles[2]);
+    part.AddTile(m_tiles[0]);
+    EXPECT_TRUE(m_set.IsSubset(&part));
+    EXPECT_FALSE(part.IsSubset(&m_set) || m_set.IsSubset(&copies) || CTileSet().IsSubset(&part));
+}
+
+TEST_F(TileSetTest, SubsetsKeepListOrder)
+{
+    const QUuid group = QUuid::createUuid();
+    m_tiles[0]->SetGroupId(group);
+    m_tiles[2]->SetGroupId(group);
+    m_tiles[1]->SetConnectionIndex(0, nullptr);
+    m_tiles[1]->SetSelected(true, kView, -1);
+    const Tiles outer{m_tiles[0], m_tiles[2]};
+
+    CTileSet out;
+    m_set.GetTileSetGrouped(out);
+    EXPECT_EQ(Contents(out), outer);
+    m_set.GetTileSetUnnumbered(out);
+    EXPECT_EQ(Contents(out), outer);
+    m_set.GetUnselectedTileSet(out);
+    EXPECT_EQ(Contents(out), outer);
+    m_set.GetTileSetUngrouped(out);
+    EXPECT_TRUE(m_set.GetTileSetInGroup(out, group, true));
+    EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0], m_tiles[2]}));
+    EXPECT_FALSE(m_set.GetTileSetInGroup(out, QUuid::createUuid(), false));
+    EXPECT_EQ(out.GetCount(), 0);
+}
+
+TEST_F(TileSetTest, UnselectingResetsCardsAndMarksOfOneView)
+{
+    m_tiles[0]->SetBeMultiRcvsTile(true);
+    m_tiles[0]->SetMultiRcvsSize(QSize(2, 2));
+    m_set.SelectAll(kView);
+    m_set.SelectAll(InterfaceSoftEdge);
+    m_tiles[0]->SetMultiRcvDemarcateIndex(3);
+    m_set.UnSelectAll(kView);
+    EXPECT_FALSE(m_tiles[0]->IsSelected(kView) || m_tiles[0]->IsRcvSelected(3)
+                 || m_tiles[1]->IsSelected(kView));
+    EXPECT_TRUE(m_tiles[0]->IsSelected(InterfaceSoftEdge));
+    EXPECT_EQ(m_tiles[0]->GetMultiRcvDemarcateIndex(), -1);
+
+    const CTileSet snapshot(m_set);
+    m_set.UnSelectAll(kView);
+    EXPECT_EQ(m_set.GetTile(0)->GetData(), snapshot.GetTile(0)->GetData())
+        << "nothing changed, all is shared";
+}
+
+TEST_F(TileSetTest, SizesAndTypesAreComparedOverAllTiles)
+{
+    const SMD5 a = SMD5::FromString(QString(32, QLatin1Char('a')));
+    QList<SMD5> types;
+    EXPECT_FALSE(CTileSet().GetProductTypeArray(&types) || m_set.GetProductTypeArray(nullptr));
+    EXPECT_TRUE(m_set.IsAllSameSize() && m_set.IsAllSameType());
+    EXPECT_TRUE(CTileSet().IsAllSameSize() && CTileSet().IsAllSameType());
+    m_tiles[1]->SetType(a);
+    m_tiles[2]->SetHeight(99);
+    EXPECT_FALSE(m_set.IsAllSameSize() || m_set.IsAllSameType());
+    EXPECT_TRUE(m_set.GetProductTypeArray(&types));
+    EXPECT_EQ(types, (QList<SMD5>{SMD5(), a}));
+}
+
+TEST_F(TileSetTest, LockIsThatOfThePortOfTheCurrentSender)
+{
+    for (CTile* tile : m_tiles)
+        tile->SetPortIndex(1);
+    EXPECT_FALSE(m_set.ExistTileIsLock());
+    CSender sender;
+    m_lookup.senders.append(&sender);
+    sender.GetPort(0)->SetFlagLock(true);
+    EXPECT_FALSE(m_set.ExistTileIsLock());
+    m_tiles[1]->SetPortIndex(-1); // on no port
+    m_tiles[2]->SetPortIndex(0);
+    EXPECT_TRUE(m_set.ExistTileIsLock());
+}
+
+TEST_F(TileSetTest, HitTestListsTheTopmostTileFirst)
+{
+    const CTile* top = Add(m_set, QRect(50, 50, 100, 100));
+    CTileSet out;
+    EXPECT_TRUE(m_set.GetTileSetAtPosition(out, 99, 99));
+    EXPECT_EQ(Contents(out), (Tiles{top, m_tiles[0]}));
+    EXPECT_TRUE(m_set.GetTileSetAtPosition(out, 100, 0));
+    EXPECT_EQ(Contents(out), Tiles{m_tiles[1]}) << "the pixel right of the first tile";
+    EXPECT_FALSE(m_set.GetTileSetAtPosition(out, 300, 0));
+    EXPECT_EQ(out.GetCount(), 0);
+}
+
+TEST_F(TileSetTest, RectTakesWholeOrTouchedTiles)
+{
+    CTileSet out;
+    m_set.GetTileSetAtRect(out, QRect(0, 0, 200, 100), true);
+    EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0]}));
+    m_set.GetTileSetAtRect(out, QRect(1, 0, 200, 100), true);
+    EXPECT_EQ(Contents(out), Tiles{m_tiles[1]});
+    m_set.GetTileSetAtRect(out, QRect(99, 99, 2, 1), false);
+    EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0]}));
+    EXPECT_FALSE(m_set.GetTileSetAtRect(out, QRect(0, 100, 300, 5), false));
+    m_set.GetTileSetAtRectWithCenter(out, QRect(150, 50, 1, 1));
+    EXPECT_EQ(Contents(out), Tiles{m_tiles[1]});
+}
+
+TEST_F(TileSetTest, TurnedTilesAreHitByTheirCorners)
+{
+    Turn(m_tiles[0], 45, 50, 50); // a diamond about (50, 50), half diagonal 70.7
+    Turn(m_tiles[2], 90, 250, 50);
+    CTileSet out;
+    m_set.GetTileSetAtPosition(out, 110, 50);
+    EXPECT_EQ(Contents(out), Tiles{m_tiles[1]}) << "rotation is off";
+    m_lookup.rotateEnabled = true;
+    m_set.GetTileSetAtPosition(out, 110, 50);
+    EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0]}));
+    EXPECT_FALSE(m_set.GetTileSetAtPosition(out, 10, 10)) << "inside the bound, outside the diamond";
+    m_set.GetTileSetAtRect(out, QRect(115, -10, 20, 100), false);
+    EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0]}));
+    m_set.GetTileSetAtRect(out, QRect(0, -30, 200, 160), true);
+    EXPECT_EQ(Contents(out), Tiles{m_tiles[1]}) << "one corner of the diamond is out";
+    m_set.GetTileSetAtRect(out, m_tiles[2]->GetBound(), true);
+    EXPECT_EQ(Contents(out), Tiles{m_tiles[2]}) << "a tile lies in its own bound";
+    EXPECT_EQ(m_set.GetBound(), QRect(-20, -20, 320, 141));
+}
+
+TEST_F(TileSetTest, OverlapIsStrictOnOneAxis)
+{
+    const QRect a(0, 0, 10, 10);
+    EXPECT_FALSE(CTileSet::IsRectIntersect(a, QRect(10, 0, 10, 10), false));
+    EXPECT_TRUE(CTileSet::IsRectIntersect(a, QRect(10, 0, 10, 10), true));
+    EXPECT_FALSE(CTileSet::IsRectIntersect(a, QRect(9, 0, 10, 10), false)) << "one shared column";
+    EXPECT_TRUE(CTileSet::IsRectIntersect(a, QRect(8, 90, 10, 10), false));
+}
+
+TEST_F(TileSetTest, BoundFollowsTheDraggedSelection)
+{
+    EXPECT_EQ(CTileSet().GetBound(), QRect());
+    EXPECT_EQ(CTileSet().GetBound(true, QSize(5, 5)), QRect());
+    m_tiles[2]->SetSelected(true, kView, -1);
+    EXPECT_EQ(m_set.GetBound(true, QSize(10, -20)), QRect(0, -20, 310, 120));
+    EXPECT_EQ(m_set.GetBound(false, QSize(10, -20)), QRect(0, 0, 300, 100));
+    m_lookup.rotateEnabled = true;
+    Turn(m_tiles[0], 45, 0, 0);
+    EXPECT_EQ(m_set.GetBound(false, QSize()), QRect(0, 0, 300, 100)) << "of the tiles before turning";
+}
+
+TEST_F(TileSetTest, NewSizeKeepsTilesOnTheGridEdgeToEdge)
+{
+    m_tiles[2]->SetX(250);
+    Add(m_set, QRect(300, 200, 0, 0)); // without a size it is off the grid
+    for (int i = 0; i < 3; ++i)
+        m_tiles[i]->SetY(7 + 100 * i); // the grid starts at the set's own top
+    m_set.SetWidthAuto(64, true);
+    m_set.SetHeightAuto(2000, true); // no taller than a cabinet gets
+    const QPoint places[] = {{0, 7}, {64, 2007}, {250, 4007}, {300, 200}};
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(m_set.GetTile(i)->GetBound(), QRect(places[i], QSize(64, 1024))) << i;
+
+    m_set.SetWidthAuto(0, true);
+    m_set.SetWidthAuto(10, false);
+    EXPECT_EQ(m_tiles[1]->GetBound(), QRect(64, 2007, 10, 1024));
+}
