@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace {
 
 SRotateParam About(double x, double y, double angle)
@@ -31,27 +29,6 @@ TEST(RotationTest, QuarterTurnsAreExactAndClockwise)
         EXPECT_EQ(point.x, 7 + x) << angle << ": to the last bit";
     }
     EXPECT_EQ(GetRotatePoint(nullptr, 3, 4).y, 4);
-}
-
-TEST(RotationTest, TurnedBackIsWhereItWas)
-{
-    for (double angle = -360; angle <= 360; angle += 7.3) {
-        const SRotateParam there = About(1000.5, -3, angle);
-        const SRotateParam back = About(1000.5, -3, -angle);
-        const CPointEx<double> turned = GetRotatePoint(&there, 30000, 16000);
-        EXPECT_NEAR(std::hypot(turned.x - 1000.5, turned.y + 3), std::hypot(28999.5, 16003), 1e-6);
-        const CPointEx<double> point = GetRotatePoint(&back, turned.x, turned.y);
-        EXPECT_NEAR(point.x, 30000, 1e-6) << angle;
-        EXPECT_NEAR(point.y, 16000, 1e-6) << angle;
-    }
-}
-
-TEST(RotationTest, BoundTruncatesPlaceAndSizeTowardZero)
-{
-    const CPointEx<double> corners[] = {{-1.5, 0.9}, {3.9, -0.9}, {8.2, 4}, {2, 6.05}};
-    EXPECT_EQ(GetCornerBound(corners), QRect(-1, 0, 9, 6));
-    const CPointEx<double> far[] = {{-1e30, 0}, {1e30, 0}, {1e30, 5}, {-1e30, 5}};
-    EXPECT_EQ(GetCornerBound(far).height(), 5) << "places beyond all numbers do no harm";
 }
 
 TEST(RotationTest, EdgesAndCornersAreInsideWhicheverWayTheCornersRun)

@@ -98,10 +98,3 @@ TEST_F(TileGroupTest, RenumberingGoesDownInPreOrder)
     EXPECT_EQ(m_deep->GetParentGroupID(), m_first->GetID());
     EXPECT_EQ(m_second->GetParentGroupID(), m_top.GetID());
 }
-
-TEST_F(TileGroupTest, TreeIsSearchedForAnyOfTheIds)
-{
-    EXPECT_TRUE(m_top.HasAnySubGroupInArray({QUuid(), m_deep->GetID()}));
-    EXPECT_TRUE(m_top.HasAnySubGroupInArray({m_top.GetID()}));
-    EXPECT_FALSE(m_first->HasAnySubGroupInArray({m_top.GetID(), m_second->GetID()}));
-}
