@@ -47,8 +47,9 @@ bool Holds(const CTileSet& tiles, int first, const TileRun::Chunk& chunk)
 {
     if (first < 0 || first + chunk.Size() > tiles.GetCount())
         return false;
+    CTile* const* tile = &tiles.GetTiles().at(first);
     for (const TileRun::Record& record : chunk.tiles) {
-        if (!IsAsRecorded(tiles.GetTile(first++), record))
+        if (!IsAsRecorded(*tile++, record))
             return false;
     }
     return true;
@@ -155,7 +156,7 @@ void TileRun::Restore(CTileSet* tiles) const
     int i = 0;
     for (const ChunkPointer& chunk : m_chunks) {
         for (const Record& record : chunk->tiles) {
-            CTile* tile = i < present ? tiles->GetTile(i) : new CTile;
+            CTile* tile = i < present ? tiles->GetTiles().at(i) : new CTile;
             if (tile->GetData() != record.constData())
                 tile->SetData(record.constData());
             if (i >= present)
@@ -163,8 +164,7 @@ void TileRun::Restore(CTileSet* tiles) const
             ++i;
         }
     }
-    while (tiles->GetCount() > m_count)
-        tiles->DeteleTile(tiles->GetCount() - 1);
+    tiles->Truncate(m_count);
 }
 
 bool TileRun::IsEqual(const TileRun& other) const
@@ -198,7 +198,7 @@ bool TileRun::IsEqual(const CTileSet& tiles) const
     int i = 0;
     for (const ChunkPointer& chunk : m_chunks) {
         for (const Record& record : chunk->tiles) {
-            const TileData* data = tiles.GetTile(i++)->GetData();
+            const TileData* data = tiles.GetTiles().at(i++)->GetData();
             if (data != record.constData() && !data->IsEqual(*record))
                 return false;
         }

@@ -110,9 +110,11 @@ public:
     void TileSetNormalization();
     void GetTileSetNumberedNormalization(CTileSet& out); ///< normalises, then lists the chain in order
 
+    // inside the library: for loops over whole walls
+    const QList<CTile*>& GetTiles() const { return m_tiles; }
+
 private:
-    void
-    Normalize(QList<CTile*>* chain); ///< the caller holds the lock or needs none; appends the chain in order
+    void Normalize(QList<CTile*>* chain); ///< takes no lock; appends the chain in order unless null
     void SetResult(const QList<CTile*>& tiles);
 
     QList<CTile*> m_tiles;

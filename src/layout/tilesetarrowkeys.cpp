@@ -1,4 +1,5 @@
 #include "common/canvaslimits.h"
+#include "common/saturated.h"
 #include "layout/tile.h"
 #include "layout/tileset.h"
 
@@ -12,7 +13,6 @@ namespace {
 /// distance of the centres in half pixels; real numbers, since a host may move tiles anywhere.
 using Distance = std::pair<double, double>;
 
-constexpr qint64 kMaxIndex = std::numeric_limits<int>::max();
 constexpr double kInfinite = std::numeric_limits<double>::infinity();
 constexpr Distance kTooFar{kInfinite, kInfinite};
 
@@ -99,7 +99,7 @@ bool CTileSet::DirectionKeyConnection(unsigned long key)
 {
     const CTile* end = GetEndIndexTile();
     const int current = end ? end->GetConnectionIndex() : -1;
-    if (current == kMaxIndex)
+    if (current == std::numeric_limits<int>::max())
         return false;
     CTile* next = GetDirectionTile(end ? end->GetBound() : QRect(), key, true, false);
     if (!next)
@@ -122,7 +122,7 @@ bool CTileSet::DirectionKeyDemarcateTile(unsigned long key, int& receiver)
     if (marked && marked != next)
         marked->SetMultiRcvDemarcateIndex(-1);
     const qint64 begin = next->GetBeginRcvCnnt();
-    receiver = begin < 0 ? -1 : static_cast<int>(qMin(begin + next->GetMultiRcvDemarcateIndex(), kMaxIndex));
+    receiver = begin < 0 ? -1 : SaturatedInt(begin + next->GetMultiRcvDemarcateIndex());
     return true;
 }
 

@@ -1,3 +1,4 @@
+#include "common/saturated.h"
 #include "layout/serpentinewalk.h"
 #include "layout/tile.h"
 #include "layout/tileset.h"
@@ -13,9 +14,9 @@ namespace {
 
 constexpr int kMaxIndex = std::numeric_limits<int>::max();
 
-int CappedSum(qint64 a, qint64 b)
+int ReceiversUpTo(const CTile* tile, int begin)
 {
-    return static_cast<int>(qMin<qint64>(a + b, kMaxIndex));
+    return SaturatedInt(qint64(begin) + tile->GetMultiRcvsCount());
 }
 
 /// Writes a place in the chain without looking for the neighbour; a tile that has it stays shared.
@@ -93,16 +94,21 @@ std::vector<Stop> ChainOrder(const QList<CTile*>& tiles)
         return chain;
     }
     chain.clear();
-    QSet<CTile*> seen;
-    seen.reserve(tiles.size());
     for (int i = 0; i < tiles.size(); ++i) {
-        const int index = tiles[i]->GetConnectionIndex();
-        if (index < 0 || seen.contains(tiles[i]))
-            continue;
-        seen.insert(tiles[i]);
-        chain.push_back({static_cast<quint64>(index), i, tiles[i]});
+        if (tiles[i]->HasSetConnectIndex())
+            chain.push_back({static_cast<quint64>(tiles[i]->GetConnectionIndex()), i, tiles[i]});
     }
     std::sort(chain.begin(), chain.end());
+    const auto shareIndex = [](const Stop& a, const Stop& b) { return a.place == b.place; };
+    if (std::adjacent_find(chain.begin(), chain.end(), shareIndex) == chain.end())
+        return chain;
+    QSet<CTile*> seen;
+    const auto listedTwice = [&](const Stop& stop) {
+        const bool repeated = seen.contains(stop.tile);
+        seen.insert(stop.tile);
+        return repeated;
+    };
+    chain.erase(std::remove_if(chain.begin(), chain.end(), listedTwice), chain.end());
     return chain;
 }
 
@@ -193,7 +199,7 @@ bool CTileSet::AutoConnection(EnAutoNumberType type, int)
         if (stop.tile->HasSetConnectIndex())
             continue; // listed twice
         SetPlace(stop.tile, next++, begin);
-        begin = CappedSum(begin, stop.tile->GetMultiRcvsCount());
+        begin = ReceiversUpTo(stop.tile, begin);
     }
     return next > 0;
 }
@@ -232,7 +238,7 @@ bool CTileSet::NumberSetRect(int& next, const QRect& rect, const QSize&, int dir
         if (stop.tile->HasSetConnectIndex())
             continue; // listed twice
         if (previous)
-            SetPlace(stop.tile, next, CappedSum(previous->GetBeginRcvCnnt(), previous->GetMultiRcvsCount()));
+            SetPlace(stop.tile, next, ReceiversUpTo(previous, previous->GetBeginRcvCnnt()));
         else
             stop.tile->SetConnectionIndex(next, this);
         previous = stop.tile;
@@ -291,7 +297,7 @@ void CTileSet::Normalize(QList<CTile*>* chain)
     int begin = 0;
     for (const Stop& link : ChainOrder(m_tiles)) {
         SetPlace(link.tile, next++, begin);
-        begin = CappedSum(begin, link.tile->GetMultiRcvsCount());
+        begin = ReceiversUpTo(link.tile, begin);
         if (chain)
             chain->append(link.tile);
     }
