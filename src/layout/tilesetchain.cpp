@@ -7,7 +7,10 @@
 #include <QSet>
 
 #include <algorithm>
+#include <array>
 #include <limits>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -30,86 +33,79 @@ void SetPlace(CTile* tile, int index, int begin)
         tile->SetBeginRcvCnnt(begin);
 }
 
-/// A tile with its place in an order; of equal places the earlier in the list comes first.
+/// An entry of a tile list with its place in some order.
 struct Stop
 {
     quint64 place;
-    int position;
-    CTile* tile;
-
-    bool operator<(const Stop& other) const
-    {
-        return place != other.place ? place < other.place : position < other.position;
-    }
+    int position; ///< in the list
 };
 
-/// The numbered tiles with tile i of the chain at place i, places that no tile has left null. False when two
-/// entries share an index, or an index lies so far beyond the count that such a table would not pay.
-bool SpreadByIndex(const QList<CTile*>& tiles, std::vector<Stop>& out)
+/// Sorts in as many linear passes as the places have bytes that differ; equal places keep their order.
+void SortByPlace(std::vector<Stop>& stops)
 {
-    const size_t limit = 4 * static_cast<size_t>(tiles.size()) + 16;
-    out.clear();
-    out.reserve(static_cast<size_t>(tiles.size()));
-    for (int i = 0; i < tiles.size(); ++i) {
-        const int index = tiles[i]->GetConnectionIndex();
-        if (index < 0)
+    constexpr int kDigitBits = 8;
+    constexpr size_t kDigits = 1 << kDigitBits;
+    quint64 differing = 0;
+    for (const Stop& stop : stops)
+        differing |= stop.place ^ stops.front().place;
+    std::vector<Stop> sorted(stops.size());
+    for (int shift = 0; shift < 64; shift += kDigitBits) {
+        const auto digit = [=](quint64 place) { return static_cast<size_t>(place >> shift) % kDigits; };
+        if (digit(differing) == 0)
             continue;
-        const auto slot = static_cast<size_t>(index);
-        if (slot >= limit)
-            return false;
-        if (slot >= out.size())
-            out.resize(slot + 1, Stop{0, 0, nullptr});
-        if (out[slot].tile)
-            return false;
-        out[slot] = {slot, i, tiles[i]};
+        std::array<size_t, kDigits> starts = {};
+        for (const Stop& stop : stops)
+            ++starts[digit(stop.place)];
+        size_t start = 0;
+        for (size_t& count : starts)
+            start += std::exchange(count, start);
+        for (const Stop& stop : stops)
+            sorted[starts[digit(stop.place)]++] = stop;
+        stops.swap(sorted);
     }
-    return true;
-}
-
-bool HasNoGap(const std::vector<Stop>& spread)
-{
-    return std::all_of(spread.begin(), spread.end(), [](const Stop& stop) { return stop.tile; });
-}
-
-/// Whether the chain visits its tiles in the order of the walk. Stops at the first that is out of order.
-bool FollowsWalk(const std::vector<Stop>& chain, const SerpentineWalk& walk)
-{
-    Stop previous{0, -1, nullptr};
-    for (const Stop& link : chain) {
-        const Stop stop{walk.PlaceOf(link.tile->GetCenter()), link.position, link.tile};
-        if (stop < previous)
-            return false;
-        previous = stop;
-    }
-    return true;
 }
 
 /// The numbered tiles, each once, by index and of equal indices by list order.
 std::vector<Stop> ChainOrder(const QList<CTile*>& tiles)
 {
     std::vector<Stop> chain;
-    if (SpreadByIndex(tiles, chain)) {
-        chain.erase(std::remove_if(chain.begin(), chain.end(), [](const Stop& s) { return !s.tile; }),
-                    chain.end());
-        return chain;
-    }
-    chain.clear();
+    chain.reserve(static_cast<size_t>(tiles.size()));
     for (int i = 0; i < tiles.size(); ++i) {
-        if (tiles[i]->HasSetConnectIndex())
-            chain.push_back({static_cast<quint64>(tiles[i]->GetConnectionIndex()), i, tiles[i]});
+        const int index = tiles[i]->GetConnectionIndex();
+        if (index >= 0)
+            chain.push_back({static_cast<quint64>(index), i});
     }
-    std::sort(chain.begin(), chain.end());
+    SortByPlace(chain);
     const auto shareIndex = [](const Stop& a, const Stop& b) { return a.place == b.place; };
     if (std::adjacent_find(chain.begin(), chain.end(), shareIndex) == chain.end())
         return chain;
     QSet<CTile*> seen;
     const auto listedTwice = [&](const Stop& stop) {
-        const bool repeated = seen.contains(stop.tile);
-        seen.insert(stop.tile);
-        return repeated;
+        const int before = seen.size();
+        seen.insert(tiles[stop.position]);
+        return seen.size() == before;
     };
     chain.erase(std::remove_if(chain.begin(), chain.end(), listedTwice), chain.end());
     return chain;
+}
+
+bool IsWithoutGap(const std::vector<Stop>& chain)
+{
+    quint64 next = 0;
+    return std::all_of(chain.begin(), chain.end(), [&](const Stop& link) { return link.place == next++; });
+}
+
+/// Whether the chain visits its tiles in the order of the walk. Ends at the first that is out of order.
+bool FollowsWalk(const QList<CTile*>& tiles, const std::vector<Stop>& chain, const SerpentineWalk& walk)
+{
+    Stop previous{0, -1};
+    for (const Stop& link : chain) {
+        const Stop stop{walk.PlaceOf(tiles[link.position]->GetCenter()), link.position};
+        if (std::tie(stop.place, stop.position) < std::tie(previous.place, previous.position))
+            return false;
+        previous = stop;
+    }
+    return true;
 }
 
 } // namespace
@@ -190,16 +186,17 @@ bool CTileSet::AutoConnection(EnAutoNumberType type, int)
     std::vector<Stop> stops;
     stops.reserve(static_cast<size_t>(m_tiles.size()));
     for (int i = 0; i < m_tiles.size(); ++i)
-        stops.push_back({walk.PlaceOf(m_tiles[i]->GetCenter()), i, m_tiles[i]});
-    std::sort(stops.begin(), stops.end());
+        stops.push_back({walk.PlaceOf(m_tiles.at(i)->GetCenter()), i});
+    SortByPlace(stops);
 
     int next = 0;
     int begin = 0;
     for (const Stop& stop : stops) {
-        if (stop.tile->HasSetConnectIndex())
+        CTile* tile = m_tiles.at(stop.position);
+        if (tile->HasSetConnectIndex())
             continue; // listed twice
-        SetPlace(stop.tile, next++, begin);
-        begin = ReceiversUpTo(stop.tile, begin);
+        SetPlace(tile, next++, begin);
+        begin = ReceiversUpTo(tile, begin);
     }
     return next > 0;
 }
@@ -227,21 +224,22 @@ bool CTileSet::NumberSetRect(int& next, const QRect& rect, const QSize&, int dir
         return false;
     std::vector<Stop> stops;
     for (int i = 0; i < m_tiles.size(); ++i) {
-        const QPoint centre = m_tiles[i]->GetCenter();
-        if (!m_tiles[i]->HasSetConnectIndex() && rect.contains(centre))
-            stops.push_back({PlaceAlong(direction, centre), i, m_tiles[i]});
+        const QPoint centre = m_tiles.at(i)->GetCenter();
+        if (!m_tiles.at(i)->HasSetConnectIndex() && rect.contains(centre))
+            stops.push_back({PlaceAlong(direction, centre), i});
     }
-    std::sort(stops.begin(), stops.end());
+    SortByPlace(stops);
 
     const CTile* previous = nullptr;
     for (const Stop& stop : stops) {
-        if (stop.tile->HasSetConnectIndex())
+        CTile* tile = m_tiles.at(stop.position);
+        if (tile->HasSetConnectIndex())
             continue; // listed twice
         if (previous)
-            SetPlace(stop.tile, next, ReceiversUpTo(previous, previous->GetBeginRcvCnnt()));
+            SetPlace(tile, next, ReceiversUpTo(previous, previous->GetBeginRcvCnnt()));
         else
-            stop.tile->SetConnectionIndex(next, this);
-        previous = stop.tile;
+            tile->SetConnectionIndex(next, this);
+        previous = tile;
         if (next == kMaxIndex)
             break;
         ++next;
@@ -251,16 +249,15 @@ bool CTileSet::NumberSetRect(int& next, const QRect& rect, const QSize&, int dir
 
 int CTileSet::GetConnectionType() const
 {
-    std::vector<Stop> chain;
-    if (m_tiles.isEmpty() || !SpreadByIndex(m_tiles, chain)
-        || chain.size() != static_cast<size_t>(m_tiles.size()) || !HasNoGap(chain))
+    const std::vector<Stop> chain = ChainOrder(m_tiles);
+    if (chain.empty() || chain.size() != static_cast<size_t>(m_tiles.size()) || !IsWithoutGap(chain))
         return -1;
     const QRect bound = GetBound();
     QSize cell;
     if (bound.isEmpty() || !AutoConnectGetSize(cell))
         return -1;
     for (int type = 0; type < SerpentineWalk::kPatternCount; ++type) {
-        if (FollowsWalk(chain, SerpentineWalk(type, bound, cell)))
+        if (FollowsWalk(m_tiles, chain, SerpentineWalk(type, bound, cell)))
             return type;
     }
     return -1;
@@ -296,9 +293,10 @@ void CTileSet::Normalize(QList<CTile*>* chain)
     int next = 0;
     int begin = 0;
     for (const Stop& link : ChainOrder(m_tiles)) {
-        SetPlace(link.tile, next++, begin);
-        begin = ReceiversUpTo(link.tile, begin);
+        CTile* tile = m_tiles.at(link.position);
+        SetPlace(tile, next++, begin);
+        begin = ReceiversUpTo(tile, begin);
         if (chain)
-            chain->append(link.tile);
+            chain->append(tile);
     }
 }
