@@ -21,6 +21,23 @@ int CollectPorts(const CSenderUndoRedo& history, int from, int to, int* ports)
     return count;
 }
 
+/// Puts the visible ports back. False when the sender is not as recorded afterwards.
+bool Restore(const CSenderRecordItem& record, CSender* sender, int shownPort)
+{
+    bool whole = true;
+    for (int i = 0; i < kMaxPorts; ++i) {
+        CPort* port = sender->GetPort(i);
+        if (!port->IsVisible()) {
+            whole = whole && record.IsLayoutEqual(i, *port);
+            continue;
+        }
+        whole = record.RestorePort(i, port) && whole;
+        if (i == shownPort)
+            sender->SetRecentPortIndex(i);
+    }
+    return whole;
+}
+
 } // namespace
 
 CProjectUndoRedo::CProjectUndoRedo() = default;
@@ -152,24 +169,11 @@ bool CProjectUndoRedo::Move(int steps, bool back, int* ports, int* count)
         if (*count > 1)
             shown = ports[1];
     }
-    Restore(record, sender, shown);
-    return true;
-}
-
-void CProjectUndoRedo::Restore(const CSenderRecordItem& record, CSender* sender, int shownPort)
-{
-    for (int i = 0; i < kMaxPorts; ++i) {
-        CPort* port = sender->GetPort(i);
-        if (!port->IsVisible()) {
-            if (!record.IsLayoutEqual(i, *port))
-                m_unheld = true;
-            continue;
-        }
-        if (!record.RestorePort(i, port))
-            m_unheld = true;
-        if (i == shownPort)
-            sender->SetRecentPortIndex(i);
+    if (!Restore(record, sender, shown)) {
+        history->SetApart();
+        m_unheld = true;
     }
+    return true;
 }
 
 int CProjectUndoRedo::GetCanUndoStep()

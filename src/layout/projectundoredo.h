@@ -60,7 +60,6 @@ public:
 private:
     bool AddStep(CSender* sender, Type type);
     bool Move(int steps, bool back, int* ports, int* count);
-    void Restore(const CSenderRecordItem& record, CSender* sender, int shownPort);
     const CSenderRecordItem* RecordAhead(int n, bool back);
     void Drop(CSenderUndoRedo* history);
 

@@ -88,6 +88,7 @@ void CSenderUndoRedo::Clear()
     m_senderId = QUuid();
     m_current = -1;
     m_saved = -1;
+    m_apart = false;
 }
 
 bool CSenderUndoRedo::AddStep(const CSender& sender, Type type)
@@ -96,6 +97,7 @@ bool CSenderUndoRedo::AddStep(const CSender& sender, Type type)
     if (!present || sender.GetId() != m_senderId)
         return false;
     auto step = std::make_unique<const CSenderRecordItem>(sender, type, present);
+    LeaveRecord();
     if (step->IsLayoutEqual(*present))
         return false;
 
@@ -119,8 +121,17 @@ bool CSenderUndoRedo::Move(int steps)
 {
     if (m_current < 0 || steps < -m_current || steps >= GetRecordCount() - m_current)
         return false;
+    LeaveRecord();
     m_current += steps;
     return true;
+}
+
+/// What was saved apart from the record is not what coming back to the record brings.
+void CSenderUndoRedo::LeaveRecord()
+{
+    if (m_apart && m_saved == m_current)
+        m_saved = -1;
+    m_apart = false;
 }
 
 const CSenderRecordItem* CSenderUndoRedo::GetRecord(int position) const

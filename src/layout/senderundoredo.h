@@ -102,10 +102,15 @@ public:
     bool IsModified() const { return m_current != m_saved; }
     void SetSaved() { m_saved = m_current; }
     void SetNeverSaved() { m_saved = -1; } ///< no record holds what was saved
+    /// The sender is not as the current record says, because a port was left out when it was put back.
+    void SetApart() { m_apart = true; }
 
 private:
+    void LeaveRecord();
+
     QUuid m_senderId;
     int m_current = -1;
     int m_saved = -1;
+    bool m_apart = false;
     std::vector<std::unique_ptr<const CSenderRecordItem>> m_records;
 };
