@@ -206,7 +206,7 @@ bool TileRun::IsEqual(const CTileSet& tiles) const
     return true;
 }
 
-GroupRecord::List GroupRecord::Take(const CTileGroupSet& groups, const List& previous)
+GroupSnapshot::List GroupSnapshot::Take(const CTileGroupSet& groups, const List& previous)
 {
     QHash<QUuid, Pointer> byId; // filled when groups no longer stand where they stood
     const auto find = [&](size_t place, const QUuid& id) {
@@ -230,7 +230,7 @@ GroupRecord::List GroupRecord::Take(const CTileGroupSet& groups, const List& pre
             list.push_back(before);
             continue;
         }
-        auto* record = new GroupRecord;
+        auto* record = new GroupSnapshot;
         record->id = group.GetID();
         record->parentId = group.GetParentGroupID();
         record->selected = group.IsSelected(InterfaceDesign);
@@ -241,7 +241,7 @@ GroupRecord::List GroupRecord::Take(const CTileGroupSet& groups, const List& pre
     return list;
 }
 
-bool GroupRecord::IsEqual(const List& a, const List& b)
+bool GroupSnapshot::IsEqual(const List& a, const List& b)
 {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const Pointer& p, const Pointer& q) {
         return p == q
@@ -250,7 +250,7 @@ bool GroupRecord::IsEqual(const List& a, const List& b)
     });
 }
 
-void GroupRecord::Restore(CTileGroupSet* groups, const List& records)
+void GroupSnapshot::Restore(CTileGroupSet* groups, const List& records)
 {
     for (const Pointer& record : records) {
         auto* group = new CTileGroup;
@@ -270,7 +270,7 @@ LayoutSnapshot::Pointer LayoutSnapshot::Take(const CPortProject& layout, const P
     auto* snapshot = new LayoutSnapshot;
     Pointer holder(snapshot);
     snapshot->m_tiles = TileRun::Take(*layout.GetTileSet(), before.m_tiles);
-    snapshot->m_groups = GroupRecord::Take(*layout.GetTileGroupSet(), before.m_groups);
+    snapshot->m_groups = GroupSnapshot::Take(*layout.GetTileGroupSet(), before.m_groups);
     if (previous && snapshot->m_tiles.IsSameRun(before.m_tiles) && snapshot->m_groups == before.m_groups)
         return previous;
     return holder;
@@ -280,19 +280,19 @@ void LayoutSnapshot::Restore(CPortProject* layout) const
 {
     m_tiles.Restore(layout->GetTileSet());
     CTileGroupSet* groups = layout->GetTileGroupSet();
-    if (GroupRecord::Take(*groups, m_groups) == m_groups)
+    if (GroupSnapshot::Take(*groups, m_groups) == m_groups)
         return; // groups that are as recorded keep their address and visibility
     groups->DeleteAll();
-    GroupRecord::Restore(groups, m_groups);
+    GroupSnapshot::Restore(groups, m_groups);
 }
 
 bool LayoutSnapshot::IsEqual(const LayoutSnapshot& other) const
 {
-    return m_tiles.IsEqual(other.m_tiles) && GroupRecord::IsEqual(m_groups, other.m_groups);
+    return m_tiles.IsEqual(other.m_tiles) && GroupSnapshot::IsEqual(m_groups, other.m_groups);
 }
 
 bool LayoutSnapshot::IsEqual(const CPortProject& layout) const
 {
     return m_tiles.IsEqual(*layout.GetTileSet())
-           && GroupRecord::IsEqual(m_groups, GroupRecord::Take(*layout.GetTileGroupSet(), m_groups));
+           && GroupSnapshot::IsEqual(m_groups, GroupSnapshot::Take(*layout.GetTileGroupSet(), m_groups));
 }

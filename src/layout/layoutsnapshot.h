@@ -51,9 +51,9 @@ private:
 };
 
 /// One group and what lies below it, shared between records like the cabinets.
-struct GroupRecord : QSharedData
+struct GroupSnapshot : QSharedData
 {
-    using Pointer = QExplicitlySharedDataPointer<const GroupRecord>;
+    using Pointer = QExplicitlySharedDataPointer<const GroupSnapshot>;
     using List = std::vector<Pointer>;
 
     QUuid id;
@@ -83,5 +83,5 @@ public:
 
 private:
     TileRun m_tiles;
-    GroupRecord::List m_groups;
+    GroupSnapshot::List m_groups;
 };
