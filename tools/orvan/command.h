@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QCommandLineParser;
+
+/// Exit status of the command.
+enum ExitStatus : int
+{
+    StatusDone = 0,
+    StatusFaults = 1, ///< the file was read and has faults
+    StatusUsage = 2,
+    StatusFile = 3, ///< a file could not be read or written
+};
+
+/// What a command is run with.
+struct Invocation
+{
+    const QCommandLineParser& parser;
+    QStringList files; ///< positional arguments behind the command's name
+    QString documents; ///< the user's documents folder, or the one given instead
+};
+
+/// One command of the program.
+struct Command
+{
+    const char* name;
+    const char* files; ///< positional arguments as the usage line shows them
+    int leastFiles;
+    int mostFiles;
+    const char* summary;
+    void (*addOptions)(QCommandLineParser&);
+    int (*run)(const Invocation&);
+    bool paints;      ///< needs fonts
+    bool aloneAlways; ///< works in a private documents folder even when one is given
+};
+
+extern const Command kDemoCommand;
+extern const Command kInfoCommand;
+extern const Command kNewCommand;
+extern const Command kProductsCommand;

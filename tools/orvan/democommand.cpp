@@ -1,0 +1,62 @@
+#include "command.h"
+#include "console.h"
+#include "openproject.h"
+
+#include <OrvanData/orvandata.h>
+#include <orvantools/samplewall.h>
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+void AddOptions(QCommandLineParser& /*parser*/)
+{}
+
+void TellStep(const QString& line)
+{
+    Print(line + QLatin1Char('\n'));
+}
+
+/// Loads what was saved into a document beside the open one.
+bool LoadsBackEqual(const QString& file)
+{
+    CProjectData second;
+    QString version;
+    QString difference;
+    if (!second.LoadProjectFromFile(QFile::encodeName(file).constData(), version, nullptr)) {
+        Fail(StatusFile, file, second.GetLastFileError());
+        return false;
+    }
+    if (OrvanTools::IsSameProject(*GetProjectData(), second, &difference))
+        return true;
+    Fail(StatusFile, file, QStringLiteral("differs from what was saved at ") + difference);
+    return false;
+}
+
+int Run(const Invocation& invocation)
+{
+    const QString folder = invocation.files.value(0, QStringLiteral("orvan-demo"));
+    if (!QDir().mkpath(folder))
+        return Fail(StatusFile, folder, QStringLiteral("cannot be made"));
+    OrvanTools::SampleWall wall(TellStep);
+    if (!wall.Build())
+        return Fail(StatusFile, QString(), wall.GetFault());
+
+    const QString file = QDir(folder).filePath(QStringLiteral("sample-wall.prj"));
+    if (!SaveProject(file))
+        return StatusFile;
+    TellStep(QStringLiteral("saved the project"));
+    if (!LoadsBackEqual(file))
+        return StatusFile;
+    TellStep(QStringLiteral("loaded it into a second document: equal"));
+    TellStep(file);
+    return StatusDone;
+}
+
+} // namespace
+
+const Command kDemoCommand = {
+    "demo",     "[DIR]", 0,    1,    "Build the sample wall end to end in a folder, orvan-demo by default.",
+    AddOptions, Run,     true, false};

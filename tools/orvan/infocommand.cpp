@@ -1,0 +1,44 @@
+#include "command.h"
+#include "console.h"
+#include "openproject.h"
+
+#include <OrvanData/orvandata.h>
+#include <orvantools/projectjson.h>
+#include <orvantools/projecttext.h>
+
+#include <QCommandLineParser>
+
+namespace {
+
+void AddOptions(QCommandLineParser& parser)
+{
+    parser.addOption({QStringLiteral("json"), QStringLiteral("Print one JSON object.")});
+    parser.addOption({QStringLiteral("tiles"), QStringLiteral("With --json: every cabinet and group too.")});
+}
+
+int Run(const Invocation& invocation)
+{
+    const bool json = invocation.parser.isSet(QStringLiteral("json"));
+    const bool tiles = invocation.parser.isSet(QStringLiteral("tiles"));
+    if (tiles && !json)
+        return Fail(StatusUsage, QString(), QStringLiteral("--tiles goes with --json"));
+    const QString file = invocation.files.first();
+    if (!OpenProject(file))
+        return StatusFile;
+    const QString format = IsArchive(file) ? QStringLiteral("archive") : QStringLiteral("xml");
+    if (json) {
+        QJsonObject object =
+            OrvanTools::DescribeProject(*GetProjectData(), GetMonitorData()->GetInterfaceData(), tiles);
+        object.insert(QStringLiteral("format"), format);
+        PrintJson(object);
+    } else {
+        Print(QStringLiteral("%1 (%2)\n").arg(file, format));
+        Print(OrvanTools::SummarizeProject(*GetProjectData()));
+    }
+    return StatusDone;
+}
+
+} // namespace
+
+const Command kInfoCommand = {"info",     "FILE", 1,     1,    "What a project file holds.",
+                              AddOptions, Run,    false, false};

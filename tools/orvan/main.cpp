@@ -1,0 +1,170 @@
+#include "command.h"
+#include "console.h"
+#include "session.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QStandardPaths>
+#include <QTextCodec>
+
+#include <clocale>
+#include <cstring>
+#include <langinfo.h>
+#include <memory>
+
+namespace {
+
+const Command* const kCommands[] = {
+    &kDemoCommand,
+    &kNewCommand,
+    &kInfoCommand,
+    &kProductsCommand,
+};
+
+/// Without a locale every character beyond ASCII would be lost, in file names too. They are UTF-8 then.
+void UseUtf8WithoutLocale()
+{
+    std::setlocale(LC_ALL, "");
+    if (std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+QStringList Arguments(int argc, char** argv)
+{
+    QStringList arguments{QStringLiteral("orvan")};
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+void AddCommonOptions(QCommandLineParser& parser)
+{
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption({QStringLiteral("documents"),
+                      QStringLiteral("Work in this documents folder and keep it, instead of a private one."),
+                      QStringLiteral("DIR")});
+}
+
+const Command* FindCommand(const QString& name)
+{
+    for (const Command* command : kCommands) {
+        if (name == QLatin1String(command->name))
+            return command;
+    }
+    return nullptr;
+}
+
+QString Overview()
+{
+    QString text =
+        QStringLiteral("Looks at, checks, draws and makes projects of LED video walls.\n\nCommands:\n");
+    for (const Command* command : kCommands)
+        text +=
+            QStringLiteral("  %1%2\n")
+                .arg(QString::fromLatin1(command->name) + QLatin1Char(' ') + QLatin1String(command->files),
+                     -28)
+                .arg(QLatin1String(command->summary));
+    return text
+           + QStringLiteral("\n\"orvan COMMAND --help\" tells the options of a command.\n"
+                            "Exit status: 0 done, 1 faults found, 2 wrong usage, 3 a file could not be "
+                            "read or written.");
+}
+
+int UsageFault(const QString& what)
+{
+    return Fail(StatusUsage, QString(), what + QStringLiteral("; see orvan --help"));
+}
+
+/// Runs a command whose arguments are in order, in the documents folder it wants.
+int RunCommand(const Command& command, const QCommandLineParser& parser)
+{
+    const QString given = parser.value(QStringLiteral("documents"));
+    Invocation invocation{parser, parser.positionalArguments().mid(1), QString()};
+    invocation.documents = given.isEmpty()
+                               ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                               : QFileInfo(given).absoluteFilePath();
+    int status = StatusFile;
+    {
+        Session session;
+        QString why;
+        const QString folder = given.isEmpty() || command.aloneAlways ? QString() : invocation.documents;
+        if (!session.Start(folder, &why))
+            return Fail(StatusFile, given, why);
+        status = command.run(invocation);
+    }
+    if (!FlushOutput())
+        return Fail(StatusFile, QStringLiteral("standard output"), QStringLiteral("cannot be written"));
+    return status;
+}
+
+int Dispatch(const Command& command, const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QLatin1String(command.summary));
+    AddCommonOptions(parser);
+    parser.addPositionalArgument(QLatin1String(command.name), QString(), QLatin1String(command.name));
+    parser.addPositionalArgument(QLatin1String(command.files), QString(), QLatin1String(command.files));
+    command.addOptions(parser);
+    if (!parser.parse(arguments))
+        return UsageFault(parser.errorText().section(QLatin1Char('\n'), 0, 0));
+    if (parser.isSet(QStringLiteral("help"))) {
+        Print(parser.helpText());
+        return StatusDone;
+    }
+    const int files = parser.positionalArguments().size() - 1;
+    if (files < command.leastFiles || files > command.mostFiles)
+        return UsageFault(QStringLiteral("usage is orvan %1 %2")
+                              .arg(QLatin1String(command.name), QLatin1String(command.files)));
+    if (parser.isSet(QStringLiteral("documents")) && parser.value(QStringLiteral("documents")).isEmpty())
+        return UsageFault(QStringLiteral("--documents takes a folder"));
+    return RunCommand(command, parser);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    UseUtf8WithoutLocale();
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QStringList arguments = Arguments(argc, argv);
+
+    QCommandLineParser overview;
+    overview.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    overview.setApplicationDescription(Overview());
+    AddCommonOptions(overview);
+    overview.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("One of the above."));
+    const bool parsed = overview.parse(arguments);
+    const QString name = overview.positionalArguments().value(0);
+    const Command* command = FindCommand(name);
+
+    // Starting with fonts costs more than most commands do.
+    char program[] = "orvan";
+    char* programArguments[] = {program, nullptr};
+    int programCount = 1;
+    std::unique_ptr<QCoreApplication> application;
+    if (command && command->paints)
+        application = std::make_unique<QGuiApplication>(programCount, programArguments);
+    else
+        application = std::make_unique<QCoreApplication>(programCount, programArguments);
+    QCoreApplication::setApplicationName(QStringLiteral("orvan"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORVAN_VERSION));
+
+    if (!parsed)
+        return UsageFault(overview.errorText().section(QLatin1Char('\n'), 0, 0));
+    if (command)
+        return Dispatch(*command, arguments);
+    if (overview.isSet(QStringLiteral("version"))) {
+        Print(QStringLiteral("orvan " ORVAN_VERSION "\n"));
+        return StatusDone;
+    }
+    if (overview.isSet(QStringLiteral("help"))) {
+        Print(overview.helpText());
+        return StatusDone;
+    }
+    return UsageFault(name.isEmpty() ? QStringLiteral("no command given")
+                                     : QStringLiteral("unknown command '%1'").arg(name));
+}

@@ -1,0 +1,52 @@
+#include "openproject.h"
+
+#include "command.h"
+#include "console.h"
+#include "progressline.h"
+
+#include <OrvanData/orvandata.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+bool OpenProject(const QString& file)
+{
+    if (QFileInfo(file).isDir()) {
+        Fail(StatusFile, file, QStringLiteral("is a folder"));
+        return false;
+    }
+    ProgressLine progress(QStringLiteral("reading ") + file);
+    QString version;
+    if (GetProjectData()->LoadProjectFromFile(QFile::encodeName(file).constData(), version, progress.Bar())) {
+        progress.End();
+        if (!GetProjectData()->GetLastFileError().isEmpty())
+            Warn(file, GetProjectData()->GetLastFileError());
+        return true;
+    }
+    progress.End();
+    if (!version.isEmpty())
+        Fail(StatusFile, file,
+             QStringLiteral("asks for version %1, which this program does not know yet").arg(version));
+    else
+        Fail(StatusFile, file, GetProjectData()->GetLastFileError());
+    return false;
+}
+
+bool SaveProject(const QString& file)
+{
+    ProgressLine progress(QStringLiteral("writing ") + file);
+    const bool saved =
+        GetProjectData()->SaveProjectToFile(QFileInfo(file).absoluteFilePath(), progress.Bar());
+    progress.End();
+    const QString why = GetProjectData()->GetLastFileError();
+    if (saved && why.isEmpty())
+        return true;
+    Fail(StatusFile, file, why);
+    return false;
+}
+
+bool IsArchive(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.peek(2) == "PK";
+}

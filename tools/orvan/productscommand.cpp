@@ -1,0 +1,94 @@
+#include "command.h"
+#include "console.h"
+
+#include <OrvanData/orvandata.h>
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+
+namespace {
+
+void AddOptions(QCommandLineParser& parser)
+{
+    parser.addOption({QStringLiteral("json"), QStringLiteral("Print one JSON object.")});
+}
+
+/// The scan deletes doubles, so it works on a copy. False, with the path, at the first file that fails.
+bool CopyProducts(const QString& from, const QString& to, QString* failed)
+{
+    QDirIterator files(from, {QStringLiteral("*.rcvp"), QStringLiteral("*.rcvbp")},
+                       QDir::Files | QDir::Hidden | QDir::NoSymLinks | QDir::CaseSensitive,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString source = files.next();
+        const QString target = to + QDir(from).relativeFilePath(source);
+        if (!QDir().mkpath(QFileInfo(target).path()) || !QFile::copy(source, target)) {
+            *failed = source;
+            return false;
+        }
+    }
+    return true;
+}
+
+/// A product as the folder itself has it, not its copy.
+QJsonObject Describe(const CProduct& product, const QString& copy, const QString& folder)
+{
+    const QString path = QDir(copy).relativeFilePath(product.GetParamPath());
+    const QString below = QFileInfo(path).path();
+    return {{QStringLiteral("menuId"), static_cast<double>(product.GetMenuID())},
+            {QStringLiteral("name"), product.GetName()},
+            {QStringLiteral("path"), QDir(folder).absoluteFilePath(path)},
+            {QStringLiteral("type"), product.GetMd5().ToString()},
+            {QStringLiteral("folder"), below == QLatin1String(".") ? QString() : below}};
+}
+
+void PrintTable(const QJsonArray& products)
+{
+    for (const QJsonValue& value : products) {
+        const QJsonObject product = value.toObject();
+        const QString folder = product[QStringLiteral("folder")].toString();
+        Print(product[QStringLiteral("type")].toString() + QStringLiteral("  ")
+              + (folder.isEmpty() ? QString() : folder + QLatin1Char('/'))
+              + product[QStringLiteral("name")].toString() + QLatin1Char('\n'));
+    }
+    Print(QStringLiteral("%1 %2\n")
+              .arg(products.size())
+              .arg(products.size() == 1 ? QStringLiteral("product") : QStringLiteral("products")));
+}
+
+int Run(const Invocation& invocation)
+{
+    const bool given = !invocation.files.isEmpty();
+    const QString folder =
+        given ? invocation.files.first() : invocation.documents + QStringLiteral("/Orvan/LedConfig");
+    const QFileInfo info(folder);
+    if (given && !(info.isDir() && info.isReadable()))
+        return Fail(StatusFile, folder, QStringLiteral("is no folder that can be read"));
+    const QString copy = CProductDirectorySet::GetRootDir();
+    QString failed;
+    if (!CopyProducts(folder, copy, &failed))
+        return Fail(StatusFile, failed, QStringLiteral("cannot be read"));
+
+    CProductDirectorySet& library = *GetRuntimeData()->GetProductDirectorySet();
+    library.LoadProductInfo();
+    QJsonArray products;
+    library.FindProduct([&](CProduct& product) {
+        products.append(Describe(product, copy, folder));
+        return false;
+    });
+    if (invocation.parser.isSet(QStringLiteral("json")))
+        PrintJson({{QStringLiteral("products"), products}});
+    else
+        PrintTable(products);
+    return StatusDone;
+}
+
+} // namespace
+
+const Command kProductsCommand = {
+    "products", "[DIR]", 0,     1,   "What a product folder holds, the user's own by default.",
+    AddOptions, Run,     false, true};

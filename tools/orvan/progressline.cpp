@@ -1,0 +1,33 @@
+#include "progressline.h"
+
+#include <cstdio>
+#include <unistd.h>
+
+ProgressLine::ProgressLine(const QString& work)
+    : m_work(work), m_terminal(isatty(STDERR_FILENO) != 0), m_bar([this](int percent) { Show(percent); })
+{
+    m_clock.start();
+}
+
+ProgressLine::~ProgressLine()
+{
+    End();
+}
+
+void ProgressLine::Show(int percent)
+{
+    if (m_clock.elapsed() < m_next)
+        return;
+    m_next = m_clock.elapsed() + 1000;
+    m_shown = true;
+    std::fprintf(stderr, m_terminal ? "\rorvan: %s: %d %%" : "orvan: %s: %d %%\n",
+                 m_work.toLocal8Bit().constData(), percent);
+    std::fflush(stderr);
+}
+
+void ProgressLine::End()
+{
+    if (m_shown && m_terminal)
+        std::fprintf(stderr, "\r\033[K");
+    m_shown = false;
+}

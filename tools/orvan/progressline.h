@@ -1,0 +1,27 @@
+#pragma once
+
+#include "customprogressbar.h"
+
+#include <QElapsedTimer>
+#include <QString>
+
+/// Tells on standard error how far a long work is, from its second second on and once a second.
+class ProgressLine
+{
+public:
+    explicit ProgressLine(const QString& work);
+    ~ProgressLine();
+
+    CCustomProgressbar* Bar() { return &m_bar; } ///< [ref] to advance
+    void End();                                  ///< clears the line, so that others can be written
+
+private:
+    void Show(int percent);
+
+    QString m_work;
+    QElapsedTimer m_clock;
+    qint64 m_next = 1000; ///< milliseconds
+    bool m_terminal;
+    bool m_shown = false;
+    CCustomProgressbar m_bar;
+};

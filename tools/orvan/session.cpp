@@ -1,0 +1,91 @@
+#include "session.h"
+
+#include "console.h"
+
+#include <OrvanData/orvandata.h>
+
+#include "custommessagebox.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+namespace {
+
+QString DocumentsLocation()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+/// Nobody sits in front of a script: what a box would tell goes to standard error, and no question is agreed
+/// to.
+QMessageBox::StandardButton AnswerBox(CCustomMessageBox::Kind kind, const QString& text,
+                                      QMessageBox::StandardButtons /*buttons*/)
+{
+    Warn(QString(), text);
+    return kind == CCustomMessageBox::Question ? QMessageBox::No : QMessageBox::Ok;
+}
+
+} // namespace
+
+Session::Session() : m_private(QDir::tempPath() + QStringLiteral("/orvan-XXXXXX"))
+{}
+
+Session::~Session()
+{
+    if (!m_started)
+        return;
+    LedNimbraData_Release();
+    CCustomMessageBox::SetHandler({});
+    QCoreApplication::removeTranslator(&m_translator);
+}
+
+bool Session::Start(const QString& documents, QString* why)
+{
+    if (!m_private.isValid()) {
+        *why = m_private.errorString();
+        return false;
+    }
+    const QString folder = documents.isEmpty() ? m_private.filePath(QStringLiteral("Documents")) : documents;
+    if (!LeadTo(folder, why))
+        return false;
+    CCustomMessageBox::SetHandler(AnswerBox);
+    LedNimbraData_Init();
+    m_started = true;
+    Translate();
+    return true;
+}
+
+bool Session::LeadTo(const QString& documents, QString* why)
+{
+    if (documents.contains(QLatin1Char('\n')) || !QDir().mkpath(documents)) {
+        *why = QStringLiteral("cannot be the documents folder");
+        return false;
+    }
+    // The desktop's own way to say where the documents lie; the home folder, and with it the user's fonts,
+    // stay where they are.
+    const QString settings = m_private.filePath(QStringLiteral("config"));
+    const QString scratch = m_private.filePath(QStringLiteral("tmp"));
+    QFile file(settings + QStringLiteral("/user-dirs.dirs"));
+    const QByteArray line = "XDG_DOCUMENTS_DIR=\"" + QFile::encodeName(documents) + "\"\n";
+    if (!QDir().mkpath(settings) || !QDir().mkpath(scratch) || !file.open(QIODevice::WriteOnly)
+        || file.write(line) != line.size() || !file.flush()) {
+        *why = QStringLiteral("no room for temporary files");
+        return false;
+    }
+    file.close();
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings));
+    qputenv("TMPDIR", QFile::encodeName(scratch));
+    if (QDir::cleanPath(DocumentsLocation()) == QDir::cleanPath(documents))
+        return true;
+    *why = QStringLiteral("this platform keeps its own documents folder");
+    return false;
+}
+
+void Session::Translate()
+{
+    const QString path = GetConfigData()->GetLanguageFilePath();
+    if (QFile::exists(path) && m_translator.load(path))
+        QCoreApplication::installTranslator(&m_translator);
+}

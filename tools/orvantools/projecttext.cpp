@@ -1,0 +1,116 @@
+#include "orvantools/projecttext.h"
+
+#include <OrvanData/orvandata.h>
+
+#include <QHostAddress>
+#include <QStringList>
+
+namespace OrvanTools {
+
+namespace {
+
+constexpr int kLabelWidth = 16;
+
+QString Row(const char* label, const QString& value)
+{
+    return QString::fromLatin1(label).leftJustified(kLabelWidth) + value + QLatin1Char('\n');
+}
+
+QString PrintRow(const char* label, const SPrintLine& line)
+{
+    if (line.text.isEmpty())
+        return {};
+    return Row(label, line.enable ? line.text : line.text + QStringLiteral(" (not printed)"));
+}
+
+QString SizeText(const QSize& size)
+{
+    return QString::number(size.width()) + QLatin1Char('x') + QString::number(size.height());
+}
+
+QString BoundText(const CTileSet& tiles)
+{
+    if (tiles.GetCount() == 0)
+        return QStringLiteral("-");
+    const QRect bound = tiles.GetBound(false, QSize());
+    return SizeText(bound.size()) + QStringLiteral(" at ") + QString::number(bound.left()) + QLatin1Char(',')
+           + QString::number(bound.top());
+}
+
+QString AddressText(unsigned long ip)
+{
+    return QHostAddress(static_cast<quint32>(ip)).toString();
+}
+
+QString BackupText(const CProjectData& project, const CPort& port)
+{
+    const int sender = project.GetScIndexByID(port.GetBackupSrcSenderId());
+    const QString name = port.GetBackupSrcIP() != 0 ? AddressText(port.GetBackupSrcIP())
+                         : sender >= 0              ? project.GetShowSenderName(sender, true)
+                                                    : QStringLiteral("an unknown sender");
+    return QStringLiteral("backup of ") + name + QStringLiteral(", port ")
+           + QString::number(port.GetBackupSrcPortIndex() + 1);
+}
+
+QString PortRow(const CProjectData& project, const CPort& port)
+{
+    const CTileSet& tiles = *port.GetPortProject()->GetTileSet();
+    int numbered = 0;
+    for (int i = 0; i < tiles.GetCount(); ++i)
+        numbered += tiles.GetTile(i)->HasSetConnectIndex() ? 1 : 0;
+    QStringList notes;
+    if (port.IsBackupDest())
+        notes.append(BackupText(project, port));
+    if (port.IsFlagLock())
+        notes.append(QStringLiteral("locked"));
+    if (!port.IsVisible())
+        notes.append(QStringLiteral("hidden"));
+
+    QString row = QStringLiteral("  ");
+    for (const int number : {port.GetPortIndex() + 1, tiles.GetCount(), numbered, tiles.GetRcvCount()})
+        row += QString::number(number).rightJustified(9) + QLatin1Char(' ');
+    row += QLatin1Char(' ') + BoundText(tiles).leftJustified(22) + notes.join(QStringLiteral(", "));
+    while (row.endsWith(QLatin1Char(' ')))
+        row.chop(1);
+    return row + QLatin1Char('\n');
+}
+
+QString SenderText(const CProjectData& project, int index)
+{
+    const CSender& sender = *project.GetSender(index);
+    QString title = project.GetShowSenderName(index, true) + QStringLiteral(", canvas ")
+                    + SizeText(sender.GetCanvasSize());
+    if (sender.GetNetSenderIP() != 0)
+        title += QStringLiteral(", ") + AddressText(sender.GetNetSenderIP());
+    if (index == project.GetCurSenderIndex())
+        title += QStringLiteral(", current");
+    QString text = QLatin1Char('\n') + Row(qPrintable(QStringLiteral("Sender %1").arg(index + 1)), title);
+    text += QStringLiteral("       port  cabinets  numbered receivers  layout\n");
+    for (int i = 0; i < sender.GetPortCount(); ++i)
+        text += PortRow(project, *sender.GetPort(i));
+    return text;
+}
+
+} // namespace
+
+QString SummarizeProject(const CProjectData& project)
+{
+    const SPrintFormData& form = *project.GetPrintSetData();
+    QString text = PrintRow("Project", form.projectName) + PrintRow("Designer", form.designer)
+                   + PrintRow("Design date", form.designDate) + PrintRow("Approver", form.approver)
+                   + PrintRow("Approve date", form.approveDate);
+    if (project.GetDemoModeEnable())
+        text += Row("Demo mode", QStringLiteral("sender type %1").arg(project.GetDemoSenderType()));
+    text += Row("Senders", QString::number(project.GetSenderCount()));
+    for (int i = 0; i < project.GetSenderCount(); ++i)
+        text += SenderText(project, i);
+    const QList<SParameterFileInfo> files = project.GetParameterFiles();
+    if (!files.isEmpty())
+        text += QStringLiteral("\nParameter files\n");
+    for (const SParameterFileInfo& file : files)
+        text += QStringLiteral("  ") + file.type.ToString() + QStringLiteral("  ") + file.name
+                + QLatin1Char('\n');
+    return text;
+}
+
+} // namespace OrvanTools
