@@ -27,6 +27,7 @@ struct Command
 {
     const char* name;
     const char* files; ///< positional arguments as the usage line shows them
+    const char* filesHelp;
     int leastFiles;
     int mostFiles;
     const char* summary;

@@ -58,5 +58,7 @@ int Run(const Invocation& invocation)
 } // namespace
 
 const Command kDemoCommand = {
-    "demo",     "[DIR]", 0,    1,    "Build the sample wall end to end in a folder, orvan-demo by default.",
-    AddOptions, Run,     true, false};
+    "demo",     "[DIR]", "Where the project and its drawing go, orvan-demo by default.",
+    0,          1,       "Build the sample wall end to end.",
+    AddOptions, Run,     true,
+    false};

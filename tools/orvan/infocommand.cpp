@@ -40,5 +40,7 @@ int Run(const Invocation& invocation)
 
 } // namespace
 
-const Command kInfoCommand = {"info",     "FILE", 1,     1,    "What a project file holds.",
-                              AddOptions, Run,    false, false};
+const Command kInfoCommand = {"info",     "FILE", "A project archive or a bare project document.",
+                              1,          1,      "What a project file holds.",
+                              AddOptions, Run,    false,
+                              false};

@@ -31,6 +31,13 @@ void UseUtf8WithoutLocale()
         QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
+/// What the frameworks below have to grumble is no concern of whoever reads this program's errors.
+void DropFrameworkWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        Fail(StatusFile, QString(), text);
+}
+
 QStringList Arguments(int argc, char** argv)
 {
     QStringList arguments{QStringLiteral("orvan")};
@@ -41,8 +48,8 @@ QStringList Arguments(int argc, char** argv)
 
 void AddCommonOptions(QCommandLineParser& parser)
 {
-    parser.addHelpOption();
-    parser.addVersionOption();
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")});
+    parser.addOption({{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")});
     parser.addOption({QStringLiteral("documents"),
                       QStringLiteral("Work in this documents folder and keep it, instead of a private one."),
                       QStringLiteral("DIR")});
@@ -78,6 +85,24 @@ int UsageFault(const QString& what)
     return Fail(StatusUsage, QString(), what + QStringLiteral("; see orvan --help"));
 }
 
+QString ParserFault(const QCommandLineParser& parser)
+{
+    const QString text = parser.errorText().section(QLatin1Char('\n'), 0, 0);
+    return text.endsWith(QLatin1Char('.')) ? text.chopped(1) : text;
+}
+
+bool ShowHelpOrVersion(const QCommandLineParser& parser)
+{
+    const bool help = parser.isSet(QStringLiteral("help"));
+    if (help)
+        Print(parser.helpText());
+    else if (parser.isSet(QStringLiteral("version")))
+        Print(QStringLiteral("orvan " ORVAN_VERSION "\n"));
+    else
+        return false;
+    return true;
+}
+
 /// Runs a command whose arguments are in order, in the documents folder it wants.
 int RunCommand(const Command& command, const QCommandLineParser& parser)
 {
@@ -105,15 +130,14 @@ int Dispatch(const Command& command, const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(QLatin1String(command.summary));
     AddCommonOptions(parser);
-    parser.addPositionalArgument(QLatin1String(command.name), QString(), QLatin1String(command.name));
-    parser.addPositionalArgument(QLatin1String(command.files), QString(), QLatin1String(command.files));
+    parser.addPositionalArgument(QLatin1String(command.files), QLatin1String(command.filesHelp),
+                                 QLatin1String(command.name) + QLatin1Char(' ')
+                                     + QLatin1String(command.files));
     command.addOptions(parser);
     if (!parser.parse(arguments))
-        return UsageFault(parser.errorText().section(QLatin1Char('\n'), 0, 0));
-    if (parser.isSet(QStringLiteral("help"))) {
-        Print(parser.helpText());
+        return UsageFault(ParserFault(parser));
+    if (ShowHelpOrVersion(parser))
         return StatusDone;
-    }
     const int files = parser.positionalArguments().size() - 1;
     if (files < command.leastFiles || files > command.mostFiles)
         return UsageFault(QStringLiteral("usage is orvan %1 %2")
@@ -127,6 +151,7 @@ int Dispatch(const Command& command, const QStringList& arguments)
 
 int main(int argc, char** argv)
 {
+    qInstallMessageHandler(DropFrameworkWarnings);
     UseUtf8WithoutLocale();
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -154,17 +179,11 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(ORVAN_VERSION));
 
     if (!parsed)
-        return UsageFault(overview.errorText().section(QLatin1Char('\n'), 0, 0));
+        return UsageFault(ParserFault(overview));
     if (command)
         return Dispatch(*command, arguments);
-    if (overview.isSet(QStringLiteral("version"))) {
-        Print(QStringLiteral("orvan " ORVAN_VERSION "\n"));
+    if (ShowHelpOrVersion(overview))
         return StatusDone;
-    }
-    if (overview.isSet(QStringLiteral("help"))) {
-        Print(overview.helpText());
-        return StatusDone;
-    }
     return UsageFault(name.isEmpty() ? QStringLiteral("no command given")
                                      : QStringLiteral("unknown command '%1'").arg(name));
 }

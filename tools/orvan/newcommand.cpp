@@ -109,5 +109,7 @@ int Run(const Invocation& invocation)
 
 } // namespace
 
-const Command kNewCommand = {"new",      "OUT.prj", 1,     1,    "Make a project from a cabinet block.",
-                             AddOptions, Run,       false, false};
+const Command kNewCommand = {"new",      "OUT.prj", "The project archive to write.",
+                             1,          1,         "Make a project from a cabinet block.",
+                             AddOptions, Run,       false,
+                             false};

@@ -89,6 +89,7 @@ int Run(const Invocation& invocation)
 
 } // namespace
 
-const Command kProductsCommand = {
-    "products", "[DIR]", 0,     1,   "What a product folder holds, the user's own by default.",
-    AddOptions, Run,     false, true};
+const Command kProductsCommand = {"products", "[DIR]", "The product folder, the user's own by default.",
+                                  0,          1,       "What a product folder holds.",
+                                  AddOptions, Run,     false,
+                                  true};

@@ -226,7 +226,9 @@ bool SampleWall::FillForm()
     SPrintFormData& form = *GetProjectData()->GetPrintSetData();
     form.projectName = {true, QStringLiteral("Sample wall 示例屏幕")};
     form.designer = {true, QStringLiteral("orvan demo")};
-    return Done(true, QStringLiteral("filled in the printed form"));
+    for (int i = 0; i < m_sender->GetPortCount(); ++i)
+        m_sender->GetPort(i)->GetPortProject()->CancelAllSelected(); // a selection is not saved
+    return Done(true, QStringLiteral("filled in the printed form and let go of the selection"));
 }
 
 bool IsSameProject(const CProjectData& a, const CProjectData& b, QString* difference)

@@ -1,0 +1,228 @@
+#include "support/testfolder.h"
+#include "tools/runorvan.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QStandardPaths>
+
+#include <cmath>
+
+namespace {
+
+/// The path of the first value of `expected` that `actual` lacks or has otherwise; empty when it has all.
+QString FirstMissing(const QJsonValue& expected, const QJsonValue& actual, const QString& path)
+{
+    if (expected.isObject()) {
+        for (const QString& key : expected.toObject().keys()) {
+            const QString below =
+                FirstMissing(expected.toObject()[key], actual.toObject()[key], path + QLatin1Char('/') + key);
+            if (!below.isEmpty())
+                return below;
+        }
+        return actual.isObject() ? QString() : path;
+    }
+    if (expected.isArray()) {
+        const QJsonArray list = expected.toArray();
+        if (list.size() != actual.toArray().size() || !actual.isArray())
+            return path;
+        for (int i = 0; i < list.size(); ++i) {
+            const QString below =
+                FirstMissing(list[i], actual.toArray()[i], path + QLatin1Char('/') + QString::number(i));
+            if (!below.isEmpty())
+                return below;
+        }
+        return {};
+    }
+    const double number = expected.toDouble();
+    const bool same = expected.isDouble() && actual.isDouble()
+                          ? std::abs(number - actual.toDouble()) <= 1e-5 * std::abs(number)
+                          : expected == actual;
+    return same ? QString() : path;
+}
+
+QJsonObject ReadJson(const QString& path)
+{
+    return QJsonDocument::fromJson(ReadFile(path)).object();
+}
+
+QString Arg(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+QStringList Args(std::initializer_list<const char*> texts)
+{
+    QStringList list;
+    for (const char* text : texts)
+        list.append(Arg(text));
+    return list;
+}
+
+int ErrorLines(const OrvanRun& run)
+{
+    return run.errors.count(QLatin1Char('\n'));
+}
+
+} // namespace
+
+TEST(CommandTest, InfoGivesEveryValueOfTheSampleWalls)
+{
+    for (const char* sample : {"small-wall.prj", "small-wall.xml"}) {
+        const QString file = SamplePath(sample);
+        const OrvanRun run = RunOrvan({Arg("info"), file, Arg("--json"), Arg("--tiles")});
+        ASSERT_EQ(run.status, 0) << qPrintable(run.errors);
+        const QJsonObject expected = ReadJson(file + Arg(".json"));
+        ASSERT_FALSE(expected.isEmpty());
+        EXPECT_EQ(FirstMissing(expected, run.Json(), QString()), QString()) << sample;
+        EXPECT_EQ(run.errors, QString());
+    }
+}
+
+TEST(CommandTest, UnreadableProjectsAreRefusedWithOneLineAndLeaveNothing)
+{
+    TestFolder folder;
+    const QString evil = folder.Path(Arg("a/b/c"));
+    QDir().mkpath(evil);
+    const auto before = Snapshot(folder.Path());
+    const struct
+    {
+        QString file;
+        const char* reason;
+    } cases[] = {
+        {SamplePath("too-new.prj"), "7.0"}, {SamplePath("truncated.prj"), ""},
+        {SamplePath("climbing.prj"), ""},   {SamplePath("absent.prj"), ""},
+        {folder.Path(), "folder"},
+    };
+    for (const auto& c : cases) {
+        const OrvanRun run = RunOrvan({Arg("info"), c.file}, QString(), {Arg("TMPDIR=") + evil});
+        EXPECT_EQ(run.status, 3) << qPrintable(c.file);
+        EXPECT_TRUE(run.errors.startsWith(Arg("orvan: ") + c.file + Arg(": "))) << qPrintable(run.errors);
+        EXPECT_TRUE(run.errors.contains(Arg(c.reason))) << qPrintable(run.errors);
+        EXPECT_EQ(ErrorLines(run), 1) << qPrintable(run.errors);
+        EXPECT_TRUE(run.output.isEmpty());
+    }
+    EXPECT_EQ(Snapshot(folder.Path()), before);
+}
+
+TEST(CommandTest, AProjectReadInPartIsAWarning)
+{
+    TestFolder folder;
+    QByteArray content = ReadFile(SamplePath("small-wall.xml"));
+    content.replace("</LedSetting>", "<Whatever/></LedSetting>")
+        .replace("TileCount=\"12\"", "TileCount=\"99\"");
+    const QString file = folder.Write(Arg("partly.xml"), content);
+    const OrvanRun run = RunOrvan({Arg("info"), file});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_TRUE(run.errors.startsWith(Arg("orvan: ") + file + Arg(": warning: "))) << qPrintable(run.errors);
+    EXPECT_EQ(ErrorLines(run), 1);
+}
+
+TEST(CommandTest, WrongUsageEndsWithTwo)
+{
+    const QStringList wrong[] = {
+        Args({}),
+        Args({"paint"}),
+        Args({"--frobnicate"}),
+        Args({"info"}),
+        Args({"info", "a", "b"}),
+        Args({"info", "a", "--tiles"}),
+        Args({"info", "a", "--documents", ""}),
+        Args({"new", "a.prj", "--ports", "5"}),
+        Args({"new", "a.prj", "--ports", "0"}),
+        Args({"new", "a.prj", "--grid", "4x"}),
+        Args({"new", "a.prj", "--grid", "300x1"}),
+        Args({"new", "a.prj", "--cabinet", "1025x1"}),
+        Args({"new", "a.prj", "--order", "8"}),
+    };
+    TestFolder folder;
+    for (const QStringList& arguments : wrong) {
+        const OrvanRun run = RunOrvan(arguments, folder.Path());
+        EXPECT_EQ(run.status, 2) << qPrintable(arguments.join(QLatin1Char(' ')));
+        EXPECT_EQ(ErrorLines(run), 1) << qPrintable(run.errors);
+    }
+    EXPECT_TRUE(Snapshot(folder.Path()).isEmpty());
+}
+
+TEST(CommandTest, TheUsersFoldersStayAsTheyAreUnlessADocumentsFolderIsGiven)
+{
+    TestFolder home;
+    const QStringList environment{Arg("HOME=") + home.Path(), Arg("XDG_CONFIG_HOME="), Arg("XDG_DATA_HOME="),
+                                  Arg("TMPDIR=") + home.Path(Arg("tmp"))};
+    home.Write(Arg("Documents/Orvan/LedConfig/own.rcvbp"), "own");
+    home.Write(Arg("Documents/Orvan/LedConfig/sub/double.rcvbp"), "own");
+    QDir().mkpath(home.Path(Arg("tmp")));
+    const auto before = Snapshot(home.Path());
+    const QString file = SamplePath("small-wall.prj");
+    EXPECT_EQ(RunOrvan({Arg("info"), file}, QString(), environment).status, 0);
+
+    const QJsonArray products =
+        RunOrvan({Arg("products"), Arg("--json")}, QString(), environment).Json()[Arg("products")].toArray();
+    ASSERT_EQ(products.size(), 1);
+    EXPECT_EQ(products[0].toObject()[Arg("path")].toString(),
+              home.Path(Arg("Documents/Orvan/LedConfig/own.rcvbp")));
+    EXPECT_EQ(Snapshot(home.Path()), before);
+
+    const QString documents = home.Path(Arg("elsewhere 屏"));
+    for (const QStringList& arguments : {QStringList{Arg("--documents"), documents, Arg("info"), file},
+                                         QStringList{Arg("info"), Arg("--documents=") + documents, file}}) {
+        EXPECT_EQ(RunOrvan(arguments, QString(), environment).status, 0);
+        EXPECT_TRUE(QFile::exists(documents + Arg("/Orvan/LedConfig/箱体A128.rcvbp")));
+        EXPECT_TRUE(QDir(documents).removeRecursively());
+    }
+    EXPECT_EQ(Snapshot(home.Path()), before);
+}
+
+TEST(CommandTest, NewSharesTheColumnsOutAndAlternatesTheTypes)
+{
+    TestFolder folder;
+    const QString a = folder.Write(Arg("箱 A.rcvbp"), "a");
+    const QString b = folder.Write(Arg("b.dat"), "b");
+    // In the C locale, where file names beyond ASCII are easily lost.
+    const QStringList locale{Arg("LC_ALL=C")};
+    const QStringList make{Arg("new"),       Arg("墙.prj"),
+                           Arg("--grid"),    Arg("7x2"),
+                           Arg("--ports"),   Arg("3"),
+                           Arg("--product"), a,
+                           Arg("--product"), b,
+                           Arg("--order"),   Arg("5"),
+                           Arg("--name"),    Arg("舞台")};
+    ASSERT_EQ(RunOrvan(make, folder.Path(), locale).status, 0);
+    const QJsonObject info =
+        RunOrvan({Arg("info"), Arg("墙.prj"), Arg("--json"), Arg("--tiles")}, folder.Path(), locale).Json();
+    const QJsonObject sender = info[Arg("senders")].toArray()[0].toObject();
+    EXPECT_EQ(sender[Arg("name")].toString(), Arg("舞台"));
+    EXPECT_EQ(sender[Arg("portCount")].toInt(), 4);
+    const QJsonArray ports = sender[Arg("ports")].toArray();
+    const int cabinets[] = {6, 4, 4, 0};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(ports[i].toObject()[Arg("cabinets")].toInt(), cabinets[i]);
+        EXPECT_EQ(ports[i].toObject()[Arg("numbered")].toInt(), cabinets[i]);
+    }
+    const QJsonArray files = info[Arg("parameterFiles")].toArray();
+    ASSERT_EQ(files.size(), 2);
+    for (const QJsonValue& tile : ports[1].toObject()[Arg("tiles")].toArray()) {
+        const int column = tile.toObject()[Arg("x")].toInt() / 128;
+        EXPECT_EQ(tile.toObject()[Arg("type")], files[column % 2].toObject()[Arg("type")]);
+    }
+
+    const QByteArray first = ReadFile(folder.Path(Arg("墙.prj")));
+    EXPECT_EQ(RunOrvan(make, folder.Path(), locale).status, 3);
+    EXPECT_EQ(ReadFile(folder.Path(Arg("墙.prj"))), first);
+    EXPECT_EQ(RunOrvan({Arg("new"), Arg("墙.prj"), Arg("--force")}, folder.Path(), locale).status, 0);
+    EXPECT_NE(ReadFile(folder.Path(Arg("墙.prj"))), first);
+}
+
+TEST(CommandTest, DemoEndsWithAProjectThatIsThere)
+{
+    TestFolder folder;
+    for (int i = 0; i < 2; ++i) { // over the files of the first run the second time
+        const OrvanRun run = RunOrvan({Arg("demo"), Arg("here")}, folder.Path());
+        ASSERT_EQ(run.status, 0) << qPrintable(run.errors);
+        EXPECT_TRUE(QFile::exists(folder.Path(Arg("here/sample-wall.prj"))));
+    }
+    EXPECT_EQ(RunOrvan({Arg("info"), Arg("here/sample-wall.prj")}, folder.Path()).status, 0);
+}
