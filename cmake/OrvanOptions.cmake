@@ -16,6 +16,11 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 
+# An installation can be moved as a whole. The system's own folders need no search path.
+if(NOT CMAKE_INSTALL_PREFIX STREQUAL /usr)
+    set(CMAKE_INSTALL_RPATH $ORIGIN $ORIGIN/../${CMAKE_INSTALL_LIBDIR})
+endif()
+
 add_library(OrvanWarnings INTERFACE)
 target_compile_options(OrvanWarnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                        $<$<BOOL:${ORVANDATA_WERROR}>:-Werror>)

@@ -1,0 +1,37 @@
+# What an installation holds beside the libraries and their headers: the command with its manual page, and
+# how other projects find the library (CMake package, pkg-config file).
+include(CMakePackageConfigHelpers)
+
+set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OrvanData)
+configure_package_config_file(cmake/OrvanDataConfig.cmake.in OrvanDataConfig.cmake INSTALL_DESTINATION ${config_dir})
+write_basic_package_version_file(OrvanDataConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/OrvanDataConfig.cmake ${PROJECT_BINARY_DIR}/OrvanDataConfigVersion.cmake
+        DESTINATION ${config_dir} COMPONENT development)
+install(EXPORT OrvanDataTargets NAMESPACE OrvanData:: DESTINATION ${config_dir} COMPONENT development)
+
+# The file names its prefix relative to itself, so that a moved installation is found too.
+file(RELATIVE_PATH prefix_of_pc ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" prefix_of_pc ${prefix_of_pc})
+if(NOT ORVANDATA_KRXCONTROL_TARGET)
+    set(krxcontrol_cflags "-I\${includedir}/krxcontrol")
+    set(krxcontrol_libs "-lKRXControl")
+endif()
+configure_file(cmake/orvandata.pc.in orvandata.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/orvandata.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
+if(TARGET orvan)
+    install(TARGETS orvan RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    install(FILES docs/orvan.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+endif()
+
+# The installation is tried as another project would use it, in a folder of the build tree. A library built with
+# sanitizers wants its user built with them too, so it is left out there.
+if(ORVANDATA_TESTS AND NOT ORVANDATA_SANITIZE)
+    foreach(phase install headers host pkgconfig)
+        add_test(NAME installed_${phase}
+                 COMMAND ${PROJECT_SOURCE_DIR}/cmake/try_installation.sh ${phase} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
+    endforeach()
+    set_tests_properties(installed_install PROPERTIES FIXTURES_SETUP installation)
+    set_tests_properties(installed_headers installed_host installed_pkgconfig
+                         PROPERTIES FIXTURES_REQUIRED installation)
+endif()

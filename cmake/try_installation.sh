@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# Uses an installation as another project would: try_installation.sh PHASE SOURCE_DIR BUILD_DIR
+set -euo pipefail
+phase=$1 source=$2 build=$3
+stage=$build/installed
+example=$build/example-host
+
+find_pkgconfig() {
+    PKG_CONFIG_PATH=$(dirname "$(find "$stage" -name orvandata.pc)")
+    export PKG_CONFIG_PATH
+}
+
+# The example leaves files in the documents folder, so it gets a home of its own.
+run_example() {
+    local home
+    home=$(mktemp -d)
+    # shellcheck disable=SC2064  # this home, whatever comes later
+    trap "rm -rf '$home'" EXIT
+    HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=offscreen "$1" "$home"
+}
+
+case $phase in
+    install)
+        rm -rf "$stage" "$example"
+        cmake --install "$build" --prefix "$stage" >/dev/null
+        ;;
+    headers)
+        find_pkgconfig
+        flags=$(pkg-config --cflags orvandata)
+        # shellcheck disable=SC2086  # flags are words
+        (cd "$stage/include" && find . -name '*.h' -printf '%P\n') | sort |
+            xargs -P "$(nproc)" -I{} sh -c 'echo "#include <$0>" |
+                g++ -x c++ -std=c++17 -fsyntax-only -Wall -Wextra -Werror "$@" - || exit 255' {} $flags
+        ;;
+    host)
+        cmake -S "$source/examples/host" -B "$example" -DCMAKE_PREFIX_PATH="$stage" -DCMAKE_BUILD_TYPE=Debug >/dev/null
+        cmake --build "$example"
+        run_example "$example/orvandata-host"
+        ;;
+    pkgconfig)
+        find_pkgconfig
+        flags=$(pkg-config --cflags --libs orvandata)
+        # shellcheck disable=SC2086
+        g++ -std=c++17 "$source/examples/host/main.cpp" -o "$build/example-pkgconfig" $flags \
+            -Wl,-rpath,"$(pkg-config --variable=libdir orvandata)"
+        run_example "$build/example-pkgconfig"
+        ;;
+    *)
+        echo "unknown phase: $phase" >&2
+        exit 2
+        ;;
+esac
