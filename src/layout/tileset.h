@@ -99,10 +99,17 @@ public:
     bool CanDrawCnntLine(int pixels) const;          ///< some tile is wider and higher than that
     /// Numbers the next tile in the direction of a Qt arrow key behind the end of the chain.
     bool DirectionKeyConnection(unsigned long key);
+    /// Moves the calibration mark to the receiving card next to it and gives that card's place in the chain,
+    /// -1 when it has none; without a mark to the card nearest the origin. False: nothing lies there.
     bool DirectionKeyDemarcateTile(unsigned long key, int& receiver);
+    /// The nearest tile that begins beyond the centre of `from` and shares a row (column) with it, or null;
+    /// from an empty rectangle the tile nearest the origin. `byReceiver` goes by receiving cards and marks
+    /// the one found.
     CTile* GetDirectionTile(const QRect& from, unsigned long key, bool onlyUnnumbered, bool byReceiver);
     bool AutoConnection(EnAutoNumberType type, int unused); ///< false when no tile was numbered
-    bool AutoConnectGetSize(QSize& cell) const;
+    bool AutoConnectGetSize(QSize& cell) const; ///< of the grid: the common size, else the smallest; or false
+    /// Numbers the unnumbered tiles whose centre lies in `rect` from `next` on, which moves along. Codes: 0
+    /// and 1 right, 2 and 3 left, 4 and 5 down, 6 and 7 up. `cell` takes no part. False: none numbered.
     bool NumberSetRect(int& next, const QRect& rect, const QSize& cell, int direction);
     int GetConnectionType() const; ///< the pattern whose numbering equals the present one, else -1
     bool CanSnapToRcvsMulti() const;
