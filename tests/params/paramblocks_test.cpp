@@ -333,6 +333,7 @@ TEST(ParamBlocksTest, InputsThatAreAbsentOrIncompleteAreReadAsFarAsTheyGo)
     ASSERT_EQ(videos.size(), 2);
     EXPECT_EQ(videos[0].cardSlot, 4);
     EXPECT_EQ(videos[0].videoIndexOnCard, -1);
+    EXPECT_EQ(videos[0].sourceType, 0) << "absent from its part, where no other part repeats it";
     SInputVideoParam expected;
     expected.cropX = -1;
     EXPECT_EQ(videos[1], expected);

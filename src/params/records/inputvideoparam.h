@@ -72,7 +72,7 @@ private:
         f.Group("inputVideoSignalParamXmlRoot", [&] {
             f.Key("inputVideoSignalVideoCardSlot", r.cardSlot...);
             f.Key("inputVideoSignalVideoIndexOnCard", r.videoIndexOnCard...);
-            f.Key("inputVideoSignalSourceType", r.sourceType...);
+            f.Field("inputVideoSignalSourceType", r.sourceType...);
             f.Field("inputVideoSignalbNoDelay", r.noDelay...);
             f.Field("inputVideoSignalbGrayExpand", r.grayExpand...);
         });
