@@ -62,8 +62,8 @@ struct SHDRSetInfo : WalkedRecord<SHDRSetInfo>
 
     template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
     {
-        f.Field("HDRKnown", r.known...);
-        f.Field("HDRLedBrightness", r.ledBrightness...);
+        f.Unnamed(r.known...);
+        f.Unnamed(r.ledBrightness...);
     }
 };
 
