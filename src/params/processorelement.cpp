@@ -58,7 +58,8 @@ void WriteHotBackup(ElementWriter& writer, const SInputVideoHotBackup& backup)
 bool ReadHotBackup(const QDomElement& element, CSender& sender)
 {
     ElementReader reader(element);
-    if (reader.Child(QLatin1String(kHotBackupCount)).isNull())
+    if (reader.Child(QLatin1String(kHotBackupEnable)).isNull()
+        && reader.Child(QLatin1String(kHotBackupCount)).isNull())
         return false;
     SInputVideoHotBackup backup;
     SInputVideoHotBackup::Walk(reader, backup);

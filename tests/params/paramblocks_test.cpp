@@ -452,6 +452,26 @@ TEST(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
     EXPECT_EQ(qstrlen(groups.groups[0].name.data()), 61U) << "no half character";
 }
 
+TEST(ParamBlocksTest, HotBackupIsReadFromEitherPlaceAlsoWithoutACount)
+{
+    CSender sender;
+    const QByteArray enable = "<outputOtherParamHotBackup>1</outputOtherParamHotBackup>";
+    const QByteArray pairs = "<hotbackupCount>9</hotbackupCount><hotbackupId4>7</hotbackupId4>"
+                             "<hotbackupMaincutID4>3</hotbackupMaincutID4>";
+    for (const QByteArray& values : {enable, enable + pairs}) {
+        for (const QByteArray& content :
+             {values, "<OtherParam><AdvancedParam>" + values + "</AdvancedParam></OtherParam>"}) {
+            sender.SetHotBackupInfo(SInputVideoHotBackup());
+            Block block("<SenderType>0</SenderType>" + content);
+            ASSERT_EQ(ReadSingleProcessorParam(block.document, &block.root, &sender), kDone);
+            const SInputVideoHotBackup backup = sender.GetHotBackupInfo();
+            EXPECT_TRUE(backup.enable) << content.constData();
+            ASSERT_EQ(backup.pairs.size(), values == enable ? 0 : 1) << content.constData();
+            EXPECT_EQ(backup.pairs.isEmpty() ? 3 : backup.pairs[0].main.cutId, 3);
+        }
+    }
+}
+
 TEST(ParamBlocksTest, LedLuminancesAreReadUnderOneNameOrNumbered)
 {
     const QByteArray red = "ColorRedoutputExactColorLedcaliAfter_ledLimu";

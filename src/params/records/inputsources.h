@@ -56,6 +56,7 @@ struct SHotBackupSource : WalkedRecord<SHotBackupSource>
     }
 };
 
+constexpr const char* kHotBackupEnable = "outputOtherParamHotBackup";
 constexpr const char* kHotBackupId = "hotbackupId";
 
 /// An input and the one that takes its place when it fails.
@@ -86,7 +87,7 @@ struct SInputVideoHotBackup : WalkedRecord<SInputVideoHotBackup>
 
     template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
     {
-        f.Field("outputOtherParamHotBackup", r.enable...);
+        f.Field(kHotBackupEnable, r.enable...);
         f.Unnamed(r.pairs...);
     }
 };
