@@ -306,11 +306,9 @@ quint32 ImportProcessorParam(ParamsLookup& lookup, const QString& path, const QU
     const QDomElement root = LoadRoot(ProcessorFamily(), lookup, path, document);
     if (root.isNull())
         return kFailed;
+    // As a result the basic block knows only done and failed; the reason is in the message.
     const quint32 result = ImportProcessorBlocks(document, SingleProcessor(root), sender);
-    if (result != kDone)
-        lookup.SetFileError(
-            ImportResultText(kImportFailed)); // which the block has told the user in its words
-    return result;
+    return Told(lookup, result) == kDone ? kDone : kFailed;
 }
 
 quint32 GetIntFromOctString(const QString& text)

@@ -188,7 +188,7 @@ quint32 ImportProcessorBlocks(QDomDocument& document, const QDomElement& element
             LoadBlock(document, child, sender);
             continue;
         }
-        const quint32 result = LoadBasicInfoParam(document, &child, sender);
+        const quint32 result = CheckBasicInfo(child, *sender);
         if (result != kDone)
             return result;
     }

@@ -18,7 +18,8 @@ quint32 WriteSingleProcessorParam(QDomDocument& document, QDomElement* element, 
 quint32 ReadSingleProcessorParam(QDomDocument& document, const QDomElement* element, CSender* sender);
 
 /// The import of a single-processor file: its basic, output, group, input, device and other blocks in the
-/// order of the document. Ends, with a message, at a basic block that does not fit, whose result it gives.
+/// order of the document. Ends at a basic block that does not fit, whose kTypeDiffers or kImportFailed it
+/// gives. Shows no message.
 quint32 ImportProcessorBlocks(QDomDocument& document, const QDomElement& element, CSender* sender);
 
 } // namespace params

@@ -340,6 +340,11 @@ TEST(ParamFileTest, FileWithoutMarkIsOneOfASingleSender)
     EXPECT_EQ(messages.Take(), QStringList{kImportFailedText});
     EXPECT_TRUE(second.IsSignalAbnormal());
     EXPECT_EQ(second.GetVSyncInfo().syncSource, 0);
+    Replace(processor, "<basicInfoParamsXmlRoot/>",
+            "<basicInfoParamsXmlRoot><DeviceType>17</DeviceType></basicInfoParamsXmlRoot>");
+    EXPECT_EQ(ImportMutiProcessorParam(project, processor, second.GetId()), kFailed);
+    EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
+    EXPECT_EQ(project.error, kTypeDiffersText);
 }
 
 TEST(ParamFileTest, DamagedFilesFailWithTheirReason)
