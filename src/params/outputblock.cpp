@@ -46,10 +46,9 @@ template <class Fields> void DescribeSplice(Fields& f, int& width, int& height)
     f.Field("outputSpliceInfoCanvasHeight", height);
 }
 
-/// `picture` is that of the sender's device class.
-template <class Fields, class Data, class Picture>
-void DescribeColorBright(Fields& f, Data& data, Picture& picture, std::array<quint8, 3>& rgb)
+template <class Fields, class Data> void DescribeColorBright(Fields& f, Data& data, Rgb& rgb)
 {
+    auto& picture = data.Picture();
     f.Field("outputBrightColorBright", picture.brightness);
     f.Field("outputBrightColorContrast", picture.contrast);
     f.Field("outputBrightColorBrightnessCompensation", picture.brightComp);
@@ -186,8 +185,8 @@ quint32 SaveOneGroupParam(QDomDocument& document, QDomElement* element, int grou
     writer.Group(FieldName(kLayerRoot) + group, [&] { WriteLayers(writer, data); });
     WriteCuttingLines(writer, data);
     writer.Group(kColorBrightRoot, [&] {
-        std::array<quint8, 3> rgb = RgbOf(data);
-        DescribeColorBright(writer, data, data.Picture(), rgb);
+        Rgb rgb = RgbOf(data);
+        DescribeColorBright(writer, data, rgb);
     });
     writer.Record(kExactColorRoot, data.exactColor);
     writer.Group(kOtherOutputRoot, [&] { DescribeOther(writer, data); });
@@ -231,8 +230,8 @@ quint32 LoadOutputColorBrightParam(QDomDocument&, const QDomElement* element, in
     ElementReader reader(*element);
     reader.Group(kColorBrightRoot, [&] {
         SenderParamData& data = sender->Params();
-        std::array<quint8, 3> rgb{};
-        DescribeColorBright(reader, data, data.Picture(), rgb);
+        Rgb rgb{};
+        DescribeColorBright(reader, data, rgb);
         data.curColorRgb = QColor(rgb[0], rgb[1], rgb[2]);
     });
     return kDone;

@@ -34,9 +34,9 @@ template <class Fields, class Data> void DescribeHdr(Fields& f, Data& data)
     });
 }
 
-template <class Fields, class Data, class Picture>
-void DescribePicture(Fields& f, Data& data, Picture& picture, Rgb& rgb)
+template <class Fields, class Data> void DescribePicture(Fields& f, Data& data, Rgb& rgb)
 {
+    auto& picture = data.Picture();
     f.Group("PictureParam", [&] {
         f.Group("Brightness", [&] {
             f.Group("BrightParam", [&] {
@@ -84,7 +84,7 @@ template <class Fields, class Data> void DescribeRest(Fields& f, Data& data, Rgb
         f.Group(kAdvancedRoot, [&] { DescribeAdvanced(f, data); });
         DescribeHdr(f, data);
     });
-    DescribePicture(f, data, data.Picture(), rgb);
+    DescribePicture(f, data, rgb);
 }
 
 void WriteOutput(ElementWriter& writer, const CSender& sender, const SenderParamData& data)
