@@ -9,27 +9,38 @@ namespace params {
 
 namespace {
 
-constexpr const char* kCubeEnable = "ColorCubeEnable";
-constexpr const char* kCubeCount = "BoardCount";
-constexpr const char* kCubeEntry = "ColorCubeBoard";
-constexpr const char* kCurveEnable = "ColorCurveEnable";
-constexpr const char* kCurveCount = "boardCount"; // in lower case, unlike that of the cubes
-constexpr const char* kCurveEntry = "ColorCurveBoard";
+struct BlockNames
+{
+    const char* enable; ///< of the whole sender; each entry has one of the same name
+    const char* count;
+    const char* entry; ///< and its number from 0 on
+};
+
+constexpr BlockNames kCubeNames{"ColorCubeEnable", "BoardCount", "ColorCubeBoard"};
+// The count in lower case, unlike that of the cubes.
+constexpr BlockNames kCurveNames{"ColorCurveEnable", "boardCount", "ColorCurveBoard"};
 constexpr const char* kToAllSignal = "ToAllSignal";
 
 template <class Entry>
-void WriteEntries(ElementWriter& writer, const char* countName, const char* name, const QList<Entry>& entries)
+void WriteBlock(ElementWriter& writer, const BlockNames& names, bool enable, bool allSignal,
+                const QList<Entry>& entries)
 {
-    writer.Field(countName, entries.size());
+    writer.Field(names.enable, enable);
+    writer.Field(kToAllSignal, allSignal);
+    writer.Field(names.count, entries.size());
     for (int i = 0; i < entries.size(); ++i)
-        writer.Record(FieldName(name) + i, entries[i]);
+        writer.Record(FieldName(names.entry) + i, entries[i]);
 }
 
 template <class Entry>
-void ReadEntries(ElementReader& reader, const char* countName, const char* name, QList<Entry>& entries)
+void ReadBlock(ElementReader& reader, const BlockNames& names, bool& enable, bool& allSignal,
+               QList<Entry>& entries)
 {
+    reader.Field(names.enable, enable);
+    reader.Field(kToAllSignal, allSignal);
     entries.clear();
-    const auto elements = reader.NumberedChildren(QLatin1String(name), 0, reader.Value<int>(countName));
+    const int count = reader.Value<int>(names.count);
+    const auto elements = reader.NumberedChildren(QLatin1String(names.entry), 0, count);
     for (const auto& numbered : elements) {
         Entry entry;
         ElementReader fields(numbered.second, reader.WithSource());
@@ -46,11 +57,8 @@ quint32 SaveColorCubeParam(QDomDocument& document, QDomElement* parent, const CS
         return kFailed;
     const SenderParamData& data = sender->Params();
     ElementWriter writer(document, *parent, perSource);
-    writer.Group(kColorCubeRoot, [&] {
-        writer.Field(kCubeEnable, data.cubeEnable);
-        writer.Field(kToAllSignal, data.cubeAllSignal);
-        WriteEntries(writer, kCubeCount, kCubeEntry, data.cubes);
-    });
+    writer.Group(kColorCubeRoot,
+                 [&] { WriteBlock(writer, kCubeNames, data.cubeEnable, data.cubeAllSignal, data.cubes); });
     return kDone;
 }
 
@@ -60,9 +68,7 @@ quint32 LoadColorCubeParam(QDomDocument&, const QDomElement& element, CSender* s
         return kFailed;
     SenderParamData& data = sender->Params();
     ElementReader reader(SelfOrChild(element, kColorCubeRoot), perSource);
-    reader.Field(kCubeEnable, data.cubeEnable);
-    reader.Field(kToAllSignal, data.cubeAllSignal);
-    ReadEntries(reader, kCubeCount, kCubeEntry, data.cubes);
+    ReadBlock(reader, kCubeNames, data.cubeEnable, data.cubeAllSignal, data.cubes);
     return kDone;
 }
 
@@ -73,9 +79,7 @@ quint32 SaveColorCurveParam(QDomDocument& document, QDomElement* parent, const C
         return kFailed;
     const SenderParamData& data = sender->Params();
     ElementWriter writer(document, *parent, perSource);
-    writer.Field(kCurveEnable, data.curveEnable);
-    writer.Field(kToAllSignal, data.curveAllSignal);
-    WriteEntries(writer, kCurveCount, kCurveEntry, data.curves);
+    WriteBlock(writer, kCurveNames, data.curveEnable, data.curveAllSignal, data.curves);
     return kDone;
 }
 
@@ -85,17 +89,15 @@ quint32 LoadColorCurveParam(QDomDocument&, const QDomElement& element, CSender* 
         return kFailed;
     SenderParamData& data = sender->Params();
     ElementReader reader(SelfOrChild(element, kColorCurveRoot), perSource);
-    reader.Field(kCurveEnable, data.curveEnable);
-    reader.Field(kToAllSignal, data.curveAllSignal);
-    ReadEntries(reader, kCurveCount, kCurveEntry, data.curves);
+    ReadBlock(reader, kCurveNames, data.curveEnable, data.curveAllSignal, data.curves);
     return kDone;
 }
 
 bool HasColorCurveParam(const QDomElement& element)
 {
     const QDomElement block = SelfOrChild(element, kColorCurveRoot);
-    return !block.firstChildElement(QLatin1String(kCurveEnable)).isNull()
-           || !block.firstChildElement(QLatin1String(kCurveCount)).isNull();
+    return !block.firstChildElement(QLatin1String(kCurveNames.enable)).isNull()
+           || !block.firstChildElement(QLatin1String(kCurveNames.count)).isNull();
 }
 
 } // namespace params
