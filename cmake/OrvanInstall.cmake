@@ -1,5 +1,5 @@
-# What an installation holds beside the libraries and their headers: the command with its manual page, and
-# how other projects find the library (CMake package, pkg-config file).
+# What an installation holds beside the libraries, their headers and the command: its manual page, and how
+# other projects find the library (CMake package, pkg-config file).
 include(CMakePackageConfigHelpers)
 
 set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OrvanData)
@@ -20,13 +20,12 @@ configure_file(cmake/orvandata.pc.in orvandata.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/orvandata.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 
 if(TARGET orvan)
-    install(TARGETS orvan RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
     install(FILES docs/orvan.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
 endif()
 
 # The installation is tried as another project would use it, in a folder of the build tree. A library built with
 # sanitizers wants its user built with them too, so it is left out there.
-if(ORVANDATA_TESTS AND NOT ORVANDATA_SANITIZE)
+if(NOT ORVANDATA_SANITIZE)
     foreach(phase install headers host pkgconfig)
         add_test(NAME installed_${phase}
                  COMMAND ${PROJECT_SOURCE_DIR}/cmake/try_installation.sh ${phase} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
