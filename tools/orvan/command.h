@@ -37,6 +37,7 @@ struct Command
     bool aloneAlways; ///< works in a private documents folder even when one is given
 };
 
+extern const Command kCheckCommand;
 extern const Command kDemoCommand;
 extern const Command kInfoCommand;
 extern const Command kNewCommand;

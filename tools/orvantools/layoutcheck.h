@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+
+class CProjectData;
+
+namespace OrvanTools {
+
+class StoredReceivers;
+
+/// What can be wrong with a project, in the order that faults are listed.
+enum class FaultKind
+{
+    Overlap,
+    OffCanvas,
+    Unnumbered,
+    DuplicateIndex,
+    IndexGap,
+    ReceiverMismatch,
+    UnknownType,
+    MissingParameterFile,
+    OrphanGroup,
+    BackupOfNothing,
+    BackupLoop,
+    PortOverload,
+};
+
+QString FaultKindName(FaultKind kind); ///< "overlap", "off-canvas" …
+
+/// One fault. Numbers count from 1 as the host shows them; 0: does not apply.
+struct Fault
+{
+    FaultKind kind = FaultKind::Overlap;
+    int sender = 0;
+    int port = 0;
+    int cabinet = 0; ///< place in the order of the port's cabinets
+    QString text;
+
+    QString Line() const; ///< "sender 1 port 2 cabinet 3: …"
+    QJsonObject Json() const;
+};
+
+struct CheckOptions
+{
+    qint64 portPixels = 655360;              ///< that one port carries
+    const StoredReceivers* stored = nullptr; ///< [ref] of the file read; null: no receiver-mismatch
+};
+
+/// The faults of the open document, by kind, sender, port and cabinet; at most one of a kind for a cabinet.
+/// The stored cabinets of a backup port are not looked at: the port shows those of its source.
+QList<Fault> CheckProject(const CProjectData& project, const CheckOptions& options);
+
+} // namespace OrvanTools

@@ -1,0 +1,100 @@
+#include "orvantools/tileshape.h"
+
+#include <OrvanData/orvandata.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace OrvanTools {
+
+namespace {
+
+constexpr double kTurnedFrom = 0.0001; ///< degrees; the library's own limit
+constexpr double kRounding = 1.5;      ///< pixels that two turned neighbours may share
+
+struct Range
+{
+    double low;
+    double high;
+};
+
+Range Project(const TileShape& shape, const QPointF& axis)
+{
+    Range range{1e300, -1e300};
+    for (const QPointF& corner : shape.corners) {
+        const double place = QPointF::dotProduct(corner, axis);
+        range.low = std::min(range.low, place);
+        range.high = std::max(range.high, place);
+    }
+    return range;
+}
+
+/// Whether the edges of `a` leave a line between the two shapes.
+bool IsSeparatedByEdges(const TileShape& a, const TileShape& b, double rounding)
+{
+    for (size_t i = 0; i < 2; ++i) {
+        const QPointF edge = a.corners[i + 1] - a.corners[i];
+        const double length = std::hypot(edge.x(), edge.y());
+        if (length == 0)
+            return true;
+        const QPointF axis(-edge.y() / length, edge.x() / length);
+        const Range first = Project(a, axis);
+        const Range second = Project(b, axis);
+        if (std::min(first.high, second.high) - std::max(first.low, second.low) <= rounding)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+QPointF TileShape::Center() const
+{
+    return (corners[0] + corners[2]) / 2;
+}
+
+QRectF TileShape::Bound() const
+{
+    const auto x = [](const QPointF& a, const QPointF& b) { return a.x() < b.x(); };
+    const auto y = [](const QPointF& a, const QPointF& b) { return a.y() < b.y(); };
+    const auto across = std::minmax_element(corners.begin(), corners.end(), x);
+    const auto down = std::minmax_element(corners.begin(), corners.end(), y);
+    return QRectF(QPointF(across.first->x(), down.first->y()), QPointF(across.second->x(), down.second->y()));
+}
+
+QPointF TileShape::At(double x, double y) const
+{
+    return corners[0] + (corners[1] - corners[0]) * x + (corners[3] - corners[0]) * y;
+}
+
+QPolygonF TileShape::Polygon() const
+{
+    return QPolygonF({corners[0], corners[1], corners[2], corners[3]});
+}
+
+TileShape ShapeOf(const CTile& tile)
+{
+    const double left = tile.GetX();
+    const double top = tile.GetY();
+    const double right = left + tile.GetWidth();
+    const double bottom = top + tile.GetHeight();
+    TileShape shape{{QPointF(left, top), QPointF(right, top), QPointF(right, bottom), QPointF(left, bottom)},
+                    0};
+    const SRotateParam& record = tile.GetRotateRecord();
+    if (!record.rotated || std::abs(record.angle) <= kTurnedFrom)
+        return shape;
+    shape.angle = record.angle;
+    for (QPointF& corner : shape.corners) {
+        const CPointEx<double> turned = GetRotatePoint(&record, corner.x(), corner.y());
+        corner = QPointF(turned.x, turned.y);
+    }
+    return shape;
+}
+
+bool IsOverlap(const TileShape& a, const TileShape& b)
+{
+    const double rounding = a.IsTurned() || b.IsTurned() ? kRounding : 0;
+    return !IsSeparatedByEdges(a, b, rounding) && !IsSeparatedByEdges(b, a, rounding);
+}
+
+} // namespace OrvanTools

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QPointF>
+#include <QPolygonF>
+#include <QRectF>
+
+#include <array>
+
+class CTile;
+
+namespace OrvanTools {
+
+/// Where a cabinet lies on the canvas, turned as its record says, whatever the rotation setting.
+struct TileShape
+{
+    std::array<QPointF, 4> corners; ///< left-top, right-top, right-bottom, left-bottom before turning
+    double angle = 0;               ///< degrees, clockwise; 0: not turned
+
+    bool IsTurned() const { return angle != 0; }
+    QPointF Center() const;
+    QRectF Bound() const;
+    QPointF At(double x, double y) const; ///< from (0, 0) at the first corner to (1, 1) at the third
+    QPolygonF Polygon() const;
+};
+
+TileShape ShapeOf(const CTile& tile);
+
+/// Whether two shapes share more than rounding: turned cabinets that stand side by side have positions in
+/// whole pixels and cut into each other a little.
+bool IsOverlap(const TileShape& a, const TileShape& b);
+
+} // namespace OrvanTools
