@@ -22,7 +22,7 @@ bool ParseXmlDom(const QByteArray& content, QDomDocument& document, QString* err
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     XmlHandler passesOver;
-    if (ParseXml(buffer, passesOver, error) != XmlResult::Done)
+    if (!ParseXml(buffer, passesOver, error))
         return false;
     buffer.close();
 

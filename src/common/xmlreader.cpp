@@ -31,7 +31,6 @@ struct ParseState
     XML_Parser parser = nullptr;
     std::vector<XmlHandler*> open;
     int depth = 0; ///< of all elements
-    bool stopped = false;
     QString refusal;
 
     void Refuse(const char* why)
@@ -52,16 +51,13 @@ void OnStart(void* data, const XML_Char* name, const XML_Char** attributes)
     if (!handler)
         return;
     XmlAttributes values(attributes);
-    if (handler->Begin(values))
-        return;
-    state.stopped = true;
-    XML_StopParser(state.parser, XML_FALSE);
+    handler->Begin(values);
 }
 
 void OnEnd(void* data, const XML_Char*)
 {
     auto& state = *static_cast<ParseState*>(data);
-    if (state.stopped || !state.refusal.isEmpty())
+    if (!state.refusal.isEmpty())
         return;
     --state.depth;
     if (state.open.back())
@@ -109,7 +105,7 @@ bool FeedAll(QIODevice& source, ParseState& state, QString* error)
         }
         const int kept = DropControls(static_cast<char*>(buffer), static_cast<int>(got));
         if (XML_ParseBuffer(state.parser, kept, got == 0) == XML_STATUS_ERROR) {
-            *error = state.stopped ? QString() : ParserError(state);
+            *error = ParserError(state);
             return false;
         }
         if (got == 0)
@@ -119,7 +115,7 @@ bool FeedAll(QIODevice& source, ParseState& state, QString* error)
 
 } // namespace
 
-XmlResult ParseXml(QIODevice& source, XmlHandler& document, QString* error)
+bool ParseXml(QIODevice& source, XmlHandler& document, QString* error)
 {
     QString ignored;
     ParseState state;
@@ -129,12 +125,10 @@ XmlResult ParseXml(QIODevice& source, XmlHandler& document, QString* error)
     XML_SetUserData(state.parser, &state);
     XML_SetElementHandler(state.parser, OnStart, OnEnd);
     XML_SetStartDoctypeDeclHandler(state.parser, OnDoctype);
-    if (FeedAll(source, state, error ? error : &ignored))
-        return XmlResult::Done;
-    return state.stopped ? XmlResult::Stopped : XmlResult::Failed;
+    return FeedAll(source, state, error ? error : &ignored);
 }
 
-XmlResult WalkDom(const QDomElement& element, XmlHandler& handler)
+void WalkDom(const QDomElement& element, XmlHandler& handler)
 {
     const QDomNamedNodeMap map = element.attributes();
     std::vector<QByteArray> texts;
@@ -149,14 +143,11 @@ XmlResult WalkDom(const QDomElement& element, XmlHandler& handler)
     pairs.push_back(nullptr);
 
     XmlAttributes attributes(pairs.data());
-    if (!handler.Begin(attributes))
-        return XmlResult::Stopped;
+    handler.Begin(attributes);
     for (QDomElement child = element.firstChildElement(); !child.isNull();
          child = child.nextSiblingElement()) {
-        XmlHandler* below = handler.Child(child.tagName().toUtf8().constData());
-        if (below && WalkDom(child, *below) == XmlResult::Stopped)
-            return XmlResult::Stopped;
+        if (XmlHandler* below = handler.Child(child.tagName().toUtf8().constData()))
+            WalkDom(child, *below);
     }
     handler.End();
-    return XmlResult::Done;
 }

@@ -18,23 +18,15 @@ class XmlHandler
 {
 public:
     virtual ~XmlHandler() = default;
-    virtual bool Begin(XmlAttributes&) { return true; }                      ///< false ends the reading
+    virtual void Begin(XmlAttributes&) {}
     virtual XmlHandler* Child(std::string_view /*name*/) { return nullptr; } ///< [ref] null: passed over
     virtual void End() {}
 };
 
-enum class XmlResult
-{
-    Done,
-    Stopped, ///< a handler ended the reading
-    Failed,
-};
-
 /// Reads a document with constant memory; `document` stands above the root and is asked for it by Child. A
 /// document type declaration, nesting above 1024 and more than 256 MiB are refused. Bytes that no XML
-/// document can hold (the NUL that closes a digest, other controls) are passed over. `error` says why a
-/// reading failed.
-XmlResult ParseXml(QIODevice& source, XmlHandler& document, QString* error);
+/// document can hold (the NUL that closes a digest, other controls) are passed over. False: `error` says why.
+bool ParseXml(QIODevice& source, XmlHandler& document, QString* error);
 
 /// Gives an element of a DOM tree and all below it to a handler.
-XmlResult WalkDom(const QDomElement& element, XmlHandler& handler);
+void WalkDom(const QDomElement& element, XmlHandler& handler);

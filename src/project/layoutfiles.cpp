@@ -57,7 +57,7 @@ bool ReadElement(const QString& path, std::initializer_list<std::string_view> na
         return false;
     }
     PathReader document(names, reader);
-    if (ParseXml(file, document, &error) != XmlResult::Done)
+    if (!ParseXml(file, document, &error))
         return false;
     if (!document.WasFound())
         error = Tr("不是这种布局文件。");

@@ -78,10 +78,9 @@ void TileSetReader::SetTarget(CTileSet* tiles, const QUuid& senderId, int portIn
     m_portIndex = portIndex;
 }
 
-bool TileSetReader::Begin(XmlAttributes& attributes)
+void TileSetReader::Begin(XmlAttributes& attributes)
 {
     m_tiles.Start(ReadCount(attributes, kTileCount));
-    return true;
 }
 
 XmlHandler* TileSetReader::Child(std::string_view name)
@@ -89,13 +88,12 @@ XmlHandler* TileSetReader::Child(std::string_view name)
     return m_tiles.Expect(name) ? &m_tileReader : nullptr;
 }
 
-bool TileSetReader::TileReader::Begin(XmlAttributes& attributes)
+void TileSetReader::TileReader::Begin(XmlAttributes& attributes)
 {
     TileRecord record;
     AttributeReader fields(attributes);
     DescribeTile(fields, record);
     m_set.m_tiles.Add(MakeTile(record, m_set.m_senderId, m_set.m_portIndex));
-    return true;
 }
 
 void TileSetReader::End()
@@ -123,7 +121,7 @@ void GroupLevelReader::SetName(std::string_view name)
     m_prefix.assign(name).push_back('_');
 }
 
-bool GroupLevelReader::Begin(XmlAttributes& attributes)
+void GroupLevelReader::Begin(XmlAttributes& attributes)
 {
     GroupRecord record;
     m_group.reset(new CTileGroup);
@@ -137,7 +135,6 @@ bool GroupLevelReader::Begin(XmlAttributes& attributes)
     }
     m_children = std::make_unique<NumberedChildren<GroupTree>>(m_prefix, m_report);
     m_children->Start(ReadCount(attributes, kGroupCount));
-    return true;
 }
 
 XmlHandler* GroupLevelReader::Child(std::string_view name)
@@ -197,16 +194,15 @@ void PortReader::SetTarget(CPort* port, const QUuid& senderId, int portIndex, bo
     m_portIndex = portIndex;
 }
 
-bool PortReader::Begin(XmlAttributes& attributes)
+void PortReader::Begin(XmlAttributes& attributes)
 {
     m_record = PortRecord();
     AttributeReader fields(attributes);
     DescribePort(fields, m_record);
     if (!m_target)
-        return true;
+        return;
     m_tiles.SetTarget(m_target->GetPortProject()->GetTileSet(), m_senderId, m_portIndex);
     m_groups.SetTarget(m_target->GetPortProject()->GetTileGroupSet());
-    return true;
 }
 
 XmlHandler* PortReader::Child(std::string_view name)
@@ -237,7 +233,7 @@ void SenderReader::SetTarget(CSender* sender, SenderParts parts, bool keepLocked
     m_keepLocked = keepLocked;
 }
 
-bool SenderReader::Begin(XmlAttributes& attributes)
+void SenderReader::Begin(XmlAttributes& attributes)
 {
     SenderRecord record;
     AttributeReader fields(attributes);
@@ -247,7 +243,6 @@ bool SenderReader::Begin(XmlAttributes& attributes)
     ApplyRecord(record, m_parts, *m_target);
     m_ports.Start(m_target->GetPortCount());
     m_seen.fill(false);
-    return true;
 }
 
 XmlHandler* SenderReader::Child(std::string_view name)
@@ -281,10 +276,9 @@ SenderLayoutReader::SenderLayoutReader(ReadReport& report, std::function<void(Se
 
 SenderLayoutReader::~SenderLayoutReader() = default;
 
-bool SenderLayoutReader::Begin(XmlAttributes& attributes)
+void SenderLayoutReader::Begin(XmlAttributes& attributes)
 {
     m_senders.Start(ReadCount(attributes, kSenderCount));
-    return true;
 }
 
 XmlHandler* SenderLayoutReader::Child(std::string_view name)

@@ -34,7 +34,7 @@ public:
     /// is.
     void SetTarget(CTileSet* tiles, const QUuid& senderId, int portIndex);
 
-    bool Begin(XmlAttributes& attributes) override;
+    void Begin(XmlAttributes& attributes) override;
     XmlHandler* Child(std::string_view name) override;
     void End() override;
 
@@ -43,7 +43,7 @@ private:
     {
     public:
         explicit TileReader(TileSetReader& set) : m_set(set) {}
-        bool Begin(XmlAttributes& attributes) override;
+        void Begin(XmlAttributes& attributes) override;
 
     private:
         TileSetReader& m_set;
@@ -73,7 +73,7 @@ public:
     int GetCount() const { return m_children->GetCount(); } ///< what the element states
     void SetName(std::string_view name); ///< the element's own; its children's names begin with it
 
-    bool Begin(XmlAttributes& attributes) override;
+    void Begin(XmlAttributes& attributes) override;
     XmlHandler* Child(std::string_view name) override;
     void End() override;
 
@@ -96,7 +96,7 @@ public:
     void SetTarget(CTileGroupSet* groups); ///< [ref] left as it is when the count is below 1
     void SetNames(std::string_view prefix) { m_top.SetName(prefix); } ///< of the groups' elements
 
-    bool Begin(XmlAttributes& attributes) override { return m_top.Begin(attributes); }
+    void Begin(XmlAttributes& attributes) override { m_top.Begin(attributes); }
     XmlHandler* Child(std::string_view name) override { return m_top.Child(name); }
     void End() override { m_top.End(); }
 
@@ -117,7 +117,7 @@ public:
     /// [ref] With `keepLocked` a locked port is passed over.
     void SetTarget(CPort* port, const QUuid& senderId, int portIndex, bool keepLocked);
 
-    bool Begin(XmlAttributes& attributes) override;
+    void Begin(XmlAttributes& attributes) override;
     XmlHandler* Child(std::string_view name) override;
     void End() override;
 
@@ -145,7 +145,7 @@ public:
     /// [keep] What takes a sender read whole, when its element ends.
     void SetDone(std::function<void()> done) { m_done = std::move(done); }
 
-    bool Begin(XmlAttributes& attributes) override;
+    void Begin(XmlAttributes& attributes) override;
     XmlHandler* Child(std::string_view name) override;
     void End() override;
 
@@ -172,7 +172,7 @@ public:
                        std::function<void(int)> progress);
     ~SenderLayoutReader() override;
 
-    bool Begin(XmlAttributes& attributes) override;
+    void Begin(XmlAttributes& attributes) override;
     XmlHandler* Child(std::string_view name) override;
     void End() override;
 

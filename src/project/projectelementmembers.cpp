@@ -21,7 +21,10 @@ template <class Write> void WriteInto(const QDomDocument& document, const QDomEl
 
 bool ReadFrom(const QDomElement* element, XmlHandler& reader)
 {
-    return element && !element->isNull() && WalkDom(*element, reader) == XmlResult::Done;
+    if (!element || element->isNull())
+        return false;
+    WalkDom(*element, reader);
+    return true;
 }
 
 template <class Record>
@@ -30,7 +33,6 @@ void ReadRecord(const QDomElement* element, Record& record, void (*describe)(Att
     LeafReader reader([&record, describe](XmlAttributes& attributes) {
         AttributeReader fields(attributes);
         describe(fields, record);
-        return true;
     });
     ReadFrom(element, reader);
 }

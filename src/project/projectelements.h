@@ -36,10 +36,10 @@ bool IsVersionReadable(const QString& minimumVersion);
 class LeafReader : public XmlHandler
 {
 public:
-    using Take = std::function<bool(XmlAttributes&)>;
+    using Take = std::function<void(XmlAttributes&)>;
 
     explicit LeafReader(Take take) : m_take(std::move(take)) {}
-    bool Begin(XmlAttributes& attributes) override { return m_take(attributes); }
+    void Begin(XmlAttributes& attributes) override { m_take(attributes); }
 
 private:
     Take m_take;
@@ -65,15 +65,14 @@ template <class Record> class ListReader : public XmlHandler
 public:
     ListReader(const ListFormat<Record>& format, ReadReport& report, std::function<void(QList<Record>)> take)
         : m_format(format), m_take(std::move(take)), m_children(format.child, report),
-          m_record([this](XmlAttributes& attributes) { return AddRecord(attributes); })
+          m_record([this](XmlAttributes& attributes) { AddRecord(attributes); })
     {}
 
-    bool Begin(XmlAttributes& attributes) override
+    void Begin(XmlAttributes& attributes) override
     {
         int count = 0;
         AttributeReader(attributes).Field(m_format.count, count);
         m_children.Start(count);
-        return true;
     }
     XmlHandler* Child(std::string_view name) override
     {
@@ -88,13 +87,12 @@ public:
     }
 
 private:
-    bool AddRecord(XmlAttributes& attributes)
+    void AddRecord(XmlAttributes& attributes)
     {
         Record record;
         AttributeReader fields(attributes);
         m_format.read(fields, record);
         m_children.Add(std::move(record));
-        return true;
     }
 
     const ListFormat<Record>& m_format;

@@ -181,13 +181,13 @@ bool CProjectData::LoadDocument(
     ReadReport report;
     ProjectReader reader(content, report, Reports(progress));
     QString error;
-    const XmlResult result = ParseXml(file, reader, &error);
-    if (result == XmlResult::Stopped) {
-        version = reader.GetRefusedVersion();
+    if (!ParseXml(file, reader, &error))
+        return FailFile(error);
+    if (!reader.HasRoot())
+        return FailFile(Tr("不是项目文件。"));
+    version = reader.GetRefusedVersion();
+    if (!version.isNull())
         return FailFile(Tr("此文件需要更新的版本：") + version);
-    }
-    if (result == XmlResult::Failed || !reader.HasRoot())
-        return FailFile(result == XmlResult::Failed ? error : Tr("不是项目文件。"));
 
     const QList<SParameterFileInfo> rows = TakeContent(content);
     if (distribute)

@@ -11,7 +11,6 @@ template <class Record> LeafReader::Take Into(Record& record, void (*describe)(A
     return [&record, describe](XmlAttributes& attributes) {
         AttributeReader fields(attributes);
         describe(fields, record);
-        return true;
     };
 }
 
@@ -21,7 +20,7 @@ ProjectContent::~ProjectContent() = default;
 
 ProjectReader::ProjectReader(ProjectContent& content, ReadReport& report, std::function<void(int)> progress)
     : m_content(content), m_report(report), m_root(*this),
-      m_version([this](XmlAttributes& attributes) { return ReadVersion(attributes); }),
+      m_version([this](XmlAttributes& attributes) { ReadVersion(attributes); }),
       m_demo(Into<SDemoMode>(content.demo, DescribeDemoMode)),
       m_senderGroups(kSenderGroupList, report,
                      [&content](QList<SSenderGroupInfo> list) { content.senderGroups = std::move(list); }),
@@ -47,7 +46,7 @@ XmlHandler* ProjectReader::Child(std::string_view name)
 
 XmlHandler* ProjectReader::Root::Child(std::string_view name)
 {
-    return m_reader.Find(name);
+    return m_reader.GetRefusedVersion().isNull() ? m_reader.Find(name) : nullptr;
 }
 
 XmlHandler* ProjectReader::Find(std::string_view name)
@@ -72,13 +71,11 @@ XmlHandler* ProjectReader::Find(std::string_view name)
     return nullptr;
 }
 
-bool ProjectReader::ReadVersion(XmlAttributes& attributes)
+void ProjectReader::ReadVersion(XmlAttributes& attributes)
 {
     VersionRecord version;
     AttributeReader fields(attributes);
     DescribeVersion(fields, version);
-    if (IsVersionReadable(version.minimum))
-        return true;
-    m_refusedVersion = version.minimum;
-    return false;
+    if (!IsVersionReadable(version.minimum))
+        m_refusedVersion = version.minimum;
 }

@@ -22,7 +22,7 @@ struct ProjectContent
     QList<SParameterFileInfo> parameterFiles;
 };
 
-/// Reads the document of a project file. Reading stops at a version that is too new.
+/// Reads the document of a project file. What stands behind a version that is too new is passed over.
 class ProjectReader : public XmlHandler
 {
 public:
@@ -30,7 +30,7 @@ public:
     ProjectReader(ProjectContent& content, ReadReport& report, std::function<void(int)> progress);
     ~ProjectReader() override;
 
-    /// The minimum version that stopped the reading.
+    /// The minimum version that is too new, null when all was read.
     QString GetRefusedVersion() const { return m_refusedVersion; }
 
     bool HasRoot() const { return m_root.wasSeen; } ///< whether the root was that of a project
@@ -50,7 +50,7 @@ private:
         ProjectReader& m_reader;
     };
 
-    bool ReadVersion(XmlAttributes& attributes);
+    void ReadVersion(XmlAttributes& attributes);
     XmlHandler* Find(std::string_view name);
 
     ProjectContent& m_content;

@@ -219,6 +219,8 @@ TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
         folder.Write(QStringLiteral("empty.prj"), ""),
         folder.Write(QStringLiteral("text.prj"), "hello"),
         folder.Write(QStringLiteral("cut.xml"), ReadFile(SamplePath("small-wall.xml")).left(20000)),
+        folder.Write(QStringLiteral("new-and-cut.xml"),
+                     "<?xml version=\"1.0\"?><LedSetting><VersionSupport MinimumVersion=\"7.0\"/>"),
         folder.Write(QStringLiteral("other.xml"), "<?xml version=\"1.0\"?><LedControlConfig/>"),
         folder.Write(QStringLiteral("zip.prj"), "PK\3\4 and nothing more"),
         folder.Write(QStringLiteral("deep.xml"),
