@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -102,7 +103,7 @@ void Append(std::string& out, const SMD5& value)
 {
     if (value.IsNull())
         return;
-    out.append(value.digest, strnlen(value.digest, SMD5::kDigits));
+    Append(out, value.ToString()); // a record filled by a host may hold anything
     out.push_back('\0');
 }
 
@@ -145,7 +146,8 @@ void Read(std::string_view text, QUuid& value)
 
 void Read(std::string_view text, SMD5& value)
 {
-    if (text.size() != SMD5::kDigits && text.size() != SMD5::kDigits + 1)
+    const bool isAscii = std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+    if (!isAscii || (text.size() != SMD5::kDigits && text.size() != SMD5::kDigits + 1))
         return;
     value = SMD5();
     std::memcpy(value.digest, text.data(), SMD5::kDigits);

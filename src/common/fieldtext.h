@@ -29,7 +29,7 @@ void Read(std::string_view text, bool& value);   ///< true for any number but 0
 void Read(std::string_view text, double& value); ///< unchanged for a number that is not finite
 void Read(std::string_view text, float& value);
 void Read(std::string_view text, QUuid& value);
-void Read(std::string_view text, SMD5& value); ///< unchanged unless the text has 32 or 33 characters
+void Read(std::string_view text, SMD5& value); ///< unchanged unless the text has 32 or 33 ASCII characters
 void Read(std::string_view text, QString& value);
 
 } // namespace fieldtext

@@ -54,6 +54,11 @@ TEST(FieldTextTest, DigestsCarryTheirClosingNulAndReadWithAndWithoutIt)
     EXPECT_EQ(Value(digits + '\0', SMD5()), md5);
     EXPECT_EQ(Value(digits.substr(1), md5), md5) << "31 characters are no digest";
     EXPECT_EQ(Text(SMD5()), "");
+    EXPECT_EQ(Value(digits.substr(1) + "\xc3\xa9", md5), md5) << "half a character would spoil the file";
+    SMD5 spoilt = md5;
+    spoilt.digest[0] = '\xc3';
+    spoilt.digest[1] = '\x01';
+    EXPECT_EQ(Text(spoilt), "\xc3\x83" + digits.substr(2) + '\0');
 }
 
 TEST(FieldTextTest, TextLosesWhatNoFileCanHold)
