@@ -1,11 +1,13 @@
 #include "project/layoutreader.h"
 
+#include "common/saturated.h"
 #include "layout/sender.h"
 
 #include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
+#include <utility>
 
 using namespace layoutnames;
 
@@ -44,26 +46,30 @@ void DeriveBeginReceivers(const CTileSet& tiles)
         if (index == 0)
             tile->SetBeginRcvCnnt(0);
         else if (const CTile* previous = first.value(index - 1))
-            tile->SetBeginRcvCnnt(previous->GetMultiRcvsCount() + previous->GetBeginRcvCnnt());
+            tile->SetBeginRcvCnnt(
+                SaturatedInt(qint64(previous->GetMultiRcvsCount()) + previous->GetBeginRcvCnnt()));
     }
 }
 
 /// Drops each group whose id stands earlier in the tree, with all below it.
 void DropRepeatedGroups(CTileGroupSet& groups, QSet<QUuid>& seen, ReadReport& report)
 {
-    int kept = 0;
-    while (kept < groups.GetDirectCount()) {
-        CTileGroup* group = groups.GetDirectGroupByDirIndex(kept);
+    QList<CTileGroup*> kept;
+    for (int i = 0; i < groups.GetDirectCount(); ++i) {
+        CTileGroup* group = groups.GetDirectGroupByDirIndex(i);
         if (seen.contains(group->GetID())) {
             report.Add(
                 QCoreApplication::translate("OrvanData", "跳过重复的分组%1").arg(group->GetID().toString()));
-            groups.DeleteGroupRecursive(kept);
+            GroupTreeDeleter()(group);
             continue;
         }
         seen.insert(group->GetID());
         DropRepeatedGroups(*group->GetSubGroupSet(), seen, report);
-        ++kept;
+        kept.append(group);
     }
+    groups.RemoveAll();
+    for (CTileGroup* group : qAsConst(kept))
+        groups.AddGroup(group, true);
 }
 
 } // namespace
@@ -197,6 +203,8 @@ void PortReader::SetTarget(CPort* port, const QUuid& senderId, int portIndex, bo
 void PortReader::Begin(XmlAttributes& attributes)
 {
     m_record = PortRecord();
+    m_hasTiles = false;
+    m_hasGroups = false;
     AttributeReader fields(attributes);
     DescribePort(fields, m_record);
     if (!m_target)
@@ -209,9 +217,9 @@ XmlHandler* PortReader::Child(std::string_view name)
 {
     if (!m_target)
         return nullptr;
-    if (name == kTiles)
+    if (name == kTiles && !std::exchange(m_hasTiles, true))
         return &m_tiles;
-    if (name == kGroups)
+    if (name == kGroups && !std::exchange(m_hasGroups, true))
         return &m_groups;
     m_report.AddElement(name);
     return nullptr;
@@ -242,7 +250,6 @@ void SenderReader::Begin(XmlAttributes& attributes)
         m_target->SetId(m_idRule ? m_idRule(record.id) : record.id);
     ApplyRecord(record, m_parts, *m_target);
     m_ports.Start(m_target->GetPortCount());
-    m_seen.fill(false);
 }
 
 XmlHandler* SenderReader::Child(std::string_view name)
@@ -250,9 +257,6 @@ XmlHandler* SenderReader::Child(std::string_view name)
     if (!m_ports.Expect(name))
         return nullptr;
     const int port = m_ports.GetNumber() - 1;
-    if (m_seen[static_cast<size_t>(port)])
-        return nullptr;
-    m_seen[static_cast<size_t>(port)] = true;
     m_ports.Add(port);
     m_portReader.SetTarget(m_target->GetPort(port), m_target->GetId(), port, m_keepLocked);
     return &m_portReader;
@@ -279,6 +283,8 @@ SenderLayoutReader::~SenderLayoutReader() = default;
 void SenderLayoutReader::Begin(XmlAttributes& attributes)
 {
     m_senders.Start(ReadCount(attributes, kSenderCount));
+    m_ids.clear();
+    m_done = 0;
 }
 
 XmlHandler* SenderLayoutReader::Child(std::string_view name)

@@ -10,7 +10,6 @@
 #include <QSet>
 #include <QUuid>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -126,6 +125,8 @@ private:
     QUuid m_senderId;
     int m_portIndex = 0;
     PortRecord m_record;
+    bool m_hasTiles = false; ///< of elements that a port should hold once, the first counts
+    bool m_hasGroups = false;
     TileSetReader m_tiles;
     GroupTreeReader m_groups;
     ReadReport& m_report;
@@ -155,7 +156,6 @@ private:
     bool m_keepLocked = false;
     std::function<QUuid(const QUuid&)> m_idRule;
     std::function<void()> m_done;
-    std::array<bool, kMaxPorts> m_seen{};
     NumberedChildren<int> m_ports;
     PortReader m_portReader;
 };

@@ -4,6 +4,7 @@
 #include "project/readreport.h"
 
 #include <QCoreApplication>
+#include <QSet>
 
 #include <algorithm>
 #include <charconv>
@@ -24,10 +25,11 @@ public:
     {
         m_count = std::max(count, 0);
         m_items.clear();
+        m_numbers.clear();
     }
     int GetCount() const { return m_count; }
 
-    /// Whether a child of this name is wanted; its number is that of the next item added.
+    /// Whether a child of this name is wanted, which it is once; its number is that of the next item added.
     bool Expect(std::string_view name)
     {
         if (name.substr(0, m_prefix.size()) != m_prefix)
@@ -36,7 +38,12 @@ public:
         const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), m_number);
         const bool isNumber =
             error == std::errc() && end == digits.data() + digits.size() && digits[0] != '0';
-        return (isNumber && m_number >= 1 && m_number <= m_count) || Skip(name);
+        const bool isWanted =
+            isNumber && m_number >= 1 && m_number <= m_count && !m_numbers.contains(m_number);
+        if (!isWanted)
+            return Skip(name);
+        m_numbers.insert(m_number);
+        return true;
     }
 
     int GetNumber() const { return m_number; } ///< of the child last expected
@@ -47,10 +54,8 @@ public:
     std::vector<Item> Take()
     {
         const auto before = [](const auto& a, const auto& b) { return a.first < b.first; };
-        const auto equal = [](const auto& a, const auto& b) { return a.first == b.first; };
         if (!std::is_sorted(m_items.begin(), m_items.end(), before))
-            std::stable_sort(m_items.begin(), m_items.end(), before);
-        m_items.erase(std::unique(m_items.begin(), m_items.end(), equal), m_items.end());
+            std::sort(m_items.begin(), m_items.end(), before);
         if (static_cast<int>(m_items.size()) < m_count)
             ReportMissing();
 
@@ -72,7 +77,7 @@ private:
     void ReportMissing()
     {
         m_report.Add(QCoreApplication::translate("OrvanData", "“%1”应有%2个，实有%3个")
-                         .arg(QString::fromStdString(m_prefix), QString::number(m_count),
+                         .arg(QString::fromStdString(m_prefix).left(64), QString::number(m_count),
                               QString::number(m_items.size())));
     }
 
@@ -80,5 +85,6 @@ private:
     ReadReport& m_report;
     int m_count = 0;
     int m_number = 0;
+    QSet<int> m_numbers; ///< of the children expected so far
     std::vector<std::pair<int, Item>> m_items;
 };

@@ -9,6 +9,7 @@ namespace {
 template <class Record> LeafReader::Take Into(Record& record, void (*describe)(AttributeReader&, Record&))
 {
     return [&record, describe](XmlAttributes& attributes) {
+        record = Record(); // of repeated elements the last one counts
         AttributeReader fields(attributes);
         describe(fields, record);
     };

@@ -271,6 +271,18 @@ TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
     EXPECT_EQ(tiles.GetTile(1)->GetX(), 5);
 }
 
+TEST_F(ProjectFileTest, OfRepeatedElementsTheLastOfTheRootAndTheFirstOfAPortCounts)
+{
+    const QByteArray id = "{c95ad16b-6333-4764-bb20-9ee65602cbb4}";
+    const QByteArray tiles = "<TitleLayout TileCount=\"1\"><Tile_1/></TitleLayout>";
+    const QByteArray senders = "<SenderLayout SenderCount=\"1\"><Sender_1 ID=\"" + id + "\"><Port_1>" + tiles
+                               + "<TitleLayout TileCount=\"2\"/></Port_1></Sender_1></SenderLayout>";
+    ASSERT_TRUE(LoadText("<Monitor RefreshDisTime=\"30\"/><Monitor/>" + senders + senders));
+    EXPECT_EQ(project.GetSender(0)->GetId().toByteArray(), id);
+    EXPECT_EQ(TilesOf(*project.GetSender(0)->GetPort(0)).GetCount(), 1);
+    EXPECT_EQ(GetMonitorData()->GetInterfaceData().GetIntervalTime(), 10);
+}
+
 TEST_F(ProjectFileTest, RepeatedSenderIdsAreRenewedBeforeTheirPortsAreRead)
 {
     const QByteArray sender =
