@@ -14,6 +14,23 @@ namespace parameterwork {
 
 namespace {
 
+constexpr auto kAllEntries = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+
+/// Whether packing and unpacking put something of that name into the project folder.
+bool IsOurs(const QString& name)
+{
+    static const QRegularExpression ours(QStringLiteral("^([0-9]+\\.rcvbp|new\\.prj)$"));
+    return ours.match(name).hasMatch();
+}
+
+void Remove(const QFileInfo& entry)
+{
+    if (entry.isDir() && !entry.isSymLink()) // from an odd archive
+        QDir(entry.filePath()).removeRecursively();
+    else
+        QFile::remove(entry.filePath());
+}
+
 QString NumberedPath(int row)
 {
     return ProjectFolder() + QString::number(row) + QStringLiteral(".rcvbp");
@@ -100,13 +117,26 @@ bool Store(const QString& source, const QString& name, const SMD5& type)
     return HoldsType(target, type) || Replace(source, target);
 }
 
-void ClearNumbered()
+bool IsInTheWay(const QString& path)
 {
-    static const QRegularExpression ours(QStringLiteral("^([0-9]+\\.rcvbp|new\\.prj)$"));
-    QDir folder(ProjectFolder());
-    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))
-        if (ours.match(name).hasMatch())
-            folder.remove(name);
+    const QFileInfo file(path);
+    const QFileInfo target(file.exists() ? file.canonicalFilePath() : path);
+    return target.dir().canonicalPath() == QDir(ProjectFolder()).canonicalPath() && IsOurs(target.fileName());
+}
+
+bool MakeProjectFolder()
+{
+    const QString path = ProjectFolder().chopped(1);
+    const QFileInfo info(path);
+    if (info.isSymLink() || info.isFile())
+        QFile::remove(path);
+    if (!QDir().mkpath(path))
+        return false;
+    const QDir folder(path);
+    for (const QFileInfo& entry : folder.entryInfoList(kAllEntries))
+        if (IsOurs(entry.fileName()))
+            Remove(entry);
+    return true;
 }
 
 void CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
@@ -122,7 +152,7 @@ void DistributeAfterLoading(const QList<SParameterFileInfo>& rows, CProductDirec
 {
     for (int i = 0; i < rows.size(); ++i) {
         const QString source = NumberedPath(i);
-        if (!IsThere(source)) {
+        if (!QFileInfo(source).isFile()) {
             ReportMissing(rows[i], report);
             continue;
         }

@@ -24,8 +24,12 @@ QString LibraryFile(const CProductDirectorySet* products, const SMD5& type);
 /// Puts a copy of `source` under the name, unless a file of that type is there already.
 bool Store(const QString& source, const QString& name, const SMD5& type);
 
-/// Removes the document and the numbered files that an earlier packing or unpacking left.
-void ClearNumbered();
+/// Makes the project folder, in the place of a file or link of that name if there is one, and removes the
+/// document and the numbered files that an earlier packing or unpacking left there.
+bool MakeProjectFolder();
+
+/// Whether the path leads to one of the files that MakeProjectFolder removes.
+bool IsInTheWay(const QString& path);
 
 /// Lays the files of the rows down by their numbers. A file that is nowhere to be found is reported.
 void CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,

@@ -20,6 +20,7 @@ class CPort;
 class CSender;
 class CTileGroupSet;
 class CTileSet;
+class QLockFile;
 class QWidget;
 class ReadReport;
 class XmlWriter;
@@ -252,6 +253,8 @@ private:
     MonitorRecord MakeMonitorRecord() const;
     void TakeMonitorRecord(const MonitorRecord& record);
     void WriteDocument(XmlWriter& writer, CCustomProgressbar* progress) const;
+    /// Takes the lock and empties the work folder for an archive, which must not lie in the way there.
+    bool PrepareWorkFolder(QLockFile& lock, const QString& archive);
     bool SaveDocument(CCustomProgressbar* progress);
     bool LoadArchive(const QString& path, QString& version, CCustomProgressbar* progress);
     bool LoadDocument(const QString& path, QString& version, CCustomProgressbar* progress,

@@ -15,9 +15,7 @@
 #include "customprogressbar.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QLockFile>
 
 namespace {
@@ -36,15 +34,6 @@ std::function<void(int)> Reports(CCustomProgressbar* progress)
     return [progress](int percent) { progress->SetValue(percent); };
 }
 
-/// Makes the folder that is packed, in the place of a file of that name if there is one.
-bool MakeProjectFolder()
-{
-    QString path = parameterwork::ProjectFolder();
-    if (QFileInfo(path.chopped(1)).isFile())
-        QFile::remove(path.chopped(1));
-    return QDir().mkpath(path);
-}
-
 } // namespace
 
 bool CProjectData::FailFile(const QString& why)
@@ -58,16 +47,20 @@ QString CProjectData::GetLastFileError() const
     return m_lastFileError;
 }
 
+bool CProjectData::PrepareWorkFolder(QLockFile& lock, const QString& archive)
+{
+    if (!lock.tryLock(kLockTimeout))
+        return FailFile(Tr("另一个程序正在使用项目工作文件夹。"));
+    if (parameterwork::IsInTheWay(archive))
+        return FailFile(Tr("项目文件不能是项目工作文件夹里的临时文件。"));
+    return parameterwork::MakeProjectFolder() || FailFile(Tr("无法创建项目工作文件夹。"));
+}
+
 bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* progress)
 {
     m_lastFileError.clear();
     QLockFile lock(parameterwork::LockPath());
-    if (!lock.tryLock(kLockTimeout))
-        return FailFile(Tr("另一个程序正在使用项目工作文件夹。"));
-    if (!MakeProjectFolder())
-        return FailFile(Tr("无法创建项目工作文件夹。"));
-    parameterwork::ClearNumbered();
-    if (!SaveDocument(progress))
+    if (!PrepareWorkFolder(lock, path) || !SaveDocument(progress))
         return false;
 
     ReadReport report;
@@ -155,9 +148,8 @@ bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustom
 bool CProjectData::LoadArchive(const QString& path, QString& version, CCustomProgressbar* progress)
 {
     QLockFile lock(parameterwork::LockPath());
-    if (!lock.tryLock(kLockTimeout))
-        return FailFile(Tr("另一个程序正在使用项目工作文件夹。"));
-    parameterwork::ClearNumbered();
+    if (!PrepareWorkFolder(lock, path))
+        return false;
     QString error;
     const bool unpacked =
         UnpackArchive(path, CConstantData::GetProjectParamFileTemp(), QStringLiteral("project/"), &error);

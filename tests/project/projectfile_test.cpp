@@ -316,11 +316,41 @@ TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
     EXPECT_TRUE(project.SaveProjectToFile(inTheWay + QStringLiteral("/a.prj"), nullptr));
     EXPECT_NE(project.GetLastFileError(), QString());
 
+    EXPECT_FALSE(project.SaveProjectToFile(parameterwork::DocumentPath(), nullptr))
+        << "an archive without its document";
+    QFile archive(SamplePath("small-wall.prj"));
     QFile::remove(parameterwork::DocumentPath());
-    QDir().mkpath(parameterwork::DocumentPath());
+    ASSERT_TRUE(archive.copy(parameterwork::DocumentPath()));
+    EXPECT_FALSE(Load(parameterwork::DocumentPath()));
+    EXPECT_EQ(ReadFile(parameterwork::DocumentPath()), ReadFile(archive.fileName()));
+    const QString work = CConstantData::GetProjectParamFileTemp().chopped(1);
+    ASSERT_TRUE(QDir(work).removeRecursively());
+    ASSERT_TRUE(QFile::link(inTheWay, work));
     EXPECT_FALSE(project.SaveProjectToFile(folder.Path(QStringLiteral("b.prj")), nullptr));
     EXPECT_NE(project.GetLastFileError(), QString());
-    QDir().rmdir(parameterwork::DocumentPath());
+    QFile::remove(work);
+}
+
+TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
+{
+    project.NewSender();
+    const QString precious = folder.Write(QStringLiteral("linked/0.rcvbp"), "precious");
+    const QString path = folder.Path(QStringLiteral("a.prj"));
+    const QString work = parameterwork::ProjectFolder().chopped(1);
+    QDir(work).removeRecursively();
+    ASSERT_TRUE(QFile::link(folder.Path(QStringLiteral("linked")), work));
+    EXPECT_TRUE(project.SaveProjectToFile(path, nullptr));
+    EXPECT_EQ(ReadFile(precious), "precious") << "a link is replaced, what it leads to is not ours";
+
+    const QString odd = folder.Path(QStringLiteral("project"));
+    folder.Write(QStringLiteral("project/new.prj/a"), "folder");
+    folder.Write(QStringLiteral("project/0.rcvbp/a"), "folder");
+    ASSERT_TRUE(PackFolder(odd, folder.Path(QStringLiteral("odd.prj"))));
+    EXPECT_FALSE(Load(folder.Path(QStringLiteral("odd.prj"))));
+    EXPECT_TRUE(project.SaveProjectToFile(path, nullptr));
+    EXPECT_FALSE(Load(folder.Path(QStringLiteral("odd.prj"))));
+    EXPECT_TRUE(Load(SamplePath("small-wall.prj")));
+    EXPECT_EQ(project.GetLastFileError(), QString());
 }
 
 TEST_F(ProjectFileTest, DamagedFilesAreReadOrRefusedWhole)
