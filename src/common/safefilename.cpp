@@ -33,10 +33,14 @@ QString SafeFileName(const QString& text, const QString& fallback)
     return name.isEmpty() ? fallback : name;
 }
 
-QString UniqueName(const QString& name, const QStringList& taken)
+QString UniqueNames::Take(const QString& name)
 {
+    int& number = m_numbers[name.toCaseFolded()];
     QString unique = name;
-    for (int number = 2; taken.contains(unique, Qt::CaseInsensitive); ++number)
-        unique = name + QStringLiteral("_%1").arg(number);
+    while (m_taken.contains(unique.toCaseFolded())) {
+        number = qMax(number + 1, 2);
+        unique = name + QLatin1Char('_') + QString::number(number);
+    }
+    m_taken.insert(unique.toCaseFolded());
     return unique;
 }

@@ -246,7 +246,7 @@ private:
     void RenameSenderImages(int deleted, int countBefore, bool keepImages) const;
 
     int FindParameterFile(const SMD5& type) const;
-    QStringList ParameterFileNames(int except) const;
+    QString SafeNameBesideRows(const QString& name, int row) const; ///< the row's own does not count
     /// Takes a file's list, a type once; the rows by the file's numbers, nameless where a type was repeated.
     QList<SParameterFileInfo> TakeParameterFiles(const QList<SParameterFileInfo>& files);
 

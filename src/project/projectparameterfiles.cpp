@@ -6,15 +6,13 @@
 #include "project/projectlookup.h"
 
 #include <QFile>
-#include <QStringList>
+#include <QSet>
 
 namespace {
 
-constexpr int kMaxParameterFiles = 4096; ///< of one project; the list is searched row by row
-
-QString SafeName(const QString& name, const QStringList& taken)
+QString SafeName(const QString& name, UniqueNames& names)
 {
-    return UniqueName(SafeFileName(name, QStringLiteral("param")), taken);
+    return names.Take(SafeFileName(name, QStringLiteral("param")));
 }
 
 } // namespace
@@ -23,8 +21,8 @@ void CProjectData::AddParameterFileInfo(const QString& name, const SMD5& type)
 {
     int row = FindParameterFile(type);
     if (row < 0) {
-        m_parameterFiles.append({SafeName(name, ParameterFileNames(-1)), type});
-        row = m_parameterFiles.size() - 1;
+        row = m_parameterFiles.size();
+        m_parameterFiles.append({SafeNameBesideRows(name, row), type});
     }
     const QString source = parameterwork::LibraryFile(GetProjectLookup()->Products(), type);
     if (!source.isEmpty())
@@ -45,7 +43,7 @@ void CProjectData::ExchangeNameByMD5(const SMD5& type, const QString& newName)
     const int row = FindParameterFile(type);
     if (row < 0)
         return;
-    const QString name = SafeName(newName, ParameterFileNames(row));
+    const QString name = SafeNameBesideRows(newName, row);
     const QString before = m_parameterFiles[row].name;
     if (name == before)
         return;
@@ -70,24 +68,28 @@ int CProjectData::FindParameterFile(const SMD5& type) const
     return -1;
 }
 
-QStringList CProjectData::ParameterFileNames(int except) const
+QString CProjectData::SafeNameBesideRows(const QString& name, int row) const
 {
-    QStringList names;
+    UniqueNames names;
     for (int i = 0; i < m_parameterFiles.size(); ++i)
-        if (i != except)
-            names.append(m_parameterFiles[i].name);
-    return names;
+        if (i != row)
+            names.Take(m_parameterFiles[i].name);
+    return SafeName(name, names);
 }
 
 QList<SParameterFileInfo> CProjectData::TakeParameterFiles(const QList<SParameterFileInfo>& files)
 {
     m_parameterFiles.clear();
     QList<SParameterFileInfo> rows;
-    for (const SParameterFileInfo& file : files.mid(0, kMaxParameterFiles)) {
+    UniqueNames names;
+    QSet<SMD5> types;
+    for (const SParameterFileInfo& file : files) {
         rows.append({QString(), file.type});
-        if (!file.type.IsNull() && FindParameterFile(file.type) >= 0)
+        if (types.contains(file.type))
             continue;
-        rows.last().name = SafeName(file.name, ParameterFileNames(-1));
+        if (!file.type.IsNull())
+            types.insert(file.type);
+        rows.last().name = SafeName(file.name, names);
         m_parameterFiles.append(rows.last());
     }
     return rows;

@@ -254,6 +254,17 @@ TEST_F(ProjectFileTest, ClimbingEntriesWriteNothingOutside)
     EXPECT_EQ(project.GetParameterFiles()[0].name, QStringLiteral("_.._x_"));
 }
 
+TEST_F(ProjectFileTest, ThousandsOfEqualParameterNamesAreAllKept)
+{
+    QByteArray rows;
+    for (int i = 1; i <= 5000; ++i)
+        rows += "<File" + QByteArray::number(i) + " Name=\"a\" Md5=\""
+                + QByteArray::number(i).rightJustified(32, '0') + "\"/>";
+    ASSERT_TRUE(LoadText("<ParameterFile Count=\"5000\">" + rows + "</ParameterFile>"));
+    ASSERT_EQ(project.GetParameterFiles().size(), 5000);
+    EXPECT_EQ(project.GetParameterFiles().last().name, QStringLiteral("a_5000"));
+}
+
 TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
 {
     ASSERT_TRUE(
