@@ -42,3 +42,4 @@ extern const Command kDemoCommand;
 extern const Command kInfoCommand;
 extern const Command kNewCommand;
 extern const Command kProductsCommand;
+extern const Command kRenderCommand;

@@ -1,5 +1,6 @@
 #include "command.h"
 #include "console.h"
+#include "drawingfile.h"
 #include "openproject.h"
 
 #include <OrvanData/orvandata.h>
@@ -51,7 +52,13 @@ int Run(const Invocation& invocation)
     if (!LoadsBackEqual(file))
         return StatusFile;
     TellStep(QStringLiteral("loaded it into a second document: equal"));
+    const QString drawing = QDir(folder).filePath(QStringLiteral("sample-wall.svg"));
+    const int status = WriteDrawing(drawing, 0, 0);
+    if (status != StatusDone)
+        return status;
+    TellStep(QStringLiteral("drew the wall"));
     TellStep(file);
+    TellStep(drawing);
     return StatusDone;
 }
 

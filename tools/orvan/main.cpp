@@ -17,7 +17,7 @@
 namespace {
 
 const Command* const kCommands[] = {
-    &kDemoCommand, &kNewCommand, &kInfoCommand, &kCheckCommand, &kProductsCommand,
+    &kDemoCommand, &kNewCommand, &kInfoCommand, &kCheckCommand, &kRenderCommand, &kProductsCommand,
 };
 
 /// Without a locale every character beyond ASCII would be lost, in file names too. They are UTF-8 then.

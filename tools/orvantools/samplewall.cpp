@@ -69,7 +69,7 @@ SampleWall::SampleWall(Tell tell) : m_tell(std::move(tell))
 
 bool SampleWall::Build()
 {
-    return WriteProducts() && AddSender() && PlaceBlocks() && GroupAndRotate() && NumberPorts()
+    return WriteProducts() && AddSender() && PlaceBlocks() && NumberPorts() && GroupAndRotate()
            && UndoAndRedo() && FillForm();
 }
 

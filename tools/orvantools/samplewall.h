@@ -26,8 +26,8 @@ private:
     bool WriteProducts();
     bool AddSender();
     bool PlaceBlocks();
-    bool GroupAndRotate();
     bool NumberPorts();
+    bool GroupAndRotate();
     bool UndoAndRedo();
     bool FillForm();
 

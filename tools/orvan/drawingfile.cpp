@@ -1,0 +1,51 @@
+#include "drawingfile.h"
+
+#include "command.h"
+#include "console.h"
+
+#include <OrvanData/orvandata.h>
+#include <orvantools/layoutdrawing.h>
+
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <optional>
+
+using OrvanTools::DrawingFormat;
+
+namespace {
+
+std::optional<DrawingFormat> FormatOf(const QString& file)
+{
+    const QString suffix = QFileInfo(file).suffix().toLower();
+    if (suffix == QLatin1String("png"))
+        return DrawingFormat::Png;
+    if (suffix == QLatin1String("svg"))
+        return DrawingFormat::Svg;
+    if (suffix == QLatin1String("pdf"))
+        return DrawingFormat::Pdf;
+    return {};
+}
+
+} // namespace
+
+bool IsDrawingName(const QString& file)
+{
+    return FormatOf(file).has_value();
+}
+
+int WriteDrawing(const QString& file, int sender, int width)
+{
+    QSaveFile output(file);
+    if (!output.open(QIODevice::WriteOnly))
+        return Fail(StatusFile, file, output.errorString());
+    OrvanTools::DrawingOptions options;
+    options.sender = sender;
+    options.width = width;
+    if (!OrvanTools::WriteLayout(output, FormatOf(file).value_or(DrawingFormat::Svg), *GetProjectData(),
+                                 options))
+        return Fail(StatusFile, file, QStringLiteral("cannot be drawn"));
+    if (!output.commit())
+        return Fail(StatusFile, file, output.errorString());
+    return StatusDone;
+}

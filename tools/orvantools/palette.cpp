@@ -1,0 +1,107 @@
+#include "orvantools/palette.h"
+
+#include <QVector>
+
+#include <algorithm>
+#include <limits>
+#include <vector>
+
+namespace OrvanTools {
+
+namespace {
+
+constexpr int kColors = 256;
+constexpr size_t kBins = 1 << 15; ///< five bits a channel
+
+size_t BinOf(QRgb color)
+{
+    return ((color >> 9) & 0x7C00U) | ((color >> 6) & 0x3E0U) | ((color >> 3) & 0x1FU);
+}
+
+/// Colours that differ little count as one.
+struct Bin
+{
+    qint64 pixels = 0;
+    QRgb color = 0; ///< that of an area where there is one
+    bool fromArea = false;
+    uchar index = 0;
+};
+
+void Count(const QImage& drawing, std::vector<Bin>& bins)
+{
+    for (int y = 0; y < drawing.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(drawing.constScanLine(y));
+        int begin = 0;
+        for (int x = 1; x <= drawing.width(); ++x) {
+            if (x < drawing.width() && row[x] == row[begin])
+                continue;
+            Bin& bin = bins[BinOf(row[begin])];
+            const bool isArea = x - begin >= 4;
+            if (bin.pixels == 0 || (isArea && !bin.fromArea)) {
+                bin.color = row[begin];
+                bin.fromArea = isArea;
+            }
+            bin.pixels += x - begin;
+            begin = x;
+        }
+    }
+}
+
+int Distance(QRgb a, QRgb b)
+{
+    const int red = qRed(a) - qRed(b);
+    const int green = qGreen(a) - qGreen(b);
+    const int blue = qBlue(a) - qBlue(b);
+    return red * red + green * green + blue * blue;
+}
+
+uchar NearestOf(const QVector<QRgb>& palette, QRgb color)
+{
+    int best = 0;
+    int least = std::numeric_limits<int>::max();
+    for (int i = 0; i < palette.size(); ++i) {
+        const int distance = Distance(palette[i], color);
+        if (distance < least) {
+            least = distance;
+            best = i;
+        }
+    }
+    return static_cast<uchar>(best);
+}
+
+QVector<QRgb> ChoosePalette(std::vector<Bin>& bins)
+{
+    std::vector<Bin*> used;
+    for (Bin& bin : bins) {
+        if (bin.pixels > 0)
+            used.push_back(&bin);
+    }
+    std::stable_sort(used.begin(), used.end(),
+                     [](const Bin* a, const Bin* b) { return a->pixels > b->pixels; });
+    QVector<QRgb> palette;
+    for (size_t i = 0; i < used.size() && i < kColors; ++i)
+        palette.append(used[i]->color);
+    for (Bin* bin : used)
+        bin->index = NearestOf(palette, bin->color);
+    return palette;
+}
+
+} // namespace
+
+QImage ReducedToPalette(const QImage& drawing)
+{
+    Q_ASSERT(drawing.format() == QImage::Format_RGB32);
+    std::vector<Bin> bins(kBins);
+    Count(drawing, bins);
+    QImage reduced(drawing.size(), QImage::Format_Indexed8);
+    reduced.setColorTable(ChoosePalette(bins));
+    for (int y = 0; y < drawing.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(drawing.constScanLine(y));
+        uchar* to = reduced.scanLine(y);
+        for (int x = 0; x < drawing.width(); ++x)
+            to[x] = bins[BinOf(from[x])].index;
+    }
+    return reduced;
+}
+
+} // namespace OrvanTools
