@@ -208,8 +208,8 @@ public:
     bool ReadSender(QDomDocument document, QDomElement* element, QString& error,
                     CCustomProgressbar* progress);
     void WriteSingleSender(QDomDocument document, QDomElement* parent, CSender* sender);
-    /// The sender keeps its identity and takes `newId` as its id; `attributes`: also how it is named and
-    /// shown.
+    /// The sender keeps its identity, with `newId` as its id unless that is null; `attributes`: also how it
+    /// is named and shown.
     void ReadSingleSender(QDomDocument document, QDomElement* element, CSender* sender, const QUuid& newId,
                           bool keepLockedPorts, bool attributes);
     void WritePort(QDomDocument document, const QString& name, CPort* port, QDomElement* parent);
@@ -242,7 +242,7 @@ private:
     void ClearLists();
     int FindSourceOf(const CPort& port) const;
     SSenderGroupInfo* FindGroup(const QUuid& id);
-    CSender* AppendDetectedSender(unsigned long ip);
+    void AppendDetectedSender(quint32 ip);
     void RenameSenderImages(int deleted, int countBefore, bool keepImages) const;
 
     int FindParameterFile(const SMD5& type) const;

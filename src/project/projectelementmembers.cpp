@@ -154,7 +154,14 @@ bool CProjectData::ReadSender(QDomDocument, QDomElement* element, QString&, CCus
 {
     ReadReport report;
     SenderLayoutReader reader(
-        report, [this](SenderLayoutReader::Senders senders) { TakeSenders(std::move(senders)); },
+        report,
+        [this](SenderLayoutReader::Senders senders) {
+            const int current = m_currentSender;
+            DeleteAllSender();
+            m_currentSender = current;
+            TakeSenders(std::move(senders));
+            MarkModified();
+        },
         progress ? [progress](int percent) { progress->SetValue(percent); } : std::function<void(int)>());
     ReadFrom(element, reader);
     return true;
@@ -172,7 +179,8 @@ void CProjectData::ReadSingleSender(QDomDocument, QDomElement* element, CSender*
 {
     if (!element || !sender)
         return;
-    sender->SetId(newId);
+    if (!newId.isNull())
+        sender->SetId(newId);
     ReadReport report;
     SenderReader reader(report);
     reader.SetTarget(sender, attributes ? SenderParts::LayoutAndView : SenderParts::LayoutOnly,
@@ -275,6 +283,9 @@ void CProjectData::InsertChildNode(QDomDocument document, QDomElement* parent, c
 
 void CProjectData::InsertNodeAttribute(QDomElement* element, const QString& name, const QString& value)
 {
-    if (element)
-        element->setAttribute(name, value);
+    if (!element)
+        return;
+    std::string content;
+    fieldtext::Append(content, value);
+    element->setAttribute(name, QString::fromStdString(content));
 }

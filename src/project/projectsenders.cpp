@@ -222,11 +222,12 @@ bool CProjectData::UpdateProjectSenders(const QList<unsigned long>& first, const
 {
     if (GetProjectLookup()->DetectStrategy() != kStrategyFollowNetwork)
         return false;
-    QSet<unsigned long> known{0};
+    QSet<quint32> known{0};
     for (const CSender* sender : qAsConst(m_senders))
-        known.insert(sender->GetNetSenderIP());
+        known.insert(static_cast<quint32>(sender->GetNetSenderIP()));
     const int before = m_senders.size();
-    for (const unsigned long ip : first + second) {
+    for (const unsigned long address : first + second) {
+        const auto ip = static_cast<quint32>(address);
         if (known.contains(ip))
             continue;
         known.insert(ip);
@@ -235,7 +236,7 @@ bool CProjectData::UpdateProjectSenders(const QList<unsigned long>& first, const
     return m_senders.size() > before;
 }
 
-CSender* CProjectData::AppendDetectedSender(unsigned long ip)
+void CProjectData::AppendDetectedSender(quint32 ip)
 {
     const CSender* model = GetSender(0);
     CSender* sender = NewSender();
@@ -246,7 +247,6 @@ CSender* CProjectData::AppendDetectedSender(unsigned long ip)
     sender->SetNetSenderIP(ip);
     sender->SetOffset(QSize(0, 0));
     sender->SetBelongGroup(GetProjectLookup()->AddGroupId());
-    return sender;
 }
 
 void CProjectData::CancelAllTileSelect(EInterfaceDlg iface)

@@ -142,7 +142,14 @@ TEST_F(ProjectDataTest, RemovalKeepsTheCurrentSenderAndReleasesTheHistory)
     CProjectData copy(project);
     copy.DeleteAllSender();
     EXPECT_FALSE(history->IsModidfied()) << "copies do not touch the open document's history";
-    EXPECT_NE(history->GetSenderUndoRedoFromID(current->GetId()), nullptr);
+    const QUuid last = current->GetId();
+    EXPECT_NE(history->GetSenderUndoRedoFromID(last), nullptr);
+
+    QDomElement none = QDomDocument().createElement(QStringLiteral("SenderLayout"));
+    QString error;
+    project.ReadSender(QDomDocument(), &none, error, nullptr);
+    EXPECT_EQ(history->GetSenderUndoRedoFromID(last), nullptr);
+    EXPECT_TRUE(history->IsModidfied());
 }
 
 TEST_F(ProjectDataTest, BackupsAreFoundByIdAndByAddressButNotWithinASender)
