@@ -1,6 +1,6 @@
 #include "custommessagebox.h"
 
-#include <QApplication>
+#include "display.h"
 
 #include <utility>
 
@@ -10,14 +10,6 @@ CCustomMessageBox::Handler& InstalledHandler()
 {
     static CCustomMessageBox::Handler handler;
     return handler;
-}
-
-bool HasDisplay()
-{
-    if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
-        return false;
-    const QString platform = QGuiApplication::platformName();
-    return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
 }
 
 QMessageBox::StandardButton Show(CCustomMessageBox::Kind kind, QWidget* parent, const QString& text,

@@ -1,16 +1,14 @@
 #include "customprogressbar.h"
 
-#include <QApplication>
+#include "display.h"
+
 #include <QProgressDialog>
 
 #include <utility>
 
 CCustomProgressbar::CCustomProgressbar(const QString& title, QWidget* parent)
 {
-    const bool hasDisplay = qobject_cast<QApplication*>(QCoreApplication::instance())
-                            && QGuiApplication::platformName() != QLatin1String("offscreen")
-                            && QGuiApplication::platformName() != QLatin1String("minimal");
-    if (!hasDisplay)
+    if (!HasDisplay())
         return;
     m_dialog = std::make_unique<QProgressDialog>(title, QString(), 0, 100, parent);
     m_dialog->setWindowModality(Qt::ApplicationModal);

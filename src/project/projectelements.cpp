@@ -2,6 +2,20 @@
 
 using namespace projectnames;
 
+namespace {
+
+template <class Record>
+void WriteRecord(XmlWriter& writer, const char* element, const Record& record,
+                 void (*describe)(AttributeWriter&, const Record&))
+{
+    writer.BeginElement(element);
+    AttributeWriter fields(writer);
+    describe(fields, record);
+    writer.EndElement();
+}
+
+} // namespace
+
 const ListFormat<SSenderGroupInfo> kSenderGroupList = {kSenderGroups, "SenderGroupCount", "SenderGroup_",
                                                        DescribeSenderGroup, DescribeSenderGroup};
 const ListFormat<SRcvParamGamma> kGammaList = {kGamma, "ItemCount", "Gamma_", DescribeGamma, DescribeGamma};
@@ -15,32 +29,20 @@ bool IsVersionReadable(const QString& minimumVersion)
 
 void WriteVersion(XmlWriter& writer, const VersionRecord& version)
 {
-    writer.BeginElement(kVersion);
-    AttributeWriter fields(writer);
-    DescribeVersion(fields, version);
-    writer.EndElement();
+    WriteRecord<VersionRecord>(writer, kVersion, version, DescribeVersion);
 }
 
 void WriteDemoMode(XmlWriter& writer, const SDemoMode& demo)
 {
-    writer.BeginElement(kDemoMode);
-    AttributeWriter fields(writer);
-    DescribeDemoMode(fields, demo);
-    writer.EndElement();
+    WriteRecord<SDemoMode>(writer, kDemoMode, demo, DescribeDemoMode);
 }
 
 void WritePrintForm(XmlWriter& writer, const SPrintFormData& print)
 {
-    writer.BeginElement(kPrintForm);
-    AttributeWriter fields(writer);
-    DescribePrintForm(fields, print);
-    writer.EndElement();
+    WriteRecord<SPrintFormData>(writer, kPrintForm, print, DescribePrintForm);
 }
 
 void WriteMonitor(XmlWriter& writer, const MonitorRecord& monitor)
 {
-    writer.BeginElement(kMonitor);
-    AttributeWriter fields(writer);
-    DescribeMonitor(fields, monitor);
-    writer.EndElement();
+    WriteRecord<MonitorRecord>(writer, kMonitor, monitor, DescribeMonitor);
 }
