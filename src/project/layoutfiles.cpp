@@ -16,11 +16,6 @@ namespace {
 
 constexpr char kPortRoot[] = "PortLayout";
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("OrvanData", text);
-}
-
 /// Finds an element by the names on the way to it and hands it to its reader; others are passed over.
 class PathReader : public XmlHandler
 {
@@ -60,7 +55,7 @@ bool ReadElement(const QString& path, std::initializer_list<std::string_view> na
     if (!ParseXml(file, document, &error))
         return false;
     if (!document.WasFound())
-        error = Tr("不是这种布局文件。");
+        error = QCoreApplication::translate("OrvanData", "不是这种布局文件。");
     return document.WasFound();
 }
 
@@ -114,7 +109,7 @@ bool CProjectData::ExportSender(const QString& path, const QUuid& senderId)
     m_lastFileError.clear();
     const CSender* sender = GetSender(GetScIndexByID(senderId));
     if (!sender)
-        return FailFile(Tr("没有这个主控。"));
+        return FailFile(QCoreApplication::translate("OrvanData", "没有这个主控。"));
     return WriteFile(
         path,
         [sender](XmlWriter& writer) {
@@ -131,7 +126,7 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
     m_lastFileError.clear();
     CSender* sender = GetSender(GetScIndexByID(senderId));
     if (!sender || sender->GetPortCount() < 1)
-        return FailFile(Tr("没有这个主控。"));
+        return FailFile(QCoreApplication::translate("OrvanData", "没有这个主控。"));
 
     // Read once to see that it can be read whole, and only then into the sender.
     const auto names = {std::string_view(layoutnames::kSenderLayout),
@@ -156,6 +151,8 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
     if (!ReadElement(path, names, reader, m_lastFileError))
         return false;
     RenewGroupIdsOf(replaced);
+    if (attributes)
+        MarkModified(); // no history holds how a sender is named and shown
     m_lastFileError = report.Text();
     return true;
 }
@@ -166,7 +163,7 @@ bool CProjectData::ExportPort(const QString& path)
     const CSender* sender = GetCurrentSender();
     const CPort* port = sender ? sender->GetPort(sender->GetRecentPortIndex()) : nullptr;
     if (!port)
-        return FailFile(Tr("没有这个输出口。"));
+        return FailFile(QCoreApplication::translate("OrvanData", "没有这个输出口。"));
     return WriteFile(
         path, [port](XmlWriter& writer) { WritePortElement(writer, kPortRoot, *port); }, m_lastFileError);
 }
@@ -177,7 +174,7 @@ bool CProjectData::ImportPort(const QString& path)
     CSender* sender = GetCurrentSender();
     CPort* port = sender ? sender->GetPort(sender->GetRecentPortIndex()) : nullptr;
     if (!port)
-        return FailFile(Tr("没有这个输出口。"));
+        return FailFile(QCoreApplication::translate("OrvanData", "没有这个输出口。"));
 
     const int index = sender->GetRecentPortIndex();
     CPort imported;

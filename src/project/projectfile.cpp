@@ -22,11 +22,6 @@ namespace {
 
 constexpr int kLockTimeout = 30000; ///< milliseconds
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("OrvanData", text);
-}
-
 std::function<void(int)> Reports(CCustomProgressbar* progress)
 {
     if (!progress)
@@ -50,10 +45,12 @@ QString CProjectData::GetLastFileError() const
 bool CProjectData::PrepareWorkFolder(QLockFile& lock, const QString& archive)
 {
     if (!lock.tryLock(kLockTimeout))
-        return FailFile(Tr("另一个程序正在使用项目工作文件夹。"));
+        return FailFile(QCoreApplication::translate("OrvanData", "另一个程序正在使用项目工作文件夹。"));
     if (parameterwork::IsInTheWay(archive))
-        return FailFile(Tr("项目文件不能是项目工作文件夹里的临时文件。"));
-    return parameterwork::MakeProjectFolder() || FailFile(Tr("无法创建项目工作文件夹。"));
+        return FailFile(
+            QCoreApplication::translate("OrvanData", "项目文件不能是项目工作文件夹里的临时文件。"));
+    return parameterwork::MakeProjectFolder()
+           || FailFile(QCoreApplication::translate("OrvanData", "无法创建项目工作文件夹。"));
 }
 
 bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* progress)
@@ -124,7 +121,7 @@ bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustom
 {
     m_lastFileError.clear();
     if (!path)
-        return FailFile(Tr("没有给出文件。"));
+        return FailFile(QCoreApplication::translate("OrvanData", "没有给出文件。"));
     const QString name = QFile::decodeName(path);
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
@@ -139,7 +136,7 @@ bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustom
     else if (start == "<?")
         loaded = LoadDocument(name, version, progress, {});
     else
-        return FailFile(Tr("不是项目文件。"));
+        return FailFile(QCoreApplication::translate("OrvanData", "不是项目文件。"));
     if (!version.isNull())
         error = version;
     return loaded;
@@ -154,7 +151,8 @@ bool CProjectData::LoadArchive(const QString& path, QString& version, CCustomPro
     const bool unpacked =
         UnpackArchive(path, CConstantData::GetProjectParamFileTemp(), QStringLiteral("project/"), &error);
     if (!unpacked || !QFile::exists(parameterwork::DocumentPath()))
-        return FailFile(unpacked ? Tr("压缩包里没有“project/new.prj”。") : error);
+        return FailFile(unpacked ? QCoreApplication::translate("OrvanData", "压缩包里没有“project/new.prj”。")
+                                 : error);
     return LoadDocument(parameterwork::DocumentPath(), version, progress,
                         [](const QList<SParameterFileInfo>& rows, ReadReport& report) {
                             parameterwork::DistributeAfterLoading(rows, GetProjectLookup()->Products(),
@@ -176,10 +174,10 @@ bool CProjectData::LoadDocument(
     if (!ParseXml(file, reader, &error))
         return FailFile(error);
     if (!reader.HasRoot())
-        return FailFile(Tr("不是项目文件。"));
+        return FailFile(QCoreApplication::translate("OrvanData", "不是项目文件。"));
     version = reader.GetRefusedVersion();
     if (!version.isNull())
-        return FailFile(Tr("此文件需要更新的版本：") + version);
+        return FailFile(QCoreApplication::translate("OrvanData", "此文件需要更新的版本：") + version);
 
     const QList<SParameterFileInfo> rows = TakeContent(content);
     if (distribute)

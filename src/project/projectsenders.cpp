@@ -17,11 +17,6 @@ namespace {
 /// Processors are looked for on the network, and the project follows, in this strategy alone.
 constexpr int kStrategyFollowNetwork = 2;
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("OrvanData", text);
-}
-
 bool Confirms(QWidget* parent, const QString& question)
 {
     return CCustomMessageBox::question(parent, question) == QMessageBox::Yes;
@@ -29,7 +24,7 @@ bool Confirms(QWidget* parent, const QString& question)
 
 bool HasLockedPort(CSender& sender)
 {
-    for (int i = 0; i < sender.GetPortCount(); ++i)
+    for (int i = 0; i < kMaxPorts; ++i)
         if (sender.GetPort(i)->IsFlagLock())
             return true;
     return false;
@@ -136,11 +131,11 @@ QString CProjectData::GetPortDescription(int sender, int port) const
 {
     if (!GetSender(sender) || port < 0 || port >= kMaxPorts)
         return {};
-    QString text = Tr("主控 %1").arg(sender + 1);
+    QString text = QCoreApplication::translate("OrvanData", "主控 %1").arg(sender + 1);
     const QString name = GetShowSenderName(sender, true);
     if (!name.isEmpty())
         text += QStringLiteral("(%1)").arg(name);
-    return text + Tr(",输出口 %1 ").arg(port + 1);
+    return text + QCoreApplication::translate("OrvanData", ",输出口 %1 ").arg(port + 1);
 }
 
 void CProjectData::DeleteSender(const QUuid& id)
@@ -181,16 +176,19 @@ bool CProjectData::DeleteSenderBefore(int index, bool ask, QWidget* parent)
         return false;
     int other = -1;
     if (IsSenderBackupDest(index, &other)) {
-        CCustomMessageBox::information(parent, Tr("选择主控为备份主控，请先取消备份。"));
+        CCustomMessageBox::information(
+            parent, QCoreApplication::translate("OrvanData", "选择主控为备份主控，请先取消备份。"));
         return false;
     }
     if (IsSenderBackupSource(index, &other)) {
-        CCustomMessageBox::information(parent, Tr("选择的主控存在备份主控，请先取消备份。"));
+        CCustomMessageBox::information(
+            parent, QCoreApplication::translate("OrvanData", "选择的主控存在备份主控，请先取消备份。"));
         return false;
     }
     if (HasLockedPort(*sender))
-        return Confirms(parent, Tr("主控存在输出口被锁住，您确定要删除选择的主控吗？"));
-    return !ask || Confirms(parent, Tr("您确定要删除选择的主控吗？"));
+        return Confirms(parent, QCoreApplication::translate(
+                                    "OrvanData", "主控存在输出口被锁住，您确定要删除选择的主控吗？"));
+    return !ask || Confirms(parent, QCoreApplication::translate("OrvanData", "您确定要删除选择的主控吗？"));
 }
 
 bool CProjectData::DeleteSender(int index, bool ask, bool keepImages, bool selectPrevious, QWidget* parent)

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace {
@@ -85,7 +86,10 @@ bool Session::LeadTo(const QString& documents, QString* why)
 
 void Session::Translate()
 {
+    // Beside the program, or where an installation keeps it.
     const QString path = GetConfigData()->GetLanguageFilePath();
-    if (QFile::exists(path) && m_translator.load(path))
+    const QString shared = QCoreApplication::applicationDirPath()
+                           + QStringLiteral("/../share/OrvanData/Language/") + QFileInfo(path).fileName();
+    if (m_translator.load(QFile::exists(path) ? path : shared))
         QCoreApplication::installTranslator(&m_translator);
 }

@@ -1,0 +1,359 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="zh_CN">
+<context>
+    <name>OrvanData</name>
+    <message>
+        <source>目标不是普通文件。</source>
+        <translation>The target is not a regular file.</translation>
+    </message>
+    <message>
+        <source>文件无法写入。</source>
+        <translation>The file could not be written.</translation>
+    </message>
+    <message>
+        <source>元素嵌套过深。</source>
+        <translation>Elements are nested too deep.</translation>
+    </message>
+    <message>
+        <source>不接受文档类型声明。</source>
+        <translation>Document type declarations are not accepted.</translation>
+    </message>
+    <message>
+        <source>不是有效的XML（第%1行）：</source>
+        <translation>Not valid XML (line %1): </translation>
+    </message>
+    <message>
+        <source>文件无法读取。</source>
+        <translation>The file could not be read.</translation>
+    </message>
+    <message>
+        <source>文件过大。</source>
+        <translation>The file is too large.</translation>
+    </message>
+    <message>
+        <source>不是参数文件。</source>
+        <translation>Not a parameter file.</translation>
+    </message>
+    <message>
+        <source>找不到主控。</source>
+        <translation>The processor was not found.</translation>
+    </message>
+    <message>
+        <source>不是该类型的参数文件。</source>
+        <translation>Not a parameter file of this kind.</translation>
+    </message>
+    <message>
+        <source>主控%1未找到对应IP的主控参数。</source>
+        <translation>No parameters for the IP address of processor %1 were found.</translation>
+    </message>
+    <message>
+        <source>不可导入，无法匹配对应IP的主控参数。</source>
+        <translation>Cannot import: no processor parameters match the IP addresses.</translation>
+    </message>
+    <message>
+        <source>文件中没有主控参数。</source>
+        <translation>The file holds no processor parameters.</translation>
+    </message>
+    <message>
+        <source>导入失败，无法导入不同类型主控的参数。</source>
+        <translation>Import failed: parameters of a different processor type cannot be imported.</translation>
+    </message>
+    <message>
+        <source>导入失败。</source>
+        <translation>Import failed.</translation>
+    </message>
+    <message>
+        <source>不是这种布局文件。</source>
+        <translation>Not a layout file of this kind.</translation>
+    </message>
+    <message>
+        <source>没有这个主控。</source>
+        <translation>There is no such processor.</translation>
+    </message>
+    <message>
+        <source>没有这个输出口。</source>
+        <translation>There is no such output port.</translation>
+    </message>
+    <message>
+        <source>跳过重复的分组%1</source>
+        <translation>repeated group %1 passed over</translation>
+    </message>
+    <message>
+        <source>分组嵌套过深，更深的分组被跳过</source>
+        <translation>groups are nested too deep; deeper ones passed over</translation>
+    </message>
+    <message>
+        <source>“%1”应有%2个，实有%3个</source>
+        <translation>"%1" should be there %2 times, is there %3 times</translation>
+    </message>
+    <message>
+        <source>缺少参数文件“%1”</source>
+        <translation>parameter file "%1" is missing</translation>
+    </message>
+    <message>
+        <source>另一个程序正在使用项目工作文件夹。</source>
+        <translation>Another program is using the project work folder.</translation>
+    </message>
+    <message>
+        <source>项目文件不能是项目工作文件夹里的临时文件。</source>
+        <translation>The project file cannot be a temporary file of the project work folder.</translation>
+    </message>
+    <message>
+        <source>无法创建项目工作文件夹。</source>
+        <translation>The project work folder could not be made.</translation>
+    </message>
+    <message>
+        <source>没有给出文件。</source>
+        <translation>No file was given.</translation>
+    </message>
+    <message>
+        <source>不是项目文件。</source>
+        <translation>Not a project file.</translation>
+    </message>
+    <message>
+        <source>压缩包里没有“project/new.prj”。</source>
+        <translation>The archive holds no "project/new.prj".</translation>
+    </message>
+    <message>
+        <source>此文件需要更新的版本：</source>
+        <translation>This file asks for a newer version: </translation>
+    </message>
+    <message>
+        <source>选取</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>主控 %1</source>
+        <translation>Processor %1</translation>
+    </message>
+    <message>
+        <source>,输出口 %1 </source>
+        <translation>, output port %1 </translation>
+    </message>
+    <message>
+        <source>选择主控为备份主控，请先取消备份。</source>
+        <translation>The selected processor is a backup processor. Cancel the backup first.</translation>
+    </message>
+    <message>
+        <source>选择的主控存在备份主控，请先取消备份。</source>
+        <translation>The selected processor has a backup processor. Cancel the backup first.</translation>
+    </message>
+    <message>
+        <source>主控存在输出口被锁住，您确定要删除选择的主控吗？</source>
+        <translation>A port of the processor is locked. Delete the selected processor anyway?</translation>
+    </message>
+    <message>
+        <source>您确定要删除选择的主控吗？</source>
+        <translation>Delete the selected processor?</translation>
+    </message>
+    <message>
+        <source>跳过元素“%1”</source>
+        <translation>element "%1" passed over</translation>
+    </message>
+    <message>
+        <source>另有%1处</source>
+        <translation>and %1 more</translation>
+    </message>
+    <message>
+        <source>文件不存在: %1</source>
+        <translation>file does not exist: %1</translation>
+    </message>
+    <message>
+        <source>文件夹无法创建: %1</source>
+        <translation>folder could not be made: %1</translation>
+    </message>
+    <message>
+        <source>系统缺少GBK编码</source>
+        <translation>the system has no GBK codec</translation>
+    </message>
+    <message>
+        <source>不是有效的压缩包: %1</source>
+        <translation>not a valid archive: %1</translation>
+    </message>
+    <message>
+        <source>压缩包内容过大: %1</source>
+        <translation>the archive holds too much: %1</translation>
+    </message>
+    <message>
+        <source>压缩包条目名称无效</source>
+        <translation>the name of an archive entry is not valid</translation>
+    </message>
+    <message>
+        <source>压缩包条目无法解压: %1</source>
+        <translation>archive entry could not be unpacked: %1</translation>
+    </message>
+    <message>
+        <source>文件夹无法读取: %1</source>
+        <translation>folder could not be read: %1</translation>
+    </message>
+    <message>
+        <source>文件无法写入</source>
+        <translation>the file could not be written</translation>
+    </message>
+    <message>
+        <source>文件夹不存在: %1</source>
+        <translation>folder does not exist: %1</translation>
+    </message>
+    <message>
+        <source>新建工程</source>
+        <translation>New project</translation>
+    </message>
+    <message>
+        <source>打开工程</source>
+        <translation>Open project</translation>
+    </message>
+    <message>
+        <source>保存工程</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>另存工程</source>
+        <translation>Save project as</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>剪切</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>粘贴</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>组合</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>取消组合</source>
+        <translation>Ungroup</translation>
+    </message>
+    <message>
+        <source>自动连线</source>
+        <translation>Connect automatically</translation>
+    </message>
+    <message>
+        <source>清除连线</source>
+        <translation>Clear connections</translation>
+    </message>
+    <message>
+        <source>放大</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message>
+        <source>缩小</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message>
+        <source>适应窗口</source>
+        <translation>Fit to window</translation>
+    </message>
+    <message>
+        <source>显示网格</source>
+        <translation>Show grid</translation>
+    </message>
+    <message>
+        <source>锁定网口</source>
+        <translation>Lock port</translation>
+    </message>
+    <message>
+        <source>增加亮度</source>
+        <translation>Increase brightness</translation>
+    </message>
+    <message>
+        <source>降低亮度</source>
+        <translation>Decrease brightness</translation>
+    </message>
+    <message>
+        <source>黑屏</source>
+        <translation>Blackout</translation>
+    </message>
+    <message>
+        <source>冻结画面</source>
+        <translation>Freeze picture</translation>
+    </message>
+    <message>
+        <source>正常显示</source>
+        <translation>Normal display</translation>
+    </message>
+    <message>
+        <source>上一个发送卡</source>
+        <translation>Previous sender</translation>
+    </message>
+    <message>
+        <source>下一个发送卡</source>
+        <translation>Next sender</translation>
+    </message>
+    <message>
+        <source>红色测试</source>
+        <translation>Red test</translation>
+    </message>
+    <message>
+        <source>绿色测试</source>
+        <translation>Green test</translation>
+    </message>
+    <message>
+        <source>蓝色测试</source>
+        <translation>Blue test</translation>
+    </message>
+    <message>
+        <source>白色测试</source>
+        <translation>White test</translation>
+    </message>
+    <message>
+        <source>网格测试</source>
+        <translation>Grid test</translation>
+    </message>
+    <message>
+        <source>预案1</source>
+        <translation>Preset 1</translation>
+    </message>
+    <message>
+        <source>预案2</source>
+        <translation>Preset 2</translation>
+    </message>
+    <message>
+        <source>预案3</source>
+        <translation>Preset 3</translation>
+    </message>
+    <message>
+        <source>预案4</source>
+        <translation>Preset 4</translation>
+    </message>
+    <message>
+        <source>预案5</source>
+        <translation>Preset 5</translation>
+    </message>
+    <message>
+        <source>预案6</source>
+        <translation>Preset 6</translation>
+    </message>
+    <message>
+        <source>预案7</source>
+        <translation>Preset 7</translation>
+    </message>
+    <message>
+        <source>预案8</source>
+        <translation>Preset 8</translation>
+    </message>
+</context>
+</TS>
