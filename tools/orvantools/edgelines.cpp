@@ -13,20 +13,6 @@ void EdgeLines::Add(const QRectF& rect)
     m_vertical.push_back({rect.right(), rect.top(), rect.bottom(), false});
 }
 
-std::vector<EdgeLines::Edge> EdgeLines::Joined(std::vector<Edge> edges)
-{
-    std::sort(edges.begin(), edges.end(),
-              [](const Edge& a, const Edge& b) { return std::tie(a.at, a.from) < std::tie(b.at, b.from); });
-    std::vector<Edge> joined;
-    for (const Edge& edge : edges) {
-        if (!joined.empty() && joined.back().at == edge.at && edge.from <= joined.back().to)
-            joined.back().to = std::max(joined.back().to, edge.to);
-        else
-            joined.push_back(edge);
-    }
-    return joined;
-}
-
 std::vector<EdgeLines::Edge> EdgeLines::Bordering(const std::vector<Edge>& edges)
 {
     struct Event
@@ -60,16 +46,6 @@ std::vector<EdgeLines::Edge> EdgeLines::Bordering(const std::vector<Edge>& edges
             border.push_back(piece);
     }
     return border;
-}
-
-QVector<QLineF> EdgeLines::GetGrid() const
-{
-    QVector<QLineF> lines;
-    for (const Edge& edge : Joined(m_horizontal))
-        lines.append(QLineF(edge.from, edge.at, edge.to, edge.at));
-    for (const Edge& edge : Joined(m_vertical))
-        lines.append(QLineF(edge.at, edge.from, edge.at, edge.to));
-    return lines;
 }
 
 std::vector<BorderLine> EdgeLines::GetBorder() const

@@ -3,7 +3,6 @@
 #include <QLineF>
 #include <QPointF>
 #include <QRectF>
-#include <QVector>
 
 #include <vector>
 
@@ -16,15 +15,13 @@ struct BorderLine
     QPointF inward; ///< of length one
 };
 
-/// The edges of rectangles that stand side by side. Pieces of one straight line are joined, so that a wall of
-/// thousands of cabinets has a few hundred lines.
+/// The edge of the area that rectangles cover. Pieces of one straight line are joined.
 class EdgeLines
 {
 public:
     void Add(const QRectF& rect);
 
-    QVector<QLineF> GetGrid() const;           ///< every edge, shared ones once
-    std::vector<BorderLine> GetBorder() const; ///< those with rectangles on one side only
+    std::vector<BorderLine> GetBorder() const; ///< the edges with rectangles on one side only
 
 private:
     struct Edge
@@ -35,7 +32,6 @@ private:
         bool opens; ///< the rectangle lies behind it
     };
 
-    static std::vector<Edge> Joined(std::vector<Edge> edges);
     static std::vector<Edge> Bordering(const std::vector<Edge>& edges);
 
     std::vector<Edge> m_horizontal;

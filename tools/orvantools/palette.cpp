@@ -11,6 +11,7 @@ namespace OrvanTools {
 namespace {
 
 constexpr int kColors = 256;
+constexpr int kCountedRows = 3;   ///< every third one tells enough
 constexpr size_t kBins = 1 << 15; ///< five bits a channel
 
 size_t BinOf(QRgb color)
@@ -24,16 +25,18 @@ struct Bin
     qint64 pixels = 0;
     QRgb color = 0; ///< that of an area where there is one
     bool fromArea = false;
+    bool hasIndex = false;
     uchar index = 0;
 };
 
 void Count(const QImage& drawing, std::vector<Bin>& bins)
 {
-    for (int y = 0; y < drawing.height(); ++y) {
+    const int width = drawing.width();
+    for (int y = 0; y < drawing.height(); y += kCountedRows) {
         const auto* row = reinterpret_cast<const QRgb*>(drawing.constScanLine(y));
         int begin = 0;
-        for (int x = 1; x <= drawing.width(); ++x) {
-            if (x < drawing.width() && row[x] == row[begin])
+        for (int x = 1; x <= width; ++x) {
+            if (x < width && row[x] == row[begin])
                 continue;
             Bin& bin = bins[BinOf(row[begin])];
             const bool isArea = x - begin >= 4;
@@ -69,10 +72,10 @@ uchar NearestOf(const QVector<QRgb>& palette, QRgb color)
     return static_cast<uchar>(best);
 }
 
-QVector<QRgb> ChoosePalette(std::vector<Bin>& bins)
+QVector<QRgb> ChoosePalette(const std::vector<Bin>& bins)
 {
-    std::vector<Bin*> used;
-    for (Bin& bin : bins) {
+    std::vector<const Bin*> used;
+    for (const Bin& bin : bins) {
         if (bin.pixels > 0)
             used.push_back(&bin);
     }
@@ -81,8 +84,6 @@ QVector<QRgb> ChoosePalette(std::vector<Bin>& bins)
     QVector<QRgb> palette;
     for (size_t i = 0; i < used.size() && i < kColors; ++i)
         palette.append(used[i]->color);
-    for (Bin* bin : used)
-        bin->index = NearestOf(palette, bin->color);
     return palette;
 }
 
@@ -94,12 +95,20 @@ QImage ReducedToPalette(const QImage& drawing)
     std::vector<Bin> bins(kBins);
     Count(drawing, bins);
     QImage reduced(drawing.size(), QImage::Format_Indexed8);
-    reduced.setColorTable(ChoosePalette(bins));
+    const QVector<QRgb> palette = ChoosePalette(bins);
+    reduced.setColorTable(palette);
+    const int width = drawing.width();
     for (int y = 0; y < drawing.height(); ++y) {
         const auto* from = reinterpret_cast<const QRgb*>(drawing.constScanLine(y));
         uchar* to = reduced.scanLine(y);
-        for (int x = 0; x < drawing.width(); ++x)
-            to[x] = bins[BinOf(from[x])].index;
+        for (int x = 0; x < width; ++x) {
+            Bin& bin = bins[BinOf(from[x])];
+            if (!bin.hasIndex) {
+                bin.index = NearestOf(palette, bin.pixels > 0 ? bin.color : from[x]);
+                bin.hasIndex = true;
+            }
+            to[x] = bin.index;
+        }
     }
     return reduced;
 }

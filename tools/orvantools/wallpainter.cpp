@@ -168,8 +168,11 @@ void WallPainter::PaintCanvas()
     const QRectF around = m_area.adjusted(-kMargin, -kMargin, kMargin, kMargin);
     m_painter.save();
     m_painter.setClipRect(around);
+    const QColor ground(246, 246, 246);
+    if (m_asPixels)
+        FillPixels({m_painter.worldTransform().mapRect(canvas.intersected(around)).toRect()}, ground);
     m_painter.setPen(QPen(QColor(110, 110, 110), 3, Qt::DashDotLine));
-    m_painter.setBrush(QColor(246, 246, 246));
+    m_painter.setBrush(m_asPixels ? QBrush(Qt::NoBrush) : ground);
     m_painter.drawRect(canvas);
     m_painter.restore();
 }
@@ -196,34 +199,54 @@ void WallPainter::PaintCabinets(const PicturePort& port)
     m_painter.drawPath(path);
 }
 
-/// Thousands of cabinets as one path are a slow thing to fill pixel by pixel.
+/// Thousands of cabinets as one path are slow to fill pixel by pixel, and so are long upright lines: a row in
+/// the colour of the outline shows it where the cabinets laid on it leave it bare. On whole pixels, so that
+/// every line is as wide as the next one.
 void WallPainter::PaintCabinetsAsPixels(const PicturePort& port)
 {
-    EdgeLines edges;
-    QVector<QRectF> rects;
-    QPainterPath turned;
+    const QPen outline = m_painter.pen();
+    const QTransform toPixels = m_painter.worldTransform();
+    const int line = std::max(1, qRound(outline.widthF() * toPixels.m11()));
+    QPainterPath drawn; // what areas along the axes cannot show
+    QRect row;
+    QVector<QRect> cabinets;
+    const auto fillRow = [&] {
+        FillPixels({row.adjusted(0, 0, line, line)}, outline.color());
+        FillPixels(cabinets, FillOf(port));
+        cabinets.clear();
+    };
     for (const TileShape& shape : port.shapes) {
-        if (shape.IsTurned()) {
-            turned.addPolygon(Map(shape.Polygon()));
-            turned.closeSubpath();
+        if (shape.IsTurned() || port.hidden) {
+            drawn.addPolygon(Map(shape.Polygon()));
+            drawn.closeSubpath();
             continue;
         }
         const QRectF bound = shape.Bound();
-        edges.Add(bound);
-        rects.append(QRectF(Map(bound.topLeft()), Map(bound.bottomRight())));
+        const QPoint leftTop = toPixels.map(Map(bound.topLeft())).toPoint();
+        const QPoint rightBottom = toPixels.map(Map(bound.bottomRight())).toPoint();
+        const QRect place(leftTop, QSize(rightBottom.x() - leftTop.x(), rightBottom.y() - leftTop.y()));
+        const bool goesOn = !cabinets.isEmpty() && row.top() == place.top() && row.bottom() == place.bottom()
+                            && row.right() + 1 == place.left();
+        if (!goesOn && !cabinets.isEmpty())
+            fillRow();
+        row = goesOn ? QRect(row.topLeft(), place.bottomRight()) : place;
+        cabinets.append(place.adjusted(line, line, 0, 0));
     }
-    QVector<QLineF> lines = edges.GetGrid();
-    for (QLineF& line : lines)
-        line = QLineF(Map(line.p1()), Map(line.p2()));
-    const QPen outline = m_painter.pen();
+    if (!cabinets.isEmpty())
+        fillRow();
+    drawn.setFillRule(Qt::WindingFill);
+    m_painter.drawPath(drawn);
+}
+
+void WallPainter::FillPixels(const QVector<QRect>& rects, const QColor& color)
+{
+    m_painter.save();
+    m_painter.resetTransform();
     m_painter.setPen(Qt::NoPen);
-    m_painter.setRenderHint(QPainter::Antialiasing, false); // their edges lie below the lines
+    m_painter.setBrush(color);
+    m_painter.setRenderHint(QPainter::Antialiasing, false);
     m_painter.drawRects(rects);
-    m_painter.setRenderHint(QPainter::Antialiasing, true);
-    m_painter.setPen(outline);
-    m_painter.drawLines(lines);
-    turned.setFillRule(Qt::WindingFill);
-    m_painter.drawPath(turned);
+    m_painter.restore();
 }
 
 void WallPainter::PaintReceivers(const PicturePort& port)
@@ -256,26 +279,23 @@ void WallPainter::PaintGroups(const PicturePort& port)
         return;
     // Inwards from group to group, so that none hides another.
     const double step = Limited(SideOf(port.shapes.front()) * 0.08, 4, 12);
-    QPainterPath path;
+    std::vector<QPolygonF> lines;
     for (const GroupOutline& outline : port.groups) {
         const double inset = step * (0.5 + outline.depth);
         for (const BorderLine& border : outline.lines) {
-            QLineF line(Map(border.line.p1()) + border.inward * inset,
-                        Map(border.line.p2()) + border.inward * inset);
+            const QLineF line(Map(border.line.p1()) + border.inward * inset,
+                              Map(border.line.p2()) + border.inward * inset);
             if (line.length() <= 2 * inset)
                 continue;
             const QPointF end = (line.p2() - line.p1()) / line.length() * inset;
-            path.moveTo(line.p1() + end);
-            path.lineTo(line.p2() - end);
+            lines.push_back(QPolygonF() << line.p1() + end << line.p2() - end);
         }
     }
-    if (path.isEmpty())
-        return;
     m_painter.setBrush(Qt::NoBrush);
     m_painter.setPen(QPen(Qt::white, 5, Qt::SolidLine, Qt::SquareCap));
-    m_painter.drawPath(path);
+    DrawLines(lines);
     m_painter.setPen(GroupPen());
-    m_painter.drawPath(path);
+    DrawLines(lines);
 }
 
 void WallPainter::PaintChain(const PicturePort& port)

@@ -34,6 +34,7 @@ private:
     void PaintCanvas();
     void PaintCabinets(const PicturePort& port);
     void PaintCabinetsAsPixels(const PicturePort& port);
+    void FillPixels(const QVector<QRect>& rects, const QColor& color);
     void PaintReceivers(const PicturePort& port);
     void PaintGroups(const PicturePort& port);
     void PaintChain(const PicturePort& port);
