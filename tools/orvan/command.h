@@ -41,5 +41,6 @@ extern const Command kCheckCommand;
 extern const Command kDemoCommand;
 extern const Command kInfoCommand;
 extern const Command kNewCommand;
+extern const Command kParamsCommand;
 extern const Command kProductsCommand;
 extern const Command kRenderCommand;

@@ -17,7 +17,8 @@
 namespace {
 
 const Command* const kCommands[] = {
-    &kDemoCommand, &kNewCommand, &kInfoCommand, &kCheckCommand, &kRenderCommand, &kProductsCommand,
+    &kDemoCommand,   &kNewCommand,      &kInfoCommand,   &kCheckCommand,
+    &kRenderCommand, &kProductsCommand, &kParamsCommand,
 };
 
 /// Without a locale every character beyond ASCII would be lost, in file names too. They are UTF-8 then.
