@@ -13,6 +13,4 @@ function(orvan_tests room)
     add_executable(test_${room} ${ARGN})
     target_link_libraries(test_${room} PRIVATE OrvanTestSupport)
     add_test(NAME ${room} COMMAND test_${room})
-    set_tests_properties(${room} PROPERTIES ENVIRONMENT
-        "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leaks_of_qt.txt:print_suppressions=0")
 endfunction()
