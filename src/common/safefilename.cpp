@@ -6,11 +6,12 @@ constexpr int kMaxBytes = 120;
 
 bool IsForbidden(QChar c)
 {
-    return c.unicode() < 0x20 || c.unicode() == 0x7f || QStringLiteral("/\\:*?\"<>|").contains(c);
+    return c.category() == QChar::Other_Control || QStringLiteral("/\\:*?\"<>|").contains(c);
 }
 
 QString CutToBytes(QString text)
 {
+    text.truncate(kMaxBytes + 1); // of a huge text no more than this is counted; half a character goes below
     while (text.toUtf8().size() > kMaxBytes)
         text.chop(text.at(text.size() - 1).isLowSurrogate() ? 2 : 1);
     return text;
@@ -20,14 +21,13 @@ QString CutToBytes(QString text)
 
 QString SafeFileName(const QString& text, const QString& fallback)
 {
-    QString name = text.left(kMaxBytes);
+    int dots = 0;
+    while (dots < text.size() && text[dots] == QLatin1Char('.'))
+        ++dots;
+    QString name = CutToBytes(text.mid(dots));
     for (QChar& c : name)
         if (IsForbidden(c))
             c = QLatin1Char('_');
-    int dots = 0;
-    while (dots < name.size() && name[dots] == QLatin1Char('.'))
-        ++dots;
-    name = CutToBytes(name.mid(dots));
     while (name.endsWith(QLatin1Char('.')) || name.endsWith(QLatin1Char(' ')))
         name.chop(1);
     return name.isEmpty() ? fallback : name;
