@@ -36,8 +36,11 @@ template <class Value> class MonitorPlaceMap
 public:
     bool operator==(const MonitorPlaceMap& other) const { return m_values == other.m_values; }
 
+    /// A number below -1 names nothing and is ignored.
     void Set(const SMonitorPlace& place, const Value& value)
     {
+        if (place.port < -1 || place.receiver < -1)
+            return;
         if (value == Value())
             m_values.remove(place);
         else
