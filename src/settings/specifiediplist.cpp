@@ -115,7 +115,9 @@ QStringList SpecifiedIpList::Outside(const QVector<Ipv4Network>& networks) const
         const quint32 address = QHostAddress(dotted).toIPv4Address();
         const bool inside =
             std::any_of(networks.begin(), networks.end(), [address](const Ipv4Network& network) {
-                return ((address ^ network.address) & network.mask) == 0;
+                // A link between two points may have no mask: it reaches its own address only.
+                const quint32 mask = network.mask ? network.mask : ~quint32(0);
+                return ((address ^ network.address) & mask) == 0;
             });
         if (!inside)
             outside.append(dotted);

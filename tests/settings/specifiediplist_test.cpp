@@ -37,7 +37,8 @@ TEST(SpecifiedIpListTest, AddressesOutsideEveryNetworkAreErrors)
     SpecifiedIpList list;
     for (const char* address : {"10.1.2.3", "10.2.2.3", "192.168.7.128", "192.168.7.127"})
         list.Add(QLatin1String(address));
-    const QVector<Ipv4Network> networks = {{0x0A010001, 0xFFFF0000}, {0xC0A807FE, 0xFFFFFF80}};
+    const QVector<Ipv4Network> networks = {
+        {0x0A010001, 0xFFFF0000}, {0xC0A807FE, 0xFFFFFF80}, {0x0A080001, 0}};
     const QStringList expected = {QStringLiteral("10.2.2.3"), QStringLiteral("192.168.7.127")};
     EXPECT_EQ(list.Outside(networks), expected);
     EXPECT_EQ(list.Outside({}), list.Addresses());
