@@ -32,6 +32,7 @@ int CProductDirectorySet::LoadProductInfo()
 {
     CProductDirectory before;
     Swap(before);
+    SetExpanded(before.IsExpanded());
     m_scannedFolder.clear();
 
     const QString root = GetRootDir();

@@ -177,10 +177,12 @@ TEST_F(ProductDirectorySetTest, PixelSizeScansAnEmptyLibraryAndHasADefault)
 TEST_F(ProductDirectorySetTest, FoldersStayExpandedOverARescan)
 {
     Write("sub/a.rcvp", "a");
+    library.SetExpanded(true);
     library.LoadProductInfo();
     library.GetSubDirs().at(0)->SetExpanded(true);
     Write("0/b.rcvp", "b");
     library.LoadProductInfo();
+    EXPECT_TRUE(library.IsExpanded());
     EXPECT_FALSE(library.GetSubDirs().at(0)->IsExpanded());
     EXPECT_TRUE(library.GetSubDirs().at(1)->IsExpanded());
 }
