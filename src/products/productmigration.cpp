@@ -3,6 +3,7 @@
 #include "products/folderlisting.h"
 #include "products/productscan.h"
 #include "settings/constantdata.h"
+#include "settings/folders.h"
 
 #include <QDir>
 #include <QSettings>
@@ -57,28 +58,13 @@ void DeleteListedProducts(const QString& folder, const QSet<SMD5>& digests)
     }
 }
 
-/// Makes the folders of a relative file path one by one; false when one of them is a link or a file.
-bool MakeFolders(const QString& root, const QString& relativeFile)
-{
-    QString folder = root;
-    const QStringList names = relativeFile.split(QLatin1Char('/'));
-    for (int i = 0; i + 1 < names.size(); ++i) {
-        folder += names.at(i);
-        const QFileInfo info(folder);
-        if (info.isSymLink() || (!info.isDir() && !QDir().mkdir(folder)))
-            return false;
-        folder += QLatin1Char('/');
-    }
-    return true;
-}
-
 void MoveFiles(const QString& oldFolder, const QString& newFolder)
 {
     QStringList files;
     ListFiles(oldFolder, files);
     for (const QString& file : qAsConst(files)) {
         const QString relative = file.mid(oldFolder.size());
-        if (!MakeFolders(newFolder, relative) || QFileInfo(newFolder + relative).isSymLink())
+        if (!MakeFoldersOf(newFolder, relative) || QFileInfo(newFolder + relative).isSymLink())
             continue;
         QFile::rename(file, newFolder + relative);
     }

@@ -2,6 +2,7 @@
 
 #include "settings/archivename.h"
 #include "settings/failure.h"
+#include "settings/folders.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -37,20 +38,6 @@ bool IsReadable(const zip_stat_t& stat)
            && (stat.comp_method == ZIP_CM_STORE || stat.comp_method == ZIP_CM_DEFLATE);
 }
 
-/// Makes the folders of an entry, one by one below `base`; false where one is a link or cannot be made.
-bool MakeFolders(const QString& base, const QString& below)
-{
-    QString path = base;
-    const QStringList components = below.split(QLatin1Char('/'), Qt::SkipEmptyParts);
-    for (const QString& component : components) {
-        path += QLatin1Char('/') + component;
-        const QFileInfo info(path);
-        if (info.isSymLink() || (!info.isDir() && !QDir().mkdir(path)))
-            return false;
-    }
-    return true;
-}
-
 /// Copies the declared number of bytes. Asking for one more makes the end, and with it the checksum, tested.
 bool CopyContent(zip_file_t* source, QFile& target, zip_uint64_t size)
 {
@@ -82,10 +69,9 @@ bool ExtractFile(zip_t* archive, zip_uint64_t index, zip_uint64_t size, const QS
 
 bool Extract(zip_t* archive, zip_uint64_t index, const QString& path, const QString& base)
 {
-    const int separator = path.lastIndexOf(QLatin1Char('/'));
-    if (!MakeFolders(base, path.left(separator + 1)))
+    if (!MakeFoldersOf(base, path))
         return false;
-    if (separator == path.size() - 1)
+    if (path.endsWith(QLatin1Char('/')))
         return true;
     zip_stat_t stat;
     return zip_stat_index(archive, index, 0, &stat) == 0

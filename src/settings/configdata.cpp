@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QSettings>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {

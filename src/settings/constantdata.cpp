@@ -1,5 +1,6 @@
 #include "settings/constantdata.h"
 
+#include "common/saturated.h"
 #include "settings/archive.h"
 #include "settings/folders.h"
 #include "settings/settingslookup.h"
@@ -12,7 +13,8 @@
 #include <QFileInfo>
 
 #include <cmath>
-#include <limits>
+
+#include <unistd.h>
 
 namespace {
 
@@ -57,10 +59,7 @@ bool IsChinese()
 
 int RoundHalfAway(double value)
 {
-    const double rounded = std::trunc(value + (value < 0 ? -0.5 : 0.5));
-    constexpr double lowest = std::numeric_limits<int>::min();
-    constexpr double highest = std::numeric_limits<int>::max();
-    return static_cast<int>(qBound(lowest, rounded, highest));
+    return TruncatedInt(value + (value < 0 ? -0.5 : 0.5));
 }
 
 SMD5 HashOf(const QString& path)

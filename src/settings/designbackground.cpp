@@ -1,11 +1,11 @@
 #include "settings/designbackground.h"
 
 #include "common/canvaslimits.h"
+#include "common/saturated.h"
 #include "settings/settingslookup.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -35,16 +35,9 @@ double Step(int index)
     return range->scaling + range->step * (index - range->first);
 }
 
-int Truncated(double value)
-{
-    constexpr double lowest = std::numeric_limits<int>::min();
-    constexpr double highest = std::numeric_limits<int>::max();
-    return std::isnan(value) ? 0 : static_cast<int>(qBound(lowest, value, highest));
-}
-
 QPoint ToPoint(const QPointF& point)
 {
-    return QPoint(Truncated(point.x()), Truncated(point.y()));
+    return QPoint(TruncatedInt(point.x()), TruncatedInt(point.y()));
 }
 
 // A rectangle's size in 64 bits: its corners are a host's numbers.
@@ -294,8 +287,8 @@ bool CDesignBackground::ViewStartPtValid(QPoint& start, float scaling) const
 {
     const QSize canvas = GetBackgroundMaxSize();
     const QRect& client = Current().client;
-    const int largestX = Truncated(canvas.width() - std::trunc(Width(client) / double(scaling)));
-    const int largestY = Truncated(canvas.height() - std::trunc(Height(client) / double(scaling)));
+    const int largestX = TruncatedInt(canvas.width() - std::trunc(Width(client) / double(scaling)));
+    const int largestY = TruncatedInt(canvas.height() - std::trunc(Height(client) / double(scaling)));
     const bool movedX = Bound(start.rx(), largestX);
     const bool movedY = Bound(start.ry(), largestY);
     return movedX || movedY;
@@ -328,7 +321,7 @@ bool CDesignBackground::WholePixelToViewPixel(const QRect& whole, QRect* view) c
 
 bool CDesignBackground::WholePixelToViewPixel(int whole, int* view) const
 {
-    *view = Truncated(std::round(whole * double(GetViewScaling())));
+    *view = TruncatedInt(std::round(whole * double(GetViewScaling())));
     return true;
 }
 
