@@ -45,11 +45,11 @@ QString TemporaryFolder()
     return QDir::tempPath() + QStringLiteral("/Orvan");
 }
 
-// The platform's temporary folder is open to others: a link in our folder's place is not ours.
-bool IsRealFolder(const QString& path)
+// The platform's temporary folder is open to others: what they put in our folder's place is not ours.
+bool IsOurFolder(const QString& path)
 {
     const QFileInfo info(path);
-    return !info.isSymLink() && info.isDir();
+    return !info.isSymLink() && info.isDir() && info.ownerId() == geteuid();
 }
 
 bool IsChinese()
@@ -134,7 +134,7 @@ QString CConstantData::GetTmpProjectDataPath(const QString& zipPath)
 {
     const QString folder = GetTmpFilePath();
     const QString document = folder + QStringLiteral("/SaveProject/card.prj");
-    if (IsRealFolder(folder)) {
+    if (IsOurFolder(folder)) {
         // What an earlier archive left must not pass for this one's document.
         QFile::remove(document);
         UnpackArchive(zipPath, folder);
@@ -153,7 +153,7 @@ QString CConstantData::GetSenderBKImgName(int index, bool withPath)
 void CConstantData::ClearTmpFilePath()
 {
     const QString path = TemporaryFolder();
-    if (!QDir::tempPath().isEmpty() && IsRealFolder(path))
+    if (!QDir::tempPath().isEmpty() && IsOurFolder(path))
         QDir(path).removeRecursively();
 }
 
