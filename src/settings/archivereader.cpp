@@ -115,11 +115,12 @@ bool UnpackArchive(const QString& zipPath, const QString& folder, const QString&
     if (count > kMaxArchiveEntries)
         return Fail(error, QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(zipPath));
 
+    const qint64 withNul = FindNulInNames(zipPath);
     const QString base = QFileInfo(folder).absoluteFilePath();
     zip_uint64_t total = 0;
     for (zip_uint64_t i = 0; i < static_cast<zip_uint64_t>(count); ++i) {
         const QString name = GetArchiveEntryName(archive.get(), i);
-        if (name.isEmpty())
+        if (name.isEmpty() || qint64(i) == withNul)
             return Fail(error, QCoreApplication::translate("OrvanData", "压缩包条目名称无效"));
         if (!name.startsWith(onlyBelow))
             continue;
