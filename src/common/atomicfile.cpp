@@ -1,23 +1,164 @@
 #include "common/atomicfile.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QThread>
+
+#include <cerrno>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr qint64 kPatience = 30000;      ///< milliseconds to wait for another save of the same file
+constexpr unsigned long kPause = 10;     ///< milliseconds between two looks
+constexpr int kMaxTargetNameBytes = 200; ///< leaves room for what is put around it
+
+QString Tr(const char* text)
+{
+    return QCoreApplication::translate("OrvanData", text);
+}
+
+/// The file that a link leads to, and any other path as it is.
+QString Resolved(const QString& path)
+{
+    const QFileInfo info(path);
+    if (info.exists())
+        return info.canonicalFilePath();
+    return info.isSymLink() ? info.symLinkTarget() : info.absoluteFilePath();
+}
+
+/// Whether an open file is the one at its path, without what an interrupted save left in it. Removes one that
+/// is ours, by its lock, but is not fit for use.
+bool IsFresh(int file, const char* path)
+{
+    struct stat opened = {};
+    struct stat named = {};
+    if (fstat(file, &opened) != 0 || lstat(path, &named) != 0 || opened.st_ino != named.st_ino
+        || opened.st_dev != named.st_dev)
+        return false; // renamed or removed by who held the lock before
+    if (S_ISREG(opened.st_mode) && opened.st_size == 0 && opened.st_nlink == 1)
+        return true;
+    unlink(path);
+    return false;
+}
+
+/// The new file beside a target. It has one name for each target and is locked while it is written, so what
+/// an interrupted save left is found and removed by the next one, and another program's is waited for.
+class NewFile
+{
+public:
+    explicit NewFile(const QString& target)
+        : m_target(QFile::encodeName(target)), m_folder(m_target.left(m_target.lastIndexOf('/') + 1)),
+          m_path(m_folder + '.' + m_target.mid(m_folder.size()).left(kMaxTargetNameBytes) + ".part")
+    {}
+
+    ~NewFile()
+    {
+        if (m_file.isOpen() && !m_renamed)
+            unlink(m_path.constData());
+    }
+
+    bool Open()
+    {
+        QElapsedTimer waited;
+        waited.start();
+        do {
+            const int file =
+                open(m_path.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666);
+            if (file < 0 && errno == ELOOP) {
+                unlink(m_path.constData()); // a link is not ours
+                continue;
+            }
+            if (file < 0)
+                return FailWithErrno();
+            // A file system without locks fails otherwise; then there is nothing to wait for.
+            const bool busy = flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+            if (!busy && IsFresh(file, m_path.constData()))
+                return Take(file);
+            close(file);
+            if (busy)
+                QThread::msleep(kPause);
+        } while (waited.elapsed() < kPatience);
+        m_error = Tr(QT_TRANSLATE_NOOP("OrvanData", "另一个程序正在写入该文件。"));
+        return false;
+    }
+
+    bool Commit()
+    {
+        if (!m_file.flush() || m_file.error() != QFileDevice::NoError)
+            return false;
+        m_renamed = fsync(m_file.handle()) == 0 && rename(m_path.constData(), m_target.constData()) == 0;
+        if (!m_renamed)
+            return FailWithErrno();
+        FlushFolder();
+        return true;
+    }
+
+    QFile& Device() { return m_file; }
+
+    QString Error() const
+    {
+        if (!m_error.isEmpty())
+            return m_error;
+        return m_file.error() == QFileDevice::NoError ? Tr(QT_TRANSLATE_NOOP("OrvanData", "文件无法写入。"))
+                                                      : m_file.errorString();
+    }
+
+private:
+    bool Take(int file)
+    {
+        struct stat replaced = {};
+        if (stat(m_target.constData(), &replaced) == 0)
+            fchmod(file, replaced.st_mode & 07777);
+        return m_file.open(file, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle);
+    }
+
+    bool FailWithErrno()
+    {
+        m_error = qt_error_string(errno);
+        return false;
+    }
+
+    /// The new name survives a power cut only then. The file is replaced by now, so a failure here is not
+    /// told.
+    void FlushFolder() const
+    {
+        const int folder = open(m_folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (folder < 0)
+            return;
+        fsync(folder);
+        close(folder);
+    }
+
+    QByteArray m_target;
+    QByteArray m_folder;
+    QByteArray m_path;
+    QFile m_file;
+    QString m_error;
+    bool m_renamed = false;
+};
+
+} // namespace
 
 bool ReplaceFile(const QString& path, const std::function<bool(QIODevice&)>& write, QString* error)
 {
     const QFileInfo target(path);
-    if (target.exists() && !target.isFile()) { // a device or a folder is not ours to replace
+    if (path.isEmpty() || (target.exists() && !target.isFile())) { // a device or a folder is not ours
         if (error)
-            *error = QCoreApplication::translate("OrvanData", "目标不是普通文件。");
+            *error = Tr(QT_TRANSLATE_NOOP("OrvanData", "目标不是普通文件。"));
         return false;
     }
-    QSaveFile file(path);
-    const bool done = file.open(QIODevice::WriteOnly) && write(file) && file.commit();
+    NewFile file(Resolved(path));
+    const bool done = file.Open() && write(file.Device()) && file.Commit();
     if (!done && error)
-        *error = file.error() == QFileDevice::NoError
-                     ? QCoreApplication::translate("OrvanData", "文件无法写入。")
-                     : file.errorString();
+        *error = file.Error();
     return done;
 }
 
