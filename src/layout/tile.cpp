@@ -2,6 +2,7 @@
 
 #include "common/interfacedlg.h"
 #include "common/saturated.h"
+#include "layout/changejournal.h"
 #include "layout/layoutlookup.h"
 #include "layout/rotation.h"
 #include "layout/sender.h"
@@ -78,24 +79,24 @@ bool CTile::operator!=(const CTile& other) const
 
 bool CTile::SetX(int x)
 {
-    Store(&TileData::x, OnCanvas(x, kMaxCanvasWidth, GetWidth()));
+    StorePlace(&TileData::x, OnCanvas(x, kMaxCanvasWidth, GetWidth()));
     return x >= 0 && x < kMaxCanvasWidth;
 }
 
 bool CTile::SetY(int y)
 {
-    Store(&TileData::y, OnCanvas(y, kMaxCanvasHeight, GetHeight()));
+    StorePlace(&TileData::y, OnCanvas(y, kMaxCanvasHeight, GetHeight()));
     return y >= 0 && y < kMaxCanvasHeight;
 }
 
 void CTile::SetWidth(int width)
 {
-    Store(&TileData::width, qMin(width, kMaxCabinetSize));
+    StorePlace(&TileData::width, qMin(width, kMaxCabinetSize));
 }
 
 void CTile::SetHeight(int height)
 {
-    Store(&TileData::height, qMin(height, kMaxCabinetSize));
+    StorePlace(&TileData::height, qMin(height, kMaxCabinetSize));
 }
 
 int CTile::GetX() const
@@ -149,12 +150,13 @@ void CTile::Offset(int dx, int dy)
     data.rotate.centerY += dy;
     data.rotate.leftTopX += dx;
     data.rotate.leftTopY += dy;
+    ChangeJournal::Append(this);
 }
 
 void CTile::RestorePosition(int x, int y)
 {
-    Store(&TileData::x, StoredOnCanvas(x, kMaxCanvasWidth, GetWidth()));
-    Store(&TileData::y, StoredOnCanvas(y, kMaxCanvasHeight, GetHeight()));
+    StorePlace(&TileData::x, StoredOnCanvas(x, kMaxCanvasWidth, GetWidth()));
+    StorePlace(&TileData::y, StoredOnCanvas(y, kMaxCanvasHeight, GetHeight()));
 }
 
 QPoint CTile::GetCenter() const
@@ -446,7 +448,10 @@ void CTile::SetBeginRcvCnnt(int begin)
 SRotateParam* CTile::GetTileRotateParam()
 {
     TileData& data = Write();
+    if (!data.rotateHandedOut)
+        ChangeJournal::Append(this);
     data.handedOut = true;
+    data.rotateHandedOut = true;
     return &data.rotate;
 }
 
@@ -462,6 +467,7 @@ void CTile::SetTileRotateParam(const SRotateParam* param)
     SRotateParam record = *param; // a copy: it may lie in the data that is left now
     record.rotated = record.rotated || record.angle > kNoAngle;
     Write().rotate = record;
+    ChangeJournal::Append(this);
 }
 
 bool CTile::IsTileRotated() const
@@ -473,6 +479,8 @@ void CTile::SetData(const TileData* data)
 {
     if (!data || data == m_data.constData())
         return;
+    if (!m_data->IsSamePlace(*data))
+        ChangeJournal::Append(this);
     if (m_data->handedOut)
         static_cast<TileFields&>(*m_data) = *data;
     else if (data->handedOut)
@@ -488,9 +496,18 @@ TileData& CTile::Write()
     return *m_data;
 }
 
-/// Leaves a record that has the value already as it is, so that it stays shared.
-template <class Member, class Value> void CTile::Store(Member member, const Value& value)
+/// Leaves a record that has the value already as it is, so that it stays shared; false then.
+template <class Member, class Value> bool CTile::Store(Member member, const Value& value)
 {
-    if (m_data.constData()->*member != value)
-        Write().*member = value;
+    if (m_data.constData()->*member == value)
+        return false;
+    Write().*member = value;
+    return true;
+}
+
+/// Of what decides where the cabinet lies.
+template <class Member, class Value> void CTile::StorePlace(Member member, const Value& value)
+{
+    if (Store(member, value))
+        ChangeJournal::Append(this);
 }

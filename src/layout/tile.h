@@ -114,7 +114,8 @@ public:
 
 private:
     TileData& Write(); ///< the record, this tile's alone
-    template <class Member, class Value> void Store(Member member, const Value& value);
+    template <class Member, class Value> bool Store(Member member, const Value& value);
+    template <class Member, class Value> void StorePlace(Member member, const Value& value);
     QRect CellRect(int index);
 
     QExplicitlySharedDataPointer<TileData> m_data;

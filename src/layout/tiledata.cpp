@@ -13,10 +13,21 @@ bool TileFields::IsEqual(const TileFields& other) const
            && std::memcmp(line, other.line, sizeof line) == 0;
 }
 
+bool TileFields::IsSamePlace(const TileFields& other) const
+{
+    const auto same = [this, &other](double SRotateParam::*number) {
+        return std::memcmp(&(rotate.*number), &(other.rotate.*number), sizeof(double)) == 0;
+    };
+    return x == other.x && y == other.y && width == other.width && height == other.height
+           && rotate.rotated == other.rotate.rotated && same(&SRotateParam::centerX)
+           && same(&SRotateParam::centerY) && same(&SRotateParam::angle);
+}
+
 TileData* TileData::NewCopy() const
 {
     auto* copy = new TileData(*this);
     copy->handedOut = false;
+    copy->rotateHandedOut = false;
     return copy;
 }
 

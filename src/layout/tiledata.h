@@ -33,6 +33,7 @@ struct TileFields
     bool visible = true;
 
     bool IsEqual(const TileFields& other) const;
+    bool IsSamePlace(const TileFields& other) const; ///< to the bit in place, size and rotation
 };
 
 /// The record that copies of a cabinet share until one is written to.
@@ -40,6 +41,7 @@ struct TileData : QSharedData, TileFields
 {
     /// A pointer into this record is out, so it stays this cabinet's alone and at its place.
     bool handedOut = false;
+    bool rotateHandedOut = false; ///< that pointer is to the rotation: the cabinet moves without notice
 
     TileData* NewCopy() const; ///< [new] of which no pointer is out
 

@@ -5,6 +5,7 @@
 #include "layout/layoutlookup.h"
 #include "layout/sender.h"
 #include "layout/tile.h"
+#include "layout/tileindex.h"
 
 #include <QSet>
 
@@ -287,5 +288,7 @@ void CTileSet::Replace(const QList<CTile*>& tiles, bool owning)
     }
     m_tiles = tiles;
     m_owning = owning;
+    m_queried.clear();
+    m_index.reset();
     DeleteTiles(dropped);
 }

@@ -9,7 +9,10 @@
 #include <QSize>
 #include <QUuid>
 
+#include <memory>
+
 class CTile;
+class TileIndex;
 
 /// Serpentine patterns of automatic numbering: rows, then columns, by start corner.
 enum EnAutoNumberType : int
@@ -122,8 +125,14 @@ public:
 
 private:
     void Normalize(QList<CTile*>* chain); ///< takes no lock; appends the chain in order unless null
+    TileIndex* UsableIndex() const;
+    template <class Test> QList<CTile*> FindFromTop(const Test& test) const; ///< see TileIndex
     void SetResult(const QList<CTile*>& tiles);
 
     QList<CTile*> m_tiles;
     bool m_owning = false;
+
+    // hit tests: one alone scans, from the second on an unchanged list they share an index
+    mutable QList<CTile*> m_queried; ///< shared with m_tiles until that changes
+    mutable std::unique_ptr<TileIndex> m_index;
 };

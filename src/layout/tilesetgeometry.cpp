@@ -2,12 +2,16 @@
 
 #include "common/interfacedlg.h"
 #include "common/saturated.h"
+#include "layout/layoutlookup.h"
 #include "layout/rotation.h"
 #include "layout/tile.h"
+#include "layout/tileindex.h"
 
 #include <algorithm>
 
 namespace {
+
+constexpr int kIndexedFrom = 64; ///< cabinets; fewer are scanned as fast
 
 /// Grows from nothing; right and bottom one past the last pixel.
 class Outline
@@ -35,49 +39,74 @@ private:
     qint64 m_bottom = 0;
 };
 
-/// The topmost tile first.
-template <class Predicate> QList<CTile*> MatchingFromTop(const QList<CTile*>& tiles, Predicate predicate)
-{
-    QList<CTile*> found;
-    std::copy_if(tiles.rbegin(), tiles.rend(), std::back_inserter(found), predicate);
-    return found;
-}
+// Tests of TileIndex. The bound is that of a cabinet that is not turned.
 
-bool IsAt(const CTile& tile, int x, int y)
+struct AtPoint
 {
-    if (!tile.IsTileRotated())
-        return tile.GetBound().contains(x, y);
-    CPointEx<double> corners[4];
-    tile.GetRotateArea(corners);
-    return IsInQuadrilateral(corners, x, y);
-}
+    QPoint point;
 
-bool IsWithin(const CTile& tile, const QRect& rect)
-{
-    if (!tile.IsTileRotated()) {
-        const QRect bound = tile.GetBound();
-        return bound == bound.intersected(rect);
+    QRect Area() const { return QRect(point, point); }
+    bool Takes(const QRect& bound) const { return bound.contains(point); }
+    bool Takes(const CTile& tile) const
+    {
+        if (!tile.IsTileRotated())
+            return Takes(tile.GetBound());
+        CPointEx<double> corners[4];
+        tile.GetRotateArea(corners);
+        return IsInQuadrilateral(corners, point.x(), point.y());
     }
-    // Corners lie one past the last pixel, so the far edges count: a turned tile is within its own bound.
-    CPointEx<double> corners[4];
-    tile.GetRotateArea(corners);
-    return std::all_of(corners, corners + 4, [&](const CPointEx<double>& c) {
-        return c.x >= rect.left() && c.x <= rect.right() + 1.0 && c.y >= rect.top()
-               && c.y <= rect.bottom() + 1.0;
-    });
-}
+};
 
-bool Touches(const CTile& tile, const QRect& rect)
+struct Within
 {
-    if (!tile.IsTileRotated())
-        return !tile.GetBound().intersected(rect).isEmpty();
-    CPointEx<double> corners[4];
-    tile.GetRotateArea(corners);
-    return std::any_of(corners, corners + 4, [&](const CPointEx<double>& c) {
-        return c.x >= rect.left() && c.x < rect.right() + 1.0 && c.y >= rect.top()
-               && c.y < rect.bottom() + 1.0;
-    });
-}
+    QRect rect; ///< normalised
+
+    QRect Area() const { return rect; }
+    bool Takes(const QRect& bound) const { return bound == bound.intersected(rect); }
+    bool Takes(const CTile& tile) const
+    {
+        if (!tile.IsTileRotated())
+            return Takes(tile.GetBound());
+        // Corners lie one past the last pixel, so the far edges count: a turned tile is within its own bound.
+        CPointEx<double> corners[4];
+        tile.GetRotateArea(corners);
+        return std::all_of(corners, corners + 4, [this](const CPointEx<double>& c) {
+            return c.x >= rect.left() && c.x <= rect.right() + 1.0 && c.y >= rect.top()
+                   && c.y <= rect.bottom() + 1.0;
+        });
+    }
+};
+
+struct Touching
+{
+    QRect rect; ///< normalised
+
+    QRect Area() const { return rect; }
+    bool Takes(const QRect& bound) const { return !bound.intersected(rect).isEmpty(); }
+    bool Takes(const CTile& tile) const
+    {
+        if (!tile.IsTileRotated())
+            return Takes(tile.GetBound());
+        CPointEx<double> corners[4];
+        tile.GetRotateArea(corners);
+        return std::any_of(corners, corners + 4, [this](const CPointEx<double>& c) {
+            return c.x >= rect.left() && c.x < rect.right() + 1.0 && c.y >= rect.top()
+                   && c.y < rect.bottom() + 1.0;
+        });
+    }
+};
+
+struct CenterWithin
+{
+    QRect rect;
+
+    QRect Area() const { return rect.normalized(); }
+    bool Takes(const QRect& bound) const
+    {
+        return rect.contains(bound.left() + bound.width() / 2, bound.top() + bound.height() / 2);
+    }
+    bool Takes(const CTile& tile) const { return rect.contains(tile.GetCenter()); }
+};
 
 /// Where a tile at `place` goes when the grid from `origin` changes its step; `place` when it is off the
 /// grid.
@@ -91,24 +120,51 @@ int OnNewGrid(int place, int origin, int oldStep, int newStep)
 
 } // namespace
 
+/// Null when this query should scan the list: a short one, the first query of its content, or the first after
+/// many changes.
+TileIndex* CTileSet::UsableIndex() const
+{
+    if (m_tiles.size() < kIndexedFrom)
+        return nullptr;
+    if (!m_queried.isSharedWith(m_tiles)) {
+        m_queried = m_tiles;
+        m_index.reset();
+        return nullptr;
+    }
+    const bool rotation = GetLayoutLookup()->IsRotateEnabled();
+    if (!m_index)
+        m_index = std::make_unique<TileIndex>(m_tiles, rotation);
+    else if (!m_index->CatchUp(rotation))
+        m_index.reset();
+    return m_index.get();
+}
+
+template <class Test> QList<CTile*> CTileSet::FindFromTop(const Test& test) const
+{
+    if (TileIndex* index = UsableIndex())
+        return index->FindFromTop(test);
+    QList<CTile*> found;
+    std::copy_if(m_tiles.rbegin(), m_tiles.rend(), std::back_inserter(found),
+                 [&](const CTile* tile) { return test.Takes(*tile); });
+    return found;
+}
+
 bool CTileSet::GetTileSetAtPosition(CTileSet& out, int x, int y) const
 {
-    out.SetResult(MatchingFromTop(m_tiles, [=](const CTile* tile) { return IsAt(*tile, x, y); }));
+    out.SetResult(FindFromTop(AtPoint{QPoint(x, y)}));
     return out.GetCount() > 0;
 }
 
 bool CTileSet::GetTileSetAtRect(CTileSet& out, const QRect& rect, bool whole) const
 {
     const QRect area = rect.normalized();
-    out.SetResult(MatchingFromTop(
-        m_tiles, [&](const CTile* tile) { return whole ? IsWithin(*tile, area) : Touches(*tile, area); }));
+    out.SetResult(whole ? FindFromTop(Within{area}) : FindFromTop(Touching{area}));
     return out.GetCount() > 0;
 }
 
 bool CTileSet::GetTileSetAtRectWithCenter(CTileSet& out, const QRect& rect) const
 {
-    out.SetResult(
-        MatchingFromTop(m_tiles, [&](const CTile* tile) { return rect.contains(tile->GetCenter()); }));
+    out.SetResult(FindFromTop(CenterWithin{rect}));
     return out.GetCount() > 0;
 }
 

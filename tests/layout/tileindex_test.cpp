@@ -1,0 +1,214 @@
+#include "layout/tile.h"
+#include "layout/tileset.h"
+#include "support/wallbuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <random>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/// A wall under random edits, queried through two sets that live as long as it: the owning one and one that
+/// refers to cabinets of it and of a second wall.
+class EditedWall
+{
+public:
+    explicit EditedWall(unsigned seed) : m_random(seed)
+    {
+        for (CTileSet* wall : {&m_wall, &m_other}) {
+            wall->SetOwnerShip(true);
+            for (int i = 0; i < kCabinets; ++i)
+                wall->AddTile(MakeTile(i % 40 * 64, i / 40 * 64));
+            m_all.AddFromOther(*wall);
+        }
+        for (int i = 0; i < kCabinets; i += 3)
+            m_all.AddTile(m_wall.GetTile(i)); // twice
+    }
+
+    void Edit()
+    {
+        CTile* tile = Any(m_all);
+        switch (Number(0, 13)) {
+        case 0:
+            tile->SetX(Number(-10, 3000));
+            break;
+        case 1:
+            tile->SetY(Number(-10, 3000));
+            break;
+        case 2:
+            tile->SetWidth(Number(-5, 300));
+            break;
+        case 3:
+            tile->SetHeight(Number(0, 3) == 0 ? 0 : Number(1, 1100));
+            break;
+        case 4:
+            tile->Offset(Number(-9000, 9000), Number(0, 5) == 0 ? 2000000000 : 64);
+            break;
+        case 5:
+            tile->RestorePosition(Number(-400, 3000), Number(-400, 3000));
+            break;
+        case 6:
+            tile->SetTileRotateParam(&(m_record = Record(*tile)));
+            break;
+        case 7:
+            m_records.emplace_back(tile, tile->GetTileRotateParam());
+            break;
+        case 8:
+            WriteThroughPointer();
+            break;
+        case 9:
+            *tile = *Any(m_all);
+            break;
+        case 10:
+            TakeBack(tile);
+            break;
+        case 11:
+            m_wall.AutoConnection(AutoNumberColumnsTopLeft, 0);
+            break;
+        case 12:
+            m_lookup.rotateEnabled = Number(0, 3) != 0;
+            break;
+        case 13:
+            EditMany(tile);
+            break;
+        }
+    }
+
+    void Check()
+    {
+        for (const CTileSet* set : {&m_wall, &m_all}) {
+            const QRect rect(Number(-200, 3000), Number(-200, 3000), Number(-300, 300), Number(-3, 300));
+            ExpectAsScanned(*set, [&](const CTileSet& from, CTileSet& out) {
+                from.GetTileSetAtPosition(out, rect.x(), rect.y());
+            });
+            ExpectAsScanned(
+                *set, [&](const CTileSet& from, CTileSet& out) { from.GetTileSetAtRect(out, rect, true); });
+            ExpectAsScanned(
+                *set, [&](const CTileSet& from, CTileSet& out) { from.GetTileSetAtRect(out, rect, false); });
+            ExpectAsScanned(*set, [&](const CTileSet& from, CTileSet& out) {
+                from.GetTileSetAtRectWithCenter(out, rect);
+            });
+        }
+    }
+
+private:
+    static constexpr int kCabinets = 800;
+
+    int Number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(m_random); }
+    CTile* Any(const CTileSet& set) { return set.GetTile(Number(0, set.GetCount() - 1)); }
+
+    static CTile* MakeTile(int x, int y)
+    {
+        auto* tile = new CTile;
+        tile->SetWidth(64);
+        tile->SetHeight(64);
+        tile->SetX(x);
+        tile->SetY(y);
+        return tile;
+    }
+
+    SRotateParam Record(const CTile& tile)
+    {
+        SRotateParam record;
+        record.angle = Number(0, 9) == 0 ? qQNaN() : Number(0, 360);
+        record.centerX = tile.GetX() + Number(-64, 64);
+        record.centerY = Number(0, 9) == 0 ? qInf() : tile.GetY() + 32;
+        return record;
+    }
+
+    void WriteThroughPointer()
+    {
+        if (m_records.empty())
+            return;
+        const auto [tile, record] = m_records[static_cast<size_t>(Number(0, int(m_records.size()) - 1))];
+        *record = Record(*tile);
+        record->rotated = Number(0, 1) != 0;
+    }
+
+    /// As an undo step does, to the state at an earlier call.
+    void TakeBack(CTile* tile)
+    {
+        if (m_earlier)
+            tile->SetData(m_earlier->GetData());
+        m_earlier = std::make_unique<CTile>(*Any(m_all));
+    }
+
+    void EditMany(CTile* tile)
+    {
+        switch (Number(0, 4)) {
+        case 0:
+            m_all.SetOffset(1, 1);
+            break;
+        case 1:
+            m_all.ExchangeTile(Number(0, 9), m_all.GetCount() - 1);
+            break;
+        case 2:
+            m_all.DeteleTile(tile);
+            break;
+        case 3:
+            m_all.AddTile(tile);
+            break;
+        case 4:
+            m_wall.AddTile(MakeTile(Number(0, 2000), Number(0, 2000)));
+            break;
+        }
+    }
+
+    /// A set that has never been queried scans.
+    template <class Query> static void ExpectAsScanned(const CTileSet& set, Query query)
+    {
+        CTileSet fresh;
+        for (CTile* tile : set.GetTiles())
+            fresh.AddTile(tile);
+        CTileSet expected;
+        CTileSet found;
+        query(fresh, expected);
+        query(set, found);
+        EXPECT_EQ(found.GetTiles(), expected.GetTiles());
+    }
+
+    std::mt19937 m_random;
+    TestLookup m_lookup;
+    CTileSet m_wall;
+    CTileSet m_other;
+    CTileSet m_all;
+    SRotateParam m_record;
+    std::vector<std::pair<CTile*, SRotateParam*>> m_records;
+    std::unique_ptr<CTile> m_earlier;
+};
+
+} // namespace
+
+TEST(TileIndexTest, QueriesFindWhatAScanFindsAfterAnyEdit)
+{
+    for (unsigned seed = 1; seed <= 4 && !testing::Test::HasFailure(); ++seed) {
+        EditedWall wall(seed);
+        for (int i = 0; i < 300 && !testing::Test::HasFailure(); ++i) {
+            SCOPED_TRACE(testing::Message() << "seed " << seed << ", edit " << i);
+            wall.Edit();
+            wall.Check();
+        }
+    }
+}
+
+TEST(TileIndexTest, QueryMayFillTheSetThatItReads)
+{
+    CTileSet wall;
+    std::vector<std::unique_ptr<CTile>> tiles;
+    for (int i = 0; i < 100; ++i) {
+        tiles.push_back(std::make_unique<CTile>());
+        tiles.back()->SetWidth(10);
+        tiles.back()->SetHeight(10);
+        tiles.back()->SetX(10 * i);
+        wall.AddTile(tiles.back().get());
+    }
+    CTileSet out;
+    for (int i = 0; i < 2; ++i)
+        wall.GetTileSetAtPosition(out, 5, 5);
+    EXPECT_TRUE(wall.GetTileSetAtRect(wall, QRect(495, 0, 6, 1), false));
+    EXPECT_EQ(wall.GetTiles(), (QList<CTile*>{tiles[50].get(), tiles[49].get()}));
+    EXPECT_FALSE(wall.GetTileSetAtPosition(wall, 5, 5));
+}
