@@ -3,24 +3,30 @@
 #include <algorithm>
 #include <cmath>
 
-std::unique_ptr<CSender> MakeBenchWall(int cabinets, int ports)
+std::unique_ptr<CSender> MakeBenchWall(const WallKind& kind)
 {
     auto sender = std::make_unique<CSender>();
-    sender->SetPortCount(ports == 1 ? 4 : ports);
-    const int each = cabinets / ports;
+    sender->SetPortCount(kind.ports == 1 ? 4 : kind.ports);
+    const int each = kind.cabinets / kind.ports;
     SAddTileInfo block;
     block.senderId = sender->GetId();
     block.width = 64;
     block.height = 64;
     block.rows = std::max(1, static_cast<int>(std::sqrt(each / 2.0)));
     block.columns = each / block.rows;
-    for (int i = 0; i < ports; ++i) {
+    block.multi = kind.multi;
+    block.multiSize = kind.multi ? QSize(2, 2) : QSize(1, 1);
+    for (int i = 0; i < kind.ports; ++i) {
         block.portIndex = i;
-        CPortProject* layout = sender->GetPort(i)->GetPortProject();
-        layout->AddTile(block);
-        layout->GetTileSet()->AutoConnection(AutoNumberRowsTopLeft, 0);
+        sender->GetPort(i)->GetPortProject()->AddTile(block);
+        TilesOf(*sender, i).AutoConnection(AutoNumberRowsTopLeft, 0);
     }
     return sender;
+}
+
+CTileSet& TilesOf(CSender& sender, int port)
+{
+    return *sender.GetPort(port)->GetPortProject()->GetTileSet();
 }
 
 bool PlainCabinet::operator==(const PlainCabinet& other) const

@@ -1,37 +1,22 @@
 #pragma once
 
-#include "layout/layoutlookup.h"
 #include "layout/sender.h"
-
-#include <benchmark/benchmark.h>
 
 #include <memory>
 #include <vector>
 
-/// The sizes that every concern is measured at: cabinets of a wall.
-inline void WallSizes(benchmark::internal::Benchmark* bench)
+/// A wall to measure on.
+struct WallKind
 {
-    for (int cabinets : {1024, 8192, 32768, 131072})
-        bench->Arg(cabinets);
-    bench->Complexity()->Unit(benchmark::kMicrosecond);
-}
-
-/// A wall twice as wide as high on the first `ports` ports, numbered in rows.
-std::unique_ptr<CSender> MakeBenchWall(int cabinets, int ports = 1);
-
-/// Lets the library find one sender as the open project's only and current one, as long as it lives.
-class BenchProject : public LayoutLookup
-{
-public:
-    explicit BenchProject(CSender* sender) : m_sender(sender) { SetLayoutLookup(this); }
-    ~BenchProject() override { SetLayoutLookup(nullptr); }
-
-    CSender* CurrentSender() const override { return m_sender; }
-    QList<CSender*> Senders() const override { return {m_sender}; }
-
-private:
-    CSender* m_sender;
+    int cabinets = 0;
+    int ports = 1;
+    bool multi = false; ///< four receiving cards a cabinet
 };
+
+/// A wall twice as wide as high on each port in use, numbered in rows.
+std::unique_ptr<CSender> MakeBenchWall(const WallKind& kind);
+
+CTileSet& TilesOf(CSender& sender, int port = 0);
 
 /// A cabinet as nothing but its fields: what the floors that we measure ourselves against are made of.
 struct PlainCabinet
