@@ -1,6 +1,7 @@
 # Options, the language level and the two interface targets that every target of the project links.
 option(ORVANDATA_TESTS "Build the tests" ON)
 option(ORVANDATA_BENCHMARKS "Build the benchmarks" OFF)
+option(ORVANDATA_FUZZ "Link the fuzzers with libFuzzer; needs clang" OFF)
 option(ORVANDATA_WERROR "Treat warnings as errors" OFF)
 set(ORVANDATA_SANITIZE "" CACHE STRING "Sanitizers, comma separated: address,undefined or thread")
 set(ORVANDATA_KRXCONTROL_TARGET "" CACHE STRING
