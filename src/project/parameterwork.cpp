@@ -139,12 +139,19 @@ bool MakeProjectFolder()
     return true;
 }
 
-void CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
+bool CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
                       ReadReport& report)
 {
-    for (int i = 0; i < rows.size(); ++i)
-        if (!QFile::copy(SourceOf(rows[i], products), NumberedPath(i)))
+    for (int i = 0; i < rows.size(); ++i) {
+        QFile source(SourceOf(rows[i], products));
+        if (!source.exists()) {
             ReportMissing(rows[i], report);
+        } else if (!source.copy(NumberedPath(i))) {
+            report.Add(source.errorString());
+            return false;
+        }
+    }
+    return true;
 }
 
 void DistributeAfterLoading(const QList<SParameterFileInfo>& rows, CProductDirectorySet* products,

@@ -31,8 +31,9 @@ bool MakeProjectFolder();
 /// Whether the path leads to one of the files that MakeProjectFolder removes.
 bool IsInTheWay(const QString& path);
 
-/// Lays the files of the rows down by their numbers. A file that is nowhere to be found is reported.
-void CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
+/// Lays the files of the rows down by their numbers. A file that is nowhere to be found is reported; false,
+/// with the reason, when one that is there cannot be copied.
+bool CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
                       ReadReport& report);
 
 /// Gives the unpacked numbered files their names here and in the product library, and lets that look again.

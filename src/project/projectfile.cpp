@@ -15,18 +15,34 @@
 #include "customprogressbar.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLockFile>
 
 namespace {
 
-constexpr int kLockTimeout = 30000; ///< milliseconds
+constexpr int kLockTimeout = 30000;   ///< milliseconds
+constexpr int kStaleLockTime = 60000; ///< milliseconds; no save takes that long
 
 std::function<void(int)> Reports(CCustomProgressbar* progress)
 {
     if (!progress)
         return {};
     return [progress](int percent) { progress->SetValue(percent); };
+}
+
+bool LockWorkFolder(QLockFile& lock)
+{
+    lock.setStaleLockTime(kStaleLockTime);
+    if (!lock.tryLock(kLockTimeout))
+        return false;
+    // What a program left that was killed while it removed the lock of another one.
+    const QFileInfo info(parameterwork::LockPath());
+    QDir folder(info.path());
+    for (const QString& name : folder.entryList({info.fileName() + QStringLiteral(".rmlock*")}, QDir::Files))
+        folder.remove(name);
+    return true;
 }
 
 } // namespace
@@ -44,7 +60,7 @@ QString CProjectData::GetLastFileError() const
 
 bool CProjectData::PrepareWorkFolder(QLockFile& lock, const QString& archive)
 {
-    if (!lock.tryLock(kLockTimeout))
+    if (!LockWorkFolder(lock))
         return FailFile(QCoreApplication::translate("OrvanData", "另一个程序正在使用项目工作文件夹。"));
     if (parameterwork::IsInTheWay(archive))
         return FailFile(
@@ -61,9 +77,11 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
         return false;
 
     ReadReport report;
-    parameterwork::CollectForSaving(m_parameterFiles, GetProjectLookup()->Products(), report);
+    // A full disk must not cost the files in the archive that is replaced.
+    const bool complete =
+        parameterwork::CollectForSaving(m_parameterFiles, GetProjectLookup()->Products(), report);
     QString error;
-    if (!PackFolder(parameterwork::ProjectFolder(), path, &error))
+    if (complete && !PackFolder(parameterwork::ProjectFolder(), path, &error))
         report.Add(error);
     m_lastFileError = report.Text();
     return true;

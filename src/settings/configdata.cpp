@@ -5,12 +5,12 @@
 #include "settings/configfile.h"
 #include "settings/customizeconfig.h"
 #include "settings/folders.h"
+#include "settings/inifile.h"
 #include "settings/interfacesettings.h"
 #include "settings/settingslookup.h"
 #include "settings/specifiediplist.h"
 
 #include <QCoreApplication>
-#include <QSettings>
 
 #include <algorithm>
 #include <cmath>
@@ -19,8 +19,8 @@ namespace {
 
 void WritePrintWatermark()
 {
-    QSettings file(ProductFolder() + QStringLiteral("ProductList.ini"), QSettings::IniFormat);
-    file.setValue(QStringLiteral("Setup/PrintWatermark"), QStringLiteral("Vantrel"));
+    WriteIniValues(ProductFolder() + QStringLiteral("ProductList.ini"),
+                   {{QStringLiteral("Setup/PrintWatermark"), QStringLiteral("Vantrel")}});
 }
 
 bool IsInterface(int interface)

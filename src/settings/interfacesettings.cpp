@@ -1,6 +1,7 @@
 #include "settings/interfacesettings.h"
 
 #include "settings/brokenfile.h"
+#include "settings/inifile.h"
 
 #include <QFileInfo>
 #include <QSettings>
@@ -10,11 +11,7 @@ namespace {
 const QString kEnableRotate = QStringLiteral("Function/EnableRotate");
 constexpr bool kEnableRotateDefault = false;
 constexpr qint64 kMaxFileSize = 1 << 24;
-
-void UseUtf8(QSettings& file)
-{
-    file.setIniCodec("UTF-8");
-}
+constexpr const char* kCodec = "UTF-8";
 
 } // namespace
 
@@ -29,7 +26,7 @@ bool InterfaceSettings::Load(const QString& path)
     bool broken = info.size() > kMaxFileSize;
     if (!broken) {
         QSettings file(path, QSettings::IniFormat);
-        UseUtf8(file);
+        file.setIniCodec(kCodec);
         const QStringList keys = file.allKeys();
         broken = file.status() != QSettings::NoError;
         for (const QString& key : keys)
@@ -46,16 +43,7 @@ bool InterfaceSettings::Load(const QString& path)
 
 bool InterfaceSettings::Save() const
 {
-    if (m_path.isEmpty())
-        return true;
-    QSettings file(m_path, QSettings::IniFormat);
-    UseUtf8(file);
-    for (auto value = m_values.begin(); value != m_values.end(); ++value) {
-        if (file.value(value.key()) != value.value())
-            file.setValue(value.key(), value.value());
-    }
-    file.sync();
-    return file.status() == QSettings::NoError;
+    return m_path.isEmpty() || WriteIniValues(m_path, m_values, kCodec);
 }
 
 QVariant InterfaceSettings::Value(const QString& key, const QVariant& standard) const

@@ -1,0 +1,125 @@
+// What a save that is killed or fails may leave: the old file or the new one, and nothing beside it for ever.
+#include "products/productdirectoryset.h"
+#include "robustness/documents.h"
+#include "robustness/failingcalls.h"
+#include "settings/constantdata.h"
+#include "support/library.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDirIterator>
+#include <QProcess>
+#include <QThread>
+
+#include <random>
+
+namespace {
+
+constexpr int kUsualKills = 40;
+constexpr int kLongestLife = 120; ///< milliseconds; all documents were saved several times by then
+
+int Kills()
+{
+    bool given = false;
+    const int kills = qEnvironmentVariableIntValue("ORVAN_KILLS", &given);
+    return given ? kills : kUsualKills;
+}
+
+std::string Names(const QString& folder)
+{
+    QStringList files;
+    QDirIterator all(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (all.hasNext())
+        files.append(QDir(folder).relativeFilePath(all.next()));
+    files.sort();
+    return files.join(QLatin1Char(' ')).toStdString();
+}
+
+class CrashSafetyTest : public testing::Test
+{
+protected:
+    CrashSafetyTest() : folder(scratch.Path() + QLatin1Char('/')) { MakeProducts(); }
+
+    void SaveAll(int version)
+    {
+        for (int document = 0; document < kDocuments; ++document)
+            EXPECT_TRUE(SaveVersion(Document(document), folder, version)) << document;
+    }
+
+    /// After one more save of each document.
+    void ExpectNothingLeft()
+    {
+        SaveAll(1);
+        EXPECT_EQ(Names(folder),
+                  "a.prj config.xml custom.json ips.txt layout.xml processor.xml sender.xml windows.ini");
+        EXPECT_EQ(Names(CConstantData::GetProjectParamFileTemp()),
+                  "cabinet.rcvbp project/0.rcvbp project/new.prj");
+        EXPECT_EQ(Names(CProductDirectorySet::GetRootDir()), "ProductList.ini product1.rcvbp product2.rcvbp");
+        EXPECT_FALSE(
+            QFile::exists(CConstantData::GetProjectParamFileTemp().chopped(1) + QLatin1String(".lock")));
+    }
+
+    static void KillAfter(int milliseconds, const QString& folder)
+    {
+        QProcess saver;
+        saver.start(QStringLiteral(ORVAN_SAVER), {QStringLiteral("loop"), folder});
+        ASSERT_TRUE(saver.waitForReadyRead());
+        QThread::msleep(static_cast<unsigned long>(milliseconds));
+        saver.kill();
+        ASSERT_TRUE(saver.waitForFinished());
+    }
+
+    Library library;
+    TestFolder scratch;
+    QString folder;
+};
+
+TEST_F(CrashSafetyTest, KilledSaveLeavesTheOldFileOrTheNewOne)
+{
+    SaveAll(1);
+    std::mt19937 random(8);
+    std::uniform_int_distribution<int> life(0, kLongestLife);
+    for (int kill = 0; kill < Kills(); ++kill) {
+        KillAfter(life(random), folder);
+        for (int document = 0; document < kDocuments; ++document)
+            ASSERT_NE(VersionOf(Document(document), folder), 0) << document << ", kill " << kill;
+    }
+    ExpectNothingLeft();
+}
+
+TEST_F(CrashSafetyTest, FailingCallLeavesTheOldFileAndIsToldOrTheNewOne)
+{
+    for (int document = 0; document < kDocuments; ++document) {
+        SaveAll(1);
+        for (int failing = 1, calls = 1; failing <= calls + 1; ++failing) {
+            ASSERT_TRUE(SaveVersion(Document(document), folder, 1));
+            FailCall(failing);
+            const bool saved = SaveVersion(Document(document), folder, 2);
+            calls = CountCalls();
+            FailCall(0);
+            const int version = VersionOf(Document(document), folder);
+            EXPECT_EQ(version, saved ? 2 : qMax(version, 1)) << document << ", call " << failing;
+        }
+        EXPECT_EQ(VersionOf(Document(document), folder), 2) << document << ", no call failed";
+    }
+    ExpectNothingLeft();
+}
+
+TEST_F(CrashSafetyTest, TwoProcessesWithOneWorkFolderDoNotMixTheirFiles)
+{
+    QProcess savers[2];
+    for (int i = 0; i < 2; ++i) {
+        const QString own = scratch.Path(QString::number(i)) + QLatin1Char('/');
+        QDir().mkpath(own);
+        savers[i].setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        savers[i].start(QStringLiteral(ORVAN_SAVER),
+                        {QStringLiteral("project"), own, QString::number(i + 1), QStringLiteral("25")});
+    }
+    for (QProcess& saver : savers) {
+        ASSERT_TRUE(saver.waitForFinished(120000));
+        EXPECT_EQ(saver.exitCode(), 0);
+    }
+}
+
+} // namespace
