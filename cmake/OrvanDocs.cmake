@@ -20,6 +20,7 @@ set(DOXYGEN_QUIET YES)
 set(DOXYGEN_WARN_AS_ERROR FAIL_ON_WARNINGS)
 
 get_property(public_headers GLOBAL PROPERTY ORVANDATA_PUBLIC_HEADERS)
-doxygen_add_docs(docs README.md docs/architecture.md docs/file-formats.md CHANGELOG.md src/orvandata.h ${public_headers}
+file(GLOB pages CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/*.md)
+doxygen_add_docs(docs README.md ${pages} CHANGELOG.md src/orvandata.h ${public_headers}
                  krxcontrol/custommessagebox.h krxcontrol/customprogressbar.h
                  WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
