@@ -16,7 +16,11 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     LedNimbraData_Init();
-    Table table(argc > 1 ? argv[1] : "");
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.contains(QStringLiteral("--cpu")))
+        CountCpuTime();
+    const QString last = arguments.last();
+    Table table(argc < 2 || last.startsWith(QLatin1String("--")) ? std::string() : last.toStdString());
     FileFigures(table, home.path());
     UndoFigures(table);
     ChainFigures(table);

@@ -1,15 +1,24 @@
 #include "table.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <ctime>
 #include <utility>
 
 namespace {
 
 constexpr int kRuns = 9;
 constexpr WallKind kWalls[] = {{1024}, {8192}, {32768}, {131072}, {32768, 160}, {32768, 1, true}};
+
+bool g_cpuTime = false;
+
+double Now()
+{
+    timespec time = {};
+    clock_gettime(g_cpuTime ? CLOCK_PROCESS_CPUTIME_ID : CLOCK_MONOTONIC, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
 
 double Median(std::vector<double> values)
 {
@@ -43,11 +52,16 @@ double Exponent(double few, double many)
 
 } // namespace
 
+void CountCpuTime()
+{
+    g_cpuTime = true;
+}
+
 double Seconds(const std::function<void()>& work)
 {
-    const auto start = std::chrono::steady_clock::now();
+    const double start = Now();
     work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return Now() - start;
 }
 
 Pair Interleaved(const Run& floor, const Run& ours)

@@ -26,6 +26,10 @@ struct Pair
 /// The seconds that one run took, without its preparation.
 using Run = std::function<double()>;
 
+/// Makes Seconds count what the processor spent on this program, for a machine that is busy with others.
+/// Waiting for the disk is then left out.
+void CountCpuTime();
+
 double Seconds(const std::function<void()>& work);
 
 /// Medians of nine runs each, taken in turns, so that both meet the same load of the machine.

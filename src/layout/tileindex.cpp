@@ -174,15 +174,16 @@ void TileIndex::Renew(const CTile* tile)
 
 QList<CTile*> TileIndex::TakeFound()
 {
-    QList<CTile*> found;
-    found.reserve(m_foundAtMost);
+    QList<CTile*> found = m_tiles.mid(0, m_foundAtMost); // long enough to be overwritten
+    auto end = found.begin();
     for (size_t word = m_highest + 1; word-- > m_lowest;) {
         for (quint64& bits = m_found[word]; bits != 0;) {
             const auto bit = 63 - qCountLeadingZeroBits(bits);
-            found.append(m_tiles.at(static_cast<int>(word * 64 + bit)));
+            *end++ = m_tiles.at(static_cast<int>(word * 64 + bit));
             bits &= ~(quint64(1) << bit);
         }
     }
+    found.erase(end, found.end());
     m_lowest = m_found.size();
     m_highest = 0;
     m_foundAtMost = 0;

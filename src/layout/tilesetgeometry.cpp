@@ -39,7 +39,8 @@ private:
     qint64 m_bottom = 0;
 };
 
-// Tests of TileIndex. The bound is that of a cabinet that is not turned.
+// Tests for FindFromTop. A bound is that of a cabinet that is not turned, and not empty: so the plain
+// comparisons give what the expressions for any cabinet give.
 
 struct AtPoint
 {
@@ -62,11 +63,15 @@ struct Within
     QRect rect; ///< normalised
 
     QRect Area() const { return rect; }
-    bool Takes(const QRect& bound) const { return bound == bound.intersected(rect); }
+    bool Takes(const QRect& bound) const
+    {
+        return rect.left() <= bound.left() && bound.right() <= rect.right() && rect.top() <= bound.top()
+               && bound.bottom() <= rect.bottom();
+    }
     bool Takes(const CTile& tile) const
     {
         if (!tile.IsTileRotated())
-            return Takes(tile.GetBound());
+            return tile.GetBound() == tile.GetBound().intersected(rect);
         // Corners lie one past the last pixel, so the far edges count: a turned tile is within its own bound.
         CPointEx<double> corners[4];
         tile.GetRotateArea(corners);
@@ -82,11 +87,15 @@ struct Touching
     QRect rect; ///< normalised
 
     QRect Area() const { return rect; }
-    bool Takes(const QRect& bound) const { return !bound.intersected(rect).isEmpty(); }
+    bool Takes(const QRect& bound) const
+    {
+        return !rect.isEmpty() && rect.left() <= bound.right() && bound.left() <= rect.right()
+               && rect.top() <= bound.bottom() && bound.top() <= rect.bottom();
+    }
     bool Takes(const CTile& tile) const
     {
         if (!tile.IsTileRotated())
-            return Takes(tile.GetBound());
+            return !tile.GetBound().intersected(rect).isEmpty();
         CPointEx<double> corners[4];
         tile.GetRotateArea(corners);
         return std::any_of(corners, corners + 4, [this](const CPointEx<double>& c) {
