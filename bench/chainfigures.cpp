@@ -9,32 +9,34 @@
 
 namespace {
 
-Pair BesideHash(CTileSet& tiles, const Run& ours)
+/// One hash for each chain.
+Pair BesideHash(CSender& sender, const WallKind& kind, const Run& ours)
 {
     volatile quintptr found = 0;
+    const auto build = [&](const QList<CTile*>& tiles) {
+        QHash<int, CTile*> byIndex;
+        byIndex.reserve(tiles.size());
+        for (CTile* tile : tiles)
+            byIndex.insert(tile->GetConnectionIndex(), tile);
+        for (int i = 0; i < tiles.size(); ++i)
+            found = found + reinterpret_cast<quintptr>(byIndex.value(i));
+    };
     return Interleaved(
         [&] {
             return Seconds([&] {
-                QHash<int, CTile*> byIndex;
-                byIndex.reserve(tiles.GetCount());
-                for (int i = 0; i < tiles.GetCount(); ++i)
-                    byIndex.insert(tiles.GetTile(i)->GetConnectionIndex(), tiles.GetTile(i));
-                for (int i = 0; i < tiles.GetCount(); ++i)
-                    found = found + reinterpret_cast<quintptr>(byIndex.value(i));
+                for (int i = 0; i < kind.ports; ++i)
+                    build(TilesOf(sender, i).GetTiles());
             });
         },
         ours);
 }
 
-/// By the pattern that takes longest. All cabinets count, those of a sender with 160 ports port by port.
 Pair Number(const WallKind& kind)
 {
     const auto sender = MakeBenchWall(kind);
-    CTileSet all;
-    sender->GetTileSet(all);
     Pair slowest;
     for (int type = AutoNumberRowsTopLeft; type <= AutoNumberColumnsBottomLeft; ++type) {
-        const Pair pair = BesideHash(all, [&] {
+        const Pair pair = BesideHash(*sender, kind, [&] {
             return Seconds([&] {
                 for (int i = 0; i < kind.ports; ++i)
                     TilesOf(*sender, i).AutoConnection(static_cast<EnAutoNumberType>(type), 0);
@@ -50,9 +52,7 @@ Pair Number(const WallKind& kind)
 Pair Normalise(const WallKind& kind, const std::function<void(CTileSet&)>& spoil)
 {
     const auto sender = MakeBenchWall(kind);
-    CTileSet all;
-    sender->GetTileSet(all);
-    return BesideHash(all, [&] {
+    return BesideHash(*sender, kind, [&] {
         for (int i = 0; i < kind.ports; ++i)
             spoil(TilesOf(*sender, i));
         return Seconds([&] {

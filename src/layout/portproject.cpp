@@ -220,11 +220,7 @@ void CPortProject::CancelAllSelected()
 
 bool CPortProject::DeleteSelectedTileAndGroup()
 {
-    CTileSet staying;
-    m_tiles.GetUnselectedTileSet(staying);
-    const bool owning = m_tiles.IsOwner();
-    m_tiles = staying; // frees the others in one pass
-    m_tiles.SetOwnerShip(owning);
+    m_tiles.DeleteSelected(kView);
     DeleteSelectedGroups(m_groups);
     return true;
 }

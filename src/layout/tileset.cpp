@@ -24,12 +24,15 @@ template <class Predicate> QList<CTile*> Matching(const QList<CTile*>& tiles, Pr
     return found;
 }
 
-/// Frees each tile once, also one that is listed twice.
+/// Frees each tile once, also one that is listed twice. Tiles made one after the other mostly ascend as they
+/// are.
 void DeleteTiles(const QList<CTile*>& tiles)
 {
     std::vector<CTile*> each(tiles.begin(), tiles.end());
-    std::sort(each.begin(), each.end(), std::less<>());
-    each.erase(std::unique(each.begin(), each.end()), each.end());
+    if (std::adjacent_find(each.begin(), each.end(), std::greater_equal<>()) != each.end()) {
+        std::sort(each.begin(), each.end(), std::less<>());
+        each.erase(std::unique(each.begin(), each.end()), each.end());
+    }
     for (CTile* tile : each)
         delete tile;
 }
@@ -61,8 +64,12 @@ CTileSet::~CTileSet()
 
 CTileSet& CTileSet::operator=(const CTileSet& other)
 {
-    if (this != &other)
-        Replace(other.m_owning ? CopiesOf(other.m_tiles) : other.m_tiles, other.m_owning);
+    if (this == &other)
+        return *this;
+    const QList<CTile*> tiles = other.m_owning ? CopiesOf(other.m_tiles) : other.m_tiles;
+    if (other.m_owning)
+        DeleteAllTiles(); // no copy is among them
+    Replace(tiles, other.m_owning);
     return *this;
 }
 
@@ -125,6 +132,17 @@ void CTileSet::Truncate(int count)
 {
     if (count < m_tiles.size())
         Replace(m_tiles.mid(0, qMax(count, 0)), m_owning);
+}
+
+void CTileSet::DeleteSelected(int iface)
+{
+    QList<CTile*> staying;
+    QList<CTile*> dropped;
+    for (CTile* tile : qAsConst(m_tiles))
+        (tile->IsSelected(iface) ? dropped : staying).append(tile);
+    m_tiles = staying;
+    if (m_owning)
+        DeleteTiles(dropped); // a tile that is listed twice is in one of the two alone
 }
 
 int CTileSet::GetCount() const
@@ -276,13 +294,13 @@ void CTileSet::SetResult(const QList<CTile*>& tiles)
     Replace(tiles, false);
 }
 
-/// The one place that frees tiles with their set. Those that are part of the new content live on.
+/// Frees the tiles of an owning set that are not part of the new content.
 void CTileSet::Replace(const QList<CTile*>& tiles, bool owning)
 {
     QList<CTile*> dropped;
     if (m_owning && tiles.isEmpty()) {
         dropped = m_tiles;
-    } else if (m_owning) {
+    } else if (m_owning && !m_tiles.isEmpty()) {
         const QSet<CTile*> kept(tiles.begin(), tiles.end());
         dropped = Matching(m_tiles, [&](CTile* tile) { return !kept.contains(tile); });
     }

@@ -52,6 +52,8 @@ public:
     void DeteleTile(int index);
     void DeteleTile(CTile* tile);
     void ExchangeTile(int i, int j);
+    void Truncate(int count);       ///< drops the entries from `count` on, in one pass
+    void DeleteSelected(int iface); ///< in one pass
     int GetCount() const;
     CTile* GetTile(int index) const;           ///< null out of range
     int GetTileIndex(const CTile* tile) const; ///< -1 when absent
@@ -128,6 +130,7 @@ private:
     TileIndex* UsableIndex() const;
     template <class Test> QList<CTile*> FindFromTop(const Test& test) const; ///< see TileIndex
     void SetResult(const QList<CTile*>& tiles);
+    void Replace(const QList<CTile*>& tiles, bool owning);
 
     QList<CTile*> m_tiles;
     bool m_owning = false;
