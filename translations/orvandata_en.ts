@@ -85,11 +85,11 @@
     </message>
     <message>
         <source>“%1”应有%2个，实有%3个</source>
-        <translation>"%1" should be there %2 times, is there %3 times</translation>
+        <translation>&quot;%1&quot; should be there %2 times, is there %3 times</translation>
     </message>
     <message>
         <source>缺少参数文件“%1”</source>
-        <translation>parameter file "%1" is missing</translation>
+        <translation>parameter file &quot;%1&quot; is missing</translation>
     </message>
     <message>
         <source>另一个程序正在使用项目工作文件夹。</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>压缩包里没有“project/new.prj”。</source>
-        <translation>The archive holds no "project/new.prj".</translation>
+        <translation>The archive holds no &quot;project/new.prj&quot;.</translation>
     </message>
     <message>
         <source>此文件需要更新的版本：</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>跳过元素“%1”</source>
-        <translation>element "%1" passed over</translation>
+        <translation>element &quot;%1&quot; passed over</translation>
     </message>
     <message>
         <source>另有%1处</source>
@@ -354,6 +354,10 @@
     <message>
         <source>预案8</source>
         <translation>Preset 8</translation>
+    </message>
+    <message>
+        <source>另一个程序正在写入该文件。</source>
+        <translation>Another program is writing the file.</translation>
     </message>
 </context>
 </TS>

@@ -1,7 +1,7 @@
 #pragma once
 
-/// Where a lower room's questions reach whoever answers them: an abstract interface with harmless answers, and the
-/// object that the frame installs over it.
+/// Where a lower room's questions reach whoever answers them: an abstract interface with harmless answers,
+/// and the object that the frame installs over it.
 template <class Lookup> class Seam
 {
 public:

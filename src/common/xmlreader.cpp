@@ -138,6 +138,7 @@ void WalkDom(const QDomElement& element, XmlHandler& handler)
         texts.push_back(attribute.value().remove(QChar(QChar::Null)).toUtf8());
     }
     std::vector<const char*> pairs;
+    pairs.reserve(texts.size() + 1);
     for (const QByteArray& text : texts)
         pairs.push_back(text.constData());
     pairs.push_back(nullptr);

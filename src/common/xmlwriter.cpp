@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr size_t kBufferSize = 256 * 1024;
+constexpr size_t kBufferSize = size_t(256) * 1024;
 
 /// Line ends and tabs are written as references: a parser would turn them into blanks inside an attribute.
 const char* Reference(char c)

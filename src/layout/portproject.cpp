@@ -2,6 +2,7 @@
 
 #include "common/interfacedlg.h"
 #include "common/saturated.h"
+#include "layout/corners.h"
 #include "layout/groupqueries.h"
 #include "layout/layoutlookup.h"
 #include "layout/rotation.h"

@@ -1,5 +1,7 @@
 #include "layout/rotation.h"
 
+#include "layout/corners.h"
+
 #include "common/saturated.h"
 
 #include <algorithm>

@@ -3,22 +3,6 @@
 #include "common/export.h"
 #include "common/rotateparam.h"
 
-#include <QRect>
-
 /// The point (x, y) turned by the record's angle, clockwise on the screen, about the record's centre; (x, y)
 /// itself for a null record. Multiples of 90 degrees are exact, so that truncation keeps whole pixels.
 ORVANDATA_EXPORT CPointEx<double> GetRotatePoint(const SRotateParam* param, double x, double y);
-
-/// Turns the corners left-top, right-top, right-bottom, left-bottom of a rectangle given by its edges (right
-/// and bottom one past the last pixel).
-void GetRotatedCorners(const SRotateParam& param, int left, int top, int right, int bottom,
-                       CPointEx<double> corners[4]);
-
-/// Bounding box of four corners: left, top, width and height each truncated toward zero.
-QRect GetCornerBound(const CPointEx<double> corners[4]);
-
-/// Whether a point lies inside the convex quadrilateral or on its edge.
-bool IsInQuadrilateral(const CPointEx<double> corners[4], double x, double y);
-
-/// The angle in degrees brought into (-180, 180].
-double NormalizedAngle(double degrees);

@@ -2,8 +2,8 @@
 
 #include "common/interfacedlg.h"
 #include "common/saturated.h"
+#include "layout/corners.h"
 #include "layout/layoutlookup.h"
-#include "layout/rotation.h"
 #include "layout/tile.h"
 #include "layout/tileindex.h"
 

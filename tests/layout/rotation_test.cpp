@@ -1,3 +1,4 @@
+#include "layout/corners.h"
 #include "layout/rotation.h"
 
 #include <QPointF>
