@@ -6,8 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QStandardPaths>
 
 #include <cmath>
 
@@ -42,24 +40,6 @@ QString FirstMissing(const QJsonValue& expected, const QJsonValue& actual, const
                           ? std::abs(number - actual.toDouble()) <= 1e-5 * std::abs(number)
                           : expected == actual;
     return same ? QString() : path;
-}
-
-QJsonObject ReadJson(const QString& path)
-{
-    return QJsonDocument::fromJson(ReadFile(path)).object();
-}
-
-QString Arg(const char* text)
-{
-    return QString::fromUtf8(text);
-}
-
-QStringList Args(std::initializer_list<const char*> texts)
-{
-    QStringList list;
-    for (const char* text : texts)
-        list.append(Arg(text));
-    return list;
 }
 
 int ErrorLines(const OrvanRun& run)

@@ -7,12 +7,26 @@
 #include <QJsonDocument>
 #include <QProcess>
 
+QString Arg(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+QStringList Args(std::initializer_list<const char*> texts)
+{
+    QStringList list;
+    for (const char* text : texts)
+        list.append(Arg(text));
+    return list;
+}
+
 QJsonObject OrvanRun::Json() const
 {
     return QJsonDocument::fromJson(output).object();
 }
 
-OrvanRun RunOrvan(const QStringList& arguments, const QString& folder, const QStringList& environment)
+OrvanRun RunOrvan(const QStringList& arguments, const QString& folder, const QStringList& environment,
+                  const QString& program)
 {
     QProcess process;
     process.setWorkingDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
@@ -20,13 +34,18 @@ OrvanRun RunOrvan(const QStringList& arguments, const QString& folder, const QSt
     for (const QString& entry : environment)
         all.insert(entry.section(QLatin1Char('='), 0, 0), entry.section(QLatin1Char('='), 1));
     process.setProcessEnvironment(all);
-    process.start(QStringLiteral(ORVAN_COMMAND), arguments);
+    process.start(program.isEmpty() ? QStringLiteral(ORVAN_COMMAND) : program, arguments);
     OrvanRun run;
     if (process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit)
         run.status = process.exitCode();
     run.output = process.readAllStandardOutput();
     run.errors = QString::fromUtf8(process.readAllStandardError());
     return run;
+}
+
+QJsonObject ReadJson(const QString& path)
+{
+    return QJsonDocument::fromJson(ReadFile(path)).object();
 }
 
 QMap<QString, QByteArray> Snapshot(const QString& folder)

@@ -1,8 +1,15 @@
 #pragma once
 
+#include <QByteArray>
 #include <QJsonObject>
+#include <QMap>
 #include <QString>
 #include <QStringList>
+
+#include <initializer_list>
+
+QString Arg(const char* text); ///< UTF-8
+QStringList Args(std::initializer_list<const char*> texts);
 
 /// What one run of the command gave.
 struct OrvanRun
@@ -15,9 +22,11 @@ struct OrvanRun
 };
 
 /// Runs the built command in a folder, by default the current one, with `environment` ("NAME=value") on top
-/// of this one's.
+/// of this one's; or another program.
 OrvanRun RunOrvan(const QStringList& arguments, const QString& folder = QString(),
-                  const QStringList& environment = {});
+                  const QStringList& environment = {}, const QString& program = QString());
+
+QJsonObject ReadJson(const QString& path);
 
 /// Every file and folder below a folder, with the content of the files.
 QMap<QString, QByteArray> Snapshot(const QString& folder);

@@ -44,7 +44,7 @@ int WriteDrawing(const QString& file, int sender, int width)
     options.width = width;
     if (!OrvanTools::WriteLayout(output, FormatOf(file).value_or(DrawingFormat::Svg), *GetProjectData(),
                                  options))
-        return Fail(StatusFile, file, QStringLiteral("cannot be drawn"));
+        return Fail(StatusFile, file, QStringLiteral("cannot be written: ") + output.errorString());
     if (!output.commit())
         return Fail(StatusFile, file, output.errorString());
     return StatusDone;

@@ -4,6 +4,7 @@
 #include "orvantools/wallpainter.h"
 #include "orvantools/wallpicture.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QImage>
@@ -287,15 +288,22 @@ void PaintLayout(QPainter& painter, const CProjectData& project, int sender, dou
 bool WriteLayout(QIODevice& device, DrawingFormat format, const CProjectData& project,
                  const DrawingOptions& options)
 {
+    // The writers of the formats do not all tell when a device takes no more.
+    QBuffer drawing;
+    drawing.open(QIODevice::WriteOnly);
+    bool drawn = false;
     switch (format) {
     case DrawingFormat::Png:
-        return WritePng(device, project, options);
+        drawn = WritePng(drawing, project, options);
+        break;
     case DrawingFormat::Svg:
-        return WriteSvg(device, project, options);
+        drawn = WriteSvg(drawing, project, options);
+        break;
     case DrawingFormat::Pdf:
-        return WritePdf(device, project, options);
+        drawn = WritePdf(drawing, project, options);
+        break;
     }
-    return false;
+    return drawn && device.write(drawing.data()) == drawing.data().size();
 }
 
 } // namespace OrvanTools

@@ -4,13 +4,15 @@
 
 #include <algorithm>
 #include <limits>
+#include <tuple>
 #include <vector>
 
 namespace OrvanTools {
 
 namespace {
 
-constexpr int kColors = 256;
+constexpr size_t kFrequent = 192; ///< of 256; the others cover all colours evenly
+constexpr int kEvenSteps = 4;     ///< a channel
 constexpr int kCountedRows = 3;   ///< every third one tells enough
 constexpr size_t kBins = 1 << 15; ///< five bits a channel
 
@@ -79,11 +81,17 @@ QVector<QRgb> ChoosePalette(const std::vector<Bin>& bins)
         if (bin.pixels > 0)
             used.push_back(&bin);
     }
-    std::stable_sort(used.begin(), used.end(),
-                     [](const Bin* a, const Bin* b) { return a->pixels > b->pixels; });
+    // Areas first: however small one is, its colour tells something.
+    std::stable_sort(used.begin(), used.end(), [](const Bin* a, const Bin* b) {
+        return std::tie(a->fromArea, a->pixels) > std::tie(b->fromArea, b->pixels);
+    });
     QVector<QRgb> palette;
-    for (size_t i = 0; i < used.size() && i < kColors; ++i)
+    for (size_t i = 0; i < used.size() && i < kFrequent; ++i)
         palette.append(used[i]->color);
+    const auto step = [](int i) { return i * 255 / (kEvenSteps - 1); };
+    for (int i = 0; i < kEvenSteps * kEvenSteps * kEvenSteps; ++i)
+        palette.append(
+            qRgb(step(i % kEvenSteps), step(i / kEvenSteps % kEvenSteps), step(i / kEvenSteps / kEvenSteps)));
     return palette;
 }
 

@@ -4,8 +4,8 @@
 
 namespace OrvanTools {
 
-/// A drawing with its 256 most frequent colours, others by the nearest one: a third of the size, and as a PNG
-/// written in a fraction of the time. Colours of areas stay exactly what they are.
+/// A drawing (RGB32) in 256 colours: those of its areas exactly, others by the nearest one. It has a third of
+/// the size, and is written as a PNG in a fraction of the time.
 QImage ReducedToPalette(const QImage& drawing);
 
 } // namespace OrvanTools

@@ -42,6 +42,7 @@ bool StoredReceivers::ReadDocument(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return false;
     QXmlStreamReader xml;
+    bool hasRoot = false;
     Numbered* port = nullptr;
     std::map<int, Numbered>* sender = nullptr;
     const QString name = QStringLiteral("FirstRcvIndex");
@@ -51,6 +52,7 @@ bool StoredReceivers::ReadDocument(const QString& path)
         while (!xml.atEnd() && xml.readNext() != QXmlStreamReader::Invalid) {
             if (!xml.isStartElement())
                 continue;
+            hasRoot = true;
             if (const int number = NumberBehind(xml.name(), "Sender_")) {
                 sender = &m_senders[number];
                 port = nullptr;
@@ -64,7 +66,7 @@ bool StoredReceivers::ReadDocument(const QString& path)
         if (xml.hasError() && xml.error() != QXmlStreamReader::PrematureEndOfDocumentError)
             return false;
     }
-    return !xml.hasError();
+    return hasRoot && !xml.hasError();
 }
 
 std::vector<int> StoredReceivers::OfPort(int sender, int port) const

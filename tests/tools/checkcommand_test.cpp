@@ -1,0 +1,103 @@
+#include "support/testfolder.h"
+#include "tools/runorvan.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+
+TEST(CheckCommandTest, FaultsAreLinesWithACountAndEndWithOne)
+{
+    const OrvanRun run = RunOrvan({Arg("check"), SamplePath("small-wall.prj")});
+    EXPECT_EQ(run.status, 1);
+    const QStringList lines = QString::fromUtf8(run.output).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_TRUE(lines[0].startsWith(Arg("sender 2 port 1 cabinet 6: ")));
+    EXPECT_EQ(lines[1], Arg("1 fault"));
+    EXPECT_EQ(run.errors, QString());
+}
+
+TEST(CheckCommandTest, ABareDocumentLacksItsParameterFilesUnlessTheLibraryHasThem)
+{
+    TestFolder documents;
+    const QStringList check{Arg("check"), SamplePath("small-wall.xml"), Arg("--json")};
+    const auto kinds = [](const OrvanRun& run) {
+        QStringList list;
+        for (const QJsonValue& fault : run.Json()[Arg("faults")].toArray())
+            list.append(fault.toObject()[Arg("kind")].toString());
+        return list;
+    };
+    EXPECT_EQ(kinds(RunOrvan(check)),
+              Args({"unnumbered", "missing-parameter-file", "missing-parameter-file"}));
+    const QStringList with{Arg("--documents"), documents.Path()};
+    ASSERT_EQ(RunOrvan(with + QStringList{Arg("info"), SamplePath("small-wall.prj")}).status, 0);
+    EXPECT_EQ(kinds(RunOrvan(with + check)), Args({"unnumbered"}));
+}
+
+TEST(CheckCommandTest, TheReceiverNumbersOfAnArchiveAreLookedAt)
+{
+    TestFolder folder;
+    const QString wall = folder.Path(Arg("wall.prj"));
+    ASSERT_EQ(RunOrvan({Arg("new"), wall, Arg("--order"), Arg("0")}).status, 0);
+    OrvanRun run = RunOrvan({Arg("check"), wall});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.output, QByteArray("0 faults\n"));
+    QByteArray text = ReadFile(SamplePath("small-wall.xml"));
+    text.replace("FirstRcvIndex=\"20\"", "FirstRcvIndex=\"19\"");
+    run = RunOrvan({Arg("check"), folder.Write(Arg("wall.xml"), text), Arg("--json")});
+    const QJsonArray faults = run.Json()[Arg("faults")].toArray();
+    ASSERT_GE(faults.size(), 2);
+    EXPECT_EQ(faults[1].toObject()[Arg("kind")].toString(), Arg("receiver-mismatch"));
+    EXPECT_EQ(faults[1].toObject()[Arg("cabinet")].toInt(), 5);
+}
+
+TEST(CheckCommandTest, PortPixelsCanBeSet)
+{
+    const QString wall = SamplePath("small-wall.prj");
+    const auto faults = [&](const char* pixels) {
+        return RunOrvan({Arg("check"), wall, Arg("--json"), Arg("--port-pixels"), Arg(pixels)})
+            .Json()[Arg("faults")]
+            .toArray()
+            .size();
+    };
+    EXPECT_EQ(faults("196608"), 1); // 12 cabinets of 128 x 128 on the fullest port
+    EXPECT_EQ(faults("196607"), 2);
+    EXPECT_EQ(RunOrvan({Arg("check"), wall, Arg("--port-pixels"), Arg("many")}).status, 2);
+    EXPECT_EQ(RunOrvan({Arg("check"), SamplePath("too-new.prj")}).status, 3);
+}
+
+TEST(ParamsCommandTest, AParameterFileIsPrintedUnderItsElementNames)
+{
+    const OrvanRun json = RunOrvan({Arg("params"), SamplePath("device-params.xml"), Arg("--json")});
+    ASSERT_EQ(json.status, 0) << qPrintable(json.errors);
+    EXPECT_EQ(json.Json(), ReadJson(SamplePath("device-params.xml.json")));
+    const OrvanRun text = RunOrvan({Arg("params"), SamplePath("device-params.xml")});
+    EXPECT_TRUE(text.output.startsWith("DeviceParams\n"));
+    EXPECT_TRUE(text.output.contains("\n    SenderType: 17\n"));
+    for (const QString& wrong : {SamplePath("small-wall.xml"), SamplePath("absent.xml")}) {
+        const OrvanRun run = RunOrvan({Arg("params"), wrong});
+        EXPECT_EQ(run.status, 3);
+        EXPECT_TRUE(run.errors.startsWith(Arg("orvan: ") + wrong + Arg(": ")));
+    }
+}
+
+TEST(ProductsCommandTest, ADoubleIsLeftOutAndLeftWhereItIs)
+{
+    TestFolder folder;
+    folder.Write(Arg("a.rcvbp"), "one");
+    folder.Write(Arg("b/箱体.rcvp"), "two");
+    folder.Write(Arg("b/double.rcvbp"), "one");
+    folder.Write(Arg("b/other.RCVBP"), "three");
+    const auto before = Snapshot(folder.Path());
+    const OrvanRun run = RunOrvan({Arg("products"), folder.Path(), Arg("--json")});
+    ASSERT_EQ(run.status, 0);
+    const QJsonArray products = run.Json()[Arg("products")].toArray();
+    ASSERT_EQ(products.size(), 2);
+    const QJsonObject second = products[1].toObject();
+    EXPECT_EQ(second[Arg("name")].toString(), Arg("箱体"));
+    EXPECT_EQ(second[Arg("path")].toString(), folder.Path(Arg("b/箱体.rcvp")));
+    EXPECT_EQ(second[Arg("folder")].toString(), Arg("b"));
+    EXPECT_EQ(second[Arg("menuId")].toInt(), 8193);
+    EXPECT_EQ(second[Arg("type")].toString(), Arg("b8a9f715dbb64fd5c56e7783c6820a61"));
+    EXPECT_EQ(Snapshot(folder.Path()), before);
+    EXPECT_EQ(RunOrvan({Arg("products"), folder.Path(Arg("absent"))}).status, 3);
+}

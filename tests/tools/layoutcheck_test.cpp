@@ -1,0 +1,214 @@
+#include "tools/toolsproject.h"
+
+#include "support/testfolder.h"
+
+#include <orvantools/layoutcheck.h>
+#include <orvantools/storedreceivers.h>
+
+#include <QFile>
+
+#include <algorithm>
+
+using OrvanTools::CheckOptions;
+using OrvanTools::Fault;
+
+class LayoutCheckTest : public ToolsTest
+{
+protected:
+    /// Kind, sender, port and cabinet of every fault.
+    QStringList Faults(const CheckOptions& options = LargePorts())
+    {
+        QStringList list;
+        for (const Fault& fault : OrvanTools::CheckProject(Project(), options))
+            list.append(QStringLiteral("%1 %2 %3 %4")
+                            .arg(OrvanTools::FaultKindName(fault.kind))
+                            .arg(fault.sender)
+                            .arg(fault.port)
+                            .arg(fault.cabinet));
+        return list;
+    }
+    static CheckOptions LargePorts()
+    {
+        CheckOptions options;
+        options.portPixels = 1LL << 40;
+        return options;
+    }
+    static QStringList List(std::initializer_list<const char*> faults)
+    {
+        QStringList list;
+        for (const char* fault : faults)
+            list.append(QString::fromLatin1(fault));
+        return list;
+    }
+    static SMD5 Type(char digit) { return SMD5::FromString(QString(32, QLatin1Char(digit))); }
+};
+
+TEST_F(LayoutCheckTest, AWallInOrderHasNoFaults)
+{
+    Build(QSize(8, 4), 4);
+    EXPECT_EQ(Faults(), QStringList());
+    Turn(1, 30); // away from its neighbours, which it cuts into otherwise
+    Tiles(0).SetOffset(0, 4000);
+    Tiles(2).SetOffset(0, 4000);
+    EXPECT_FALSE(Faults().contains(QStringLiteral("overlap")));
+}
+
+TEST_F(LayoutCheckTest, OverlapsAreFoundAcrossPortsAndToldOnceForEachCabinet)
+{
+    Build(QSize(4, 2), 2);
+    Tile(1, 0).SetX(128 * 2 - 1); // one pixel of port 1's second column
+    EXPECT_EQ(Faults(), List({"overlap 1 1 2", "overlap 1 2 1"}));
+    Tile(1, 1).SetX(128 * 2 - 1); // and both now lie on each other too
+    EXPECT_EQ(Faults(), List({"overlap 1 1 2", "overlap 1 2 1", "overlap 1 2 2"}));
+}
+
+TEST_F(LayoutCheckTest, TheCanvasIsWhereTheOffsetPutsTheLayout)
+{
+    CSender& sender = Build(QSize(4, 1), 1);
+    sender.SetCanvasSize(QSize(512, 128));
+    EXPECT_EQ(Faults(), QStringList());
+    sender.SetOffset(QSize(0, 1));
+    EXPECT_EQ(Faults().size(), 4);
+    sender.SetOffset(QSize(-1, 0));
+    EXPECT_EQ(Faults(), List({"off-canvas 1 1 1"}));
+    sender.SetOffset(QSize(-1, -1)); // a sender that was never placed
+    EXPECT_EQ(Faults(), QStringList());
+    sender.SetOffset(QSize(0, 0));
+    sender.SetCanvasSize(QSize(511, 128));
+    EXPECT_EQ(Faults(), List({"off-canvas 1 1 4"}));
+    sender.SetCanvasSize(QSize(-1, -1)); // without one only the limits count
+    EXPECT_EQ(Faults(), QStringList());
+    Tiles(0).SetOffset(-1, 0);
+    EXPECT_EQ(Faults(), List({"off-canvas 1 1 1"}));
+    Tiles(0).SetOffset(1 + kMaxCanvasWidth - 511, 0);
+    EXPECT_EQ(Faults(), List({"off-canvas 1 1 4"}));
+}
+
+TEST_F(LayoutCheckTest, ChainsWithGapsDoublesAndLooseCabinets)
+{
+    Build(QSize(6, 1), 1);
+    CTileSet none;
+    Tile(0, 2).SetConnectionIndex(-1, &none);
+    EXPECT_EQ(Faults(), List({"unnumbered 1 1 3", "index-gap 1 1 4"}));
+    Tile(0, 2).SetConnectionIndex(5, &none);
+    EXPECT_EQ(Faults(), List({"duplicate-index 1 1 3", "duplicate-index 1 1 6", "index-gap 1 1 4"}));
+    Tile(0, 2).SetConnectionIndex(2, &none);
+    Tile(0, 0).SetConnectionIndex(6, &none);
+    EXPECT_EQ(Faults(), List({"index-gap 1 1 2"}));
+    Tiles(0).ClearConnectIndex();
+    EXPECT_EQ(Faults().size(), 6);
+}
+
+TEST_F(LayoutCheckTest, TypesNeedAParameterFileAndParameterFilesTheFileItself)
+{
+    TestFolder folder;
+    Build(QSize(4, 1), 1);
+    Tile(0, 1).SetType(Type('a'));
+    EXPECT_EQ(Faults(), List({"unknown-type 1 1 2"}));
+    Project().AddParameterFileInfo(QStringLiteral("some"), Type('a'));
+    EXPECT_EQ(Faults(), List({"missing-parameter-file 0 0 0"}));
+
+    const QString work = CConstantData::GetProjectParamFileTemp() + QStringLiteral("some.rcvbp");
+    const QString source = folder.Write(QStringLiteral("x"), "content");
+    ASSERT_TRUE(QFile::copy(source, work));
+    EXPECT_EQ(Faults(), List({"missing-parameter-file 0 0 0"})); // a file of that name, of another type
+    Project().DeleteParameterFileInfo(Type('a'));
+    ASSERT_TRUE(QFile::copy(source, work));
+    const SMD5 type = CConstantData::GetMD5FromFile(work);
+    Project().AddParameterFileInfo(QStringLiteral("some"), type);
+    Tile(0, 1).SetType(type);
+    EXPECT_EQ(Faults(), QStringList());
+    QFile::remove(work);
+}
+
+TEST_F(LayoutCheckTest, AGroupOfAnotherPortIsAnOrphansGroup)
+{
+    Build(QSize(4, 2), 2);
+    Tile(0, 1).SetGroupId(Tile(1, 0).GetGroupId());
+    EXPECT_EQ(Faults(), List({"orphan-group 1 1 2"}));
+    Tile(0, 1).SetGroupId(QUuid());
+    EXPECT_EQ(Faults(), QStringList());
+}
+
+TEST_F(LayoutCheckTest, BackupPortsAreJudgedByTheirSourceAndNotByWhatTheyStore)
+{
+    CSender& sender = Build(QSize(4, 1), 4);
+    Tile(3, 0).SetX(0); // on top of port 1's
+    EXPECT_EQ(Faults().size(), 2);
+    sender.GetPort(3)->SetBeBackupDest(sender.GetId(), 0);
+    EXPECT_EQ(Faults(), QStringList());
+    sender.GetPort(3)->SetBeBackupDest(sender.GetId(), 4);
+    EXPECT_EQ(Faults(), List({"backup-of-nothing 1 4 0"}));
+    sender.GetPort(3)->SetBeBackupDest(sender.GetId(), 2);
+    sender.GetPort(2)->SetBeBackupDest(sender.GetId(), 3);
+    EXPECT_EQ(Faults(), List({"backup-loop 1 3 0", "backup-loop 1 4 0"}));
+}
+
+TEST_F(LayoutCheckTest, APortCarriesSoManyPixelsAndNoMore)
+{
+    Build(QSize(5, 8), 1); // 40 cabinets of 128 x 128
+    CheckOptions options;
+    EXPECT_EQ(Faults(options), QStringList());
+    options.portPixels = 655359;
+    EXPECT_EQ(Faults(options), List({"port-overload 1 1 0"}));
+}
+
+TEST_F(LayoutCheckTest, FaultsAreListedByKindAndThenByPlace)
+{
+    Build(QSize(4, 1), 2);
+    Project().NewSender();
+    Project().GetSender(1)->GetPort(0)->SetBeBackupDest(QUuid::createUuid(), 0);
+    Tiles(1).ClearConnectIndex();
+    Tile(1, 1).SetX(0);
+    const QList<Fault> faults = OrvanTools::CheckProject(Project(), LargePorts());
+    EXPECT_EQ(Faults(), List({"overlap 1 1 1", "overlap 1 2 2", "unnumbered 1 2 1", "unnumbered 1 2 2",
+                              "backup-of-nothing 2 1 0"}));
+    EXPECT_TRUE(faults[0].Line().startsWith(QStringLiteral("sender 1 port 1 cabinet 1: ")));
+    EXPECT_TRUE(faults[4].Line().startsWith(QStringLiteral("sender 2 port 1: ")));
+    EXPECT_EQ(faults[4].Json()[QStringLiteral("cabinet")].toInt(-1), 0);
+}
+
+TEST_F(LayoutCheckTest, StoredReceiversAreComparedWithTheWiringInTheOrderOfTheCabinets)
+{
+    TestFolder folder;
+    QByteArray text = ReadFile(SamplePath("small-wall.xml"));
+    const auto check = [&](const QByteArray& content) {
+        const QString path = folder.Write(QStringLiteral("wall.xml"), content);
+        OrvanTools::StoredReceivers stored;
+        EXPECT_TRUE(stored.Read(path));
+        QString version;
+        EXPECT_TRUE(Project().LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr));
+        CheckOptions options = LargePorts();
+        options.stored = &stored;
+        return Faults(options).filter(QStringLiteral("receiver-mismatch"));
+    };
+    EXPECT_EQ(check(text), QStringList());
+    // Sender 1, port 2: the second cabinet, behind one of two receiving cards.
+    const int tile = text.indexOf("<Tile_2 ", text.indexOf("<Port_2 "));
+    const int value = text.indexOf("FirstRcvIndex=\"2\"", tile);
+    ASSERT_LT(value, text.indexOf("<Tile_3 ", tile));
+    EXPECT_EQ(check(QByteArray(text).replace(value, 17, "FirstRcvIndex=\"1\"")),
+              List({"receiver-mismatch 1 2 2"}));
+    // The same cabinet stored before the first one: its number counts, not where it stands.
+    const int end = text.indexOf("/>", tile) + 2;
+    const QByteArray element = text.mid(tile, end - tile);
+    QByteArray moved = QByteArray(text).remove(tile, end - tile);
+    moved.insert(moved.indexOf("<Tile_1 ", moved.indexOf("<Port_2 ")), element);
+    EXPECT_EQ(check(moved), QStringList());
+}
+
+TEST_F(LayoutCheckTest, StoredReceiversOfBrokenFilesAreNotBelieved)
+{
+    TestFolder folder;
+    const QByteArray text = ReadFile(SamplePath("small-wall.xml"));
+    OrvanTools::StoredReceivers stored;
+    EXPECT_FALSE(stored.Read(folder.Path(QStringLiteral("absent"))));
+    EXPECT_FALSE(stored.Read(folder.Write(QStringLiteral("a"), QByteArray())));
+    EXPECT_FALSE(stored.Read(folder.Write(QStringLiteral("b"), text.left(text.size() / 2))));
+    EXPECT_FALSE(stored.Read(SamplePath("truncated.prj")));
+    EXPECT_TRUE(stored.Read(SamplePath("small-wall.prj")));
+    EXPECT_EQ(stored.OfPort(0, 1), (std::vector<int>{0, 2, 6, 10, 20}));
+    EXPECT_TRUE(stored.OfPort(2, 0).empty());
+    EXPECT_TRUE(stored.OfPort(0, 7).empty());
+    EXPECT_TRUE(stored.OfPort(-1, 0).empty());
+}

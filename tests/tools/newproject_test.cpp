@@ -1,0 +1,90 @@
+#include "tools/toolsproject.h"
+
+#include <QFile>
+
+using OrvanTools::NewProject;
+
+class NewProjectTest : public ToolsTest
+{
+protected:
+    QList<int> CabinetsOfPorts()
+    {
+        QList<int> counts;
+        for (int i = 0; i < Project().GetSender(0)->GetPortCount(); ++i)
+            counts.append(Tiles(i).GetCount());
+        return counts;
+    }
+};
+
+TEST_F(NewProjectTest, ColumnsAreSharedOutTheFirstStripsBeingTheWiderOnes)
+{
+    Build(QSize(11, 2), 4);
+    EXPECT_EQ(CabinetsOfPorts(), (QList<int>{6, 6, 6, 4}));
+    EXPECT_EQ(Tiles(1).GetBound(false, QSize()), QRect(3 * 128, 0, 3 * 128, 256));
+    EXPECT_EQ(Tiles(3).GetBound(false, QSize()), QRect(9 * 128, 0, 2 * 128, 256));
+    Build(QSize(5, 1), 5); // no device has five ports
+    EXPECT_EQ(CabinetsOfPorts(), (QList<int>{1, 1, 1, 1, 1, 0}));
+    Build(QSize(81, 1), 81);
+    EXPECT_EQ(Project().GetSender(0)->GetPortCount(), 160);
+}
+
+TEST_F(NewProjectTest, EachPortIsNumberedForItself)
+{
+    Build(QSize(6, 3), 2, AutoNumberColumnsBottomRight);
+    for (int port : {0, 1}) {
+        EXPECT_EQ(Tiles(port).GetConnectionType(), AutoNumberColumnsBottomRight);
+        EXPECT_EQ(Tiles(port).GetRcvCount(), 9);
+    }
+    Build(QSize(6, 3), 2, NewProject::kNotNumbered);
+    EXPECT_FALSE(Tiles(0).HasNumberedTiles());
+}
+
+TEST_F(NewProjectTest, TypesAlternateByColumnOverAllPorts)
+{
+    NewProject wanted;
+    wanted.grid = QSize(5, 2);
+    wanted.ports = 2;
+    for (const char* content : {"a", "b", "c"}) {
+        const QString path =
+            CProductDirectorySet::GetRootDir() + QString::fromLatin1(content) + QStringLiteral(".rcvbp");
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content));
+        file.close();
+        wanted.types.append(CConstantData::GetMD5FromFile(path));
+    }
+    GetRuntimeData()->GetProductDirectorySet()->LoadProductInfo();
+    ASSERT_TRUE(OrvanTools::BuildProject(Project(), wanted));
+    for (int port : {0, 1}) {
+        for (int i = 0; i < Tiles(port).GetCount(); ++i)
+            EXPECT_EQ(Tile(port, i).GetType(), wanted.types[Tile(port, i).GetX() / 128 % 3]);
+    }
+    QStringList names;
+    for (const SParameterFileInfo& file : Project().GetParameterFiles())
+        names.append(file.name);
+    names.sort();
+    EXPECT_EQ(names, (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
+}
+
+TEST_F(NewProjectTest, WhatCannotBeBuiltLeavesTheDocumentAlone)
+{
+    Build(QSize(3, 3), 1);
+    const QUuid id = Project().GetID();
+    const auto refused = [this, id](auto change) {
+        NewProject wanted;
+        change(wanted);
+        EXPECT_FALSE(OrvanTools::WhyNotBuildable(wanted).isEmpty());
+        EXPECT_FALSE(OrvanTools::BuildProject(Project(), wanted));
+        return Project().GetID() == id;
+    };
+    EXPECT_TRUE(refused([](NewProject& w) { w.cabinet = QSize(0, 1); }));
+    EXPECT_TRUE(refused([](NewProject& w) { w.cabinet = QSize(1, 1025); }));
+    EXPECT_TRUE(refused([](NewProject& w) { w.grid = QSize(257, 1); })); // 32896 pixels
+    EXPECT_TRUE(refused([](NewProject& w) { w.grid = QSize(4, 0); }));
+    EXPECT_TRUE(refused([](NewProject& w) { w.canvas = QSize(32769, 1); }));
+    EXPECT_TRUE(refused([](NewProject& w) { w.ports = 5; }));
+    EXPECT_TRUE(refused([](NewProject& w) { w.ports = 0; }));
+    EXPECT_TRUE(refused([](NewProject& w) { w.order = 8; }));
+    NewProject largest;
+    largest.grid = QSize(256, 128);
+    EXPECT_EQ(OrvanTools::WhyNotBuildable(largest), QString());
+}

@@ -1,0 +1,121 @@
+#include "tools/toolsproject.h"
+
+#include <orvantools/overlapfinder.h>
+
+#include <cmath>
+#include <random>
+
+using OrvanTools::OverlapFinder;
+using OrvanTools::TileShape;
+
+namespace {
+
+TileShape Rect(double left, double top, double width, double height)
+{
+    TileShape shape;
+    shape.corners = {QPointF(left, top), QPointF(left + width, top), QPointF(left + width, top + height),
+                     QPointF(left, top + height)};
+    return shape;
+}
+
+TileShape Turned(TileShape shape, double degrees)
+{
+    const QPointF center = shape.Center();
+    const double angle = degrees * 3.14159265358979 / 180;
+    shape.angle = degrees;
+    for (QPointF& corner : shape.corners) {
+        const QPointF d = corner - center;
+        corner = center
+                 + QPointF(d.x() * std::cos(angle) - d.y() * std::sin(angle),
+                           d.x() * std::sin(angle) + d.y() * std::cos(angle));
+    }
+    return shape;
+}
+
+bool Overlaps(const TileShape& a, const TileShape& b)
+{
+    const bool found = OverlapFinder({a, b}).GetPartner(0) == 1;
+    EXPECT_EQ(found, OverlapFinder({b, a}).GetPartner(0) == 1);
+    return found;
+}
+
+} // namespace
+
+TEST(OverlapFinderTest, TouchingIsNotOverlapping)
+{
+    const TileShape shape = Rect(100, 100, 50, 50);
+    EXPECT_FALSE(Overlaps(shape, Rect(150, 100, 50, 50)));
+    EXPECT_FALSE(Overlaps(shape, Rect(100, 150, 50, 50)));
+    EXPECT_FALSE(Overlaps(shape, Rect(150, 150, 50, 50)));
+    EXPECT_FALSE(Overlaps(shape, Rect(120, 120, 0, 10))); // covers no pixel
+    EXPECT_TRUE(Overlaps(shape, Rect(149, 149, 50, 50)));
+    EXPECT_TRUE(Overlaps(shape, Rect(110, 110, 10, 10)));
+    EXPECT_TRUE(Overlaps(shape, shape));
+    EXPECT_TRUE(Overlaps(Rect(-60, -60, 50, 50), Rect(-11, -11, 5, 5)));
+}
+
+TEST(OverlapFinderTest, TurnedShapesOverlapWhereTheyAreNotWhereTheirBoundsAre)
+{
+    const TileShape diamond = Turned(Rect(0, 0, 100, 100), 45); // reaches from -20.7 to 120.7
+    EXPECT_FALSE(Overlaps(diamond, Rect(100, 100, 20, 20)));
+    EXPECT_FALSE(Overlaps(diamond, Rect(-20, -20, 20, 20)));
+    EXPECT_TRUE(Overlaps(diamond, Rect(100, 40, 20, 20)));
+    EXPECT_FALSE(Overlaps(diamond, Rect(120, 40, 20, 20))); // less than rounding makes
+}
+
+TEST(OverlapFinderTest, FindsWhatComparingEveryPairFinds)
+{
+    std::mt19937 random(7);
+    for (int round = 0; round < 20; ++round) {
+        std::vector<TileShape> shapes;
+        const int size = round % 2 ? 40 : 400;
+        for (int i = 0; i < 150; ++i) {
+            const auto place = [&random] { return double(random() % 3000) - 500; };
+            const TileShape rect =
+                Rect(place(), place(), 1 + random() % static_cast<unsigned>(size), 1 + random() % 60);
+            shapes.push_back(i % 5 == 0 ? Turned(rect, random() % 180) : rect);
+        }
+        const OverlapFinder finder(shapes);
+        for (size_t a = 0; a < shapes.size(); ++a) {
+            bool overlaps = false;
+            for (size_t b = 0; b < shapes.size(); ++b)
+                overlaps = overlaps || (a != b && IsOverlap(shapes[a], shapes[b]));
+            const int partner = finder.GetPartner(a);
+            ASSERT_EQ(partner != OverlapFinder::kNone, overlaps) << round << " " << a;
+            EXPECT_TRUE(!overlaps || IsOverlap(shapes[a], shapes[static_cast<size_t>(partner)]));
+        }
+    }
+}
+
+class TileShapeTest : public ToolsTest
+{};
+
+TEST_F(TileShapeTest, ATurnedBlockDoesNotOverlapItself)
+{
+    for (const double angle : {0.0, 30.0, 45.0, 90.0, -77.3, 179.0}) {
+        Build(QSize(6, 5), 1);
+        Turn(0, angle);
+        std::vector<TileShape> shapes;
+        for (int i = 0; i < Tiles(0).GetCount(); ++i)
+            shapes.push_back(OrvanTools::ShapeOf(Tile(0, i)));
+        const OverlapFinder finder(shapes);
+        for (size_t i = 0; i < shapes.size(); ++i)
+            EXPECT_EQ(finder.GetPartner(i), OverlapFinder::kNone) << angle << " " << i;
+    }
+}
+
+TEST_F(TileShapeTest, RecordsCountWhateverTheRotationSetting)
+{
+    Build(QSize(1, 1), 1);
+    Tile(0, 0).SetWidth(100);
+    Tile(0, 0).SetHeight(50);
+    SRotateParam record;
+    record.angle = 90;
+    record.centerX = 50;
+    record.centerY = 25;
+    Tile(0, 0).SetTileRotateParam(&record);
+    GetConfigData()->SetEnableRotate(false);
+    EXPECT_EQ(OrvanTools::ShapeOf(Tile(0, 0)).Bound(), QRectF(25, -25, 50, 100));
+    EXPECT_EQ(OrvanTools::ShapeOf(Tile(0, 0)).corners[0], QPointF(75, -25));
+    EXPECT_EQ(OrvanTools::ShapeOf(Tile(0, 0)).At(1, 0), QPointF(75, 75));
+}
