@@ -98,7 +98,7 @@ TEST(PaletteTest, AreasKeepTheirColourAndOthersComeClose)
                           std::abs(qGreen(before) - qGreen(after)), std::abs(qBlue(before) - qBlue(after))});
         }
     }
-    EXPECT_LT(worst, 48);
+    EXPECT_LT(worst, 80);
 }
 
 class WallPictureTest : public ToolsTest
