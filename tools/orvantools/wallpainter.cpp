@@ -405,7 +405,7 @@ double WallPainter::NumberHeight(const PicturePort& port, const TileShape& shape
 {
     const int digits = QString::number(NumberOf(port, port.chain.back()) + 1).size();
     const double side = SideOf(shape);
-    return std::min({kMostText, side * 0.27, side * 0.8 / (digits * kDigitWidth)});
+    return std::min({kMostText, side * 0.27, side * 0.42 / (digits * kDigitWidth)}); // left of the chain
 }
 
 /// The number of each cabinet that has room for it, in its first corner.
