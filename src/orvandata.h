@@ -26,6 +26,7 @@
 #include "products/productdirectory.h"
 #include "products/productdirectoryset.h"
 #include "project/projectdata.h"
+#include "project/projectlock.h"
 #include "project/projectmanagement.h"
 #include "settings/configdata.h"
 #include "settings/constantdata.h"

@@ -13,6 +13,14 @@ public:
     /// [ref] Names and values in turn, closed by a null pointer.
     explicit XmlAttributes(const char* const* pairs) : m_pairs(pairs), m_next(pairs) {}
 
+    int GetCount() const
+    {
+        int count = 0;
+        while (m_pairs[2 * count])
+            ++count;
+        return count;
+    }
+
     /// The value, null when there is no such attribute.
     const char* Find(const char* name)
     {

@@ -3,7 +3,22 @@
 #include "common/xmlreader.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFile>
+
+namespace {
+
+/// Counts what a tree of the document would be made of.
+class NodeCounter : public XmlHandler
+{
+public:
+    void Begin(XmlAttributes& attributes) override { count += 1 + attributes.GetCount(); }
+    XmlHandler* Child(std::string_view) override { return this; }
+
+    qint64 count = 0;
+};
+
+} // namespace
 
 bool LoadXmlDom(const QString& path, QDomDocument& document, QString* error)
 {
@@ -21,9 +36,14 @@ bool ParseXmlDom(const QByteArray& content, QDomDocument& document, QString* err
     QByteArray bytes = content;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
-    XmlHandler passesOver;
-    if (!ParseXml(buffer, passesOver, error))
+    NodeCounter nodes;
+    if (!ParseXml(buffer, nodes, error))
         return false;
+    if (nodes.count > kMaxTreeNodes) {
+        if (error)
+            *error = QCoreApplication::translate("OrvanData", "文件中的元素过多。");
+        return false;
+    }
     buffer.close();
 
     QDomDocument tree;

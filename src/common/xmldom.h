@@ -5,7 +5,9 @@
 
 class QByteArray;
 
-/// Reads a small XML file into a tree under the same limits as ParseXml, checked before the tree is built. On
-/// failure `document` is as it was and `error`, when given, says why.
+constexpr int kMaxTreeNodes = 524288; ///< elements and attributes; a tree takes some 600 bytes for each
+
+/// Reads a small XML file into a tree under the limits of ParseXml and this one, checked before the tree is
+/// built. On failure `document` is as it was and `error`, when given, says why.
 bool LoadXmlDom(const QString& path, QDomDocument& document, QString* error);
 bool ParseXmlDom(const QByteArray& content, QDomDocument& document, QString* error);

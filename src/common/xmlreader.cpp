@@ -8,12 +8,15 @@
 #include <QIODevice>
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <vector>
 
 namespace {
 
 constexpr int kChunk = 256 * 1024;
+constexpr const char* kTooManyElements = QT_TRANSLATE_NOOP("OrvanData", "文件中的元素过多。");
+constexpr const char* kTextTooLong = QT_TRANSLATE_NOOP("OrvanData", "文字过长。");
 
 QString Message(const char* text)
 {
@@ -31,6 +34,8 @@ struct ParseState
     XML_Parser parser = nullptr;
     std::vector<XmlHandler*> open;
     int depth = 0; ///< of all elements
+    int elements = 0;
+    qint64 text = 0; ///< bytes since the last tag
     QString refusal;
 
     void Refuse(const char* why)
@@ -40,11 +45,29 @@ struct ParseState
     }
 };
 
+/// Why the attributes of an element are too much, null when they are not.
+const char* WhyTooMuch(const XML_Char** attributes)
+{
+    int count = 0;
+    for (; attributes[2 * count]; ++count) {
+        if (count == kMaxXmlAttributes)
+            return QT_TRANSLATE_NOOP("OrvanData", "元素的属性过多。");
+        if (strnlen(attributes[2 * count + 1], kMaxXmlText + 1) > kMaxXmlText)
+            return kTextTooLong;
+    }
+    return nullptr;
+}
+
 void OnStart(void* data, const XML_Char* name, const XML_Char** attributes)
 {
     auto& state = *static_cast<ParseState*>(data);
+    state.text = 0;
     if (++state.depth > kMaxXmlDepth)
         return state.Refuse(QT_TRANSLATE_NOOP("OrvanData", "元素嵌套过深。"));
+    if (++state.elements > kMaxXmlElements)
+        return state.Refuse(kTooManyElements);
+    if (const char* why = WhyTooMuch(attributes))
+        return state.Refuse(why);
     XmlHandler* parent = state.open.back();
     XmlHandler* handler = parent ? parent->Child(name) : nullptr;
     state.open.push_back(handler);
@@ -60,9 +83,18 @@ void OnEnd(void* data, const XML_Char*)
     if (!state.refusal.isEmpty())
         return;
     --state.depth;
+    state.text = 0;
     if (state.open.back())
         state.open.back()->End();
     state.open.pop_back();
+}
+
+void OnText(void* data, const XML_Char*, int length)
+{
+    auto& state = *static_cast<ParseState*>(data);
+    state.text += length;
+    if (state.text > kMaxXmlText && state.refusal.isEmpty())
+        state.Refuse(kTextTooLong);
 }
 
 void OnDoctype(void* data, const XML_Char*, const XML_Char*, const XML_Char*, int)
@@ -91,6 +123,7 @@ QString ParserError(const ParseState& state)
 bool FeedAll(QIODevice& source, ParseState& state, QString* error)
 {
     qint64 total = 0;
+    qint64 parsed = 0;
     for (;;) {
         void* buffer = XML_GetBuffer(state.parser, kChunk);
         const qint64 got = buffer ? source.read(static_cast<char*>(buffer), kChunk) : -1;
@@ -110,6 +143,12 @@ bool FeedAll(QIODevice& source, ParseState& state, QString* error)
         }
         if (got == 0)
             return true;
+        // The parser starts an unfinished tag anew with every chunk.
+        parsed += kept;
+        if (parsed - XML_GetCurrentByteIndex(state.parser) > kMaxXmlMarkup) {
+            *error = Message(QT_TRANSLATE_NOOP("OrvanData", "标记过长。"));
+            return false;
+        }
     }
 }
 
@@ -124,6 +163,7 @@ bool ParseXml(QIODevice& source, XmlHandler& document, QString* error)
     state.open.push_back(&document);
     XML_SetUserData(state.parser, &state);
     XML_SetElementHandler(state.parser, OnStart, OnEnd);
+    XML_SetCharacterDataHandler(state.parser, OnText);
     XML_SetStartDoctypeDeclHandler(state.parser, OnDoctype);
     return FeedAll(source, state, error ? error : &ignored);
 }

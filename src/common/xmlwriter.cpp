@@ -1,5 +1,7 @@
 #include "common/xmlwriter.h"
 
+#include "common/xmlreader.h"
+
 #include <QIODevice>
 
 namespace {
@@ -42,6 +44,17 @@ void AppendEscaped(std::string& out, std::string_view text)
     out.append(text, begin);
 }
 
+/// As much as a reader takes, up to a whole character.
+std::string_view Cut(std::string_view text)
+{
+    if (text.size() <= kMaxXmlText)
+        return text;
+    size_t length = kMaxXmlText;
+    while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
+        --length;
+    return text.substr(0, length);
+}
+
 QString FromUtf8(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
@@ -76,7 +89,7 @@ void StreamXmlWriter::BeginElement(std::string_view name)
 void StreamXmlWriter::Attribute(const char* name, std::string_view text)
 {
     m_buffer.append(" ").append(name).append("=\"");
-    AppendEscaped(m_buffer, text);
+    AppendEscaped(m_buffer, Cut(text));
     m_buffer.push_back('"');
 }
 
@@ -86,7 +99,7 @@ void StreamXmlWriter::Text(std::string_view text)
         m_buffer.push_back('>');
     m_tagOpen = false;
     m_hasText = true;
-    AppendEscaped(m_buffer, text);
+    AppendEscaped(m_buffer, Cut(text));
 }
 
 void StreamXmlWriter::EndElement()

@@ -23,8 +23,8 @@ public:
     virtual void EndElement() = 0;
 };
 
-/// Writes a document as UTF-8 text with an XML declaration, indented by 4. Flush() tells whether all was
-/// taken.
+/// Writes a document as UTF-8 text with an XML declaration, indented by 4. Texts are cut to what a reader
+/// takes. Flush() tells whether all was taken.
 class StreamXmlWriter : public XmlWriter
 {
 public:

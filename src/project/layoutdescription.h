@@ -25,6 +25,12 @@ constexpr char kGroupCount[] = "GroupCount";
 constexpr char kGroup[] = "TileGroup";
 constexpr int kMaxGroupDepth = 1000;
 
+// How much of a file is read, so that a hostile one does not fill the memory.
+constexpr int kMaxSenders = 1024;
+constexpr int kMaxTilesOfPort = 131072; ///< a full canvas of cabinets of 64 pixels
+constexpr int kMaxTilesOfFile = 1048576;
+constexpr int kMaxGroupsOfFile = 262144;
+
 } // namespace layoutnames
 
 struct SenderRecord

@@ -7,6 +7,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 using namespace layoutnames;
@@ -52,12 +53,12 @@ void DeriveBeginReceivers(const CTileSet& tiles)
 }
 
 /// Drops each group whose id stands earlier in the tree, with all below it.
-void DropRepeatedGroups(CTileGroupSet& groups, QSet<QUuid>& seen, ReadReport& report)
+void DropRepeatedGroups(CTileGroupSet& groups, std::set<QUuid>& seen, ReadReport& report)
 {
     QList<CTileGroup*> kept;
     for (int i = 0; i < groups.GetDirectCount(); ++i) {
         CTileGroup* group = groups.GetDirectGroupByDirIndex(i);
-        if (seen.contains(group->GetID())) {
+        if (seen.count(group->GetID()) > 0) {
             report.Add(
                 QCoreApplication::translate("OrvanData", "跳过重复的分组%1").arg(group->GetID().toString()));
             GroupTreeDeleter()(group);
@@ -86,12 +87,15 @@ void TileSetReader::SetTarget(CTileSet* tiles, const QUuid& senderId, int portIn
 
 void TileSetReader::Begin(XmlAttributes& attributes)
 {
-    m_tiles.Start(ReadCount(attributes, kTileCount));
+    m_tiles.Start(ReadCount(attributes, kTileCount), std::min(kMaxTilesOfPort, kMaxTilesOfFile - m_read));
 }
 
 XmlHandler* TileSetReader::Child(std::string_view name)
 {
-    return m_tiles.Expect(name) ? &m_tileReader : nullptr;
+    if (!m_tiles.Expect(name))
+        return nullptr;
+    ++m_read;
+    return &m_tileReader;
 }
 
 void TileSetReader::TileReader::Begin(XmlAttributes& attributes)
@@ -118,8 +122,9 @@ void GroupTreeDeleter::operator()(CTileGroup* group) const
     delete group;
 }
 
-GroupLevelReader::GroupLevelReader(ReadReport& report, int depth, std::function<void(GroupTree)> take)
-    : m_report(report), m_depth(depth), m_take(std::move(take))
+GroupLevelReader::GroupLevelReader(ReadReport& report, int& left, int depth,
+                                   std::function<void(GroupTree)> take)
+    : m_report(report), m_left(left), m_depth(depth), m_take(std::move(take))
 {}
 
 void GroupLevelReader::SetName(std::string_view name)
@@ -140,20 +145,22 @@ void GroupLevelReader::Begin(XmlAttributes& attributes)
         m_group->SetRotateParam(&record.rotate);
     }
     m_children = std::make_unique<NumberedChildren<GroupTree>>(m_prefix, m_report);
-    m_children->Start(ReadCount(attributes, kGroupCount));
+    m_children->Start(ReadCount(attributes, kGroupCount), kMaxGroupsOfFile);
 }
 
 XmlHandler* GroupLevelReader::Child(std::string_view name)
 {
     if (!m_children->Expect(name))
         return nullptr;
-    if (m_depth >= kMaxGroupDepth) {
-        m_report.Add(QCoreApplication::translate("OrvanData", "分组嵌套过深，更深的分组被跳过"));
+    if (m_depth >= kMaxGroupDepth || m_left == 0) {
+        m_report.Add(m_left > 0 ? QCoreApplication::translate("OrvanData", "分组嵌套过深，更深的分组被跳过")
+                                : QCoreApplication::translate("OrvanData", "分组过多，其余的被跳过"));
         return nullptr;
     }
+    --m_left;
     if (!m_below)
         m_below = std::make_unique<GroupLevelReader>(
-            m_report, m_depth + 1, [this](GroupTree tree) { m_children->Add(std::move(tree)); });
+            m_report, m_left, m_depth + 1, [this](GroupTree tree) { m_children->Add(std::move(tree)); });
     m_below->SetName(name);
     return m_below.get();
 }
@@ -168,7 +175,8 @@ void GroupLevelReader::End()
 }
 
 GroupTreeReader::GroupTreeReader(ReadReport& report)
-    : m_report(report), m_top(report, 0, [this](GroupLevelReader::GroupTree tree) { Take(std::move(tree)); })
+    : m_report(report),
+      m_top(report, m_left, 0, [this](GroupLevelReader::GroupTree tree) { Take(std::move(tree)); })
 {
     m_top.SetName(kGroup);
 }
@@ -183,7 +191,7 @@ void GroupTreeReader::Take(GroupLevelReader::GroupTree tree)
     CTileGroupSet& groups = *tree->GetSubGroupSet();
     if (m_top.GetCount() < 1)
         return;
-    QSet<QUuid> seen;
+    std::set<QUuid> seen; // ordered: ids of a hostile file may share one hash
     DropRepeatedGroups(groups, seen, m_report);
     m_target->DeleteAll();
     m_target->AddFromOther(groups);
@@ -249,7 +257,7 @@ void SenderReader::Begin(XmlAttributes& attributes)
     if (m_parts == SenderParts::Project)
         m_target->SetId(m_idRule ? m_idRule(record.id) : record.id);
     ApplyRecord(record, m_parts, *m_target);
-    m_ports.Start(m_target->GetPortCount());
+    m_ports.Start(m_target->GetPortCount(), kMaxPorts);
 }
 
 XmlHandler* SenderReader::Child(std::string_view name)
@@ -282,7 +290,7 @@ SenderLayoutReader::~SenderLayoutReader() = default;
 
 void SenderLayoutReader::Begin(XmlAttributes& attributes)
 {
-    m_senders.Start(ReadCount(attributes, kSenderCount));
+    m_senders.Start(ReadCount(attributes, kSenderCount), kMaxSenders);
     m_ids.clear();
     m_done = 0;
 }

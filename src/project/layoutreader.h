@@ -51,6 +51,7 @@ private:
     CTileSet* m_target = nullptr;
     QUuid m_senderId;
     int m_portIndex = -1;
+    int m_read = 0; ///< of the whole file
     TileReader m_tileReader;
     NumberedChildren<std::unique_ptr<CTile>> m_tiles;
 };
@@ -67,7 +68,8 @@ class GroupLevelReader : public XmlHandler
 public:
     using GroupTree = std::unique_ptr<CTileGroup, GroupTreeDeleter>;
 
-    GroupLevelReader(ReadReport& report, int depth, std::function<void(GroupTree)> take);
+    /// [ref] `left`: how many groups of the file are still read.
+    GroupLevelReader(ReadReport& report, int& left, int depth, std::function<void(GroupTree)> take);
 
     int GetCount() const { return m_children->GetCount(); } ///< what the element states
     void SetName(std::string_view name); ///< the element's own; its children's names begin with it
@@ -78,6 +80,7 @@ public:
 
 private:
     ReadReport& m_report;
+    int& m_left;
     int m_depth;
     std::function<void(GroupTree)> m_take;
     std::string m_prefix;
@@ -104,6 +107,7 @@ private:
 
     ReadReport& m_report;
     CTileGroupSet* m_target = nullptr;
+    int m_left = layoutnames::kMaxGroupsOfFile;
     GroupLevelReader m_top;
 };
 

@@ -21,9 +21,12 @@ public:
     NumberedChildren(std::string prefix, ReadReport& report) : m_prefix(std::move(prefix)), m_report(report)
     {}
 
-    void Start(int count)
+    /// `most`: how many are taken whatever the count says; that there were more is told once.
+    void Start(int count, int most)
     {
         m_count = std::max(count, 0);
+        m_most = most;
+        m_overflowed = false;
         m_items.clear();
         m_numbers.clear();
     }
@@ -42,6 +45,8 @@ public:
             isNumber && m_number >= 1 && m_number <= m_count && !m_numbers.contains(m_number);
         if (!isWanted)
             return Skip(name);
+        if (m_numbers.size() >= m_most)
+            return Overflow();
         m_numbers.insert(m_number);
         return true;
     }
@@ -56,7 +61,7 @@ public:
         const auto before = [](const auto& a, const auto& b) { return a.first < b.first; };
         if (!std::is_sorted(m_items.begin(), m_items.end(), before))
             std::sort(m_items.begin(), m_items.end(), before);
-        if (static_cast<int>(m_items.size()) < m_count)
+        if (static_cast<int>(m_items.size()) < m_count && !m_overflowed)
             ReportMissing();
 
         std::vector<Item> items;
@@ -74,6 +79,15 @@ private:
         return false;
     }
 
+    bool Overflow()
+    {
+        if (!m_overflowed)
+            m_report.Add(QCoreApplication::translate("OrvanData", "“%1”过多，只读取%2个")
+                             .arg(QString::fromStdString(m_prefix).left(64), QString::number(m_most)));
+        m_overflowed = true;
+        return false;
+    }
+
     void ReportMissing()
     {
         m_report.Add(QCoreApplication::translate("OrvanData", "“%1”应有%2个，实有%3个")
@@ -84,6 +98,8 @@ private:
     std::string m_prefix;
     ReadReport& m_report;
     int m_count = 0;
+    int m_most = 0;
+    bool m_overflowed = false;
     int m_number = 0;
     QSet<int> m_numbers; ///< of the children expected so far
     std::vector<std::pair<int, Item>> m_items;

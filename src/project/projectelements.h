@@ -30,6 +30,8 @@ constexpr char kParameterFiles[] = "ParameterFile";
 constexpr char kFileVersion[] = "6.0";
 constexpr float kVersionTolerance = 0.100001F;
 
+constexpr int kMaxListRecords = 65536; ///< of each list in a file
+
 bool IsVersionReadable(const QString& minimumVersion);
 
 /// An element without children, given to a function.
@@ -72,7 +74,7 @@ public:
     {
         int count = 0;
         AttributeReader(attributes).Field(m_format.count, count);
-        m_children.Start(count);
+        m_children.Start(count, kMaxListRecords);
     }
     XmlHandler* Child(std::string_view name) override
     {

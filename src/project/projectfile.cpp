@@ -25,6 +25,9 @@ namespace {
 constexpr int kLockTimeout = 30000;   ///< milliseconds
 constexpr int kStaleLockTime = 60000; ///< milliseconds; no save takes that long
 
+/// The receiver parameter files of a project are small; they are copied several times.
+const ArchiveLimits kLimits = {qint64(64) << 20, QStringLiteral("project/new.prj")};
+
 std::function<void(int)> Reports(CCustomProgressbar* progress)
 {
     if (!progress)
@@ -81,7 +84,7 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     const bool complete =
         parameterwork::CollectForSaving(m_parameterFiles, GetProjectLookup()->Products(), report);
     QString error;
-    if (complete && !PackFolder(parameterwork::ProjectFolder(), path, &error))
+    if (complete && !PackFolder(parameterwork::ProjectFolder(), path, &error, kLimits))
         report.Add(error);
     m_lastFileError = report.Text();
     return true;
@@ -166,8 +169,8 @@ bool CProjectData::LoadArchive(const QString& path, QString& version, CCustomPro
     if (!PrepareWorkFolder(lock, path))
         return false;
     QString error;
-    const bool unpacked =
-        UnpackArchive(path, CConstantData::GetProjectParamFileTemp(), QStringLiteral("project/"), &error);
+    const bool unpacked = UnpackArchive(path, CConstantData::GetProjectParamFileTemp(),
+                                        QStringLiteral("project/"), &error, kLimits);
     if (!unpacked || !QFile::exists(parameterwork::DocumentPath()))
         return FailFile(unpacked ? QCoreApplication::translate("OrvanData", "压缩包里没有“project/new.prj”。")
                                  : error);

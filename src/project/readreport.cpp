@@ -12,6 +12,10 @@ void ReadReport::Add(const QString& line)
 
 void ReadReport::AddElement(std::string_view name)
 {
+    if (m_lines.size() >= kMaxLines) {
+        ++m_more;
+        return;
+    }
     const QString shown = QString::fromUtf8(name.data(), static_cast<int>(name.size())).left(64);
     Add(QCoreApplication::translate("OrvanData", "跳过元素“%1”").arg(shown));
 }

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <memory>
 #include <sys/stat.h>
@@ -67,9 +68,10 @@ bool ExtractFile(zip_t* archive, zip_uint64_t index, zip_uint64_t size, const QS
     return false;
 }
 
-bool Extract(zip_t* archive, zip_uint64_t index, const QString& path, const QString& base)
+bool Extract(zip_t* archive, zip_uint64_t index, const QString& path, const QString& base,
+             QSet<QString>& folders)
 {
-    if (!MakeFoldersOf(base, path))
+    if (!MakeFoldersOf(base, path, &folders))
         return false;
     if (path.endsWith(QLatin1Char('/')))
         return true;
@@ -78,15 +80,15 @@ bool Extract(zip_t* archive, zip_uint64_t index, const QString& path, const QStr
            && ExtractFile(archive, index, stat.size, base + QLatin1Char('/') + path);
 }
 
-/// Checks an entry before anything is written for it. `total` grows by what it unpacks to.
-bool Accept(zip_t* archive, zip_uint64_t index, zip_uint64_t* total)
+/// Checks an entry before anything is written for it. `left` shrinks by what it unpacks to, if that counts.
+bool Accept(zip_t* archive, zip_uint64_t index, bool counts, qint64* left)
 {
     zip_stat_t stat;
     if (zip_stat_index(archive, index, 0, &stat) != 0 || !IsReadable(stat) || IsLink(archive, index)
         || stat.size > zip_uint64_t(kMaxArchiveEntrySize))
         return false;
-    *total += stat.size;
-    return *total <= zip_uint64_t(kMaxArchiveTotalSize);
+    *left -= counts ? static_cast<qint64>(stat.size) : 0;
+    return *left >= 0;
 }
 
 std::unique_ptr<zip_t, Discard> Open(const QString& path)
@@ -100,7 +102,8 @@ std::unique_ptr<zip_t, Discard> Open(const QString& path)
 
 } // namespace
 
-bool UnpackArchive(const QString& zipPath, const QString& folder, const QString& onlyBelow, QString* error)
+bool UnpackArchive(const QString& zipPath, const QString& folder, const QString& onlyBelow, QString* error,
+                   const ArchiveLimits& limits)
 {
     if (!QFileInfo(zipPath).isFile())
         return Fail(error, QCoreApplication::translate("OrvanData", "文件不存在: %1").arg(zipPath));
@@ -117,14 +120,16 @@ bool UnpackArchive(const QString& zipPath, const QString& folder, const QString&
 
     const qint64 withNul = FindNulInNames(zipPath);
     const QString base = QFileInfo(folder).absoluteFilePath();
-    zip_uint64_t total = 0;
+    qint64 left = limits.total;
+    QSet<QString> folders;
     for (zip_uint64_t i = 0; i < static_cast<zip_uint64_t>(count); ++i) {
         const QString name = GetArchiveEntryName(archive.get(), i);
-        if (name.isEmpty() || qint64(i) == withNul)
+        if (name.isEmpty() || qint64(i) == withNul || name.count(QLatin1Char('/')) >= kMaxArchiveDepth)
             return Fail(error, QCoreApplication::translate("OrvanData", "压缩包条目名称无效"));
         if (!name.startsWith(onlyBelow))
             continue;
-        if (!Accept(archive.get(), i, &total) || !Extract(archive.get(), i, name, base))
+        if (!Accept(archive.get(), i, name != limits.apart, &left)
+            || !Extract(archive.get(), i, name, base, folders))
             return Fail(error, QCoreApplication::translate("OrvanData", "压缩包条目无法解压: %1").arg(name));
     }
     return true;

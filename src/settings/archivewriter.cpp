@@ -34,7 +34,9 @@ class FolderWalk
 {
 public:
     /// `except`: canonical path of the archive itself, which may lie in the folder.
-    explicit FolderWalk(const QString& except) : m_except(except) {}
+    FolderWalk(const QString& except, const ArchiveLimits& limits)
+        : m_except(except), m_limits(limits), m_left(limits.total)
+    {}
 
     bool Walk(const QString& folder, const QString& name, QString* error)
     {
@@ -57,9 +59,9 @@ private:
     bool Add(const QFileInfo& child, const QString& parent, QString* error)
     {
         const QString name = parent + QLatin1Char('/') + child.fileName();
-        m_size += child.isDir() ? 0 : child.size();
-        if (m_entries.size() == kMaxArchiveEntries || m_size > kMaxArchiveTotalSize
-            || (!child.isDir() && child.size() > kMaxArchiveEntrySize))
+        m_left -= child.isDir() || name == m_limits.apart ? 0 : child.size();
+        if (m_entries.size() == kMaxArchiveEntries || name.count(QLatin1Char('/')) >= kMaxArchiveDepth
+            || m_left < 0 || (!child.isDir() && child.size() > kMaxArchiveEntrySize))
             return Fail(error, QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(name));
         m_entries.append({name, child.isDir() ? QString() : child.filePath()});
         return !child.isDir() || Walk(child.filePath(), name, error);
@@ -67,7 +69,8 @@ private:
 
     QString m_except;
     QVector<Entry> m_entries;
-    qint64 m_size = 0;
+    ArchiveLimits m_limits;
+    qint64 m_left;
 };
 
 /// The device that libzip writes an archive to. libzip seeks back to fill in the sizes of each entry.
@@ -171,7 +174,7 @@ bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, QString* err
 
 } // namespace
 
-bool PackFolder(const QString& folder, const QString& zipPath, QString* error)
+bool PackFolder(const QString& folder, const QString& zipPath, QString* error, const ArchiveLimits& limits)
 {
     const QString root = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
     if (folder.isEmpty() || zipPath.isEmpty() || !QFileInfo(root).isDir())
@@ -183,7 +186,7 @@ bool PackFolder(const QString& folder, const QString& zipPath, QString* error)
     if (!parent.isEmpty() && !QDir().mkpath(parent))
         return Fail(error, QCoreApplication::translate("OrvanData", "文件夹无法创建: %1").arg(parent));
 
-    FolderWalk walk(QFileInfo(zipPath).canonicalFilePath());
+    FolderWalk walk(QFileInfo(zipPath).canonicalFilePath(), limits);
     if (!walk.Walk(QFileInfo(root).canonicalFilePath(), QFileInfo(root).fileName(), error))
         return false;
     QString reason;

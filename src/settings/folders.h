@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 
 // Where the user's files of the application live. The folders are not created by asking.
@@ -8,5 +9,5 @@ QString DocumentsFolder(); ///< the platform's documents folder, no trailing "/"
 QString ProductFolder();   ///< the product library's root, with a trailing "/"
 
 /// Makes the folders of a relative file path, one by one below `base`; false where one is a link or a file or
-/// cannot be made.
-bool MakeFoldersOf(const QString& base, const QString& relativeFile);
+/// cannot be made. `made`, kept from call to call, saves looking again at folders that were made before.
+bool MakeFoldersOf(const QString& base, const QString& relativeFile, QSet<QString>* made = nullptr);

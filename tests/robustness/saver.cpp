@@ -1,16 +1,28 @@
 // Saves documents in a process of its own, for the tests:
 //   saver loop FOLDER                      both versions of every document over and over, until it is killed
+//   saver lock PROJECT                     holds the lock of a project, until it is killed
 //   saver project FOLDER VERSION ROUNDS    a project, and reads it back each time; ends with 1 when that
 //   gives
 //                                          anything else
 #include "frame/lednimbradata.h"
+#include "project/projectlock.h"
 #include "robustness/documents.h"
 
 #include <QCoreApplication>
+#include <QThread>
 
 #include <cstdio>
 
 namespace {
+
+void HoldLock(const QString& project)
+{
+    CProjectLock lock(project);
+    std::puts(lock.Lock() ? "ready" : "taken");
+    std::fflush(stdout);
+    for (;;)
+        QThread::sleep(1000);
+}
 
 void SaveForEver(const QString& folder)
 {
@@ -36,6 +48,8 @@ int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("lock"))
+        HoldLock(arguments.value(2));
     LedNimbraData_Init();
     MakeProducts();
     if (arguments.value(1) == QLatin1String("loop"))

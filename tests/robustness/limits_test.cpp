@@ -1,0 +1,156 @@
+#include "common/xmldom.h"
+#include "common/xmlreader.h"
+#include "common/xmlwriter.h"
+#include "frame/lednimbradata.h"
+#include "layout/tile.h"
+#include "project/layoutdescription.h"
+#include "project/projectdata.h"
+#include "settings/archive.h"
+#include "support/library.h"
+#include "support/testfolder.h"
+#include "support/wallbuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QDir>
+
+namespace {
+
+QString WhyRefused(const QByteArray& root)
+{
+    QByteArray bytes = "<?xml version=\"1.0\"?>" + root;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    XmlHandler nothing;
+    QString why;
+    return ParseXml(buffer, nothing, &why) ? QString() : why;
+}
+
+QByteArray Attributes(int count)
+{
+    QByteArray text;
+    for (int i = 0; i < count; ++i)
+        text += " a" + QByteArray::number(i) + "=\"\"";
+    return text;
+}
+
+class LimitsTest : public testing::Test
+{
+protected:
+    bool Load(const QByteArray& elements)
+    {
+        const QString path = folder.Write(QStringLiteral("a.xml"),
+                                          "<?xml version=\"1.0\"?><LedSetting>" + elements + "</LedSetting>");
+        QString version;
+        return project.LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr);
+    }
+
+    Library library;
+    TestFolder folder;
+    CProjectData& project = *GetProjectData();
+};
+
+TEST_F(LimitsTest, DocumentIsRefusedOneBeyondEachLimit)
+{
+    const QByteArray text(kMaxXmlText, 'x');
+    const QByteArray manyElements = QByteArray("<b/>").repeated(kMaxXmlElements - 1);
+    const QByteArray markup(int(kMaxXmlMarkup) + 1024 * 1024, 'x');
+    const struct
+    {
+        const char* what;
+        QByteArray within;
+        QByteArray beyond;
+    } cases[] = {
+        {"attribute", "<a b=\"" + text + "\"/>", "<a b=\"" + text + "x\"/>"},
+        {"text", "<a><b/>" + text + "<b/>" + text + "</a>", "<a>" + text + "<![CDATA[x]]></a>"},
+        {"attributes", "<a" + Attributes(kMaxXmlAttributes) + "/>",
+         "<a" + Attributes(kMaxXmlAttributes + 1) + "/>"},
+        {"elements", "<a>" + manyElements + "</a>", "<a>" + manyElements + "<b/></a>"},
+        {"comment", "<a><!--" + markup.left(int(kMaxXmlMarkup) - 1024 * 1024) + "--></a>",
+         "<a><!--" + markup + "--></a>"},
+    };
+    for (const auto& limit : cases) {
+        EXPECT_EQ(WhyRefused(limit.within).toStdString(), "") << limit.what;
+        EXPECT_FALSE(WhyRefused(limit.beyond).isEmpty()) << limit.what;
+    }
+}
+
+TEST_F(LimitsTest, TreeIsNotBuiltOfTooManyNodes)
+{
+    const QByteArray half = QByteArray("<b c=\"\"/>").repeated(kMaxTreeNodes / 2);
+    QDomDocument document;
+    QString why;
+    EXPECT_FALSE(ParseXmlDom("<?xml version=\"1.0\"?><a>" + half + "</a>", document, &why));
+    EXPECT_FALSE(why.isEmpty());
+}
+
+TEST_F(LimitsTest, LongTextIsCutAtACharacterSoThatTheFileLoadsAgain)
+{
+    project.GetPrintSetData()->designer = {true, QStringLiteral("a") + QString(40000, QChar(0x5C4F))};
+    const QString path = folder.Path(QStringLiteral("a.prj"));
+    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
+    QString version;
+    ASSERT_TRUE(project.LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr))
+        << project.GetLastFileError().toStdString();
+    EXPECT_EQ(project.GetPrintSetData()->designer.text,
+              QStringLiteral("a") + QString((kMaxXmlText - 1) / 3, QChar(0x5C4F)));
+}
+
+TEST_F(LimitsTest, CabinetsBeyondThoseOfAPortAreToldAndPassedOver)
+{
+    QByteArray tiles;
+    for (int i = 1; i <= layoutnames::kMaxTilesOfPort + 1; ++i)
+        tiles += "<Tile_" + QByteArray::number(i) + "/>";
+    const auto portOf = [&tiles](int count) {
+        return "<SenderLayout SenderCount=\"1\"><Sender_1 PortCount=\"2\"><Port_1><TitleLayout TileCount=\""
+               + QByteArray::number(count) + "\">" + tiles
+               + "</TitleLayout></Port_1><Port_2/></Sender_1></SenderLayout>";
+    };
+    ASSERT_TRUE(Load(portOf(layoutnames::kMaxTilesOfPort + 1)));
+    EXPECT_EQ(TilesOf(*project.GetSender(0)->GetPort(0)).GetCount(), layoutnames::kMaxTilesOfPort);
+    EXPECT_TRUE(project.GetLastFileError().contains(QString::number(layoutnames::kMaxTilesOfPort)));
+}
+
+TEST_F(LimitsTest, SendersAndGroupsBeyondTheLimitsOfAFileArePassedOver)
+{
+    QByteArray senders;
+    for (int i = 1; i <= layoutnames::kMaxSenders + 1; ++i)
+        senders += "<Sender_" + QByteArray::number(i) + "/>";
+    ASSERT_TRUE(Load("<SenderLayout SenderCount=\"9999\">" + senders + "</SenderLayout>"));
+    EXPECT_EQ(project.GetSenderCount(), layoutnames::kMaxSenders);
+
+    QByteArray groups; // half of them inside the other half
+    for (int i = 1; i <= layoutnames::kMaxGroupsOfFile / 2 + 1; ++i) {
+        const QByteArray name = "TileGroup_" + QByteArray::number(i);
+        groups += '<' + name + " GroupCount=\"1\"><" + name + "_1/></" + name + '>';
+    }
+    ASSERT_TRUE(Load("<SenderLayout SenderCount=\"1\"><Sender_1 PortCount=\"2\"><Port_1><TitleGroupLayout "
+                     "GroupCount=\"999999\">"
+                     + groups + "</TitleGroupLayout></Port_1></Sender_1></SenderLayout>"));
+    QList<CTileGroup*> read;
+    GroupsOf(*project.GetSender(0)->GetPort(0)).GetGroupListRecursive(read);
+    EXPECT_EQ(read.size(), layoutnames::kMaxGroupsOfFile);
+    EXPECT_FALSE(project.GetLastFileError().isEmpty());
+}
+
+TEST_F(LimitsTest, ArchiveIsHeldToItsLimitsWhenPackedAndWhenUnpacked)
+{
+    const QString packed = folder.Path(QStringLiteral("a.zip"));
+    folder.Write(QStringLiteral("in/large"), QByteArray(3000, 'x'));
+    folder.Write(QStringLiteral("in/small"), QByteArray(1000, 'x'));
+    const auto limits = [](qint64 total) { return ArchiveLimits{total, QStringLiteral("in/large")}; };
+    const QString in = folder.Path(QStringLiteral("in"));
+    const QString out = folder.Path(QStringLiteral("out"));
+    EXPECT_FALSE(PackFolder(in, packed, nullptr, limits(999)));
+    ASSERT_TRUE(PackFolder(in, packed, nullptr, limits(1000)));
+    EXPECT_FALSE(UnpackArchive(packed, out, QString(), nullptr, limits(999)));
+    EXPECT_TRUE(UnpackArchive(packed, out, QString(), nullptr, limits(1000)));
+
+    QDir(in).mkpath(QStringLiteral("d/").repeated(kMaxArchiveDepth - 1));
+    EXPECT_TRUE(PackFolder(in, packed));
+    QDir(in).mkpath(QStringLiteral("d/").repeated(kMaxArchiveDepth));
+    EXPECT_FALSE(PackFolder(in, packed));
+}
+
+} // namespace

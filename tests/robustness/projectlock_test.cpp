@@ -1,0 +1,46 @@
+#include "project/projectlock.h"
+
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+#include <QDir>
+#include <QProcess>
+
+TEST(ProjectLockTest, LockOfAnotherProgramIsRespectedUntilThatDies)
+{
+    TestFolder folder;
+    const QString project = folder.Write(QStringLiteral("a.prj"), "PK");
+    QProcess other;
+    other.start(QStringLiteral(ORVAN_SAVER), {QStringLiteral("lock"), project});
+    ASSERT_TRUE(other.waitForReadyRead());
+
+    const QString link = folder.Path(QStringLiteral("link.prj"));
+    ASSERT_TRUE(QFile::link(project, link));
+    CProjectLock lock(link);
+    QString holder;
+    EXPECT_FALSE(lock.Lock(&holder));
+    EXPECT_TRUE(holder.contains(QString::number(other.processId()))) << holder.toStdString();
+
+    other.kill();
+    ASSERT_TRUE(other.waitForFinished());
+    EXPECT_TRUE(lock.Lock(&holder));
+    EXPECT_FALSE(CProjectLock(project).Lock());
+    lock.Unlock();
+    EXPECT_TRUE(CProjectLock(project).Lock());
+    EXPECT_EQ(QDir(folder.Path()).entryList(QDir::Files | QDir::System).size(), 2);
+}
+
+TEST(ProjectLockTest, LockFileWithoutAHolderIsTakenOverOnceItIsOld)
+{
+    TestFolder folder;
+    const QString project = folder.Path(QStringLiteral("a.prj"));
+    QFile abandoned(folder.Write(QStringLiteral("a.prj.lock"), QByteArray()));
+    CProjectLock lock(project);
+    EXPECT_FALSE(lock.Lock());
+    ASSERT_TRUE(abandoned.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(
+        abandoned.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFileDevice::FileModificationTime));
+    EXPECT_TRUE(lock.Lock());
+}
