@@ -27,8 +27,6 @@ struct Bin
     qint64 pixels = 0;
     QRgb color = 0; ///< that of an area where there is one
     bool fromArea = false;
-    bool hasIndex = false;
-    uchar index = 0;
 };
 
 void Count(const QImage& drawing, std::vector<Bin>& bins)
@@ -102,20 +100,26 @@ QImage ReducedToPalette(const QImage& drawing)
     Q_ASSERT(drawing.format() == QImage::Format_RGB32);
     std::vector<Bin> bins(kBins);
     Count(drawing, bins);
-    QImage reduced(drawing.size(), QImage::Format_Indexed8);
     const QVector<QRgb> palette = ChoosePalette(bins);
+    std::vector<short> indices(kBins, -1);
+    const auto indexOf = [&](QRgb color) {
+        const size_t bin = BinOf(color);
+        if (indices[bin] < 0)
+            indices[bin] = NearestOf(palette, bins[bin].pixels > 0 ? bins[bin].color : color);
+        return static_cast<uchar>(indices[bin]);
+    };
+
+    QImage reduced(drawing.size(), QImage::Format_Indexed8);
     reduced.setColorTable(palette);
     const int width = drawing.width();
     for (int y = 0; y < drawing.height(); ++y) {
         const auto* from = reinterpret_cast<const QRgb*>(drawing.constScanLine(y));
         uchar* to = reduced.scanLine(y);
-        for (int x = 0; x < width; ++x) {
-            Bin& bin = bins[BinOf(from[x])];
-            if (!bin.hasIndex) {
-                bin.index = NearestOf(palette, bin.pixels > 0 ? bin.color : from[x]);
-                bin.hasIndex = true;
-            }
-            to[x] = bin.index;
+        for (int x = 0; x < width;) {
+            const int begin = x;
+            while (x < width && from[x] == from[begin])
+                ++x;
+            std::fill(to + begin, to + x, indexOf(from[begin]));
         }
     }
     return reduced;

@@ -17,7 +17,7 @@ constexpr double kDigitWidth = 0.62; ///< of a number's height, the widest of us
 constexpr double kMostText = 70;
 constexpr double kLeastCover = 0.6; ///< of the canvas, to show it whole
 constexpr double kMargin = 30;
-constexpr double kSmallSide = 50; ///< of a cabinet whose arrows are bare
+constexpr double kSmallSide = 50; ///< of a cabinet whose arrows and groups are bare of white edges
 
 QColor TextOn(const QColor& ground)
 {
@@ -168,11 +168,12 @@ void WallPainter::PaintCanvas()
     const QRectF around = m_area.adjusted(-kMargin, -kMargin, kMargin, kMargin);
     m_painter.save();
     m_painter.setClipRect(around);
+    const bool isBare = !m_picture.bound.contains(m_picture.canvas);
     const QColor ground(246, 246, 246);
-    if (m_asPixels)
+    if (isBare && m_asPixels)
         FillPixels({m_painter.worldTransform().mapRect(canvas.intersected(around)).toRect()}, ground);
     m_painter.setPen(QPen(QColor(110, 110, 110), 3, Qt::DashDotLine));
-    m_painter.setBrush(m_asPixels ? QBrush(Qt::NoBrush) : ground);
+    m_painter.setBrush(isBare && !m_asPixels ? ground : QBrush(Qt::NoBrush));
     m_painter.drawRect(canvas);
     m_painter.restore();
 }
@@ -292,8 +293,10 @@ void WallPainter::PaintGroups(const PicturePort& port)
         }
     }
     m_painter.setBrush(Qt::NoBrush);
-    m_painter.setPen(QPen(Qt::white, 5, Qt::SolidLine, Qt::SquareCap));
-    DrawLines(lines);
+    if (SideOf(port.shapes.front()) >= kSmallSide) {
+        m_painter.setPen(QPen(Qt::white, 5, Qt::SolidLine, Qt::SquareCap));
+        DrawLines(lines);
+    }
     m_painter.setPen(GroupPen());
     DrawLines(lines);
 }
