@@ -38,35 +38,39 @@ bool StoredReceivers::Read(const QString& path)
 bool StoredReceivers::ReadDocument(const QString& path)
 {
     m_senders.clear();
+    m_sender = nullptr;
+    m_port = nullptr;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    QXmlStreamReader xml;
     bool hasRoot = false;
-    Numbered* port = nullptr;
-    std::map<int, Numbered>* sender = nullptr;
-    const QString name = QStringLiteral("FirstRcvIndex");
+    QXmlStreamReader xml;
     while (!file.atEnd()) {
         // Digests end with a NUL character, which no XML reader takes.
         xml.addData(file.read(kChunk).replace('\0', QByteArray()));
         while (!xml.atEnd() && xml.readNext() != QXmlStreamReader::Invalid) {
-            if (!xml.isStartElement())
-                continue;
-            hasRoot = true;
-            if (const int number = NumberBehind(xml.name(), "Sender_")) {
-                sender = &m_senders[number];
-                port = nullptr;
-            } else if (const int portNumber = NumberBehind(xml.name(), "Port_")) {
-                port = sender ? &(*sender)[portNumber] : nullptr;
-            } else if (const int tile = NumberBehind(xml.name(), "Tile_")) {
-                if (port)
-                    port->emplace(tile, xml.attributes().value(name).toInt());
-            }
+            if (xml.isStartElement())
+                TakeElement(xml);
+            hasRoot = hasRoot || xml.isStartElement();
         }
         if (xml.hasError() && xml.error() != QXmlStreamReader::PrematureEndOfDocumentError)
             return false;
     }
     return hasRoot && !xml.hasError();
+}
+
+void StoredReceivers::TakeElement(const QXmlStreamReader& xml)
+{
+    static const QString attribute = QStringLiteral("FirstRcvIndex");
+    if (const int sender = NumberBehind(xml.name(), "Sender_")) {
+        m_sender = &m_senders[sender];
+        m_port = nullptr;
+    } else if (const int port = NumberBehind(xml.name(), "Port_")) {
+        m_port = m_sender ? &(*m_sender)[port] : nullptr;
+    } else if (const int tile = NumberBehind(xml.name(), "Tile_")) {
+        if (m_port)
+            m_port->emplace(tile, xml.attributes().value(attribute).toInt());
+    }
 }
 
 std::vector<int> StoredReceivers::OfPort(int sender, int port) const

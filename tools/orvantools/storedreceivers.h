@@ -5,6 +5,8 @@
 #include <map>
 #include <vector>
 
+class QXmlStreamReader;
+
 namespace OrvanTools {
 
 /// The first receiver numbers as a project file states them. The library derives its own when it reads the
@@ -20,10 +22,15 @@ public:
     std::vector<int> OfPort(int sender, int port) const;
 
 private:
-    bool ReadDocument(const QString& path);
+    using Port = std::map<int, int>;    ///< first receiver, by the cabinet's number in the file
+    using Sender = std::map<int, Port>; ///< by the port's number
 
-    using Numbered = std::map<int, int>; ///< cabinet number in the file, first receiver
-    std::map<int, std::map<int, Numbered>> m_senders;
+    bool ReadDocument(const QString& path);
+    void TakeElement(const QXmlStreamReader& xml);
+
+    std::map<int, Sender> m_senders;
+    Sender* m_sender = nullptr; ///< [ref] being read
+    Port* m_port = nullptr;     ///< [ref] being read
 };
 
 } // namespace OrvanTools
