@@ -25,15 +25,21 @@ public:
     const char* Find(const char* name)
     {
         for (const char* const* at = m_next; *at; at += 2)
-            if (std::strcmp(*at, name) == 0)
+            if (IsNamed(*at, name))
                 return Take(at);
         for (const char* const* at = m_pairs; at != m_next; at += 2)
-            if (std::strcmp(*at, name) == 0)
+            if (IsNamed(*at, name))
                 return Take(at);
         return nullptr;
     }
 
 private:
+    /// The first character tells most names apart without a call.
+    static bool IsNamed(const char* attribute, const char* name)
+    {
+        return *attribute == *name && std::strcmp(attribute, name) == 0;
+    }
+
     const char* Take(const char* const* at)
     {
         m_next = at + 2;
