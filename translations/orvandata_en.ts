@@ -359,5 +359,37 @@
         <source>另一个程序正在写入该文件。</source>
         <translation>Another program is writing the file.</translation>
     </message>
+    <message>
+        <source>文件中的元素过多。</source>
+        <translation>The file has too many elements.</translation>
+    </message>
+    <message>
+        <source>文字过长。</source>
+        <translation>A text is too long.</translation>
+    </message>
+    <message>
+        <source>元素的属性过多。</source>
+        <translation>An element has too many attributes.</translation>
+    </message>
+    <message>
+        <source>标记过长。</source>
+        <translation>A tag is too long.</translation>
+    </message>
+    <message>
+        <source>分组过多，其余的被跳过</source>
+        <translation>too many groups; the rest passed over</translation>
+    </message>
+    <message>
+        <source>“%1”过多，只读取%2个</source>
+        <translation>too many "%1"; only %2 are read</translation>
+    </message>
+    <message>
+        <source>无法在项目文件旁创建锁文件。</source>
+        <translation>The lock file beside the project file could not be made.</translation>
+    </message>
+    <message>
+        <source>项目正在被“%1”（%2，进程%3）编辑。</source>
+        <translation>The project is being edited by "%1" (%2, process %3).</translation>
+    </message>
 </context>
 </TS>
