@@ -11,12 +11,15 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 
 #include <cmath>
 
 #include <unistd.h>
 
 namespace {
+
+constexpr int kLockTimeout = 30000; ///< milliseconds
 
 constexpr int kPortColors = 20;
 constexpr QRgb kPortColor[kPortColors] = {
@@ -62,12 +65,12 @@ int RoundHalfAway(double value)
     return TruncatedInt(value + (value < 0 ? -0.5 : 0.5));
 }
 
-SMD5 HashOf(const QString& path)
+/// `name`: of the file that the digest is told of.
+SMD5 HashOf(QFile& file, const QString& name)
 {
-    QFile file(path);
     QCryptographicHash hash(QCryptographicHash::Md5);
-    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file)) {
-        qWarning() << "MD5: the digest is not finalized:" << path;
+    if (!file.isOpen() || !hash.addData(&file)) {
+        qWarning() << "MD5: the digest is not finalized:" << name;
         return SMD5();
     }
     return SMD5::FromString(QString::fromLatin1(hash.result().toHex()));
@@ -135,6 +138,9 @@ QString CConstantData::GetTmpProjectDataPath(const QString& zipPath)
     const QString folder = GetTmpFilePath();
     const QString document = folder + QStringLiteral("/SaveProject/card.prj");
     if (IsOurFolder(folder)) {
+        QLockFile lock(folder + QStringLiteral("/unpack.lock"));
+        if (!lock.tryLock(kLockTimeout))
+            return document;
         // What an earlier archive left must not pass for this one's document.
         QFile::remove(document);
         UnpackArchive(zipPath, folder);
@@ -191,11 +197,13 @@ SMD5 CConstantData::GetMD5FromFile(const QString& path)
 {
     // A copy is hashed, so that a file that another program is writing is read in one short go.
     const QString scratch = DocumentsFolder() + QStringLiteral("/tmpfile");
-    if (QFileInfo(scratch).isSymLink() || !QFile::copy(path, scratch))
-        return HashOf(path); // the name is taken, by somebody else's file, or nothing can be copied
-    const SMD5 md5 = HashOf(scratch);
-    QFile::remove(scratch);
-    return md5;
+    const bool copied = !QFileInfo(scratch).isSymLink() && QFile::copy(path, scratch);
+    QFile file(copied ? scratch
+                      : path); // the name is taken, by somebody else's file, or nothing can be copied
+    file.open(QIODevice::ReadOnly);
+    if (copied)
+        QFile::remove(scratch); // while it is open, so that a crash leaves nothing
+    return HashOf(file, path);
 }
 
 void CConstantData::ZipFile(const QString& folder, const QString& zipPath)
