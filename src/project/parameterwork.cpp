@@ -56,14 +56,26 @@ bool Replace(const QString& source, const QString& target)
     return QFile::copy(source, target);
 }
 
-/// Where the row's file is taken from when it is packed.
-QString SourceOf(const SParameterFileInfo& row, const CProductDirectorySet* products)
+/// Copies the row's file to where it is packed: the project's own, or the library's when that is not of the
+/// row's type. The copy is looked at: another program may replace the original. `error` stays empty when
+/// there is no file.
+bool CopyForPacking(const SParameterFileInfo& row, const CProductDirectorySet* products,
+                    const QString& target, QString* error)
 {
-    const QString own = PathOf(row.name);
-    if (HoldsType(own, row.type))
-        return own;
-    const QString library = LibraryFile(products, row.type);
-    return library.isEmpty() ? own : library;
+    QFile own(PathOf(row.name));
+    QFile library(LibraryFile(products, row.type));
+    const bool hasOwn = own.exists();
+    const bool hasLibrary = !library.fileName().isEmpty() && library.exists();
+    if (hasOwn && own.copy(target) && (!hasLibrary || HoldsType(target, row.type)))
+        return true;
+    if (!hasLibrary) {
+        *error = hasOwn ? own.errorString() : QString();
+        return false;
+    }
+    QFile::remove(target);
+    const bool copied = library.copy(target);
+    *error = copied ? QString() : library.errorString();
+    return copied;
 }
 
 /// A product is told by its digest: the library keeps the file it has, and never loses one to another's name.
@@ -143,13 +155,14 @@ bool CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirec
                       ReadReport& report)
 {
     for (int i = 0; i < rows.size(); ++i) {
-        QFile source(SourceOf(rows[i], products));
-        if (!source.exists()) {
-            ReportMissing(rows[i], report);
-        } else if (!source.copy(NumberedPath(i))) {
-            report.Add(source.errorString());
+        QString error;
+        if (CopyForPacking(rows[i], products, NumberedPath(i), &error))
+            continue;
+        if (!error.isEmpty()) {
+            report.Add(error);
             return false;
         }
+        ReportMissing(rows[i], report);
     }
     return true;
 }
