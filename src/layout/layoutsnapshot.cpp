@@ -58,11 +58,7 @@ bool Holds(const CTileSet& tiles, int first, const TileRun::Chunk& chunk)
 /// A record whose inside somebody points into changes without notice, so it is copied.
 TileRun::Record Fresh(const TileData* data)
 {
-    if (!data->handedOut)
-        return TileRun::Record(data);
-    auto* copy = new TileData(*data);
-    copy->handedOut = false;
-    return TileRun::Record(copy);
+    return TileRun::Record(data->handedOut ? data->NewCopy() : data);
 }
 
 } // namespace
@@ -101,6 +97,30 @@ TileRun TileRun::Take(const CTileSet& tiles, const TileRun& previous)
     run.AppendMoved(tiles, tail, previous, front, back);
     for (size_t i = back; i < before.size(); ++i)
         run.Append(before[i]);
+    return run;
+}
+
+TileRun TileRun::Take(const CTileSet& tiles, const TileRun& previous, const std::vector<int>& touched)
+{
+    TileRun run = previous;
+    Chunk* written = nullptr; // the present chunk once it differs from the earlier one
+    size_t at = 0;
+    int first = 0;
+    for (const int position : touched) {
+        for (; position >= first + run.m_chunks[at]->Size(); ++at) {
+            first += run.m_chunks[at]->Size();
+            written = nullptr;
+        }
+        const auto place = static_cast<size_t>(position - first);
+        CTile* tile = tiles.GetTiles().at(position);
+        if (IsAsRecorded(tile, run.m_chunks[at]->tiles[place]))
+            continue;
+        if (!written) {
+            written = new Chunk(*run.m_chunks[at]);
+            run.m_chunks[at] = ChunkPointer(written);
+        }
+        written->tiles[place] = Fresh(tile->GetData());
+    }
     return run;
 }
 
@@ -165,6 +185,30 @@ void TileRun::Restore(CTileSet* tiles) const
         }
     }
     tiles->Truncate(m_count);
+}
+
+bool TileRun::Restore(CTileSet* tiles, const TileRun& present, const std::vector<int>& touched) const
+{
+    const bool alike = std::equal(
+        m_chunks.begin(), m_chunks.end(), present.m_chunks.begin(), present.m_chunks.end(),
+        [](const ChunkPointer& a, const ChunkPointer& b) { return a == b || a->Size() == b->Size(); });
+    if (!alike)
+        return false;
+    auto next = touched.begin();
+    int first = 0;
+    for (size_t at = 0; at < m_chunks.size(); ++at) {
+        const std::vector<Record>& records = m_chunks[at]->tiles;
+        const std::vector<Record>& before = present.m_chunks[at]->tiles;
+        for (size_t i = 0; m_chunks[at] != present.m_chunks[at] && i < records.size(); ++i) {
+            if (records[i] != before[i])
+                tiles->GetTiles().at(first + static_cast<int>(i))->SetData(records[i].constData());
+        }
+        const int end = first + m_chunks[at]->Size();
+        for (; next != touched.end() && *next < end; ++next)
+            tiles->GetTiles().at(*next)->SetData(records[static_cast<size_t>(*next - first)].constData());
+        first = end;
+    }
+    return true;
 }
 
 bool TileRun::IsEqual(const TileRun& other) const
@@ -265,20 +309,46 @@ void GroupSnapshot::Restore(CTileGroupSet* groups, const List& records)
 
 LayoutSnapshot::Pointer LayoutSnapshot::Take(const CPortProject& layout, const Pointer& previous)
 {
-    static const LayoutSnapshot empty;
-    const LayoutSnapshot& before = previous ? *previous : empty;
-    auto* snapshot = new LayoutSnapshot;
-    Pointer holder(snapshot);
-    snapshot->m_tiles = TileRun::Take(*layout.GetTileSet(), before.m_tiles);
-    snapshot->m_groups = GroupSnapshot::Take(*layout.GetTileGroupSet(), before.m_groups);
-    if (previous && snapshot->m_tiles.IsSameRun(before.m_tiles) && snapshot->m_groups == before.m_groups)
+    return Make(TileRun::Take(*layout.GetTileSet(), previous ? previous->m_tiles : TileRun()), layout,
+                previous);
+}
+
+LayoutSnapshot::Pointer LayoutSnapshot::Take(const CPortProject& layout, const Pointer& previous,
+                                             const std::vector<int>& touched)
+{
+    return Make(TileRun::Take(*layout.GetTileSet(), previous->m_tiles, touched), layout, previous);
+}
+
+LayoutSnapshot::Pointer LayoutSnapshot::Make(TileRun tiles, const CPortProject& layout,
+                                             const Pointer& previous)
+{
+    GroupSnapshot::List groups =
+        GroupSnapshot::Take(*layout.GetTileGroupSet(), previous ? previous->m_groups : GroupSnapshot::List());
+    if (previous && tiles.IsSameRun(previous->m_tiles) && groups == previous->m_groups)
         return previous;
-    return holder;
+    auto* snapshot = new LayoutSnapshot;
+    snapshot->m_tiles = std::move(tiles);
+    snapshot->m_groups = std::move(groups);
+    return Pointer(snapshot);
 }
 
 void LayoutSnapshot::Restore(CPortProject* layout) const
 {
     m_tiles.Restore(layout->GetTileSet());
+    RestoreGroups(layout);
+}
+
+bool LayoutSnapshot::Restore(CPortProject* layout, const LayoutSnapshot& present,
+                             const std::vector<int>& touched) const
+{
+    if (!m_tiles.Restore(layout->GetTileSet(), present.m_tiles, touched))
+        return false;
+    RestoreGroups(layout);
+    return true;
+}
+
+void LayoutSnapshot::RestoreGroups(CPortProject* layout) const
+{
     CTileGroupSet* groups = layout->GetTileGroupSet();
     if (GroupSnapshot::Take(*groups, m_groups) == m_groups)
         return; // groups that are as recorded keep their address and visibility

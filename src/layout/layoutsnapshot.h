@@ -32,9 +32,15 @@ public:
 
     /// Takes what equals `previous` from there. Cabinets that equal their earlier record share it again.
     static TileRun Take(const CTileSet& tiles, const TileRun& previous);
+    /// The same where the list of cabinets is that of `previous` and, outside the positions `touched`, each
+    /// has its record there. Positions ascend.
+    static TileRun Take(const CTileSet& tiles, const TileRun& previous, const std::vector<int>& touched);
 
     void
     Restore(CTileSet* tiles) const; ///< in place, so cabinets that stay keep their address and view state
+    /// The same where, outside the positions `touched`, each cabinet has its record in `present`. False, and
+    /// nothing done, when the two runs are not divided alike.
+    bool Restore(CTileSet* tiles, const TileRun& present, const std::vector<int>& touched) const;
     bool IsSameRun(const TileRun& other) const { return m_chunks == other.m_chunks; } ///< by identity
     bool IsEqual(const TileRun& other) const;
     bool IsEqual(const CTileSet& tiles) const;
@@ -75,13 +81,20 @@ public:
 
     /// `previous` itself when nothing changed, else a record that shares with it what did not; null for none.
     static Pointer Take(const CPortProject& layout, const Pointer& previous);
-
     void Restore(CPortProject* layout) const;
+
+    // the same for a layout of which LayoutTracker knows the cabinets that may not be as in the other record
+    static Pointer Take(const CPortProject& layout, const Pointer& previous, const std::vector<int>& touched);
+    bool Restore(CPortProject* layout, const LayoutSnapshot& present, const std::vector<int>& touched) const;
+
     bool IsEqual(const LayoutSnapshot& other) const; ///< as layouts compare, but groups in depth
     bool IsEqual(const CPortProject& layout) const;
     const TileRun& GetTiles() const { return m_tiles; }
 
 private:
+    static Pointer Make(TileRun tiles, const CPortProject& layout, const Pointer& previous);
+    void RestoreGroups(CPortProject* layout) const;
+
     TileRun m_tiles;
     GroupSnapshot::List m_groups;
 };

@@ -22,8 +22,9 @@ int CollectPorts(const CSenderUndoRedo& history, int from, int to, int* ports)
 }
 
 /// Puts the visible ports back. False when the sender is not as recorded afterwards.
-bool Restore(const CSenderRecordItem& record, CSender* sender, int shownPort)
+bool Restore(CSenderUndoRedo* history, CSender* sender, int shownPort)
 {
+    const CSenderRecordItem& record = *history->GetRecord(history->GetCurrentStep());
     bool whole = true;
     for (int i = 0; i < kMaxPorts; ++i) {
         CPort* port = sender->GetPort(i);
@@ -31,7 +32,7 @@ bool Restore(const CSenderRecordItem& record, CSender* sender, int shownPort)
             whole = whole && record.IsLayoutEqual(i, *port);
             continue;
         }
-        whole = record.RestorePort(i, port) && whole;
+        whole = history->RestorePort(i, port) && whole;
         if (i == shownPort)
             sender->SetRecentPortIndex(i);
     }
@@ -169,7 +170,7 @@ bool CProjectUndoRedo::Move(int steps, bool back, int* ports, int* count)
         if (*count > 1)
             shown = ports[1];
     }
-    if (!Restore(record, sender, shown)) {
+    if (!Restore(history, sender, shown)) {
         history->SetApart();
         m_unheld = true;
     }

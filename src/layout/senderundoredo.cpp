@@ -1,6 +1,6 @@
 #include "layout/senderundoredo.h"
 
-#include "layout/layoutsnapshot.h"
+#include "layout/layouttracker.h"
 #include "layout/sender.h"
 
 #include <algorithm>
@@ -12,14 +12,15 @@ struct CSenderRecordItem::Port : QSharedData
     bool backup = false;
     LayoutSnapshot::Pointer layout;
 
-    static PortPointer Take(const CPort& live, const PortPointer& previous);
+    static PortPointer Take(const CPort& live, const PortPointer& previous, LayoutTracker* tracker);
 };
 
 /// `previous` itself when nothing changed; null for none.
-CSenderRecordItem::PortPointer CSenderRecordItem::Port::Take(const CPort& live, const PortPointer& previous)
+CSenderRecordItem::PortPointer CSenderRecordItem::Port::Take(const CPort& live, const PortPointer& previous,
+                                                             LayoutTracker* tracker)
 {
     const LayoutSnapshot::Pointer layout =
-        LayoutSnapshot::Take(*live.GetPortProject(), previous ? previous->layout : LayoutSnapshot::Pointer());
+        tracker->Take(*live.GetPortProject(), previous ? previous->layout : LayoutSnapshot::Pointer());
     if (previous && previous->layout == layout && previous->senderId == live.GetSenderId()
         && previous->portIndex == live.GetPortIndex() && previous->backup == live.IsBackupDest())
         return previous;
@@ -32,12 +33,13 @@ CSenderRecordItem::PortPointer CSenderRecordItem::Port::Take(const CPort& live, 
 }
 
 CSenderRecordItem::CSenderRecordItem(const CSender& sender, VIEW_OPERATION_TYPE type,
-                                     const CSenderRecordItem* previous)
+                                     const CSenderRecordItem* previous, LayoutTracker* trackers)
     : m_senderId(sender.GetId()), m_type(type), m_recentPort(sender.GetRecentPortIndex())
 {
     for (int i = 0; i < kMaxPorts; ++i) {
         const auto slot = static_cast<size_t>(i);
-        m_ports[slot] = Port::Take(*sender.GetPort(i), previous ? previous->m_ports[slot] : PortPointer());
+        m_ports[slot] = Port::Take(*sender.GetPort(i), previous ? previous->m_ports[slot] : PortPointer(),
+                                   &trackers[slot]);
     }
 }
 
@@ -56,7 +58,7 @@ bool CSenderRecordItem::IsLayoutEqual(int port, const CPort& live) const
     return m_ports[static_cast<size_t>(port)]->layout->IsEqual(*live.GetPortProject());
 }
 
-bool CSenderRecordItem::RestorePort(int port, CPort* live) const
+bool CSenderRecordItem::RestorePort(int port, CPort* live, LayoutTracker* tracker) const
 {
     const Port& record = *m_ports[static_cast<size_t>(port)];
     if (record.backup != live->IsBackupDest()) {
@@ -64,7 +66,7 @@ bool CSenderRecordItem::RestorePort(int port, CPort* live) const
         return false;
     }
     live->SetSenderIdAndPortIndex(record.senderId, record.portIndex);
-    record.layout->Restore(live->GetPortProject());
+    tracker->Restore(live->GetPortProject(), record.layout);
     return true;
 }
 
@@ -76,8 +78,9 @@ void CSenderUndoRedo::Start(const CSender& sender)
 {
     Clear();
     m_senderId = sender.GetId();
-    m_records.push_back(
-        std::make_unique<const CSenderRecordItem>(sender, CSenderRecordItem::OperationBase, nullptr));
+    m_trackers = std::make_unique<LayoutTracker[]>(kMaxPorts);
+    m_records.push_back(std::make_unique<const CSenderRecordItem>(sender, CSenderRecordItem::OperationBase,
+                                                                  nullptr, m_trackers.get()));
     m_current = 0;
     m_saved = 0;
 }
@@ -85,6 +88,7 @@ void CSenderUndoRedo::Start(const CSender& sender)
 void CSenderUndoRedo::Clear()
 {
     m_records.clear();
+    m_trackers.reset();
     m_senderId = QUuid();
     m_current = -1;
     m_saved = -1;
@@ -96,7 +100,7 @@ bool CSenderUndoRedo::AddStep(const CSender& sender, Type type)
     const CSenderRecordItem* present = GetRecord(m_current);
     if (!present || sender.GetId() != m_senderId)
         return false;
-    auto step = std::make_unique<const CSenderRecordItem>(sender, type, present);
+    auto step = std::make_unique<const CSenderRecordItem>(sender, type, present, m_trackers.get());
     LeaveRecord();
     if (step->IsLayoutEqual(*present))
         return false;
@@ -138,4 +142,10 @@ const CSenderRecordItem* CSenderUndoRedo::GetRecord(int position) const
 {
     return position < 0 || position >= GetRecordCount() ? nullptr
                                                         : m_records[static_cast<size_t>(position)].get();
+}
+
+bool CSenderUndoRedo::RestorePort(int port, CPort* live)
+{
+    const CSenderRecordItem* record = GetRecord(m_current);
+    return record && record->RestorePort(port, live, &m_trackers[static_cast<size_t>(port)]);
 }

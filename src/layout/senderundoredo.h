@@ -12,6 +12,7 @@
 
 class CPort;
 class CSender;
+class LayoutTracker;
 
 /// What one sender's ports held after an edit. Records of one history share whatever an edit left alone, so a
 /// record costs what its edit changed. Never changes once made.
@@ -46,8 +47,10 @@ public:
         OperationBase = 22, ///< the state that a history starts from
     };
 
-    /// `previous` [ref]: the record that the edit started from, null for none.
-    CSenderRecordItem(const CSender& sender, VIEW_OPERATION_TYPE type, const CSenderRecordItem* previous);
+    /// `previous` [ref]: the record that the edit started from, null for none. `trackers` [ref]: of all
+    /// ports.
+    CSenderRecordItem(const CSender& sender, VIEW_OPERATION_TYPE type, const CSenderRecordItem* previous,
+                      LayoutTracker* trackers);
     CSenderRecordItem(const CSenderRecordItem&) = delete;
     CSenderRecordItem& operator=(const CSenderRecordItem&) = delete;
     virtual ~CSenderRecordItem();
@@ -61,7 +64,7 @@ public:
     bool IsLayoutEqual(int port, const CPort& live) const;
     /// Puts the recorded layout back, or clears the port when only one of the two is a backup (then false).
     /// Cabinets that stay keep their address and view state.
-    bool RestorePort(int port, CPort* live) const;
+    bool RestorePort(int port, CPort* live, LayoutTracker* tracker) const;
 
 private:
     struct Port;
@@ -97,6 +100,7 @@ public:
     int GetCurrentStep() const { return m_current; } ///< -1: no history
     int GetRecordCount() const { return static_cast<int>(m_records.size()); }
     const CSenderRecordItem* GetRecord(int position) const; ///< [ref] 0 is the base; null out of range
+    bool RestorePort(int port, CPort* live);                ///< from the current record
 
     // saved state
     bool IsModified() const { return m_current != m_saved; }
@@ -113,4 +117,5 @@ private:
     int m_saved = -1;
     bool m_apart = false;
     std::vector<std::unique_ptr<const CSenderRecordItem>> m_records;
+    std::unique_ptr<LayoutTracker[]> m_trackers; ///< one a port, while there is a history
 };

@@ -481,6 +481,7 @@ void CTile::SetData(const TileData* data)
         return;
     if (!m_data->IsSamePlace(*data))
         ChangeJournal::Append(this);
+    RecordJournal::Append(this);
     if (m_data->handedOut)
         static_cast<TileFields&>(*m_data) = *data;
     else if (data->handedOut)
@@ -492,6 +493,9 @@ void CTile::SetData(const TileData* data)
 
 TileData& CTile::Write()
 {
+    if (m_data->ref.loadRelaxed() == 1)
+        return *m_data;
+    RecordJournal::Append(this);
     m_data.detach();
     return *m_data;
 }

@@ -112,8 +112,8 @@ bool CTileSet::DirectionKeyDemarcateTile(unsigned long key, int& receiver)
 {
     CTile* marked = nullptr;
     for (int i = 0; i < m_tiles.size() && !marked; ++i) {
-        if (m_tiles[i]->GetMultiRcvDemarcateIndex() >= 0)
-            marked = m_tiles[i];
+        if (m_tiles.at(i)->GetMultiRcvDemarcateIndex() >= 0)
+            marked = m_tiles.at(i);
     }
     const QRect from = marked ? StepRect(marked, true, marked->GetMultiRcvDemarcateIndex()) : QRect();
     CTile* next = GetDirectionTile(from, key, false, true);
