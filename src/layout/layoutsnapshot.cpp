@@ -322,8 +322,9 @@ LayoutSnapshot::Pointer LayoutSnapshot::Take(const CPortProject& layout, const P
 LayoutSnapshot::Pointer LayoutSnapshot::Make(TileRun tiles, const CPortProject& layout,
                                              const Pointer& previous)
 {
+    static const GroupSnapshot::List none;
     GroupSnapshot::List groups =
-        GroupSnapshot::Take(*layout.GetTileGroupSet(), previous ? previous->m_groups : GroupSnapshot::List());
+        GroupSnapshot::Take(*layout.GetTileGroupSet(), previous ? previous->m_groups : none);
     if (previous && tiles.IsSameRun(previous->m_tiles) && groups == previous->m_groups)
         return previous;
     auto* snapshot = new LayoutSnapshot;
@@ -347,10 +348,15 @@ bool LayoutSnapshot::Restore(CPortProject* layout, const LayoutSnapshot& present
     return true;
 }
 
+bool LayoutSnapshot::HasGroupsOf(const CPortProject& layout) const
+{
+    return GroupSnapshot::Take(*layout.GetTileGroupSet(), m_groups) == m_groups;
+}
+
 void LayoutSnapshot::RestoreGroups(CPortProject* layout) const
 {
     CTileGroupSet* groups = layout->GetTileGroupSet();
-    if (GroupSnapshot::Take(*groups, m_groups) == m_groups)
+    if (HasGroupsOf(*layout))
         return; // groups that are as recorded keep their address and visibility
     groups->DeleteAll();
     GroupSnapshot::Restore(groups, m_groups);

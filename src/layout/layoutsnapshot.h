@@ -87,6 +87,7 @@ public:
     static Pointer Take(const CPortProject& layout, const Pointer& previous, const std::vector<int>& touched);
     bool Restore(CPortProject* layout, const LayoutSnapshot& present, const std::vector<int>& touched) const;
 
+    bool HasGroupsOf(const CPortProject& layout) const;
     bool IsEqual(const LayoutSnapshot& other) const; ///< as layouts compare, but groups in depth
     bool IsEqual(const CPortProject& layout) const;
     const TileRun& GetTiles() const { return m_tiles; }

@@ -27,15 +27,17 @@ LayoutTracker::LayoutTracker() = default;
 
 LayoutTracker::~LayoutTracker() = default;
 
-LayoutSnapshot::Pointer LayoutTracker::Take(const CPortProject& layout,
-                                            const LayoutSnapshot::Pointer& previous)
+const LayoutSnapshot::Pointer& LayoutTracker::Take(const CPortProject& layout,
+                                                   const LayoutSnapshot::Pointer& previous)
 {
     const QList<CTile*>& tiles = layout.GetTileSet()->GetTiles();
     const bool quick = previous && m_record == previous && CatchUp(tiles);
-    const LayoutSnapshot::Pointer record =
-        quick ? LayoutSnapshot::Take(layout, previous, m_touched) : LayoutSnapshot::Take(layout, previous);
-    Agree(tiles, record, !quick);
-    return record;
+    if (quick && m_touched.empty() && previous->HasGroupsOf(layout))
+        return m_record; // as most ports at most steps
+    Agree(tiles,
+          quick ? LayoutSnapshot::Take(layout, previous, m_touched) : LayoutSnapshot::Take(layout, previous),
+          !quick);
+    return m_record;
 }
 
 void LayoutTracker::Restore(CPortProject* layout, const LayoutSnapshot::Pointer& record)

@@ -18,8 +18,8 @@ public:
     LayoutTracker();
     ~LayoutTracker();
 
-    LayoutSnapshot::Pointer Take(const CPortProject& layout,
-                                 const LayoutSnapshot::Pointer& previous); ///< see LayoutSnapshot
+    /// As LayoutSnapshot does. Valid until the next call.
+    const LayoutSnapshot::Pointer& Take(const CPortProject& layout, const LayoutSnapshot::Pointer& previous);
     void Restore(CPortProject* layout, const LayoutSnapshot::Pointer& record);
 
 private:

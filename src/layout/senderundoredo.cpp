@@ -19,8 +19,9 @@ struct CSenderRecordItem::Port : QSharedData
 CSenderRecordItem::PortPointer CSenderRecordItem::Port::Take(const CPort& live, const PortPointer& previous,
                                                              LayoutTracker* tracker)
 {
-    const LayoutSnapshot::Pointer layout =
-        tracker->Take(*live.GetPortProject(), previous ? previous->layout : LayoutSnapshot::Pointer());
+    static const LayoutSnapshot::Pointer none;
+    const LayoutSnapshot::Pointer& layout =
+        tracker->Take(*live.GetPortProject(), previous ? previous->layout : none);
     if (previous && previous->layout == layout && previous->senderId == live.GetSenderId()
         && previous->portIndex == live.GetPortIndex() && previous->backup == live.IsBackupDest())
         return previous;
@@ -36,10 +37,11 @@ CSenderRecordItem::CSenderRecordItem(const CSender& sender, VIEW_OPERATION_TYPE 
                                      const CSenderRecordItem* previous, LayoutTracker* trackers)
     : m_senderId(sender.GetId()), m_type(type), m_recentPort(sender.GetRecentPortIndex())
 {
+    static const PortPointer none;
     for (int i = 0; i < kMaxPorts; ++i) {
         const auto slot = static_cast<size_t>(i);
-        m_ports[slot] = Port::Take(*sender.GetPort(i), previous ? previous->m_ports[slot] : PortPointer(),
-                                   &trackers[slot]);
+        m_ports[slot] =
+            Port::Take(*sender.GetPort(i), previous ? previous->m_ports[slot] : none, &trackers[slot]);
     }
 }
 
