@@ -42,6 +42,14 @@ bool IsAsRecorded(CTile* tile, const TileRun::Record& record)
     return true;
 }
 
+/// Apart from the groups below it.
+bool IsAsRecorded(const CTileGroup& group, const GroupSnapshot& record)
+{
+    return record.id == group.GetID() && record.parentId == group.GetParentGroupID()
+           && record.selected == group.IsSelected(InterfaceDesign)
+           && IsIdentical(record.rotate, *group.GetRotateParam());
+}
+
 /// Whether the cabinets from `first` on are those of the chunk.
 bool Holds(const CTileSet& tiles, int first, const TileRun::Chunk& chunk)
 {
@@ -268,9 +276,7 @@ GroupSnapshot::List GroupSnapshot::Take(const CTileGroupSet& groups, const List&
         const CTileGroup& group = *groups.GetDirectGroupByDirIndex(i);
         const Pointer before = find(static_cast<size_t>(i), group.GetID());
         List children = Take(*group.GetSubGroupSet(), before ? before->children : List());
-        if (before && before->parentId == group.GetParentGroupID()
-            && before->selected == group.IsSelected(InterfaceDesign)
-            && IsIdentical(before->rotate, *group.GetRotateParam()) && before->children == children) {
+        if (before && IsAsRecorded(group, *before) && before->children == children) {
             list.push_back(before);
             continue;
         }
@@ -283,6 +289,17 @@ GroupSnapshot::List GroupSnapshot::Take(const CTileGroupSet& groups, const List&
         list.push_back(Pointer(record));
     }
     return list;
+}
+
+bool GroupSnapshot::Holds(const List& records, const CTileGroupSet& groups)
+{
+    if (records.size() != static_cast<size_t>(groups.GetDirectCount()))
+        return false;
+    int i = 0;
+    return std::all_of(records.begin(), records.end(), [&](const Pointer& record) {
+        const CTileGroup& group = *groups.GetDirectGroupByDirIndex(i++);
+        return IsAsRecorded(group, *record) && Holds(record->children, *group.GetSubGroupSet());
+    });
 }
 
 bool GroupSnapshot::IsEqual(const List& a, const List& b)
@@ -348,15 +365,10 @@ bool LayoutSnapshot::Restore(CPortProject* layout, const LayoutSnapshot& present
     return true;
 }
 
-bool LayoutSnapshot::HasGroupsOf(const CPortProject& layout) const
-{
-    return GroupSnapshot::Take(*layout.GetTileGroupSet(), m_groups) == m_groups;
-}
-
 void LayoutSnapshot::RestoreGroups(CPortProject* layout) const
 {
     CTileGroupSet* groups = layout->GetTileGroupSet();
-    if (HasGroupsOf(*layout))
+    if (GroupSnapshot::Holds(m_groups, *groups))
         return; // groups that are as recorded keep their address and visibility
     groups->DeleteAll();
     GroupSnapshot::Restore(groups, m_groups);

@@ -69,7 +69,8 @@ struct GroupSnapshot : QSharedData
     List children;
 
     static List Take(const CTileGroupSet& groups, const List& previous);
-    static bool IsEqual(const List& a, const List& b); ///< in depth
+    static bool Holds(const List& records, const CTileGroupSet& groups); ///< Take would give `records` again
+    static bool IsEqual(const List& a, const List& b);                   ///< in depth
     static void Restore(CTileGroupSet* groups, const List& records);
 };
 
@@ -87,10 +88,10 @@ public:
     static Pointer Take(const CPortProject& layout, const Pointer& previous, const std::vector<int>& touched);
     bool Restore(CPortProject* layout, const LayoutSnapshot& present, const std::vector<int>& touched) const;
 
-    bool HasGroupsOf(const CPortProject& layout) const;
     bool IsEqual(const LayoutSnapshot& other) const; ///< as layouts compare, but groups in depth
     bool IsEqual(const CPortProject& layout) const;
     const TileRun& GetTiles() const { return m_tiles; }
+    const GroupSnapshot::List& GetGroups() const { return m_groups; }
 
 private:
     static Pointer Make(TileRun tiles, const CPortProject& layout, const Pointer& previous);

@@ -32,7 +32,7 @@ const LayoutSnapshot::Pointer& LayoutTracker::Take(const CPortProject& layout,
 {
     const QList<CTile*>& tiles = layout.GetTileSet()->GetTiles();
     const bool quick = previous && m_record == previous && CatchUp(tiles);
-    if (quick && m_touched.empty() && previous->HasGroupsOf(layout))
+    if (quick && m_touched.empty() && GroupSnapshot::Holds(previous->GetGroups(), *layout.GetTileGroupSet()))
         return m_record; // as most ports at most steps
     Agree(tiles,
           quick ? LayoutSnapshot::Take(layout, previous, m_touched) : LayoutSnapshot::Take(layout, previous),
