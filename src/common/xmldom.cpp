@@ -28,7 +28,7 @@ bool LoadXmlDom(const QString& path, QDomDocument& document, QString* error)
             *error = file.errorString();
         return false;
     }
-    return ParseXmlDom(file.read(kMaxXmlBytes + 1), document, error);
+    return ParseXmlDom(file.read(qMin(file.size(), kMaxXmlBytes) + 1), document, error);
 }
 
 bool ParseXmlDom(const QByteArray& content, QDomDocument& document, QString* error)
