@@ -4,6 +4,7 @@
 #include "products/productscan.h"
 #include "settings/constantdata.h"
 #include "settings/folders.h"
+#include "settings/inifile.h"
 
 #include <QDir>
 #include <QSettings>
@@ -32,8 +33,10 @@ bool IsHexadecimal(const QString& text)
 QSet<SMD5> ReadProductList(const QString& path)
 {
     const QString noFile = QStringLiteral("NoFile");
-    const QSettings list(path, QSettings::IniFormat);
     QSet<SMD5> digests;
+    if (!IsIniHarmless(path))
+        return digests;
+    const QSettings list(path, QSettings::IniFormat);
     for (int number = 1; number <= kMaxListedProducts; ++number) {
         const QString key = QStringLiteral("ProductListInfo/Product%1").arg(number);
         const QString text = list.value(key, noFile).toString();

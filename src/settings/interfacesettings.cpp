@@ -10,7 +10,6 @@ namespace {
 
 const QString kEnableRotate = QStringLiteral("Function/EnableRotate");
 constexpr bool kEnableRotateDefault = false;
-constexpr qint64 kMaxFileSize = 1 << 24;
 constexpr const char* kCodec = "UTF-8";
 
 } // namespace
@@ -23,14 +22,15 @@ bool InterfaceSettings::Load(const QString& path)
     const QFileInfo info(path);
     if (!info.isFile())
         return false;
-    bool broken = info.size() > kMaxFileSize;
+    bool broken = !IsIniHarmless(path);
     if (!broken) {
         QSettings file(path, QSettings::IniFormat);
         file.setIniCodec(kCodec);
         const QStringList keys = file.allKeys();
         broken = file.status() != QSettings::NoError;
         for (const QString& key : keys)
-            m_values.insert(key, file.value(key));
+            if (!key.isEmpty()) // which QSettings reads but does not write
+                m_values.insert(key, file.value(key));
     }
     if (broken) {
         m_values.clear();

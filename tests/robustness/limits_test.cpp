@@ -6,6 +6,8 @@
 #include "project/layoutdescription.h"
 #include "project/projectdata.h"
 #include "settings/archive.h"
+#include "settings/configdata.h"
+#include "settings/inifile.h"
 #include "support/library.h"
 #include "support/testfolder.h"
 #include "support/wallbuilder.h"
@@ -151,6 +153,35 @@ TEST_F(LimitsTest, ArchiveIsHeldToItsLimitsWhenPackedAndWhenUnpacked)
     EXPECT_TRUE(PackFolder(in, packed));
     QDir(in).mkpath(QStringLiteral("d/").repeated(kMaxArchiveDepth));
     EXPECT_FALSE(PackFolder(in, packed));
+}
+
+TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
+{
+    TestFolder folder;
+    const QByteArray list = "\\0\\0\\0\\t\\0\\0\\0\\x1"; // of one item, which is the next one
+    const QByteArray color = "@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)";
+    const struct
+    {
+        QByteArray value;
+        bool harmless;
+    } cases[] = {
+        {"plain", true},
+        {"@Size(1 2)", true},
+        {color, true},
+        {"a, \"@Variant\", " + color, true},
+        {"@Variant(" + list.repeated(100000) + ")", false},
+        {"\"a, b\", \\x40Variant(" + list.repeated(100000) + ")", false},
+        {"\"@Vari\\\nant(" + list.repeated(100000) + ")\"", false},
+    };
+    for (const auto& given : cases) {
+        const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\nb=1\na=" + given.value + '\n');
+        EXPECT_EQ(IsIniHarmless(path), given.harmless) << given.value.left(40).toStdString();
+        CConfigData config;
+        EXPECT_EQ(config.Load_UI(path), given.harmless);
+        EXPECT_TRUE(config.Save_UI());
+        EXPECT_EQ(QFile::exists(path + QLatin1String(".bak")), !given.harmless);
+        QFile::remove(path + QLatin1String(".bak"));
+    }
 }
 
 } // namespace
