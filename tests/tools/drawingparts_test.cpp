@@ -180,6 +180,7 @@ TEST_F(WallPictureTest, AGroupIsOutlinedWithTheGroupsInsideIt)
         EXPECT_EQ(outline.lines.size(), 4U);
     }
     Turn(0, 30);
-    for (const GroupOutline& outline : MakeWallPicture(Project(), 0).ports[0].groups)
+    const WallPicture turned = MakeWallPicture(Project(), 0);
+    for (const GroupOutline& outline : turned.ports[0].groups)
         EXPECT_GE(outline.lines.size(), 4U);
 }
