@@ -34,7 +34,7 @@ QSet<SMD5> ReadProductList(const QString& path)
 {
     const QString noFile = QStringLiteral("NoFile");
     QSet<SMD5> digests;
-    if (!IsIniHarmless(path))
+    if (CheckIni(path) != IniCheck::Harmless)
         return digests;
     const QSettings list(path, QSettings::IniFormat);
     for (int number = 1; number <= kMaxListedProducts; ++number) {

@@ -63,12 +63,14 @@ QByteArray WithoutTypes(const QByteArray& content)
 }
 
 /// Whether the file was written to its end: QSettings does not tell when the disk became full.
-bool IsComplete(const QString& path, const QStringList& keys)
+bool IsComplete(const QString& path, const QVariantMap& values)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || !file.seek(file.size() - 1) || file.read(1) != "\n")
         return false;
-    return QSettings(path, QSettings::IniFormat).allKeys() == keys;
+    const QSettings settings(path, QSettings::IniFormat);
+    const QStringList keys = values.keys();
+    return std::all_of(keys.begin(), keys.end(), [&](const QString& key) { return settings.contains(key); });
 }
 
 /// Changes a copy of the file. QSettings would leave an empty file on a full disk, and remembers what it
@@ -78,9 +80,9 @@ bool WriteCopy(const QString& path, const QVariantMap& values, const char* codec
     const QTemporaryDir scratch;
     const QString written = scratch.filePath(QStringLiteral("written.ini"));
     const QString readBack = scratch.filePath(QStringLiteral("read.ini"));
-    if (!scratch.isValid() || !IsIniHarmless(path) || (QFile::exists(path) && !QFile::copy(path, written)))
+    if (!scratch.isValid() || CheckIni(path) != IniCheck::Harmless
+        || (QFile::exists(path) && !QFile::copy(path, written)))
         return false;
-    QStringList keys;
     {
         QSettings file(written, QSettings::IniFormat);
         if (codec)
@@ -88,11 +90,10 @@ bool WriteCopy(const QString& path, const QVariantMap& values, const char* codec
         for (auto value = values.begin(); value != values.end(); ++value)
             file.setValue(value.key(), value.value());
         file.sync();
-        keys = file.allKeys();
         if (file.status() != QSettings::NoError)
             return false;
     }
-    if (!QFile::rename(written, readBack) || !IsComplete(readBack, keys))
+    if (!QFile::rename(written, readBack) || !IsComplete(readBack, values))
         return false;
     QFile file(readBack);
     if (!file.open(QIODevice::ReadOnly))
@@ -103,25 +104,28 @@ bool WriteCopy(const QString& path, const QVariantMap& values, const char* codec
 
 } // namespace
 
-bool IsIniHarmless(const QString& path)
+IniCheck CheckIni(const QString& path)
 {
     QFile file(path);
     if (!file.exists())
-        return true;
-    if (!file.open(QIODevice::ReadOnly) || file.size() > kMaxFileSize)
-        return false;
+        return IniCheck::Harmless;
+    if (!file.open(QIODevice::ReadOnly))
+        return IniCheck::Unreadable;
+    if (file.size() > kMaxFileSize)
+        return IniCheck::Harmful;
     const QTemporaryDir scratch;
     QFile marked(scratch.filePath(QStringLiteral("marked.ini")));
     const QByteArray content = WithoutTypes(file.readAll());
     if (!marked.open(QIODevice::WriteOnly) || marked.write(content) != content.size() || !marked.flush())
-        return false;
+        return IniCheck::Unreadable;
     const QSettings texts(marked.fileName(), QSettings::IniFormat);
     const QStringList keys = texts.allKeys();
-    return std::all_of(keys.begin(), keys.end(), [&texts](const QString& key) {
+    const bool harmless = std::all_of(keys.begin(), keys.end(), [&texts](const QString& key) {
         const QStringList values = texts.value(key).toStringList();
         return std::all_of(values.begin(), values.end(),
                            [](const QString& value) { return IsHarmless(value.mid(1).trimmed()); });
     });
+    return harmless ? IniCheck::Harmless : IniCheck::Harmful;
 }
 
 bool WriteIniValues(const QString& path, const QVariantMap& values, const char* codec)

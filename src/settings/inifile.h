@@ -3,9 +3,16 @@
 #include <QString>
 #include <QVariant>
 
+enum class IniCheck
+{
+    Harmless, ///< or there is no file
+    Harmful,
+    Unreadable, ///< or the disk is full: nothing is said of the file
+};
+
 /// Whether QSettings may read a file: it rebuilds values of any type that a file names, and some of them end
 /// the program. Only plain values, colours, key sequences, dates and times are let through, and 16 MiB.
-bool IsIniHarmless(const QString& path);
+IniCheck CheckIni(const QString& path);
 
 /// Writes values into an INI file as one step; other keys of the file stay. False when they did not get
 /// there. Without a codec only ASCII stands unescaped.

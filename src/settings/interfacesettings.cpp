@@ -22,7 +22,10 @@ bool InterfaceSettings::Load(const QString& path)
     const QFileInfo info(path);
     if (!info.isFile())
         return false;
-    bool broken = !IsIniHarmless(path);
+    const IniCheck check = CheckIni(path);
+    if (check == IniCheck::Unreadable)
+        return false;
+    bool broken = check == IniCheck::Harmful;
     if (!broken) {
         QSettings file(path, QSettings::IniFormat);
         file.setIniCodec(kCodec);

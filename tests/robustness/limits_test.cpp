@@ -175,7 +175,7 @@ TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
     };
     for (const auto& given : cases) {
         const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\nb=1\na=" + given.value + '\n');
-        EXPECT_EQ(IsIniHarmless(path), given.harmless) << given.value.left(40).toStdString();
+        EXPECT_EQ(CheckIni(path) == IniCheck::Harmless, given.harmless) << given.value.left(40).toStdString();
         CConfigData config;
         EXPECT_EQ(config.Load_UI(path), given.harmless);
         EXPECT_TRUE(config.Save_UI());
