@@ -51,8 +51,6 @@ protected:
     void ExpectNothingLeft()
     {
         SaveAll(1);
-        // Where reading failed the settings took the file for a broken one, and kept it on purpose.
-        QFile::remove(folder + QStringLiteral("windows.ini.bak"));
         EXPECT_EQ(Names(folder),
                   "a.prj config.xml custom.json ips.txt layout.xml processor.xml sender.xml windows.ini");
         EXPECT_EQ(Names(CConstantData::GetProjectParamFileTemp()),
