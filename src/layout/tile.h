@@ -113,6 +113,8 @@ public:
     void SetData(const TileData* data); ///< shares it; copies into place where a pointer is out
 
 private:
+    friend class CTileSet;
+
     TileData& Write(); ///< the record, this tile's alone
     template <class Member, class Value> bool Store(Member member, const Value& value);
     template <class Member, class Value> void StorePlace(Member member, const Value& value);
@@ -122,4 +124,5 @@ private:
     QColor m_showColor;
     int m_gamutStatus = 0;
     unsigned short m_rcvSelected = 0; ///< one bit a receiving card
+    bool m_leaving = false;           ///< its set is about to free it
 };

@@ -9,28 +9,29 @@
 #include <QSize>
 #include <QUuid>
 
-/// What a cabinet is made of, apart from view state. A wall holds one record a cabinet, so mind the size.
+/// What a cabinet is made of, apart from view state. A wall holds one record a cabinet, so mind the size;
+/// what walks over whole walls read stands in front, within a line or two of the cache.
 struct TileFields
 {
-    QUuid senderId;
-    QUuid groupId; ///< null: ungrouped
-    int portIndex = -1;
-    int connectionIndex = -1; ///< place in the port's chain; negative: not connected
-    int beginRcvCnnt = -1;    ///< receiving cards before this cabinet in the chain
     int x = 0;
     int y = 0;
     int width = 0;
     int height = 0;
+    int connectionIndex = -1; ///< place in the port's chain; negative: not connected
+    int beginRcvCnnt = -1;    ///< receiving cards before this cabinet in the chain
+    QSize multiSize{1, 1};    ///< receiving cards across and down
     int demarcateIndex = -1;
-    QSize multiSize{1, 1}; ///< receiving cards across and down
-    SRotateParam rotate;
-    SMD5 type;
-    unsigned char line[kMaxReceiversInTile] = {}; ///< cell code of each inner receiving card
-    unsigned char selection = 0;                  ///< one bit a view
+    int portIndex = -1;
+    unsigned char selection = 0; ///< one bit a view
     bool multi = false;
     bool fixedLine = false;
     bool ordered = true;
     bool visible = true;
+    SRotateParam rotate;
+    QUuid senderId;
+    QUuid groupId; ///< null: ungrouped
+    SMD5 type;
+    unsigned char line[kMaxReceiversInTile] = {}; ///< cell code of each inner receiving card
 
     bool IsEqual(const TileFields& other) const;
     bool IsSamePlace(const TileFields& other) const; ///< to the bit in place, size and rotation

@@ -10,8 +10,7 @@
 #include <QSet>
 
 #include <algorithm>
-#include <functional>
-#include <vector>
+#include <utility>
 
 namespace {
 
@@ -22,19 +21,6 @@ template <class Predicate> QList<CTile*> Matching(const QList<CTile*>& tiles, Pr
     QList<CTile*> found;
     std::copy_if(tiles.begin(), tiles.end(), std::back_inserter(found), predicate);
     return found;
-}
-
-/// Frees each tile once, also one that is listed twice. Tiles made one after the other mostly ascend as they
-/// are.
-void DeleteTiles(const QList<CTile*>& tiles)
-{
-    std::vector<CTile*> each(tiles.begin(), tiles.end());
-    if (std::adjacent_find(each.begin(), each.end(), std::greater_equal<>()) != each.end()) {
-        std::sort(each.begin(), each.end(), std::less<>());
-        each.erase(std::unique(each.begin(), each.end()), each.end());
-    }
-    for (CTile* tile : each)
-        delete tile;
 }
 
 QList<CTile*> CopiesOf(const QList<CTile*>& tiles)
@@ -138,11 +124,14 @@ void CTileSet::DeleteSelected(int iface)
 {
     QList<CTile*> staying;
     QList<CTile*> dropped;
-    for (CTile* tile : qAsConst(m_tiles))
-        (tile->IsSelected(iface) ? dropped : staying).append(tile);
+    for (CTile* tile : qAsConst(m_tiles)) {
+        if (!tile->IsSelected(iface))
+            staying.append(tile);
+        else if (m_owning && MarkLeaving(tile))
+            dropped.append(tile);
+    }
     m_tiles = staying;
-    if (m_owning)
-        DeleteTiles(dropped); // a tile that is listed twice is in one of the two alone
+    qDeleteAll(dropped);
 }
 
 int CTileSet::GetCount() const
@@ -298,15 +287,19 @@ void CTileSet::SetResult(const QList<CTile*>& tiles)
 void CTileSet::Replace(const QList<CTile*>& tiles, bool owning)
 {
     QList<CTile*> dropped;
-    if (m_owning && tiles.isEmpty()) {
-        dropped = m_tiles;
-    } else if (m_owning && !m_tiles.isEmpty()) {
+    if (m_owning && !m_tiles.isEmpty()) {
         const QSet<CTile*> kept(tiles.begin(), tiles.end());
-        dropped = Matching(m_tiles, [&](CTile* tile) { return !kept.contains(tile); });
+        dropped = Matching(m_tiles, [&](CTile* tile) { return !kept.contains(tile) && MarkLeaving(tile); });
     }
     m_tiles = tiles;
     m_owning = owning;
     m_queried.clear();
     m_index.reset();
-    DeleteTiles(dropped);
+    qDeleteAll(dropped);
+}
+
+/// True once for a tile that is to be freed, since it may be listed twice.
+bool CTileSet::MarkLeaving(CTile* tile)
+{
+    return !std::exchange(tile->m_leaving, true);
 }

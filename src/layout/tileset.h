@@ -131,6 +131,7 @@ private:
     template <class Test> QList<CTile*> FindFromTop(const Test& test) const; ///< see TileIndex
     void SetResult(const QList<CTile*>& tiles);
     void Replace(const QList<CTile*>& tiles, bool owning);
+    static bool MarkLeaving(CTile* tile);
 
     QList<CTile*> m_tiles;
     bool m_owning = false;

@@ -38,6 +38,7 @@ struct Stop
 {
     quint64 place;
     int position; ///< in the list
+    int receivers;
 };
 
 /// Sorts in as many linear passes as the places have bytes that differ; equal places keep their order.
@@ -65,6 +66,31 @@ void SortByPlace(std::vector<Stop>& stops)
     }
 }
 
+/// Puts the stops in order, of equal places as listed, and each tile in once. Every stop of a tile has the
+/// same place, so only stops that share one are compared.
+void BringInOrder(const QList<CTile*>& tiles, std::vector<Stop>& stops)
+{
+    SortByPlace(stops);
+    auto kept = stops.begin();
+    for (auto first = stops.begin(); first != stops.end();) {
+        const quint64 place = first->place;
+        const auto next =
+            std::find_if(first, stops.end(), [=](const Stop& stop) { return stop.place != place; });
+        if (next - first == 1) {
+            *kept++ = *first++;
+            continue;
+        }
+        QSet<CTile*> seen;
+        for (; first != next; ++first) {
+            CTile* tile = tiles[first->position];
+            if (!seen.contains(tile))
+                *kept++ = *first;
+            seen.insert(tile);
+        }
+    }
+    stops.erase(kept, stops.end());
+}
+
 /// The numbered tiles, each once, by index and of equal indices by list order.
 std::vector<Stop> ChainOrder(const QList<CTile*>& tiles)
 {
@@ -73,20 +99,35 @@ std::vector<Stop> ChainOrder(const QList<CTile*>& tiles)
     for (int i = 0; i < tiles.size(); ++i) {
         const int index = tiles[i]->GetConnectionIndex();
         if (index >= 0)
-            chain.push_back({static_cast<quint64>(index), i});
+            chain.push_back({static_cast<quint64>(index), i, tiles[i]->GetMultiRcvsCount()});
     }
-    SortByPlace(chain);
-    const auto shareIndex = [](const Stop& a, const Stop& b) { return a.place == b.place; };
-    if (std::adjacent_find(chain.begin(), chain.end(), shareIndex) == chain.end())
-        return chain;
-    QSet<CTile*> seen;
-    const auto listedTwice = [&](const Stop& stop) {
-        const int before = seen.size();
-        seen.insert(tiles[stop.position]);
-        return seen.size() == before;
-    };
-    chain.erase(std::remove_if(chain.begin(), chain.end(), listedTwice), chain.end());
+    BringInOrder(tiles, chain);
     return chain;
+}
+
+/// Makes the stops the chain, in their order; what they leave out and is not numbered begins nowhere. Tiles
+/// are written to in list order, as they mostly lie in memory, since a large wall outgrows the caches and a
+/// chain may have any order.
+void NumberAlong(const std::vector<Stop>& stops, const QList<CTile*>& tiles)
+{
+    struct Place
+    {
+        int index = -1;
+        int begin = 0;
+    };
+    std::vector<Place> places(static_cast<size_t>(tiles.size()));
+    Place next{0, 0};
+    for (const Stop& stop : stops) {
+        places[static_cast<size_t>(stop.position)] = next;
+        next = {next.index + 1, SaturatedInt(qint64(next.begin) + stop.receivers)};
+    }
+    for (int i = 0; i < tiles.size(); ++i) {
+        const Place& place = places[static_cast<size_t>(i)];
+        if (place.index >= 0)
+            SetPlace(tiles.at(i), place.index, place.begin);
+        else if (!tiles.at(i)->HasSetConnectIndex())
+            tiles.at(i)->SetBeginRcvCnnt(-1);
+    }
 }
 
 bool IsWithoutGap(const std::vector<Stop>& chain)
@@ -98,9 +139,9 @@ bool IsWithoutGap(const std::vector<Stop>& chain)
 /// Whether the chain visits its tiles in the order of the walk. Ends at the first that is out of order.
 bool FollowsWalk(const QList<CTile*>& tiles, const std::vector<Stop>& chain, const SerpentineWalk& walk)
 {
-    Stop previous{0, -1};
+    Stop previous{0, -1, 0};
     for (const Stop& link : chain) {
-        const Stop stop{walk.PlaceOf(tiles[link.position]->GetCenter()), link.position};
+        const Stop stop{walk.PlaceOf(tiles[link.position]->GetCenter()), link.position, link.receivers};
         if (std::tie(stop.place, stop.position) < std::tie(previous.place, previous.position))
             return false;
         previous = stop;
@@ -176,29 +217,22 @@ bool CTileSet::CanDrawCnntLine(int pixels) const
 
 bool CTileSet::AutoConnection(EnAutoNumberType type, int)
 {
-    ClearConnectIndex();
     const QRect bound = GetBound();
     QSize cell;
-    if (bound.isEmpty() || type < 0 || type >= SerpentineWalk::kPatternCount || !AutoConnectGetSize(cell))
+    if (bound.isEmpty() || type < 0 || type >= SerpentineWalk::kPatternCount || !AutoConnectGetSize(cell)) {
+        ClearConnectIndex();
         return false;
-
+    }
     const SerpentineWalk walk(type, bound, cell);
     std::vector<Stop> stops;
     stops.reserve(static_cast<size_t>(m_tiles.size()));
-    for (int i = 0; i < m_tiles.size(); ++i)
-        stops.push_back({walk.PlaceOf(m_tiles.at(i)->GetCenter()), i});
-    SortByPlace(stops);
-
-    int next = 0;
-    int begin = 0;
-    for (const Stop& stop : stops) {
-        CTile* tile = m_tiles.at(stop.position);
-        if (tile->HasSetConnectIndex())
-            continue; // listed twice
-        SetPlace(tile, next++, begin);
-        begin = ReceiversUpTo(tile, begin);
+    for (int i = 0; i < m_tiles.size(); ++i) {
+        const CTile* tile = m_tiles.at(i);
+        stops.push_back({walk.PlaceOf(tile->GetCenter()), i, tile->GetMultiRcvsCount()});
     }
-    return next > 0;
+    BringInOrder(m_tiles, stops);
+    NumberAlong(stops, m_tiles);
+    return true;
 }
 
 bool CTileSet::AutoConnectGetSize(QSize& cell) const
@@ -226,7 +260,7 @@ bool CTileSet::NumberSetRect(int& next, const QRect& rect, const QSize&, int dir
     for (int i = 0; i < m_tiles.size(); ++i) {
         const QPoint centre = m_tiles.at(i)->GetCenter();
         if (!m_tiles.at(i)->HasSetConnectIndex() && rect.contains(centre))
-            stops.push_back({PlaceAlong(direction, centre), i});
+            stops.push_back({PlaceAlong(direction, centre), i, m_tiles.at(i)->GetMultiRcvsCount()});
     }
     SortByPlace(stops);
 
@@ -286,17 +320,10 @@ void CTileSet::GetTileSetNumberedNormalization(CTileSet& out)
 
 void CTileSet::Normalize(QList<CTile*>* chain)
 {
-    for (CTile* tile : qAsConst(m_tiles)) {
-        if (!tile->HasSetConnectIndex())
-            SetPlace(tile, tile->GetConnectionIndex(), -1);
-    }
-    int next = 0;
-    int begin = 0;
-    for (const Stop& link : ChainOrder(m_tiles)) {
-        CTile* tile = m_tiles.at(link.position);
-        SetPlace(tile, next++, begin);
-        begin = ReceiversUpTo(tile, begin);
-        if (chain)
-            chain->append(tile);
-    }
+    const std::vector<Stop> stops = ChainOrder(m_tiles);
+    NumberAlong(stops, m_tiles);
+    if (!chain)
+        return;
+    for (const Stop& stop : stops)
+        chain->append(m_tiles.at(stop.position));
 }

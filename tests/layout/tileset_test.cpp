@@ -118,6 +118,21 @@ TEST_F(TileSetTest, OwningSetFreesWhatItDropsOnce)
     EXPECT_FALSE(m_set.IsOwner());
 }
 
+TEST_F(TileSetTest, SelectedTilesAreFreedOnceAndByTheirOwnerAlone)
+{
+    CTileSet selection;
+    for (int i : {0, 1, 0})
+        selection.AddTile(m_tiles[static_cast<size_t>(i)]);
+    m_tiles[0]->SetSelected(true, InterfaceDesign, -1);
+    selection.DeleteSelected(InterfaceDesign);
+    EXPECT_EQ(Contents(selection), Tiles{m_tiles[1]});
+    EXPECT_EQ(CountedTile::alive, 3);
+    m_set.AddTile(m_tiles[0]); // twice
+    m_set.DeleteSelected(InterfaceDesign);
+    EXPECT_EQ(Contents(m_set), (Tiles{m_tiles[1], m_tiles[2]}));
+    EXPECT_EQ(CountedTile::alive, 2);
+}
+
 TEST_F(TileSetTest, SetMayBeReadAndFilledAtOnce)
 {
     CTileSet found;
