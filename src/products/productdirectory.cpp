@@ -7,7 +7,8 @@
 
 CProductDirectory::~CProductDirectory()
 {
-    DeleteAll();
+    qDeleteAll(m_products);
+    qDeleteAll(m_subDirs);
 }
 
 QString CProductDirectory::GetFolderPath() const

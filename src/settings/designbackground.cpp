@@ -231,7 +231,7 @@ bool CDesignBackground::MouseScalingModify(bool zoomIn, QPoint fix)
     const double current = double(GetViewScaling());
     for (int i = 0; i < kStepCount; ++i) {
         const bool found = zoomIn ? Step(i) > current + kStepTolerance
-                                  : i + 1 < kStepCount && Step(i + 1) > current - kStepTolerance;
+                                  : (i + 1 < kStepCount && Step(i + 1) > current - kStepTolerance);
         if (!found)
             continue;
         SetViewScaling(static_cast<float>(Step(i)), fix);
