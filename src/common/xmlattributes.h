@@ -16,7 +16,7 @@ public:
     int GetCount() const
     {
         int count = 0;
-        while (m_pairs[2 * count])
+        for (const char* const* at = m_pairs; *at; at += 2)
             ++count;
         return count;
     }

@@ -49,10 +49,10 @@ struct ParseState
 const char* WhyTooMuch(const XML_Char** attributes)
 {
     int count = 0;
-    for (; attributes[2 * count]; ++count) {
-        if (count == kMaxXmlAttributes)
+    for (const XML_Char** at = attributes; *at; at += 2) {
+        if (++count > kMaxXmlAttributes)
             return QT_TRANSLATE_NOOP("OrvanData", "元素的属性过多。");
-        if (strnlen(attributes[2 * count + 1], kMaxXmlText + 1) > kMaxXmlText)
+        if (strnlen(at[1], kMaxXmlText + 1) > kMaxXmlText)
             return kTextTooLong;
     }
     return nullptr;

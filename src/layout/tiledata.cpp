@@ -15,12 +15,9 @@ bool TileFields::IsEqual(const TileFields& other) const
 
 bool TileFields::IsSamePlace(const TileFields& other) const
 {
-    const auto same = [this, &other](double SRotateParam::*number) {
-        return std::memcmp(&(rotate.*number), &(other.rotate.*number), sizeof(double)) == 0;
-    };
     return x == other.x && y == other.y && width == other.width && height == other.height
-           && rotate.rotated == other.rotate.rotated && same(&SRotateParam::centerX)
-           && same(&SRotateParam::centerY) && same(&SRotateParam::angle);
+           && rotate.rotated == other.rotate.rotated && rotate.centerX == other.rotate.centerX
+           && rotate.centerY == other.rotate.centerY && rotate.angle == other.rotate.angle;
 }
 
 TileData* TileData::NewCopy() const

@@ -34,7 +34,7 @@ struct TileFields
     unsigned char line[kMaxReceiversInTile] = {}; ///< cell code of each inner receiving card
 
     bool IsEqual(const TileFields& other) const;
-    bool IsSamePlace(const TileFields& other) const; ///< to the bit in place, size and rotation
+    bool IsSamePlace(const TileFields& other) const; ///< place, size and rotation, without tolerance
 };
 
 /// The record that copies of a cabinet share until one is written to.

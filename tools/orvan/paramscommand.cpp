@@ -28,7 +28,8 @@ QString RootName(const QString& path)
 void AddLines(const QString& name, const QJsonValue& value, int depth, QString& text)
 {
     if (value.isArray()) {
-        for (const QJsonValue& item : value.toArray())
+        const QJsonArray items = value.toArray();
+        for (const QJsonValue& item : items)
             AddLines(name, item, depth, text);
         return;
     }
