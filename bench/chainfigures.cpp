@@ -48,13 +48,16 @@ Pair Number(const WallKind& kind)
     return slowest;
 }
 
-/// After `spoil` gave every cabinet of a port another index.
-Pair Normalise(const WallKind& kind, const std::function<void(CTileSet&)>& spoil)
+/// After every cabinet was given the index that `spoil` makes of its own.
+Pair Normalise(const WallKind& kind, const std::function<int(int)>& spoil)
 {
+    CTileSet nowhere;
     const auto sender = MakeBenchWall(kind);
     return BesideHash(*sender, kind, [&] {
-        for (int i = 0; i < kind.ports; ++i)
-            spoil(TilesOf(*sender, i));
+        for (int i = 0; i < kind.ports; ++i) {
+            for (CTile* tile : TilesOf(*sender, i).GetTiles())
+                tile->SetConnectionIndex(spoil(tile->GetConnectionIndex()), &nowhere);
+        }
         return Seconds([&] {
             for (int i = 0; i < kind.ports; ++i)
                 TilesOf(*sender, i).TileSetNormalization();
@@ -64,21 +67,13 @@ Pair Normalise(const WallKind& kind, const std::function<void(CTileSet&)>& spoil
 
 } // namespace
 
-void ChainFigures(Table& table)
+void ChainFigures()
 {
-    CTileSet nowhere;
-    std::mt19937 random(1);
-    table.AddOnWalls({"number a wall by its slowest pattern", "ms", 8, 3}, Number);
-    table.AddOnWalls({"normalise a chain with gaps", "ms", 8, 3}, [&](const WallKind& kind) {
-        return Normalise(kind, [&](CTileSet& tiles) {
-            for (CTile* tile : tiles.GetTiles())
-                tile->SetConnectionIndex(2 * tile->GetConnectionIndex() + 1, &nowhere);
-        });
-    });
-    table.AddOnWalls({"normalise a chain in random order", "ms", 8, 3}, [&](const WallKind& kind) {
-        return Normalise(kind, [&](CTileSet& tiles) {
-            for (CTile* tile : tiles.GetTiles())
-                tile->SetConnectionIndex(static_cast<int>(random() >> 1), &nowhere);
-        });
+    OnWalls({"number a wall by its slowest pattern", "ms", 8, 3}, Number);
+    OnWalls({"normalise a chain with gaps", "ms", 8, 3},
+            [](const WallKind& kind) { return Normalise(kind, [](int index) { return 2 * index + 1; }); });
+    OnWalls({"normalise a chain in random order", "ms", 8, 3}, [](const WallKind& kind) {
+        std::mt19937 random(1);
+        return Normalise(kind, [&](int) { return static_cast<int>(random() >> 1); });
     });
 }

@@ -82,8 +82,8 @@ Pair CopySender(const WallKind& kind)
 
 } // namespace
 
-void EditFigures(Table& table)
+void EditFigures()
 {
-    table.AddOnWalls({"delete the selected half of a wall", "ms", 4, 2}, DeleteHalf);
-    table.AddOnWalls({"copy a sender", "ms", 4, 2}, CopySender);
+    OnWalls({"delete the selected half of a wall", "ms", 4, 2}, DeleteHalf);
+    OnWalls({"copy a sender", "ms", 4, 2}, CopySender);
 }

@@ -1,6 +1,6 @@
-// Every figure of the largest walls beside the floor that its pieces set. An argument limits it to the
-// figures whose name holds it.
+// Every figure of the largest walls beside the floor that its pieces set.
 #include "figures.h"
+#include "tablereporter.h"
 
 #include "frame/lednimbradata.h"
 
@@ -14,18 +14,21 @@ int main(int argc, char** argv)
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    benchmark::Initialize(&argc, argv);
+    if (argc == 2 && qstrcmp(argv[1], "--cpu") == 0)
+        CountCpuTime();
+    else if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
     QApplication application(argc, argv);
     LedNimbraData_Init();
-    const QStringList arguments = QApplication::arguments();
-    if (arguments.contains(QStringLiteral("--cpu")))
-        CountCpuTime();
-    const QString last = arguments.last();
-    Table table(argc < 2 || last.startsWith(QLatin1String("--")) ? std::string() : last.toStdString());
-    FileFigures(table, home.path());
-    UndoFigures(table);
-    ChainFigures(table);
-    QueryFigures(table);
-    EditFigures(table);
-    ProductFigures(table);
+    FileFigures(home.path());
+    UndoFigures();
+    ChainFigures();
+    QueryFigures();
+    EditFigures();
+    ProductFigures();
+    TableReporter table;
+    benchmark::RunSpecifiedBenchmarks(&table);
+    benchmark::Shutdown();
     LedNimbraData_Release();
 }

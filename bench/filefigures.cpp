@@ -58,27 +58,23 @@ Pair SaveTime(const QString& path)
 
 } // namespace
 
-void FileFigures(Table& table, const QString& folder)
+void FileFigures(const QString& folder)
 {
     const QString path = folder + QStringLiteral("/wall.prj");
-    const Figure load{"load a project archive", "ms", 1.2, 0.5};
-    const Figure save{"save to an archive", "ms", 2.0, 1.2};
-    table.AddOnWalls(load, [&](const WallKind& kind) {
+    OnWalls({"load a project archive", "ms", 1.2, 0.5}, [=](const WallKind& kind) {
         SaveWall(kind, path);
         return LoadTime(path);
     });
-    table.AddOnWalls({"load, peak memory beyond the model", "kB", 1.5, 0.4}, [&](const WallKind& kind) {
+    OnWalls({"load, peak memory beyond the model", "kB", 1.5, 0.4}, [=](const WallKind& kind) {
         SaveWall(kind, path);
         return Pair{static_cast<double>(DocumentSize(path)) / 1000, MemoryOfLoad(path).beyond / 1000};
     });
-    table.AddOnWalls({"loaded model, a cabinet", "bytes", 500, 300, true}, [&](const WallKind& kind) {
+    OnWalls({"loaded model, a cabinet", "bytes", 500, 300, true}, [=](const WallKind& kind) {
         SaveWall(kind, path);
         return Pair{kPlainFields, MemoryOfLoad(path).model / kind.cabinets};
     });
-    table.AddOnWalls(save, [&](const WallKind& kind) {
+    OnWalls({"save to an archive", "ms", 2.0, 1.2}, [=](const WallKind& kind) {
         SaveWall(kind, path);
         return SaveTime(path);
     });
-    table.AddGrowth({"load, 131072 against 32768 cabinets", "times", 4.6, 4.2, true}, load.what);
-    table.AddGrowth({"save, 131072 against 32768 cabinets", "times", 4.6, 4.2, true}, save.what);
 }

@@ -126,18 +126,17 @@ private:
 
 } // namespace
 
-void QueryFigures(Table& table)
+void QueryFigures()
 {
     // On 160 ports the owning set of one holds a part only, so there the sender's set is asked.
-    const auto ask = [&](const char* what, bool rectangles) {
-        table.AddOnWalls({what, "ms", 1.5, 0.1}, [=](const WallKind& kind) {
-            return QueryBench(kind, kind.ports == 1).Queries(rectangles);
-        });
+    const auto ask = [](const char* what, bool rectangles) {
+        OnWalls({what, "ms", 1.5, 0.1},
+                [=](const WallKind& kind) { return QueryBench(kind, kind.ports == 1).Queries(rectangles); });
     };
     ask("1000 queries at a point, with their index", false);
     ask("1000 queries in a rectangle of 1 %, with their index", true);
-    table.AddOnWalls({"1000 queries in a rectangle of 1 %, set that refers", "ms", 1.5, 0.1},
-                     [](const WallKind& kind) { return QueryBench(kind, false).Queries(true); });
-    table.AddOnWalls({"one query after moving one cabinet", "ms", 1.5, 0.1},
-                     [](const WallKind& kind) { return QueryBench(kind, kind.ports == 1).QueryAfterMove(); });
+    OnWalls({"1000 queries in a rectangle of 1 %, set that refers", "ms", 1.5, 0.1},
+            [](const WallKind& kind) { return QueryBench(kind, false).Queries(true); });
+    OnWalls({"one query after moving one cabinet", "ms", 1.5, 0.1},
+            [](const WallKind& kind) { return QueryBench(kind, kind.ports == 1).QueryAfterMove(); });
 }

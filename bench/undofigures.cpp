@@ -24,6 +24,8 @@ public:
         m_history.Init();
     }
 
+    ~Session() { GetProjectData()->SetToDefault(); }
+
     void Change()
     {
         const CTileSet& tiles = TilesOf(*GetProjectData()->GetCurrentSender());
@@ -112,12 +114,11 @@ Pair MemoryOfSteps(const WallKind& kind)
 
 } // namespace
 
-void UndoFigures(Table& table)
+void UndoFigures()
 {
-    table.AddOnWalls({"AddOneStep after one changed cabinet", "ms", 0.1, 0.01}, AddStep);
-    table.AddOnWalls({"Undo of one changed cabinet", "ms", 0.1, 0.01}, Undo);
-    table.AddOnWalls({"Redo of one changed cabinet", "ms", 0.1, 0.01}, Redo);
-    table.AddOnWalls({"memory of 200 steps", "MB", 64, 4, true}, MemoryOfSteps);
-    table.AddOnWalls({"a step refused, nothing changed", "ms", 0.1, 0.01}, Refuse);
-    GetProjectData()->SetToDefault();
+    OnWalls({"AddOneStep after one changed cabinet", "ms", 0.1, 0.01}, AddStep);
+    OnWalls({"Undo of one changed cabinet", "ms", 0.1, 0.01}, Undo);
+    OnWalls({"Redo of one changed cabinet", "ms", 0.1, 0.01}, Redo);
+    OnWalls({"memory of 200 steps", "MB", 64, 4, true}, MemoryOfSteps);
+    OnWalls({"a step refused, nothing changed", "ms", 0.1, 0.01}, Refuse);
 }

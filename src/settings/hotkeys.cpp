@@ -73,7 +73,7 @@ bool NormalizeHotkey(QString* hotkey)
 {
     const QKeySequence keys = QKeySequence::fromString(*hotkey, QKeySequence::PortableText);
     for (int i = 0; i < keys.count(); ++i) {
-        if ((keys[uint(i)] & ~Qt::KeyboardModifierMask) == Qt::Key_unknown)
+        if ((keys[uint(i)] & ~uint(Qt::KeyboardModifierMask)) == Qt::Key_unknown)
             return false;
     }
     if (keys.isEmpty() && !hotkey->trimmed().isEmpty())
