@@ -391,5 +391,9 @@
         <source>项目正在被“%1”（%2，进程%3）编辑。</source>
         <translation>The project is being edited by "%1" (%2, process %3).</translation>
     </message>
+    <message>
+        <source>不是普通文件。</source>
+        <translation>This is not a regular file.</translation>
+    </message>
 </context>
 </TS>

@@ -1,10 +1,10 @@
 #include "common/xmldom.h"
 
+#include "common/inputfile.h"
 #include "common/xmlreader.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QFile>
 
 namespace {
 
@@ -22,13 +22,8 @@ public:
 
 bool LoadXmlDom(const QString& path, QDomDocument& document, QString* error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = file.errorString();
-        return false;
-    }
-    return ParseXmlDom(file.read(qMin(file.size(), kMaxXmlBytes) + 1), document, error);
+    QByteArray content;
+    return ReadInput(path, kMaxXmlBytes, &content, error) && ParseXmlDom(content, document, error);
 }
 
 bool ParseXmlDom(const QByteArray& content, QDomDocument& document, QString* error)

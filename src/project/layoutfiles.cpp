@@ -1,5 +1,6 @@
 // The layout of one sender or of one port in a file of its own.
 #include "common/atomicfile.h"
+#include "common/inputfile.h"
 #include "common/xmlwriter.h"
 #include "layout/sender.h"
 #include "layout/tile.h"
@@ -47,10 +48,8 @@ bool ReadElement(const QString& path, std::initializer_list<std::string_view> na
                  QString& error)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = file.errorString();
+    if (!OpenInput(file, &error))
         return false;
-    }
     PathReader document(names, reader);
     if (!ParseXml(file, document, &error))
         return false;

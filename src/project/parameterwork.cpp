@@ -64,7 +64,7 @@ bool CopyForPacking(const SParameterFileInfo& row, const CProductDirectorySet* p
 {
     QFile own(PathOf(row.name));
     QFile library(LibraryFile(products, row.type));
-    const bool hasOwn = own.exists();
+    const bool hasOwn = QFileInfo(own).isFile();
     const bool hasLibrary = !library.fileName().isEmpty() && library.exists();
     if (hasOwn && own.copy(target) && (!hasLibrary || HoldsType(target, row.type)))
         return true;

@@ -1,4 +1,5 @@
 // The project file: saving to an archive, loading from an archive or a bare document.
+#include "common/inputfile.h"
 #include "common/xmlwriter.h"
 #include "layout/sender.h"
 #include "layout/tile.h"
@@ -145,8 +146,8 @@ bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustom
         return FailFile(QCoreApplication::translate("OrvanData", "没有给出文件。"));
     const QString name = QFile::decodeName(path);
     QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
-        return FailFile(file.errorString());
+    if (!OpenInput(file, &m_lastFileError))
+        return false;
     const QByteArray start = file.peek(2);
     file.close();
 

@@ -1,7 +1,7 @@
 #include "settings/archive.h"
 
+#include "common/failure.h"
 #include "settings/archivename.h"
-#include "settings/failure.h"
 #include "settings/folders.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 #include "settings/archive.h"
 
 #include "common/atomicfile.h"
+#include "common/failure.h"
 #include "settings/archivename.h"
-#include "settings/failure.h"
 
 #include <QCoreApplication>
 #include <QDir>

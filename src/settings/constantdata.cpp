@@ -1,5 +1,6 @@
 #include "settings/constantdata.h"
 
+#include "common/inputfile.h"
 #include "common/saturated.h"
 #include "settings/archive.h"
 #include "settings/folders.h"
@@ -197,10 +198,11 @@ SMD5 CConstantData::GetMD5FromFile(const QString& path)
 {
     // A copy is hashed, so that a file that another program is writing is read in one short go.
     const QString scratch = DocumentsFolder() + QStringLiteral("/tmpfile");
-    const bool copied = !QFileInfo(scratch).isSymLink() && QFile::copy(path, scratch);
+    const bool copied =
+        QFileInfo(path).isFile() && !QFileInfo(scratch).isSymLink() && QFile::copy(path, scratch);
     QFile file(copied ? scratch
                       : path); // the name is taken, by somebody else's file, or nothing can be copied
-    file.open(QIODevice::ReadOnly);
+    OpenInput(file);
     if (copied)
         QFile::remove(scratch); // while it is open, so that a crash leaves nothing
     return HashOf(file, path);

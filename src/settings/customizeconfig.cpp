@@ -1,6 +1,7 @@
 #include "settings/customizeconfig.h"
 
 #include "common/atomicfile.h"
+#include "common/inputfile.h"
 #include "settings/brokenfile.h"
 
 #include <QFile>
@@ -16,13 +17,12 @@ bool CustomizeConfig::Load(const QString& path)
 {
     m_path = path;
     m_values = QJsonObject();
-    QFile file(path);
-    if (!file.exists())
+    if (!QFile::exists(path))
         return false;
+    QByteArray content;
     QJsonDocument document;
-    if (file.open(QIODevice::ReadOnly) && file.size() <= kMaxFileSize)
-        document = QJsonDocument::fromJson(file.readAll());
-    file.close();
+    if (ReadInput(path, kMaxFileSize, &content))
+        document = QJsonDocument::fromJson(content);
     if (!document.isObject()) {
         SetBrokenFileAside(path);
         return false;

@@ -1,6 +1,7 @@
 #include "settings/inifile.h"
 
 #include "common/atomicfile.h"
+#include "common/inputfile.h"
 
 #include <QDataStream>
 #include <QDir>
@@ -109,7 +110,7 @@ IniCheck CheckIni(const QString& path)
     QFile file(path);
     if (!file.exists())
         return IniCheck::Harmless;
-    if (!file.open(QIODevice::ReadOnly))
+    if (!OpenInput(file))
         return IniCheck::Unreadable;
     if (file.size() > kMaxFileSize)
         return IniCheck::Harmful;

@@ -1,8 +1,8 @@
 #include "settings/specifiediplist.h"
 
 #include "common/atomicfile.h"
+#include "common/inputfile.h"
 
-#include <QFile>
 #include <QNetworkInterface>
 
 #include <algorithm>
@@ -64,14 +64,11 @@ QVector<Ipv4Network> GetLocalNetworks()
 bool SpecifiedIpList::Load(const QString& path)
 {
     m_path = path;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > kMaxFileSize)
-        return false;
-    QString text = QString::fromUtf8(file.readAll());
-    if (file.error() != QFileDevice::NoError)
+    QByteArray content;
+    if (!ReadInput(path, kMaxFileSize, &content))
         return false;
     m_addresses.clear();
-    const QStringList lines = text.split(QLatin1Char('\n'));
+    const QStringList lines = QString::fromUtf8(content).split(QLatin1Char('\n'));
     for (const QString& line : lines)
         Add(line); // a comment or an empty line is no address
     return true;

@@ -2,11 +2,14 @@
 #include "common/xmlreader.h"
 #include "common/xmlwriter.h"
 #include "frame/lednimbradata.h"
+#include "frame/runtimedata.h"
+#include "layout/sender.h"
 #include "layout/tile.h"
 #include "project/layoutdescription.h"
 #include "project/projectdata.h"
 #include "settings/archive.h"
 #include "settings/configdata.h"
+#include "settings/constantdata.h"
 #include "settings/inifile.h"
 #include "support/library.h"
 #include "support/testfolder.h"
@@ -16,6 +19,10 @@
 
 #include <QBuffer>
 #include <QDir>
+
+#include <functional>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -153,6 +160,42 @@ TEST_F(LimitsTest, ArchiveIsHeldToItsLimitsWhenPackedAndWhenUnpacked)
     EXPECT_TRUE(PackFolder(in, packed));
     QDir(in).mkpath(QStringLiteral("d/").repeated(kMaxArchiveDepth));
     EXPECT_FALSE(PackFolder(in, packed));
+}
+
+TEST_F(LimitsTest, PipesAndDevicesAreRefusedAtEveryEntrance)
+{
+    const QString pipe = folder.Path(QStringLiteral("pipe"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const QUuid sender = project.NewSender()->GetId();
+    GetRuntimeData()->GetImpExpPrepareInfo()->senders = {0};
+    QString version;
+    for (const QString& path : {pipe, QStringLiteral("/dev/zero")}) {
+        const std::function<bool()> entrances[] = {
+            [&] {
+                return project.LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr);
+            },
+            [&] { return project.ImportSender(path, sender, false, true); },
+            [&] { return project.ImportPort(path); },
+            [&] { return project.ImportMutiSenderParam(path, QUuid()) == 0; },
+            [&] { return project.ImportProcessorParam(path, sender) == 0; },
+        };
+        for (const auto& entrance : entrances) {
+            ASSERT_TRUE(project.SaveProjectToFile(folder.Path(QStringLiteral("a.prj")), nullptr));
+            ASSERT_EQ(project.GetLastFileError(), QString());
+            EXPECT_FALSE(entrance());
+            EXPECT_NE(project.GetLastFileError(), QString());
+        }
+        CConfigData config;
+        EXPECT_FALSE(config.Load(path));
+        EXPECT_FALSE(config.XmlLoad(path));
+        EXPECT_FALSE(config.Load_UI(path));
+        EXPECT_FALSE(config.LoadCustomizeConfig(path));
+        EXPECT_FALSE(config.LoadSpecifiedIP(path));
+        EXPECT_TRUE(CConstantData::GetMD5FromFile(path).IsNull());
+        EXPECT_FALSE(UnpackArchive(path, folder.Path(QStringLiteral("out"))));
+        EXPECT_FALSE(config.Save() || config.SaveCustomizeConfig() || config.SaveSpecifiedIP());
+        EXPECT_TRUE(QFileInfo::exists(path)) << "set aside";
+    }
 }
 
 TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)

@@ -1,0 +1,26 @@
+#include "common/inputfile.h"
+
+#include "common/failure.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+bool OpenInput(QFile& file, QString* error)
+{
+    const QFileInfo info(file.fileName());
+    if (info.exists() && !info.isFile())
+        return Fail(error, QCoreApplication::translate("OrvanData", "不是普通文件。"));
+    return file.open(QIODevice::ReadOnly) || Fail(error, file.errorString());
+}
+
+bool ReadInput(const QString& path, qint64 most, QByteArray* content, QString* error)
+{
+    QFile file(path);
+    if (!OpenInput(file, error))
+        return false;
+    if (file.size() > most)
+        return Fail(error, QCoreApplication::translate("OrvanData", "文件过大。"));
+    *content = file.read(file.size());
+    return file.error() == QFileDevice::NoError || Fail(error, file.errorString());
+}
