@@ -14,6 +14,7 @@ class NodeCounter : public XmlHandler
 public:
     void Begin(XmlAttributes& attributes) override { count += 1 + attributes.GetCount(); }
     XmlHandler* Child(std::string_view) override { return this; }
+    void Aside() override { ++count; }
 
     qint64 count = 0;
 };

@@ -97,6 +97,23 @@ void OnText(void* data, const XML_Char*, int length)
         state.Refuse(kTextTooLong);
 }
 
+void OnAside(void* data)
+{
+    const auto& state = *static_cast<ParseState*>(data);
+    if (state.refusal.isEmpty() && state.open.back())
+        state.open.back()->Aside();
+}
+
+void OnComment(void* data, const XML_Char*)
+{
+    OnAside(data);
+}
+
+void OnInstruction(void* data, const XML_Char*, const XML_Char*)
+{
+    OnAside(data);
+}
+
 void OnDoctype(void* data, const XML_Char*, const XML_Char*, const XML_Char*, int)
 {
     static_cast<ParseState*>(data)->Refuse(QT_TRANSLATE_NOOP("OrvanData", "不接受文档类型声明。"));
@@ -164,6 +181,9 @@ bool ParseXml(QIODevice& source, XmlHandler& document, QString* error)
     XML_SetUserData(state.parser, &state);
     XML_SetElementHandler(state.parser, OnStart, OnEnd);
     XML_SetCharacterDataHandler(state.parser, OnText);
+    XML_SetCommentHandler(state.parser, OnComment);
+    XML_SetProcessingInstructionHandler(state.parser, OnInstruction);
+    XML_SetStartCdataSectionHandler(state.parser, OnAside);
     XML_SetStartDoctypeDeclHandler(state.parser, OnDoctype);
     return FeedAll(source, state, error ? error : &ignored);
 }

@@ -25,6 +25,7 @@ public:
     virtual ~XmlHandler() = default;
     virtual void Begin(XmlAttributes&) {}
     virtual XmlHandler* Child(std::string_view /*name*/) { return nullptr; } ///< [ref] null: passed over
+    virtual void Aside() {} ///< there is a comment, an instruction or a CDATA section in it
     virtual void End() {}
 };
 

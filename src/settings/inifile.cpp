@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr qint64 kMaxFileSize = 1 << 24;
+constexpr qint64 kMaxFileSize = 1 << 22; ///< keys cost a hundred times their size
 constexpr const char* kTypedValue = "@Variant(";
 constexpr int kQt4Float = 135;
 

@@ -316,6 +316,8 @@ std::vector<Case> OtherCases()
                              Repeat(s, [](int) { return "<a>" + QByteArray(100, 'x') + "</a>"; }));
          },
          ImportParameters},
+        {"parameters: comments",
+         [](qint64 s) { return Parameters(Repeat(s, [](int) { return "<!---->"; })); }, ImportParameters},
         {"parameters: processors",
          [](qint64) {
              return "<?xml version=\"1.0\"?><DeviceParams CheckValue=\"1\" ProcessorCount=\"99999999\">"
@@ -327,12 +329,12 @@ std::vector<Case> OtherCases()
          LoadSettings},
         {"windows: keys",
          [](qint64 s) {
-             return Repeat(qMin(s, qint64(16) << 20) - 64,
+             return Repeat(qMin(s, qint64(4) << 20) - 64,
                            [](int i) { return 'k' + QByteArray::number(i) + "=1\n"; });
          },
          LoadInterfaceSettings},
         {"windows: a long line",
-         [](qint64 s) { return "a=" + QByteArray(int(qMin(s, qint64(16) << 20)) - 64, ','); },
+         [](qint64 s) { return "a=" + QByteArray(int(qMin(s, qint64(4) << 20)) - 64, ','); },
          LoadInterfaceSettings},
         {"customer: arrays",
          [](qint64 s) {
