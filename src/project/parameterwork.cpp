@@ -16,10 +16,12 @@ namespace {
 
 constexpr auto kAllEntries = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
-/// Whether packing and unpacking put something of that name into the project folder.
+/// Whether packing and unpacking put something of that name into the project folder. The last of the names is
+/// what a copy that was killed leaves on a file system without unnamed files.
 bool IsOurs(const QString& name)
 {
-    static const QRegularExpression ours(QStringLiteral("^([0-9]+\\.rcvbp|new\\.prj)$"));
+    static const QRegularExpression ours(
+        QStringLiteral("^([0-9]+\\.rcvbp|new\\.prj|qt_temp\\.[A-Za-z]{6})$"));
     return ours.match(name).hasMatch();
 }
 
@@ -101,6 +103,12 @@ QString ProjectFolder()
 QString DocumentPath()
 {
     return ProjectFolder() + QStringLiteral("new.prj");
+}
+
+bool IsPacked(const QString& entry)
+{
+    const QLatin1String folder("project/");
+    return entry.startsWith(folder) && IsOurs(entry.mid(folder.size()));
 }
 
 QString LockPath()

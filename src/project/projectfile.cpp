@@ -171,7 +171,7 @@ bool CProjectData::LoadArchive(const QString& path, QString& version, CCustomPro
         return false;
     QString error;
     const bool unpacked = UnpackArchive(path, CConstantData::GetProjectParamFileTemp(),
-                                        QStringLiteral("project/"), &error, kLimits);
+                                        parameterwork::IsPacked, &error, kLimits);
     if (!unpacked || !QFile::exists(parameterwork::DocumentPath()))
         return FailFile(unpacked ? QCoreApplication::translate("OrvanData", "压缩包里没有“project/new.prj”。")
                                  : error);

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 /// What an archive may hold, so that a hostile one fills neither the memory nor the disk.
 constexpr int kMaxArchiveEntries = 65535;
 constexpr int kMaxArchiveDepth = 64;                        ///< components of a name
@@ -22,7 +24,9 @@ bool PackFolder(const QString& folder, const QString& zipPath, QString* error = 
                 const ArchiveLimits& limits = {});
 
 /// Unpacks an archive below a folder in the archive's order and stops at the first entry that is refused or
-/// fails; what was unpacked before it stays. With `onlyBelow`, such as "project/", other entries are skipped
-/// after their names were checked. Files of the same name are replaced; nothing is written through a link.
-bool UnpackArchive(const QString& zipPath, const QString& folder, const QString& onlyBelow = QString(),
-                   QString* error = nullptr, const ArchiveLimits& limits = {});
+/// fails; what was unpacked before it stays. With `wanted`, which is told the names of entries, others are
+/// skipped after their names were checked. Files of the same name are replaced; nothing is written through a
+/// link.
+bool UnpackArchive(const QString& zipPath, const QString& folder,
+                   const std::function<bool(const QString&)>& wanted = {}, QString* error = nullptr,
+                   const ArchiveLimits& limits = {});

@@ -102,7 +102,8 @@ std::unique_ptr<zip_t, Discard> Open(const QString& path)
 
 } // namespace
 
-bool UnpackArchive(const QString& zipPath, const QString& folder, const QString& onlyBelow, QString* error,
+bool UnpackArchive(const QString& zipPath, const QString& folder,
+                   const std::function<bool(const QString&)>& wanted, QString* error,
                    const ArchiveLimits& limits)
 {
     if (!QFileInfo(zipPath).isFile())
@@ -126,7 +127,7 @@ bool UnpackArchive(const QString& zipPath, const QString& folder, const QString&
         const QString name = GetArchiveEntryName(archive.get(), i);
         if (name.isEmpty() || qint64(i) == withNul || name.count(QLatin1Char('/')) >= kMaxArchiveDepth)
             return Fail(error, QCoreApplication::translate("OrvanData", "压缩包条目名称无效"));
-        if (!name.startsWith(onlyBelow))
+        if (wanted && !wanted(name))
             continue;
         if (!Accept(archive.get(), i, name != limits.apart, &left)
             || !Extract(archive.get(), i, name, base, folders))

@@ -364,6 +364,25 @@ TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
     EXPECT_EQ(project.GetLastFileError(), QString());
 }
 
+TEST_F(ProjectFileTest, OtherFilesInAnArchiveDoNotComeIntoTheNextOne)
+{
+    const QString path = folder.Path(QStringLiteral("a.prj"));
+    ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
+    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
+    const QByteArray saved = ReadFile(path);
+    const QString odd = folder.Path(QStringLiteral("odd.prj"));
+    ASSERT_TRUE(UnpackArchive(path, folder.Path()));
+    for (const char* name : {"project/note", "project/sub/0.rcvbp", "project/0.rcvbp.old"})
+        folder.Write(QLatin1String(name), "of others");
+    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("project")), odd));
+    ASSERT_TRUE(Load(odd));
+    EXPECT_EQ(project.GetLastFileError(), QString());
+    QFile killed(parameterwork::ProjectFolder() + QStringLiteral("qt_temp.aBcDeF"));
+    ASSERT_TRUE(killed.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
+    EXPECT_EQ(ReadFile(path), saved);
+}
+
 TEST_F(ProjectFileTest, DamagedFilesAreReadOrRefusedWhole)
 {
     BuildProject();

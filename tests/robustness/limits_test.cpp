@@ -155,8 +155,8 @@ TEST_F(LimitsTest, ArchiveIsHeldToItsLimitsWhenPackedAndWhenUnpacked)
     const QString out = folder.Path(QStringLiteral("out"));
     EXPECT_FALSE(PackFolder(in, packed, nullptr, limits(999)));
     ASSERT_TRUE(PackFolder(in, packed, nullptr, limits(1000)));
-    EXPECT_FALSE(UnpackArchive(packed, out, QString(), nullptr, limits(999)));
-    EXPECT_TRUE(UnpackArchive(packed, out, QString(), nullptr, limits(1000)));
+    EXPECT_FALSE(UnpackArchive(packed, out, {}, nullptr, limits(999)));
+    EXPECT_TRUE(UnpackArchive(packed, out, {}, nullptr, limits(1000)));
 
     QDir(in).mkpath(QStringLiteral("d/").repeated(kMaxArchiveDepth - 1));
     EXPECT_TRUE(PackFolder(in, packed));

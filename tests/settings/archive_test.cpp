@@ -89,7 +89,7 @@ TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
     EXPECT_EQ(ReadFile(path), first);
 
     const QString out = folder.Path(QStringLiteral("out"));
-    ASSERT_TRUE(UnpackArchive(path, out, QString(), &error)) << qPrintable(error);
+    ASSERT_TRUE(UnpackArchive(path, out, {}, &error)) << qPrintable(error);
     for (const QString& name : names)
         EXPECT_EQ(ReadFile(out + QStringLiteral("/屏幕B/") + name), name.toUtf8().repeated(100))
             << qPrintable(name);
@@ -192,13 +192,14 @@ TEST(ArchiveTest, NothingIsWrittenThroughALinkAndOldFilesAreReplaced)
     EXPECT_EQ(ReadFile(outside), "old");
 }
 
-TEST(ArchiveTest, OnlyTheWantedFolderIsUnpacked)
+TEST(ArchiveTest, OnlyTheWantedEntriesAreUnpacked)
 {
     TestFolder folder;
     const QString path =
         MakeArchive(folder, {{"other/x", "1"}, {"project\\new.prj", "2"}, {"projects", "3"}});
     const QString out = folder.Path(QStringLiteral("out"));
-    EXPECT_TRUE(UnpackArchive(path, out, QStringLiteral("project/")));
+    const auto below = [](const QString& name) { return name.startsWith(QLatin1String("project/")); };
+    EXPECT_TRUE(UnpackArchive(path, out, below));
     EXPECT_EQ(ReadFile(out + QStringLiteral("/project/new.prj")), "2");
     EXPECT_EQ(QDir(out).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
 }
