@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <QStringList>
 
 QString DocumentsFolder()
 {
@@ -17,17 +16,18 @@ QString ProductFolder()
 
 bool MakeFoldersOf(const QString& base, const QString& relativeFile, QSet<QString>* made)
 {
-    QString folder = base.endsWith(QLatin1Char('/')) ? base.chopped(1) : base;
-    const QString below = relativeFile.left(relativeFile.lastIndexOf(QLatin1Char('/')));
-    if (!relativeFile.contains(QLatin1Char('/')) || (made && made->contains(below)))
+    const int separator = relativeFile.lastIndexOf(QLatin1Char('/'));
+    if (separator < 0)
         return true;
-    const QStringList names = below.split(QLatin1Char('/'));
-    for (const QString& name : names) {
-        folder += QLatin1Char('/') + name;
-        const QFileInfo info(folder);
-        if (info.isSymLink() || (!info.isDir() && !QDir().mkdir(folder)))
-            return false;
-    }
+    const QString below = relativeFile.left(separator);
+    if (made && made->contains(below))
+        return true;
+    if (!MakeFoldersOf(base, below, made))
+        return false;
+    const QString folder = base.endsWith(QLatin1Char('/')) ? base + below : base + QLatin1Char('/') + below;
+    const QFileInfo info(folder);
+    if (info.isSymLink() || (!info.isDir() && !QDir().mkdir(folder)))
+        return false;
     if (made)
         made->insert(below);
     return true;

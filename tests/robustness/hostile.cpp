@@ -159,6 +159,11 @@ bool LoadProject(const QString& path)
     return GetProjectData()->LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr);
 }
 
+bool UnpackTemporarily(const QString& path)
+{
+    return QFile::exists(CConstantData::GetTmpProjectDataPath(path));
+}
+
 bool ImportParameters(const QString& path)
 {
     GetProjectData()->NewSender();
@@ -292,7 +297,9 @@ std::vector<Case> OtherCases()
          },
          LoadProject},
         {"archive: entries",
-         [](qint64) { return ManyEntries(65535, [](int i) { return "project/" + QByteArray::number(i); }); },
+         [](qint64) {
+             return ManyEntries(65535, [](int i) { return "project/" + QByteArray::number(i) + ".rcvbp"; });
+         },
          LoadProject},
         {"archive: more entries than allowed",
          [](qint64 s) {
@@ -301,11 +308,12 @@ std::vector<Case> OtherCases()
          LoadProject},
         {"archive: folders",
          [](qint64) {
-             return ManyEntries(60000, [](int i) {
+             return ManyEntries(20000, [](int i) {
                  return "project/" + QByteArray("a/").repeated(55) + QByteArray::number(i) + "/x";
              });
          },
-         LoadProject},
+         UnpackTemporarily},
+        {"archive: bomb of any kind", [](qint64) { return Bomb(); }, UnpackTemporarily},
         {"parameters: elements", [](qint64 s) { return Parameters(Repeat(s, [](int) { return "<a/>"; })); },
          ImportParameters},
         {"parameters: most elements allowed",
