@@ -2,7 +2,9 @@
 
 #include "common/atomicfile.h"
 #include "common/inputfile.h"
+#include "settings/brokenfile.h"
 
+#include <QFile>
 #include <QNetworkInterface>
 
 #include <algorithm>
@@ -65,7 +67,9 @@ bool SpecifiedIpList::Load(const QString& path)
 {
     m_path = path;
     QByteArray content;
-    if (!ReadInput(path, kMaxFileSize, &content))
+    const bool read = ReadInput(path, kMaxFileSize, &content);
+    m_unread = !read && QFile::exists(path);
+    if (!read)
         return false;
     m_addresses.clear();
     const QStringList lines = QString::fromUtf8(content).split(QLatin1Char('\n'));
@@ -74,12 +78,15 @@ bool SpecifiedIpList::Load(const QString& path)
     return true;
 }
 
-bool SpecifiedIpList::Save() const
+bool SpecifiedIpList::Save()
 {
     QByteArray content;
     for (const QString& address : m_addresses)
         content += address.toUtf8() + '\n';
-    return !m_path.isEmpty() && ReplaceFile(m_path, content);
+    if (m_path.isEmpty() || (m_unread && !SetBrokenFileAside(m_path)))
+        return false;
+    m_unread = false;
+    return ReplaceFile(m_path, content);
 }
 
 bool SpecifiedIpList::Add(const QString& address)

@@ -18,7 +18,7 @@ class SpecifiedIpList
 {
 public:
     bool Load(const QString& path); ///< false, with the list unchanged, when the file cannot be read
-    bool Save() const;              ///< to the file loaded from; false before
+    bool Save(); ///< to the file loaded from, one that could not be read kept as ".bak"; false before
 
     const QStringList& Addresses() const { return m_addresses; }
     bool Add(const QString& address);    ///< false for no dotted address, one listed already, or a full list
@@ -30,5 +30,6 @@ public:
 
 private:
     QString m_path;
+    bool m_unread = false; ///< there is a file at the path which could not be read
     QStringList m_addresses;
 };
