@@ -8,8 +8,9 @@
 #include "project/layoutwriter.h"
 #include "project/projectdata.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
-#include <QFile>
+
 #include <QHash>
 #include <QSet>
 
@@ -44,14 +45,14 @@ private:
     bool m_found = false;
 };
 
-bool ReadElement(const QString& path, std::initializer_list<std::string_view> names, XmlHandler& reader,
+bool ReadElement(const QByteArray& content, std::initializer_list<std::string_view> names, XmlHandler& reader,
                  QString& error)
 {
-    QFile file(path);
-    if (!OpenInput(file, &error))
-        return false;
+    QBuffer source;
+    source.setData(content);
+    source.open(QIODevice::ReadOnly);
     PathReader document(names, reader);
-    if (!ParseXml(file, document, &error))
+    if (!ParseXml(source, document, &error))
         return false;
     if (!document.WasFound())
         error = QCoreApplication::translate("OrvanData", "不是这种布局文件。");
@@ -127,14 +128,17 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
     if (!sender || sender->GetPortCount() < 1)
         return FailFile(QCoreApplication::translate("OrvanData", "没有这个主控。"));
 
-    // Read once to see that it can be read whole, and only then into the sender.
+    // Parsed once to see that it can be read whole, and only then into the sender. The file may change
+    // meanwhile, so its content is kept.
     const auto names = {std::string_view(layoutnames::kSenderLayout),
                         std::string_view(layoutnames::kSenderLayout)};
+    QByteArray content;
     ReadReport checked;
     CSender probe;
     SenderReader check(checked);
     check.SetTarget(&probe, SenderParts::LayoutOnly, false);
-    if (!ReadElement(path, names, check, m_lastFileError))
+    if (!ReadInput(path, kMaxXmlBytes, &content, &m_lastFileError)
+        || !ReadElement(content, names, check, m_lastFileError))
         return false;
 
     QList<CPort*> replaced;
@@ -147,7 +151,7 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
     SenderReader reader(report);
     reader.SetTarget(sender, attributes ? SenderParts::LayoutAndView : SenderParts::LayoutOnly,
                      keepLockedPorts);
-    if (!ReadElement(path, names, reader, m_lastFileError))
+    if (!ReadElement(content, names, reader, m_lastFileError))
         return false;
     RenewGroupIdsOf(replaced);
     if (attributes)
@@ -176,11 +180,13 @@ bool CProjectData::ImportPort(const QString& path)
         return FailFile(QCoreApplication::translate("OrvanData", "没有这个输出口。"));
 
     const int index = sender->GetRecentPortIndex();
+    QByteArray content;
     CPort imported;
     ReadReport report;
     PortReader reader(report);
     reader.SetTarget(&imported, sender->GetId(), index, false);
-    if (!ReadElement(path, {kPortRoot}, reader, m_lastFileError))
+    if (!ReadInput(path, kMaxXmlBytes, &content, &m_lastFileError)
+        || !ReadElement(content, {kPortRoot}, reader, m_lastFileError))
         return false;
 
     port->GetPortProject()->ClearAllTiles();
