@@ -10,7 +10,6 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
-
 #include <QHash>
 #include <QSet>
 

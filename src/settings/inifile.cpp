@@ -2,13 +2,13 @@
 
 #include "common/atomicfile.h"
 #include "common/inputfile.h"
+#include "settings/scratchfolder.h"
 
 #include <QDataStream>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
-#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -78,10 +78,10 @@ bool IsComplete(const QString& path, const QVariantMap& values)
 /// wrote whether it got there or not, so it is read back under another name.
 bool WriteCopy(const QString& path, const QVariantMap& values, const char* codec, QByteArray* content)
 {
-    const QTemporaryDir scratch;
-    const QString written = scratch.filePath(QStringLiteral("written.ini"));
-    const QString readBack = scratch.filePath(QStringLiteral("read.ini"));
-    if (!scratch.isValid() || CheckIni(path) != IniCheck::Harmless
+    const ScratchFolder scratch;
+    const QString written = scratch.Path("written.ini");
+    const QString readBack = scratch.Path("read.ini");
+    if (!scratch.IsValid() || CheckIni(path) != IniCheck::Harmless
         || (QFile::exists(path) && !QFile::copy(path, written)))
         return false;
     {
@@ -114,8 +114,8 @@ IniCheck CheckIni(const QString& path)
         return IniCheck::Unreadable;
     if (file.size() > kMaxFileSize)
         return IniCheck::Harmful;
-    const QTemporaryDir scratch;
-    QFile marked(scratch.filePath(QStringLiteral("marked.ini")));
+    const ScratchFolder scratch;
+    QFile marked(scratch.Path("marked.ini"));
     const QByteArray content = WithoutTypes(file.readAll());
     if (!marked.open(QIODevice::WriteOnly) || marked.write(content) != content.size() || !marked.flush())
         return IniCheck::Unreadable;

@@ -22,6 +22,7 @@
 
 #include <functional>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace {
@@ -198,6 +199,25 @@ TEST_F(LimitsTest, PipesAndDevicesAreRefusedAtEveryEntrance)
         EXPECT_FALSE(config.Save() || config.SaveCustomizeConfig() || config.SaveSpecifiedIP());
         EXPECT_TRUE(QFileInfo::exists(path)) << "set aside";
     }
+}
+
+TEST(IniLimitsTest, ScratchFoldersOfKilledProgramsGoAfterAnHour)
+{
+    TestFolder folder;
+    const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\na=1\n");
+    const QStringList scratch = {QStringLiteral("OrvanScratch-??????")};
+    const QDir temporary(QDir::tempPath());
+    for (const char* name : {"OrvanScratch-longer", "OrvanScratch-recent"}) {
+        const QString left = temporary.filePath(QLatin1String(name));
+        ASSERT_TRUE(QDir().mkpath(left));
+        QFile file(left + QStringLiteral("/marked.ini"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    const timespec longAgo[2] = {{1000000000, 0}, {1000000000, 0}};
+    const QByteArray old = QFile::encodeName(temporary.filePath(QStringLiteral("OrvanScratch-longer")));
+    ASSERT_EQ(utimensat(AT_FDCWD, old.constData(), longAgo, 0), 0);
+    EXPECT_TRUE(CConfigData().Load_UI(path));
+    EXPECT_EQ(temporary.entryList(scratch), QStringList(QStringLiteral("OrvanScratch-recent")));
 }
 
 TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
