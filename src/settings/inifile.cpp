@@ -2,9 +2,9 @@
 
 #include "common/atomicfile.h"
 #include "common/inputfile.h"
+#include "settings/initypes.h"
 #include "settings/scratchfolder.h"
 
-#include <QDataStream>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -15,53 +15,6 @@
 namespace {
 
 constexpr qint64 kMaxFileSize = 1 << 22; ///< keys cost a hundred times their size
-constexpr const char* kTypedValue = "@Variant(";
-constexpr int kQt4Float = 135;
-
-/// Whether a text is no value with a type, or one of a type that reads without harm.
-bool IsHarmless(const QString& text)
-{
-    if (!text.startsWith(QLatin1String(kTypedValue)))
-        return true;
-    const QByteArray content = text.mid(int(qstrlen(kTypedValue))).toLatin1();
-    QDataStream stream(content);
-    quint32 type = 0;
-    stream >> type;
-    switch (type) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
-    case QMetaType::QString:
-    case QMetaType::QDate:
-    case QMetaType::QTime:
-    case QMetaType::QDateTime:
-    case QMetaType::QColor:
-    case QMetaType::QKeySequence:
-    case kQt4Float:
-        return true;
-    default:
-        return false;
-    }
-}
-
-/// The content with a character before each value and each item of a list, so that QSettings takes all of
-/// them for texts.
-QByteArray WithoutTypes(const QByteArray& content)
-{
-    QByteArray marked;
-    marked.reserve(content.size() + content.size() / 8);
-    bool inValue = false;
-    for (const char c : content) {
-        marked.append(c);
-        if (c == ',' || (c == '=' && !inValue))
-            marked.append('!');
-        inValue = c != '\n' && c != '\r' && (inValue || c == '=');
-    }
-    return marked;
-}
 
 /// Whether the file was written to its end: QSettings does not tell when the disk became full.
 bool IsComplete(const QString& path, const QVariantMap& values)
@@ -114,19 +67,7 @@ IniCheck CheckIni(const QString& path)
         return IniCheck::Unreadable;
     if (file.size() > kMaxFileSize)
         return IniCheck::Harmful;
-    const ScratchFolder scratch;
-    QFile marked(scratch.Path("marked.ini"));
-    const QByteArray content = WithoutTypes(file.readAll());
-    if (!marked.open(QIODevice::WriteOnly) || marked.write(content) != content.size() || !marked.flush())
-        return IniCheck::Unreadable;
-    const QSettings texts(marked.fileName(), QSettings::IniFormat);
-    const QStringList keys = texts.allKeys();
-    const bool harmless = std::all_of(keys.begin(), keys.end(), [&texts](const QString& key) {
-        const QStringList values = texts.value(key).toStringList();
-        return std::all_of(values.begin(), values.end(),
-                           [](const QString& value) { return IsHarmless(value.mid(1).trimmed()); });
-    });
-    return harmless ? IniCheck::Harmless : IniCheck::Harmful;
+    return MayHoldHarmfulTypes(file.readAll()) ? IniCheck::Harmful : IniCheck::Harmless;
 }
 
 bool WriteIniValues(const QString& path, const QVariantMap& values, const char* codec)

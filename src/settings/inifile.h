@@ -7,7 +7,7 @@ enum class IniCheck
 {
     Harmless, ///< or there is no file
     Harmful,
-    Unreadable, ///< or the disk is full: nothing is said of the file
+    Unreadable,
 };
 
 /// Whether QSettings may read a file: it rebuilds values of any type that a file names, and some of them end

@@ -32,7 +32,8 @@ bool InterfaceSettings::Load(const QString& path)
         const QStringList keys = file.allKeys();
         broken = file.status() != QSettings::NoError;
         for (const QString& key : keys)
-            if (!key.isEmpty()) // which QSettings reads but does not write
+            // Without name, or below a section without one: QSettings reads those, but does not write them.
+            if (!key.isEmpty() && !key.startsWith(QLatin1Char('/')) && file.contains(key))
                 m_values.insert(key, file.value(key));
     }
     if (broken) {

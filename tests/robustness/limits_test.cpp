@@ -205,42 +205,49 @@ TEST(IniLimitsTest, ScratchFoldersOfKilledProgramsGoAfterAnHour)
 {
     TestFolder folder;
     const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\na=1\n");
-    const QStringList scratch = {QStringLiteral("OrvanScratch-??????")};
     const QDir temporary(QDir::tempPath());
     for (const char* name : {"OrvanScratch-longer", "OrvanScratch-recent"}) {
         const QString left = temporary.filePath(QLatin1String(name));
         ASSERT_TRUE(QDir().mkpath(left));
-        QFile file(left + QStringLiteral("/marked.ini"));
+        QFile file(left + QStringLiteral("/read.ini"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
     const timespec longAgo[2] = {{1000000000, 0}, {1000000000, 0}};
     const QByteArray old = QFile::encodeName(temporary.filePath(QStringLiteral("OrvanScratch-longer")));
     ASSERT_EQ(utimensat(AT_FDCWD, old.constData(), longAgo, 0), 0);
-    EXPECT_TRUE(CConfigData().Load_UI(path));
-    EXPECT_EQ(temporary.entryList(scratch), QStringList(QStringLiteral("OrvanScratch-recent")));
+    CConfigData config;
+    EXPECT_TRUE(config.Load_UI(path) && config.Save_UI());
+    EXPECT_FALSE(temporary.exists(QStringLiteral("OrvanScratch-longer")));
+    EXPECT_TRUE(temporary.exists(QStringLiteral("OrvanScratch-recent")));
 }
 
 TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
 {
     TestFolder folder;
-    const QByteArray list = "\\0\\0\\0\\t\\0\\0\\0\\x1"; // of one item, which is the next one
+    const QByteArray list =
+        QByteArray("\\0\\0\\0\\t\\0\\0\\0\\x1").repeated(100000); // each of one item, the next one
     const QByteArray color = "@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)";
     const struct
     {
-        QByteArray value;
+        QByteArray text;
         bool harmless;
     } cases[] = {
-        {"plain", true},
-        {"@Size(1 2)", true},
-        {color, true},
-        {"a, \"@Variant\", " + color, true},
-        {"@Variant(" + list.repeated(100000) + ")", false},
-        {"\"a, b\", \\x40Variant(" + list.repeated(100000) + ")", false},
-        {"\"@Vari\\\nant(" + list.repeated(100000) + ")\"", false},
+        {"a=plain", true},
+        {"a=@Size(1 2)\nb=me@Vienna", true},
+        {"a=" + color, true},
+        {"a=a, \"@Variant\", " + color, true},
+        {"a=@Variant(\\0\\0\\0K\\0\\0\\0\\x1\\0\\0\\0\\x41)", true}, // the key A
+        {"a=@Variant(\\0\\0\\0K\\xff\\xff\\xff\\xff)", false},       // keys without end
+        {"a=@Variant(" + list + ")", false},
+        {"a=@Variant(" + list + ")\na=1", false},
+        {"[]\na=@Variant(" + list + ")", false},
+        {"a=\"a, b\", \\x40Variant(" + list + ")", false},
+        {"a=\\10100@V\\x10061\\162iant(" + list + ")", false},
+        {"a=\"@Vari\\\r\n\\qa\"nt(" + list + ")\"", false},
     };
     for (const auto& given : cases) {
-        const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\nb=1\na=" + given.value + '\n');
-        EXPECT_EQ(CheckIni(path) == IniCheck::Harmless, given.harmless) << given.value.left(40).toStdString();
+        const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\nb=1\n" + given.text + '\n');
+        EXPECT_EQ(CheckIni(path) == IniCheck::Harmless, given.harmless) << given.text.left(40).toStdString();
         CConfigData config;
         EXPECT_EQ(config.Load_UI(path), given.harmless);
         EXPECT_TRUE(config.Save_UI());
