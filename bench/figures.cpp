@@ -9,12 +9,12 @@
 
 int main(int argc, char** argv)
 {
+    benchmark::Initialize(&argc, argv);
     const QTemporaryDir home;
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    benchmark::Initialize(&argc, argv);
     if (argc == 2 && qstrcmp(argv[1], "--cpu") == 0)
         CountCpuTime();
     else if (benchmark::ReportUnrecognizedArguments(argc, argv))

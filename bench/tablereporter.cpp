@@ -22,7 +22,8 @@ double Exponent(double few, double many)
 /// The bounds are those of walls of 32768 cabinets; other walls show how a figure grows.
 const char* HowMet(const Figure& figure, const std::string& wall, double value)
 {
-    if (!wall.empty() && wall.rfind("32768", 0) != 0)
+    const bool bound = wall.empty() || wall.rfind("32768", 0) == 0;
+    if (!bound)
         return "–";
     return value <= figure.aim ? "aim" : value <= figure.must ? "must" : "NO";
 }
@@ -50,6 +51,8 @@ bool TableReporter::ReportContext(const Context&)
 void TableReporter::ReportRuns(const std::vector<Run>& runs)
 {
     for (const Run& run : runs) {
+        if (run.run_type == Run::RT_Aggregate)
+            continue;
         const std::string& name = run.run_name.function_name;
         const size_t slash = std::min(name.find('/'), name.size());
         const std::string wall = name.substr(std::min(slash + 1, name.size()));
@@ -58,8 +61,7 @@ void TableReporter::ReportRuns(const std::vector<Run>& runs)
                             counter("of value") != 0};
         const Pair pair{counter("floor"), counter("ours")};
         m_pairs[name] = pair;
-        PrintRow(figure, wall, pair,
-                 wall == "131072" && !figure.ofValue ? Growth(figure.what, pair) : std::string());
+        PrintRow(figure, wall, pair, wall == "131072" && !figure.ofValue ? Growth(figure.what, pair) : "");
     }
 }
 

@@ -5,7 +5,7 @@
 
 class QByteArray;
 
-/// Elements, attributes, comments and the like; a tree takes some 600 bytes for each.
+/// Elements, attributes, comments and the like, texts apart; a tree takes some 600 bytes for each.
 constexpr int kMaxTreeNodes = 524288;
 
 /// Reads a small XML file into a tree under the limits of ParseXml and this one, checked before the tree is

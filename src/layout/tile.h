@@ -113,7 +113,7 @@ public:
     void SetData(const TileData* data); ///< shares it; copies into place where a pointer is out
 
 private:
-    friend class CTileSet;
+    friend class CTileSet; // marks what it frees
 
     TileData& Write(); ///< the record, this tile's alone
     template <class Member, class Value> bool Store(Member member, const Value& value);

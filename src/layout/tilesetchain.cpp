@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -37,8 +36,8 @@ void SetPlace(CTile* tile, int index, int begin)
 struct Stop
 {
     quint64 place;
-    int position; ///< in the list
-    int receivers;
+    int position;      ///< in the list
+    int receivers = 0; ///< of the tile, for who numbers along the stops
 };
 
 /// Sorts in as many linear passes as the places have bytes that differ; equal places keep their order.
@@ -139,10 +138,10 @@ bool IsWithoutGap(const std::vector<Stop>& chain)
 /// Whether the chain visits its tiles in the order of the walk. Ends at the first that is out of order.
 bool FollowsWalk(const QList<CTile*>& tiles, const std::vector<Stop>& chain, const SerpentineWalk& walk)
 {
-    Stop previous{0, -1, 0};
+    auto previous = std::make_pair(quint64(0), -1);
     for (const Stop& link : chain) {
-        const Stop stop{walk.PlaceOf(tiles[link.position]->GetCenter()), link.position, link.receivers};
-        if (std::tie(stop.place, stop.position) < std::tie(previous.place, previous.position))
+        const auto stop = std::make_pair(walk.PlaceOf(tiles[link.position]->GetCenter()), link.position);
+        if (stop < previous)
             return false;
         previous = stop;
     }
@@ -260,7 +259,7 @@ bool CTileSet::NumberSetRect(int& next, const QRect& rect, const QSize&, int dir
     for (int i = 0; i < m_tiles.size(); ++i) {
         const QPoint centre = m_tiles.at(i)->GetCenter();
         if (!m_tiles.at(i)->HasSetConnectIndex() && rect.contains(centre))
-            stops.push_back({PlaceAlong(direction, centre), i, m_tiles.at(i)->GetMultiRcvsCount()});
+            stops.push_back({PlaceAlong(direction, centre), i});
     }
     SortByPlace(stops);
 

@@ -16,13 +16,18 @@ namespace {
 
 constexpr auto kAllEntries = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
-/// Whether packing and unpacking put something of that name into the project folder. The last of the names is
-/// what a copy that was killed leaves on a file system without unnamed files.
+bool IsDocumentOrParameterFile(const QString& name)
+{
+    static const QRegularExpression files(QStringLiteral("\\A([0-9]+\\.rcvbp|new\\.prj)\\z"));
+    return files.match(name).hasMatch();
+}
+
+/// Whether packing and unpacking put something of that name into the project folder.
 bool IsOurs(const QString& name)
 {
-    static const QRegularExpression ours(
-        QStringLiteral("^([0-9]+\\.rcvbp|new\\.prj|qt_temp\\.[A-Za-z]{6})$"));
-    return ours.match(name).hasMatch();
+    // What a copy that was killed leaves on a file system without unnamed files.
+    static const QRegularExpression unfinished(QStringLiteral("\\Aqt_temp\\.[A-Za-z]{6}\\z"));
+    return IsDocumentOrParameterFile(name) || unfinished.match(name).hasMatch();
 }
 
 void Remove(const QFileInfo& entry)
@@ -108,7 +113,7 @@ QString DocumentPath()
 bool IsPacked(const QString& entry)
 {
     const QLatin1String folder("project/");
-    return entry.startsWith(folder) && IsOurs(entry.mid(folder.size()));
+    return entry.startsWith(folder) && IsDocumentOrParameterFile(entry.mid(folder.size()));
 }
 
 QString LockPath()

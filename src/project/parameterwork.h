@@ -28,8 +28,8 @@ bool Store(const QString& source, const QString& name, const SMD5& type);
 /// document and the numbered files that an earlier packing or unpacking left there.
 bool MakeProjectFolder();
 
-/// Whether an archive's entry of that name is one of the files that MakeProjectFolder removes. Others would
-/// come into every project that is packed afterwards.
+/// Whether an archive's entry of that name is the document or a parameter file. Others would come into every
+/// project that is packed afterwards.
 bool IsPacked(const QString& entry);
 
 /// Whether the path leads to one of the files that MakeProjectFolder removes.

@@ -187,8 +187,8 @@ bool CProjectData::LoadDocument(
     const std::function<void(const QList<SParameterFileInfo>&, ReadReport&)>& distribute)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return FailFile(file.errorString());
+    if (!OpenInput(file, &m_lastFileError))
+        return false;
     ProjectContent content;
     ReadReport report;
     ProjectReader reader(content, report, Reports(progress));

@@ -47,7 +47,8 @@ bool WriteCopy(const QString& path, const QVariantMap& values, const char* codec
         if (file.status() != QSettings::NoError)
             return false;
     }
-    if (!QFile::rename(written, readBack) || !IsComplete(readBack, values))
+    if (!QFile::rename(written, readBack) || !IsComplete(readBack, values)
+        || CheckIni(readBack) != IniCheck::Harmless)
         return false;
     QFile file(readBack);
     if (!file.open(QIODevice::ReadOnly))

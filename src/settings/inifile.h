@@ -11,9 +11,10 @@ enum class IniCheck
 };
 
 /// Whether QSettings may read a file: it rebuilds values of any type that a file names, and some of them end
-/// the program. Only plain values, colours, key sequences, dates and times are let through, and 4 MiB.
+/// the program. Only plain values, geometry, URLs, colours, key sequences, dates and times are let through,
+/// and 4 MiB.
 IniCheck CheckIni(const QString& path);
 
 /// Writes values into an INI file as one step; other keys of the file stay. False when they did not get
-/// there. Without a codec only ASCII stands unescaped.
+/// there, or would not be let through when they are read. Without a codec only ASCII stands unescaped.
 bool WriteIniValues(const QString& path, const QVariantMap& values, const char* codec = nullptr);

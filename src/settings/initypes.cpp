@@ -2,15 +2,14 @@
 
 #include <QByteArray>
 #include <QMetaType>
-#include <QtEndian>
 
 #include <cstring>
 
 namespace {
 
 constexpr int kNone = -1;
+constexpr int kQt4KeySequence = 76; // values are written as Qt 4 numbered the types
 constexpr int kQt4Float = 135;
-constexpr quint32 kMostKeys = 4; ///< of a key sequence; room is made for as many as a file says
 
 bool IsLineEnd(char c)
 {
@@ -72,34 +71,37 @@ int NextVisible(const QByteArray& ini, int* at)
     return kNone;
 }
 
-/// The bytes that follow, as a stream of Qt 4 takes them: a number in network order. False where they are
-/// not written as QSettings writes them.
-bool ReadNumber(const QByteArray& ini, int* at, quint32* number)
+/// The byte that comes next; kNone where it is not written as QSettings writes it.
+int NextByte(const QByteArray& ini, int* at)
 {
-    uchar bytes[4];
-    for (uchar& byte : bytes) {
-        if (*at >= ini.size())
-            return false;
-        const char c = ini[(*at)++];
-        const int value = c == '\\' ? Escaped(ini, at) : c > ' ' && c < 0x7f && c != '"' ? c : kNone;
-        if (value == kNone || value > 0xff)
-            return false;
-        byte = static_cast<uchar>(value);
-    }
-    *number = qFromBigEndian<quint32>(bytes);
-    return true;
+    if (*at >= ini.size())
+        return kNone;
+    const char c = ini[(*at)++];
+    const int value = c == '\\' ? Escaped(ini, at) : c > ' ' && c < 0x7f && c != '"' ? c : kNone;
+    return value > 0xff ? kNone : value;
 }
 
-/// Of what follows "@": no value with a type, or one of a type that reads without harm.
-bool IsHarmless(const QByteArray& ini, int at)
+int NextNumber(const QByteArray& ini, int* at)
 {
-    for (const char c : {'V', 'a', 'r', 'i', 'a', 'n', 't', '('})
-        if (NextVisible(ini, &at) != c)
-            return true;
-    quint32 type = 0;
-    quint32 keys = 0;
-    if (!ReadNumber(ini, &at, &type))
-        return false;
+    quint32 number = 0;
+    for (int i = 0; i < 4; ++i) {
+        const int byte = NextByte(ini, at);
+        if (byte == kNone)
+            return kNone;
+        number = number << 8 | quint32(byte);
+    }
+    return static_cast<int>(number);
+}
+
+bool Follows(const char* word, const QByteArray& ini, int* at)
+{
+    while (*word && NextVisible(ini, at) == *word)
+        ++word;
+    return *word == '\0';
+}
+
+bool IsHarmlessType(int type)
+{
     switch (type) {
     case QMetaType::Bool:
     case QMetaType::Int:
@@ -111,25 +113,53 @@ bool IsHarmless(const QByteArray& ini, int at)
     case QMetaType::QDate:
     case QMetaType::QTime:
     case QMetaType::QDateTime:
+    case QMetaType::QUrl:
+    case QMetaType::QRectF:
+    case QMetaType::QSizeF:
+    case QMetaType::QLine:
+    case QMetaType::QLineF:
+    case QMetaType::QPointF:
     case QMetaType::QColor:
+    case kQt4KeySequence:
     case kQt4Float:
         return true;
-    case QMetaType::QKeySequence:
-        return ReadNumber(ini, &at, &keys) && keys <= kMostKeys;
     default:
         return false;
     }
+}
+
+/// A date with a time; one of a named time zone would have a file of that name read.
+bool IsHarmlessDateTime(const QByteArray& ini, int* at)
+{
+    constexpr int beforeZone = 13; ///< bytes: whether it is null, the date, the time
+    if (NextNumber(ini, at) != QMetaType::QDateTime)
+        return false;
+    for (int i = 0; i < beforeZone; ++i)
+        NextByte(ini, at);
+    const int zone = NextByte(ini, at);
+    return zone != kNone && zone != Qt::TimeZone;
+}
+
+/// Of what follows "@": no value with a type, or one of a type that reads without harm.
+bool IsHarmless(const QByteArray& ini, int at)
+{
+    int variant = at;
+    if (Follows("Variant(", ini, &variant))
+        return IsHarmlessType(NextNumber(ini, &variant));
+    return !Follows("DateTime(", ini, &at) || IsHarmlessDateTime(ini, &at);
 }
 
 } // namespace
 
 bool MayHoldHarmfulTypes(const QByteArray& ini)
 {
+    bool escaped = false; // by a backslash: QSettings writes no "@" like that
     for (int i = 0; i < ini.size(); ++i) {
         int at = i + 1;
-        const bool begins = ini[i] == '@' || (ini[i] == '\\' && Escaped(ini, &at) == '@');
-        if (begins && !IsHarmless(ini, at))
+        const bool begins = ini[i] == '@' || (ini[i] == '\\' && !escaped && Escaped(ini, &at) == '@');
+        if (begins && (escaped || !IsHarmless(ini, at)))
             return true;
+        escaped = ini[i] == '\\' && !escaped;
     }
     return false;
 }

@@ -3,6 +3,6 @@
 class QByteArray;
 
 /// Whether the text of an INI file may hold a value that QSettings rebuilds as something else than a plain
-/// value, a colour, a key sequence, a date or a time. Rather says so too often: it looks at what follows each
-/// "@", wherever that stands.
+/// value, geometry, a URL, a colour, a key sequence, a date or a time. Rather says so too often: it looks at
+/// what follows each "@", wherever that stands.
 bool MayHoldHarmfulTypes(const QByteArray& ini);

@@ -222,6 +222,15 @@ TEST(TileSetChainTest, NormalisationClosesGapsAndResolvesEqualIndices)
         wall.GetTile(i)->SetConnectionIndex(stored[static_cast<size_t>(i)], nullptr);
         wall.GetTile(i)->SetBeginRcvCnnt(99);
     }
+    CTileSet listedTwice;
+    for (int i : {3, 0, 1, 2, 4, 5, 3, 2})
+        listedTwice.AddTile(wall.GetTile(i));
+    listedTwice.TileSetNormalization();
+    EXPECT_EQ(Indices(wall), (std::vector<int>{3, 0, -1, 2, 4, 1})) << "its order decides between equals";
+    EXPECT_EQ(Begins(wall), (std::vector<int>{12, 0, -1, 8, 13, 2}));
+
+    for (int i = 0; i < 6; ++i)
+        wall.GetTile(i)->SetConnectionIndex(stored[static_cast<size_t>(i)], nullptr);
     CTileSet chain;
     for (int round = 0; round < 2; ++round) {
         wall.GetTileSetNumberedNormalization(chain);
