@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr double kMostAboveFloor = 0.1; ///< of the power that a time grows with
+
 std::string Number(double value)
 {
     char text[32];
@@ -77,8 +79,9 @@ std::string TableReporter::Growth(const std::string& what, const Pair& large) co
     const auto small = m_pairs.find(what + "/8192");
     if (small == m_pairs.end())
         return {};
-    return Number(Exponent(small->second.floor, large.floor)) + " → "
-           + Number(Exponent(small->second.ours, large.ours));
+    const double floor = Exponent(small->second.floor, large.floor);
+    const double ours = Exponent(small->second.ours, large.ours);
+    return Number(floor) + " → " + Number(ours) + (ours > floor + kMostAboveFloor ? " NO" : "");
 }
 
 /// How often the time for 32768 cabinets goes into that for 131072.
