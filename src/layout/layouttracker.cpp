@@ -12,6 +12,11 @@ namespace {
 constexpr std::uint64_t kWalkShare = 4; ///< from this share of the cabinets on, looking at all is as fast
 constexpr int kScannedFrom = 64;        ///< fewer cabinets are looked at one and all
 
+quintptr Address(const CTile* tile)
+{
+    return reinterpret_cast<quintptr>(tile);
+}
+
 /// Both ascend; each position remains once.
 void Merge(const std::vector<int>& from, std::vector<int>* into)
 {
@@ -63,6 +68,8 @@ bool LayoutTracker::CatchUp(const QList<CTile*>& tiles)
     if (!m_scanned && !Scan())
         return false;
     const bool complete = m_journal.CatchUp([this](const CTile* tile) {
+        if (Address(tile) < m_lowest || Address(tile) > m_highest)
+            return;
         const int position = m_slots[Slot(tile)];
         if (position >= 0)
             m_touched.push_back(position);
@@ -87,7 +94,10 @@ bool LayoutTracker::Scan()
         --m_slotShift;
     m_slots.assign(size_t(1) << (64 - m_slotShift), -1);
     m_handedOut.clear();
+    m_lowest = m_highest = Address(m_tiles.constFirst());
     for (int i = 0; i < m_tiles.size(); ++i) {
+        m_lowest = qMin(m_lowest, Address(m_tiles.at(i)));
+        m_highest = qMax(m_highest, Address(m_tiles.at(i)));
         int& position = m_slots[Slot(m_tiles.at(i))];
         if (position >= 0)
             return false;
@@ -102,7 +112,7 @@ bool LayoutTracker::Scan()
 /// The slot of that cabinet, or the empty one where it belongs.
 size_t LayoutTracker::Slot(const CTile* tile) const
 {
-    const quint64 spread = (reinterpret_cast<quintptr>(tile) >> 4) * Q_UINT64_C(0x9E3779B97F4A7C15);
+    const quint64 spread = (Address(tile) >> 4) * Q_UINT64_C(0x9E3779B97F4A7C15);
     auto slot = static_cast<size_t>(spread >> m_slotShift);
     while (m_slots[slot] >= 0 && m_tiles.at(m_slots[slot]) != tile)
         slot = (slot + 1) % m_slots.size();

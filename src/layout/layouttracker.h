@@ -37,6 +37,8 @@ private:
     bool m_scanned = false;
     std::vector<int> m_slots; ///< cabinet to position: open addressing; -1: empty
     int m_slotShift = 0;
+    quintptr m_lowest = 0; ///< address of a cabinet; tells most of other ports apart without the slots
+    quintptr m_highest = 0;
     std::vector<int> m_handedOut; ///< positions that change without notice; ascending
 
     std::vector<int> m_touched; ///< positions that may have left their record; ascending

@@ -344,6 +344,9 @@ std::vector<Case> OtherCases()
         {"windows: a long line",
          [](qint64 s) { return "a=" + QByteArray(int(qMin(s, qint64(4) << 20)) - 64, ','); },
          LoadInterfaceSettings},
+        {"windows: at signs",
+         [](qint64 s) { return "a=" + QByteArray("\\@").repeated(int(qMin(s, qint64(4) << 20) / 2) - 64); },
+         LoadInterfaceSettings},
         {"customer: arrays",
          [](qint64 s) {
              return "{\"a\":[" + QByteArray("[],").repeated(int(qMin(s, qint64(16) << 20) / 3) - 64) + "1]}";
