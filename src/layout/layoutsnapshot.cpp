@@ -42,6 +42,20 @@ bool IsAsRecorded(CTile* tile, const TileRun::Record& record)
     return true;
 }
 
+/// A cabinet that was not as recorded is another one afterwards.
+void PutBack(CTile* tile, const TileRun::Record& record)
+{
+    if (!IsAsRecorded(tile, record))
+        tile->Become(record.constData());
+}
+
+CTile* NewTile(const TileRun::Record& record)
+{
+    auto* tile = new CTile;
+    tile->SetData(record.constData());
+    return tile;
+}
+
 /// Apart from the groups below it.
 bool IsAsRecorded(const CTileGroup& group, const GroupSnapshot& record)
 {
@@ -184,15 +198,30 @@ void TileRun::Restore(CTileSet* tiles) const
     int i = 0;
     for (const ChunkPointer& chunk : m_chunks) {
         for (const Record& record : chunk->tiles) {
-            CTile* tile = i < present ? tiles->GetTiles().at(i) : new CTile;
-            if (tile->GetData() != record.constData())
-                tile->SetData(record.constData());
-            if (i >= present)
-                tiles->AddTile(tile);
+            if (i < present)
+                PutBack(tiles->GetTiles().at(i), record);
+            else
+                tiles->AddTile(NewTile(record));
             ++i;
         }
     }
+    SeparateRepeated(tiles, present);
     tiles->Truncate(m_count);
+}
+
+/// A cabinet that the first `present` entries list twice cannot be as both records: the former become others.
+void TileRun::SeparateRepeated(CTileSet* tiles, int present) const
+{
+    int i = 0;
+    for (const ChunkPointer& chunk : m_chunks) {
+        for (const Record& record : chunk->tiles) {
+            if (i < present && !IsAsRecorded(tiles->GetTiles().at(i), record)) {
+                tiles->AddTile(NewTile(record));
+                tiles->ExchangeTile(i, tiles->GetCount() - 1);
+            }
+            ++i;
+        }
+    }
 }
 
 bool TileRun::Restore(CTileSet* tiles, const TileRun& present, const std::vector<int>& touched) const
@@ -209,11 +238,11 @@ bool TileRun::Restore(CTileSet* tiles, const TileRun& present, const std::vector
         const std::vector<Record>& before = present.m_chunks[at]->tiles;
         for (size_t i = 0; m_chunks[at] != present.m_chunks[at] && i < records.size(); ++i) {
             if (records[i] != before[i])
-                tiles->GetTiles().at(first + static_cast<int>(i))->SetData(records[i].constData());
+                PutBack(tiles->GetTiles().at(first + static_cast<int>(i)), records[i]);
         }
         const int end = first + m_chunks[at]->Size();
         for (; next != touched.end() && *next < end; ++next)
-            tiles->GetTiles().at(*next)->SetData(records[static_cast<size_t>(*next - first)].constData());
+            PutBack(tiles->GetTiles().at(*next), records[static_cast<size_t>(*next - first)]);
         first = end;
     }
     return true;
@@ -261,14 +290,14 @@ bool TileRun::IsEqual(const CTileSet& tiles) const
 GroupSnapshot::List GroupSnapshot::Take(const CTileGroupSet& groups, const List& previous)
 {
     QHash<QUuid, Pointer> byId; // filled when groups no longer stand where they stood
-    const auto find = [&](size_t place, const QUuid& id) {
-        if (place < previous.size() && previous[place]->id == id)
+    const auto find = [&](size_t place, const QUuid& wanted) {
+        if (place < previous.size() && previous[place]->id == wanted)
             return previous[place];
         if (byId.isEmpty()) {
             for (const Pointer& record : previous)
                 byId.insert(record->id, record);
         }
-        return byId.value(id);
+        return byId.value(wanted);
     };
     List list;
     list.reserve(static_cast<size_t>(groups.GetDirectCount()));

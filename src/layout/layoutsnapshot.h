@@ -36,8 +36,8 @@ public:
     /// has its record there. Positions ascend.
     static TileRun Take(const CTileSet& tiles, const TileRun& previous, const std::vector<int>& touched);
 
-    void
-    Restore(CTileSet* tiles) const; ///< in place, so cabinets that stay keep their address and view state
+    /// In place: a cabinet keeps its address, and its view state when it is as recorded.
+    void Restore(CTileSet* tiles) const;
     /// The same where, outside the positions `touched`, each cabinet has its record in `present`. False, and
     /// nothing done, when the two runs are not divided alike.
     bool Restore(CTileSet* tiles, const TileRun& present, const std::vector<int>& touched) const;
@@ -48,6 +48,7 @@ public:
     const std::vector<ChunkPointer>& GetChunks() const { return m_chunks; }
 
 private:
+    void SeparateRepeated(CTileSet* tiles, int present) const;
     void Append(const ChunkPointer& chunk);
     void AppendInPlace(const CTileSet& tiles, const ChunkPointer& previous);
     void AppendMoved(const CTileSet& tiles, int end, const TileRun& previous, size_t from, size_t to);

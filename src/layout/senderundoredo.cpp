@@ -65,7 +65,7 @@ bool CSenderRecordItem::RestorePort(int port, CPort* live, LayoutTracker* tracke
     const Port& record = *m_ports[static_cast<size_t>(port)];
     if (record.backup != live->IsBackupDest()) {
         live->GetPortProject()->ClearAllTiles();
-        return false;
+        return record.layout->IsEqual(*live->GetPortProject());
     }
     live->SetSenderIdAndPortIndex(record.senderId, record.portIndex);
     tracker->Restore(live->GetPortProject(), record.layout);

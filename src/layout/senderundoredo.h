@@ -62,8 +62,8 @@ public:
 
     bool IsLayoutEqual(const CSenderRecordItem& other) const; ///< all 160 ports, groups in depth
     bool IsLayoutEqual(int port, const CPort& live) const;
-    /// Puts the recorded layout back, or clears the port when only one of the two is a backup (then false).
-    /// Cabinets that stay keep their address and view state.
+    /// Puts the recorded layout back, or clears the port when only one of the two is a backup. False when the
+    /// port is not as recorded then. Cabinets keep their address, and view state where nothing changed.
     bool RestorePort(int port, CPort* live, LayoutTracker* tracker) const;
 
 private:

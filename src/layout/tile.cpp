@@ -491,6 +491,14 @@ void CTile::SetData(const TileData* data)
             const_cast<TileData*>(data); // written to only through Write(), which leaves shared data alone
 }
 
+void CTile::Become(const TileData* data)
+{
+    SetData(data);
+    m_showColor = QColor();
+    m_gamutStatus = 0;
+    m_rcvSelected = 0;
+}
+
 TileData& CTile::Write()
 {
     if (m_data->ref.loadRelaxed() == 1)

@@ -111,6 +111,7 @@ public:
     // inside the library: the shared record, so that snapshots compare and share without copying
     const TileData* GetData() const { return m_data.constData(); }
     void SetData(const TileData* data); ///< shares it; copies into place where a pointer is out
+    void Become(const TileData* data);  ///< the same, without view state afterwards, as a copy is
 
 private:
     friend class CTileSet; // marks what it frees

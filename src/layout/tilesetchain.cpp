@@ -268,7 +268,7 @@ bool CTileSet::NumberSetRect(int& next, const QRect& rect, const QSize&, int dir
         CTile* tile = m_tiles.at(stop.position);
         if (tile->HasSetConnectIndex())
             continue; // listed twice
-        if (previous)
+        if (previous && next > 0)
             SetPlace(tile, next, ReceiversUpTo(previous, previous->GetBeginRcvCnnt()));
         else
             tile->SetConnectionIndex(next, this);

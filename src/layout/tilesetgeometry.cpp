@@ -117,14 +117,15 @@ struct CenterWithin
     bool Takes(const CTile& tile) const { return rect.contains(tile.GetCenter()); }
 };
 
-/// Where a tile at `place` goes when the grid from `origin` changes its step; `place` when it is off the
-/// grid.
+bool IsOnGrid(int place, int origin, int step)
+{
+    return step != 0 && (qint64(place) - origin) % step == 0;
+}
+
+/// Where a tile on the grid from `origin` goes when that changes its step.
 int OnNewGrid(int place, int origin, int oldStep, int newStep)
 {
-    const qint64 distance = qint64(place) - origin;
-    if (oldStep == 0 || distance % oldStep != 0)
-        return place;
-    return SaturatedInt(origin + distance / oldStep * newStep);
+    return SaturatedInt(origin + (qint64(place) - origin) / oldStep * newStep);
 }
 
 } // namespace
@@ -222,9 +223,8 @@ void CTileSet::SetWidthAuto(int width, bool keepGrid)
         return;
     const int left = GetBound().left();
     for (CTile* tile : qAsConst(m_tiles)) {
-        const int x = OnNewGrid(tile->GetX(), left, tile->GetWidth(), width);
-        if (keepGrid && x != tile->GetX())
-            tile->SetX(x);
+        if (keepGrid && IsOnGrid(tile->GetX(), left, tile->GetWidth()))
+            tile->SetX(OnNewGrid(tile->GetX(), left, tile->GetWidth(), width));
         tile->SetWidth(width);
     }
 }
@@ -235,9 +235,8 @@ void CTileSet::SetHeightAuto(int height, bool keepGrid)
         return;
     const int top = GetBound().top();
     for (CTile* tile : qAsConst(m_tiles)) {
-        const int y = OnNewGrid(tile->GetY(), top, tile->GetHeight(), height);
-        if (keepGrid && y != tile->GetY())
-            tile->SetY(y);
+        if (keepGrid && IsOnGrid(tile->GetY(), top, tile->GetHeight()))
+            tile->SetY(OnNewGrid(tile->GetY(), top, tile->GetHeight(), height));
         tile->SetHeight(height);
     }
 }

@@ -348,27 +348,51 @@ TEST_F(ProjectUndoRedoTest, AStepCostsWhatItChanged)
     EXPECT_LE(base->GetTiles().GetChunks().size(), 40u) << "many small edits leave no crowd of small chunks";
 }
 
-TEST_F(ProjectUndoRedoTest, CabinetsThatStayKeepTheirAddressAndViewState)
+TEST_F(ProjectUndoRedoTest, CabinetsKeepTheirAddressAndViewStateWhereNothingChanged)
 {
     CTile* moved = &Tile(0, 1);
     const SRotateParam* record = Tile(0, 2).GetTileRotateParam();
-    moved->SetTileShowColor(Qt::red);
+    for (int i = 0; i < 2; ++i)
+        Tile(0, i).SetTileShowColor(Qt::red);
     history.Init();
     moved->SetX(999);
+    moved->SetRcvSelected(0, true);
     Tile(0, 2).GetTileRotateParam()->angle = 45;
-    MakeWall(Port(0), 3, 1);
+    Port(0).GetPortProject()->GetTileSet()->AddTile(new CTile);
     EXPECT_TRUE(history.AddOneStep(Record::OperationAddTiles));
     EXPECT_TRUE(Undo());
     EXPECT_EQ(TilesOf(Port(0)).GetCount(), 4);
     EXPECT_EQ(&Tile(0, 1), moved);
     EXPECT_EQ(moved->GetX(), 128);
-    EXPECT_EQ(moved->GetTileShowColor(), QColor(Qt::red));
+    EXPECT_EQ(Tile(0, 0).GetTileShowColor(), QColor(Qt::red));
+    EXPECT_FALSE(moved->GetTileShowColor().isValid() || moved->IsRcvSelected(0));
     EXPECT_EQ(record->angle, 0) << "a pointer into a cabinet stays right";
     EXPECT_EQ(record, Tile(0, 2).GetTileRotateParam());
 }
 
+TEST_F(ProjectUndoRedoTest, CabinetListedTwiceBecomesTwoWhenTwoWereRecorded)
+{
+    CTileSet& tiles = *Port(0).GetPortProject()->GetTileSet();
+    const CTileSet before = tiles;
+    history.Init();
+    tiles.DeteleTile(1);
+    tiles.AddTile(tiles.GetTile(0));
+    EXPECT_TRUE(history.AddOneStep(Record::OperationAddTiles));
+    EXPECT_TRUE(Undo());
+    EXPECT_EQ(tiles, before);
+    EXPECT_NE(tiles.GetTile(0), tiles.GetTile(tiles.GetCount() - 1));
+}
+
 TEST_F(ProjectUndoRedoTest, HiddenPortsAndPortsThatBecameBackupsAreLeftOut)
 {
+    Edit(0);
+    ASSERT_EQ(TilesOf(Port(100)).GetCount(), 0);
+    Port(100).SetBeBackupDest(QUuid::createUuid(), 1);
+    history.SetAsSaveStep();
+    EXPECT_TRUE(Undo() && Redo());
+    EXPECT_FALSE(history.IsModidfied()) << "an empty port has nothing to lose";
+    Port(100).CancelBackupDest();
+
     const int before = Tile(0).GetX();
     Edit(1);
     Edit(0);
