@@ -24,3 +24,15 @@ bool ReadInput(const QString& path, qint64 most, QByteArray* content, QString* e
     *content = file.read(file.size());
     return file.error() == QFileDevice::NoError || Fail(error, file.errorString());
 }
+
+bool CopyContent(QIODevice& from, QIODevice& to)
+{
+    QByteArray buffer(1 << 16, Qt::Uninitialized);
+    for (;;) {
+        const qint64 got = from.read(buffer.data(), buffer.size());
+        if (got <= 0)
+            return got == 0;
+        if (to.write(buffer.constData(), got) != got)
+            return false;
+    }
+}

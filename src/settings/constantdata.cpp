@@ -77,6 +77,16 @@ SMD5 HashOf(QFile& file, const QString& name)
     return SMD5::FromString(QString::fromLatin1(hash.result().toHex()));
 }
 
+/// Opens a new file that loses its name at once, so that a crash leaves nothing, or an empty file that the
+/// next call takes. False when the name is somebody else's.
+bool OpenNameless(QFile& file)
+{
+    const QFileInfo left(file);
+    if (left.isFile() && !left.isSymLink() && left.size() == 0)
+        file.remove();
+    return file.open(QIODevice::ReadWrite | QIODevice::NewOnly) && QFile::remove(file.fileName());
+}
+
 } // namespace
 
 QString CConstantData::GetSysConfigDir()
@@ -197,15 +207,14 @@ int CConstantData::GetBightnessFromPercent(int percent, bool linear)
 SMD5 CConstantData::GetMD5FromFile(const QString& path)
 {
     // A copy is hashed, so that a file that another program is writing is read in one short go.
-    const QString scratch = DocumentsFolder() + QStringLiteral("/tmpfile");
-    const bool copied =
-        QFileInfo(path).isFile() && !QFileInfo(scratch).isSymLink() && QFile::copy(path, scratch);
-    QFile file(copied ? scratch
-                      : path); // the name is taken, by somebody else's file, or nothing can be copied
-    OpenInput(file);
-    if (copied)
-        QFile::remove(scratch); // while it is open, so that a crash leaves nothing
-    return HashOf(file, path);
+    QFile source(path);
+    QFile scratch(DocumentsFolder() + QStringLiteral("/tmpfile"));
+    if (!OpenInput(source) || !OpenNameless(scratch))
+        return HashOf(source, path);
+    if (CopyContent(source, scratch) && scratch.seek(0))
+        return HashOf(scratch, path);
+    source.seek(0);
+    return HashOf(source, path);
 }
 
 void CConstantData::ZipFile(const QString& folder, const QString& zipPath)

@@ -58,6 +58,8 @@ protected:
         EXPECT_EQ(Names(CProductDirectorySet::GetRootDir()), "ProductList.ini product1.rcvbp product2.rcvbp");
         EXPECT_FALSE(
             QFile::exists(CConstantData::GetProjectParamFileTemp().chopped(1) + QLatin1String(".lock")));
+        EXPECT_EQ(QDir(QDir::homePath() + QLatin1String("/Documents")).entryList(QDir::Files | QDir::Hidden),
+                  QStringList());
     }
 
     static void KillAfter(int milliseconds, const QString& folder)
@@ -92,7 +94,8 @@ TEST_F(CrashSafetyTest, FailingCallLeavesTheOldFileAndIsToldOrTheNewOne)
 {
     for (int document = 0; document < kDocuments; ++document) {
         SaveAll(1);
-        for (int failing = 1, calls = 1; failing <= calls + 1; ++failing) {
+        int calls = 1;
+        for (int failing = 1; failing <= calls + 1; ++failing) {
             ASSERT_TRUE(SaveVersion(Document(document), folder, 1));
             FailCall(failing);
             const bool saved = SaveVersion(Document(document), folder, 2);
@@ -102,6 +105,7 @@ TEST_F(CrashSafetyTest, FailingCallLeavesTheOldFileAndIsToldOrTheNewOne)
             EXPECT_EQ(version, saved ? 2 : qMax(version, 1)) << document << ", call " << failing;
         }
         EXPECT_EQ(VersionOf(Document(document), folder), 2) << document << ", no call failed";
+        EXPECT_GE(calls, 4) << document << ": open, write, flush, rename";
     }
     ExpectNothingLeft();
 }

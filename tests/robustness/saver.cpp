@@ -1,9 +1,8 @@
 // Saves documents in a process of its own, for the tests:
-//   saver loop FOLDER                      both versions of every document over and over, until it is killed
-//   saver lock PROJECT                     holds the lock of a project, until it is killed
-//   saver project FOLDER VERSION ROUNDS    a project, and reads it back each time; ends with 1 when that
-//   gives
-//                                          anything else
+//   saver loop FOLDER                    both versions of every document over and over, until it is killed
+//   saver lock PROJECT                   holds the lock of a project, until it is killed
+//   saver project FOLDER VERSION ROUNDS  a project, and reads it back each time; 1 when it reads anything
+//   else
 #include "frame/lednimbradata.h"
 #include "project/projectlock.h"
 #include "robustness/documents.h"
