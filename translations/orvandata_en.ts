@@ -84,12 +84,20 @@
         <translation>groups are nested too deep; deeper ones passed over</translation>
     </message>
     <message>
+        <source>“%1”过多，最多%2个，文件未保存。</source>
+        <translation>There are too many &quot;%1&quot;, %2 at most; the file was not saved.</translation>
+    </message>
+    <message>
         <source>“%1”应有%2个，实有%3个</source>
         <translation>&quot;%1&quot; should be there %2 times, is there %3 times</translation>
     </message>
     <message>
         <source>缺少参数文件“%1”</source>
         <translation>parameter file &quot;%1&quot; is missing</translation>
+    </message>
+    <message>
+        <source>参数文件“%1”无法保存</source>
+        <translation>parameter file &quot;%1&quot; cannot be saved</translation>
     </message>
     <message>
         <source>另一个程序正在使用项目工作文件夹。</source>

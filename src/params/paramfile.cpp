@@ -1,7 +1,9 @@
 #include "params/paramfile.h"
 
 #include "common/atomicfile.h"
+#include "common/failure.h"
 #include "common/xmldom.h"
+#include "common/xmlreader.h"
 #include "common/xmlwriter.h"
 #include "custommessagebox.h"
 #include "layout/sender.h"
@@ -78,22 +80,26 @@ std::string Utf8(const QString& text)
     return text.toStdString();
 }
 
-/// An element of ours: children or one text, no attributes.
-void WriteElement(XmlWriter& writer, const QDomElement& element)
+/// An element of ours: children or one text, no attributes. Returns how many elements it is.
+int WriteElement(XmlWriter& writer, const QDomElement& element)
 {
+    int count = 1;
     writer.BeginElement(Utf8(element.tagName()));
     QDomElement child = element.firstChildElement();
     if (child.isNull())
         writer.Text(Utf8(element.text()));
     for (; !child.isNull(); child = child.nextSiblingElement())
-        WriteElement(writer, child);
+        count += WriteElement(writer, child);
     writer.EndElement();
+    return count;
 }
 
-/// A tree keeps no order of attributes, so the root is written by hand.
+/// A tree keeps no order of attributes, so the root is written by hand. Fails with `tooLarge` when no reader
+/// would take the file.
 bool WriteFile(QIODevice& file, const Family& family, bool matchByIp, int count,
-               const QDomElement& processors)
+               const QDomElement& processors, QString* tooLarge)
 {
+    constexpr int rootNodes = 6; ///< at most: the root and its attributes
     StreamXmlWriter writer(file, family.encoding);
     writer.BeginElement(family.root);
     for (const char* attribute : family.zeroAttributes)
@@ -101,11 +107,14 @@ bool WriteFile(QIODevice& file, const Family& family, bool matchByIp, int count,
     writer.Attribute(kCheckValue, "1");
     writer.Attribute(kSpecifyIp, matchByIp ? "1" : "0");
     writer.Attribute(kProcessorCount, std::to_string(count));
+    int nodes = rootNodes;
     for (QDomElement element = processors.firstChildElement(); !element.isNull();
          element = element.nextSiblingElement())
-        WriteElement(writer, element);
+        nodes += WriteElement(writer, element);
     writer.EndElement();
-    return writer.Flush();
+    return writer.Flush()
+           && ((nodes <= kMaxTreeNodes && file.size() <= kMaxXmlBytes)
+               || Fail(tooLarge, QCoreApplication::translate("OrvanData", "文件过大。")));
 }
 
 quint32 Export(const Family& family, ParamsLookup& lookup, const QString& path, const QUuid& id)
@@ -126,10 +135,14 @@ quint32 Export(const Family& family, ParamsLookup& lookup, const QString& path, 
 
     const bool matchByIp = lookup.Prepared().matchByIp;
     QString error;
+    QString tooLarge;
     const bool saved = ReplaceFile(
-        path, [&](QIODevice& file) { return WriteFile(file, family, matchByIp, chosen.size(), processors); },
+        path,
+        [&](QIODevice& file) {
+            return WriteFile(file, family, matchByIp, chosen.size(), processors, &tooLarge);
+        },
         &error);
-    lookup.SetFileError(saved ? QString() : error);
+    lookup.SetFileError(saved ? QString() : tooLarge.isEmpty() ? error : tooLarge);
     return saved ? kDone : kFailed;
 }
 

@@ -1,5 +1,6 @@
 // The layout of one sender or of one port in a file of its own.
 #include "common/atomicfile.h"
+#include "common/failure.h"
 #include "common/inputfile.h"
 #include "common/xmlwriter.h"
 #include "layout/sender.h"
@@ -60,14 +61,18 @@ bool ReadElement(const QByteArray& content, std::initializer_list<std::string_vi
 
 bool WriteFile(const QString& path, const std::function<void(XmlWriter&)>& write, QString& error)
 {
-    return ReplaceFile(
+    QString tooLarge;
+    const bool written = ReplaceFile(
         path,
-        [&write](QIODevice& file) {
+        [&](QIODevice& file) {
             StreamXmlWriter writer(file);
             write(writer);
-            return writer.Flush();
+            return writer.Flush()
+                   && (file.size() <= kMaxXmlBytes
+                       || Fail(&tooLarge, QCoreApplication::translate("OrvanData", "文件过大。")));
         },
         &error);
+    return written || tooLarge.isEmpty() ? written : Fail(&error, tooLarge);
 }
 
 /// Gives the groups of a port whose ids are used elsewhere fresh ones, and adds all of the port's to the
@@ -109,6 +114,9 @@ bool CProjectData::ExportSender(const QString& path, const QUuid& senderId)
     const CSender* sender = GetSender(GetScIndexByID(senderId));
     if (!sender)
         return FailFile(QCoreApplication::translate("OrvanData", "没有这个主控。"));
+    const QString tooLarge = WhyTooLarge(QList<const CSender*>{sender});
+    if (!tooLarge.isEmpty())
+        return FailFile(tooLarge);
     return WriteFile(
         path,
         [sender](XmlWriter& writer) {
@@ -166,6 +174,9 @@ bool CProjectData::ExportPort(const QString& path)
     const CPort* port = sender ? sender->GetPort(sender->GetRecentPortIndex()) : nullptr;
     if (!port)
         return FailFile(QCoreApplication::translate("OrvanData", "没有这个输出口。"));
+    const QString tooLarge = WhyTooLarge(QList<const CPort*>{port});
+    if (!tooLarge.isEmpty())
+        return FailFile(tooLarge);
     return WriteFile(
         path, [port](XmlWriter& writer) { WritePortElement(writer, kPortRoot, *port); }, m_lastFileError);
 }

@@ -5,6 +5,8 @@
 #include "layout/tilegroup.h"
 #include "project/layoutrecords.h"
 
+#include <QCoreApplication>
+
 using namespace layoutnames;
 
 namespace {
@@ -75,6 +77,40 @@ void WriteSenderElement(XmlWriter& writer, std::string_view name, const CSender&
     for (int i = 0; i < sender.GetPortCount(); ++i)
         WritePortElement(writer, Numbered(kPort, i + 1), *sender.GetPort(i));
     writer.EndElement();
+}
+
+QString WhyTooLarge(const QList<const CPort*>& ports)
+{
+    qint64 tiles = 0;
+    qint64 groups = 0;
+    for (const CPort* port : ports) {
+        const CPortProject& layout = *port->GetPortProject();
+        if (layout.GetTileSet()->GetCount() > kMaxTilesOfPort)
+            return TooMany(kTile, kMaxTilesOfPort);
+        tiles += layout.GetTileSet()->GetCount();
+        QList<CTileGroup*> list;
+        groups += layout.GetTileGroupSet()->GetGroupListRecursive(list);
+    }
+    if (tiles > kMaxTilesOfFile)
+        return TooMany(kTile, kMaxTilesOfFile);
+    return groups > kMaxGroupsOfFile ? TooMany(kGroup, kMaxGroupsOfFile) : QString();
+}
+
+QString WhyTooLarge(const QList<const CSender*>& senders)
+{
+    if (senders.size() > kMaxSenders)
+        return TooMany(kSender, kMaxSenders);
+    QList<const CPort*> ports;
+    for (const CSender* sender : senders)
+        for (int i = 0; i < sender->GetPortCount(); ++i)
+            ports.append(sender->GetPort(i));
+    return WhyTooLarge(ports);
+}
+
+QString TooMany(const char* child, int most)
+{
+    return QCoreApplication::translate("OrvanData", "“%1”过多，最多%2个，文件未保存。")
+        .arg(QLatin1String(child), QString::number(most));
 }
 
 void WriteSenders(XmlWriter& writer, const QList<CSender*>& senders, const std::function<void(int)>& progress)

@@ -3,6 +3,7 @@
 #include "common/xmlwriter.h"
 
 #include <QList>
+#include <QString>
 
 #include <functional>
 #include <string>
@@ -25,6 +26,13 @@ void WritePortElement(XmlWriter& writer, std::string_view name, const CPort& por
 
 /// With its device a sender says which processor it stands for, as project files do.
 void WriteSenderElement(XmlWriter& writer, std::string_view name, const CSender& sender, bool withDevice);
+
+/// Why a file of these would not be read whole again; empty when it would.
+QString WhyTooLarge(const QList<const CPort*>& ports);
+QString WhyTooLarge(const QList<const CSender*>& senders); ///< their ports in use
+
+/// That there are more children of this name than are read.
+QString TooMany(const char* child, int most);
 
 void WriteSenders(XmlWriter& writer, const QList<CSender*>& senders,
                   const std::function<void(int)>& progress);

@@ -1,5 +1,7 @@
 #include "project/parameterwork.h"
 
+#include "common/atomicfile.h"
+#include "common/inputfile.h"
 #include "products/productdirectoryset.h"
 #include "project/readreport.h"
 #include "settings/constantdata.h"
@@ -58,9 +60,11 @@ bool HoldsType(const QString& path, const SMD5& type)
 
 bool Replace(const QString& source, const QString& target)
 {
-    if (IsThere(target) && !QFile::remove(target))
+    QFile file(source);
+    // A link would be written through.
+    if (!OpenInput(file) || (QFileInfo(target).isSymLink() && !QFile::remove(target)))
         return false;
-    return QFile::copy(source, target);
+    return ReplaceFile(target, [&file](QIODevice& copy) { return CopyContent(file, copy); });
 }
 
 /// Copies the row's file to where it is packed: the project's own, or the library's when that is not of the
@@ -191,7 +195,8 @@ void DistributeAfterLoading(const QList<SParameterFileInfo>& rows, CProductDirec
         }
         if (rows[i].name.isEmpty()) // a repeated type, listed once under another row
             continue;
-        Store(source, rows[i].name, rows[i].type);
+        if (!Store(source, rows[i].name, rows[i].type))
+            report.Add(QCoreApplication::translate("OrvanData", "参数文件“%1”无法保存").arg(rows[i].name));
         if (products)
             OfferToLibrary(source, rows[i], products);
     }

@@ -77,7 +77,7 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
 {
     m_lastFileError.clear();
     QLockFile lock(parameterwork::LockPath());
-    if (!PrepareWorkFolder(lock, path) || !SaveDocument(progress))
+    if (!IsReadAgain() || !PrepareWorkFolder(lock, path) || !SaveDocument(progress))
         return false;
 
     ReadReport report;
@@ -88,6 +88,23 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     if (complete && !PackFolder(parameterwork::ProjectFolder(), path, &error, kLimits))
         report.Add(error);
     m_lastFileError = report.Text();
+    return true;
+}
+
+bool CProjectData::IsReadAgain()
+{
+    QList<const CSender*> senders;
+    for (const CSender* sender : qAsConst(m_senders))
+        senders.append(sender);
+    const QString why = WhyTooLarge(senders);
+    if (!why.isEmpty())
+        return FailFile(why);
+    const std::pair<int, const char*> lists[] = {{m_groups.size(), kSenderGroupList.child},
+                                                 {m_gamma.size(), kGammaList.child},
+                                                 {m_parameterFiles.size(), kParameterFileList.child}};
+    for (const auto& [count, child] : lists)
+        if (count > kMaxListRecords)
+            return FailFile(TooMany(child, kMaxListRecords));
     return true;
 }
 

@@ -17,6 +17,7 @@
 namespace {
 
 constexpr int kBufferSize = 1 << 16;
+constexpr int kShownName = 64; ///< characters of a name that is too long
 
 struct Discard
 {
@@ -80,15 +81,27 @@ bool Extract(zip_t* archive, zip_uint64_t index, const QString& path, const QStr
            && ExtractFile(archive, index, stat.size, base + QLatin1Char('/') + path);
 }
 
+QString TooLarge(const QString& name)
+{
+    return QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(name);
+}
+
+QString NotUnpacked(const QString& name)
+{
+    return QCoreApplication::translate("OrvanData", "压缩包条目无法解压: %1").arg(name);
+}
+
 /// Checks an entry before anything is written for it. `left` shrinks by what it unpacks to, if that counts.
-bool Accept(zip_t* archive, zip_uint64_t index, bool counts, qint64* left)
+bool Accept(zip_t* archive, zip_uint64_t index, const QString& name, bool counts, qint64* left,
+            QString* error)
 {
     zip_stat_t stat;
-    if (zip_stat_index(archive, index, 0, &stat) != 0 || !IsReadable(stat) || IsLink(archive, index)
-        || stat.size > zip_uint64_t(kMaxArchiveEntrySize))
-        return false;
+    if (zip_stat_index(archive, index, 0, &stat) != 0 || !IsReadable(stat) || IsLink(archive, index))
+        return Fail(error, NotUnpacked(name));
+    if (stat.size > zip_uint64_t(kMaxArchiveEntrySize))
+        return Fail(error, TooLarge(name));
     *left -= counts ? static_cast<qint64>(stat.size) : 0;
-    return *left >= 0;
+    return *left >= 0 || Fail(error, TooLarge(name));
 }
 
 std::unique_ptr<zip_t, Discard> Open(const QString& path)
@@ -117,7 +130,7 @@ bool UnpackArchive(const QString& zipPath, const QString& folder,
         return Fail(error, QCoreApplication::translate("OrvanData", "不是有效的压缩包: %1").arg(zipPath));
     const zip_int64_t count = zip_get_num_entries(archive.get(), 0);
     if (count > kMaxArchiveEntries)
-        return Fail(error, QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(zipPath));
+        return Fail(error, TooLarge(zipPath));
 
     const qint64 withNul = FindNulInNames(zipPath);
     const QString base = QFileInfo(folder).absoluteFilePath();
@@ -125,13 +138,16 @@ bool UnpackArchive(const QString& zipPath, const QString& folder,
     QSet<QString> folders;
     for (zip_uint64_t i = 0; i < static_cast<zip_uint64_t>(count); ++i) {
         const QString name = GetArchiveEntryName(archive.get(), i);
-        if (name.isEmpty() || qint64(i) == withNul || name.count(QLatin1Char('/')) >= kMaxArchiveDepth)
+        if (name.isEmpty() || qint64(i) == withNul)
             return Fail(error, QCoreApplication::translate("OrvanData", "压缩包条目名称无效"));
+        if (name.count(QLatin1Char('/')) >= kMaxArchiveDepth)
+            return Fail(error, TooLarge(name.left(kShownName)));
         if (wanted && !wanted(name))
             continue;
-        if (!Accept(archive.get(), i, name != limits.apart, &left)
-            || !Extract(archive.get(), i, name, base, folders))
-            return Fail(error, QCoreApplication::translate("OrvanData", "压缩包条目无法解压: %1").arg(name));
+        if (!Accept(archive.get(), i, name, name != limits.apart, &left, error))
+            return false;
+        if (!Extract(archive.get(), i, name, base, folders))
+            return Fail(error, NotUnpacked(name));
     }
     return true;
 }

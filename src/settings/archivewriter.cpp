@@ -60,8 +60,10 @@ private:
     {
         const QString name = parent + QLatin1Char('/') + child.fileName();
         m_left -= child.isDir() || name == m_limits.apart ? 0 : child.size();
-        if (m_entries.size() == kMaxArchiveEntries || name.count(QLatin1Char('/')) >= kMaxArchiveDepth
-            || m_left < 0 || (!child.isDir() && child.size() > kMaxArchiveEntrySize))
+        const int depth =
+            name.count(QLatin1Char('/')) + (child.isDir() ? 1 : 0); // a folder's name ends in "/"
+        if (m_entries.size() == kMaxArchiveEntries || depth >= kMaxArchiveDepth || m_left < 0
+            || (!child.isDir() && child.size() > kMaxArchiveEntrySize))
             return Fail(error, QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(name));
         m_entries.append({name, child.isDir() ? QString() : child.filePath()});
         return !child.isDir() || Walk(child.filePath(), name, error);

@@ -33,7 +33,13 @@ bool CustomizeConfig::Load(const QString& path)
 
 bool CustomizeConfig::Save() const
 {
-    return !m_path.isEmpty() && ReplaceFile(m_path, QJsonDocument(m_values).toJson());
+    const QJsonDocument document(m_values);
+    QByteArray content = document.toJson();
+    if (content.size() > kMaxFileSize)
+        content = document.toJson(QJsonDocument::Compact);
+    // Read back, as values may be nested deeper than is read.
+    return !m_path.isEmpty() && content.size() <= kMaxFileSize && QJsonDocument::fromJson(content).isObject()
+           && ReplaceFile(m_path, content);
 }
 
 QJsonValue CustomizeConfig::Value(const QString& key, const QJsonValue& standard) const

@@ -17,12 +17,14 @@ namespace {
 constexpr qint64 kMaxFileSize = 1 << 22; ///< keys cost a hundred times their size
 
 /// Whether the file was written to its end: QSettings does not tell when the disk became full.
-bool IsComplete(const QString& path, const QVariantMap& values)
+bool IsComplete(const QString& path, const QVariantMap& values, const char* codec)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || !file.seek(file.size() - 1) || file.read(1) != "\n")
         return false;
-    const QSettings settings(path, QSettings::IniFormat);
+    QSettings settings(path, QSettings::IniFormat);
+    if (codec)
+        settings.setIniCodec(codec);
     const QStringList keys = values.keys();
     return std::all_of(keys.begin(), keys.end(), [&](const QString& key) { return settings.contains(key); });
 }
@@ -34,7 +36,7 @@ bool WriteCopy(const QString& path, const QVariantMap& values, const char* codec
     const ScratchFolder scratch;
     const QString written = scratch.Path("written.ini");
     const QString readBack = scratch.Path("read.ini");
-    if (!scratch.IsValid() || CheckIni(path) != IniCheck::Harmless
+    if (!scratch.IsValid() || CheckIni(path, codec) != IniCheck::Harmless
         || (QFile::exists(path) && !QFile::copy(path, written)))
         return false;
     {
@@ -47,8 +49,8 @@ bool WriteCopy(const QString& path, const QVariantMap& values, const char* codec
         if (file.status() != QSettings::NoError)
             return false;
     }
-    if (!QFile::rename(written, readBack) || !IsComplete(readBack, values)
-        || CheckIni(readBack) != IniCheck::Harmless)
+    if (!QFile::rename(written, readBack) || CheckIni(readBack, codec) != IniCheck::Harmless
+        || !IsComplete(readBack, values, codec))
         return false;
     QFile file(readBack);
     if (!file.open(QIODevice::ReadOnly))
@@ -59,7 +61,7 @@ bool WriteCopy(const QString& path, const QVariantMap& values, const char* codec
 
 } // namespace
 
-IniCheck CheckIni(const QString& path)
+IniCheck CheckIni(const QString& path, const char* codec)
 {
     QFile file(path);
     if (!file.exists())
@@ -68,7 +70,7 @@ IniCheck CheckIni(const QString& path)
         return IniCheck::Unreadable;
     if (file.size() > kMaxFileSize)
         return IniCheck::Harmful;
-    return MayHoldHarmfulTypes(file.readAll()) ? IniCheck::Harmful : IniCheck::Harmless;
+    return MayHoldHarmfulTypes(file.readAll(), codec) ? IniCheck::Harmful : IniCheck::Harmless;
 }
 
 bool WriteIniValues(const QString& path, const QVariantMap& values, const char* codec)

@@ -12,8 +12,8 @@ enum class IniCheck
 
 /// Whether QSettings may read a file: it rebuilds values of any type that a file names, and some of them end
 /// the program. Only plain values, geometry, URLs, colours, key sequences, dates and times are let through,
-/// and 4 MiB.
-IniCheck CheckIni(const QString& path);
+/// and 4 MiB. `codec`: as QSettings is given it, "UTF-8" or none.
+IniCheck CheckIni(const QString& path, const char* codec = nullptr);
 
 /// Writes values into an INI file as one step; other keys of the file stay. False when they did not get
 /// there, or would not be let through when they are read. Without a codec only ASCII stands unescaped.

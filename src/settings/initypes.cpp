@@ -71,21 +71,27 @@ int NextVisible(const QByteArray& ini, int* at)
     return kNone;
 }
 
-/// The byte that comes next; kNone where it is not written as QSettings writes it.
-int NextByte(const QByteArray& ini, int* at)
+/// The byte that comes next of a value's content; kNone where it is not written as QSettings writes it, which
+/// could read another one.
+int NextByte(const QByteArray& ini, int* at, bool utf8)
 {
     if (*at >= ini.size())
         return kNone;
-    const char c = ini[(*at)++];
-    const int value = c == '\\' ? Escaped(ini, at) : c > ' ' && c < 0x7f && c != '"' ? c : kNone;
-    return value > 0xff ? kNone : value;
+    const int c = uchar(ini[(*at)++]);
+    if (c == '\\') {
+        const int value = Escaped(ini, at);
+        return value > 0xff ? kNone : value;
+    }
+    if (utf8 && (c == 0xc2 || c == 0xc3) && *at < ini.size() && (uchar(ini[*at]) & 0xc0) == 0x80)
+        return (c & 3) << 6 | (uchar(ini[(*at)++]) & 0x3f);
+    return c >= ' ' && c < 0x7f && c != '"' ? c : kNone;
 }
 
-int NextNumber(const QByteArray& ini, int* at)
+int NextNumber(const QByteArray& ini, int* at, bool utf8)
 {
     quint32 number = 0;
     for (int i = 0; i < 4; ++i) {
-        const int byte = NextByte(ini, at);
+        const int byte = NextByte(ini, at, utf8);
         if (byte == kNone)
             return kNone;
         number = number << 8 | quint32(byte);
@@ -128,36 +134,37 @@ bool IsHarmlessType(int type)
     }
 }
 
-/// A date with a time; one of a named time zone would have a file of that name read.
-bool IsHarmlessDateTime(const QByteArray& ini, int* at)
+/// A date with a time; one of a named time zone would have a file of that name read, or end the program.
+bool IsHarmlessDateTime(const QByteArray& ini, int* at, bool utf8)
 {
     constexpr int beforeZone = 13; ///< bytes: whether it is null, the date, the time
-    if (NextNumber(ini, at) != QMetaType::QDateTime)
+    if (NextNumber(ini, at, utf8) != QMetaType::QDateTime)
         return false;
     for (int i = 0; i < beforeZone; ++i)
-        NextByte(ini, at);
-    const int zone = NextByte(ini, at);
-    return zone != kNone && zone != Qt::TimeZone;
+        if (NextByte(ini, at, utf8) == kNone)
+            return false;
+    const int zone = NextByte(ini, at, utf8);
+    return zone == Qt::LocalTime || zone == Qt::UTC || zone == Qt::OffsetFromUTC;
 }
 
 /// Of what follows "@": no value with a type, or one of a type that reads without harm.
-bool IsHarmless(const QByteArray& ini, int at)
+bool IsHarmless(const QByteArray& ini, int at, bool utf8)
 {
     int variant = at;
     if (Follows("Variant(", ini, &variant))
-        return IsHarmlessType(NextNumber(ini, &variant));
-    return !Follows("DateTime(", ini, &at) || IsHarmlessDateTime(ini, &at);
+        return IsHarmlessType(NextNumber(ini, &variant, utf8));
+    return !Follows("DateTime(", ini, &at) || IsHarmlessDateTime(ini, &at, utf8);
 }
 
 } // namespace
 
-bool MayHoldHarmfulTypes(const QByteArray& ini)
+bool MayHoldHarmfulTypes(const QByteArray& ini, bool utf8)
 {
     bool escaped = false; // by a backslash: QSettings writes no "@" like that
     for (int i = 0; i < ini.size(); ++i) {
         int at = i + 1;
         const bool begins = ini[i] == '@' || (ini[i] == '\\' && !escaped && Escaped(ini, &at) == '@');
-        if (begins && (escaped || !IsHarmless(ini, at)))
+        if (begins && (escaped || !IsHarmless(ini, at, utf8)))
             return true;
         escaped = ini[i] == '\\' && !escaped;
     }

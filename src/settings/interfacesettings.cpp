@@ -22,7 +22,7 @@ bool InterfaceSettings::Load(const QString& path)
     const QFileInfo info(path);
     if (!info.isFile())
         return false;
-    const IniCheck check = CheckIni(path);
+    const IniCheck check = CheckIni(path, kCodec);
     if (check == IniCheck::Unreadable)
         return false;
     bool broken = check == IniCheck::Harmful;

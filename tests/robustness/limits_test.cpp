@@ -6,6 +6,7 @@
 #include "layout/sender.h"
 #include "layout/tile.h"
 #include "project/layoutdescription.h"
+#include "project/layoutwriter.h"
 #include "project/projectdata.h"
 #include "settings/archive.h"
 #include "settings/configdata.h"
@@ -91,6 +92,25 @@ TEST_F(LimitsTest, DocumentIsRefusedOneBeyondEachLimit)
     }
 }
 
+TEST_F(LimitsTest, FilesBeyondTheirSizeAreRefused)
+{
+    const QString xml = folder.Write(QStringLiteral("a.xml"), "<?xml version=\"1.0\"?><LedSetting/>");
+    ASSERT_TRUE(QFile::resize(xml, kMaxXmlBytes + 1)); // sparse
+    QString version;
+    EXPECT_FALSE(project.LoadProjectFromFile(QFile::encodeName(xml).constData(), version, nullptr));
+    EXPECT_EQ(project.GetLastFileError(), QStringLiteral("文件过大。"));
+
+    CConfigData config;
+    for (const int beyond : {0, 1}) {
+        const QString ini =
+            folder.Write(QStringLiteral("a.ini"), "a=1" + QByteArray((4 << 20) - 3 + beyond, '\n'));
+        EXPECT_EQ(config.Load_UI(ini), beyond == 0);
+        const QString json =
+            folder.Write(QStringLiteral("a.json"), "{}" + QByteArray((16 << 20) - 2 + beyond, ' '));
+        EXPECT_EQ(config.LoadCustomizeConfig(json), beyond == 0);
+    }
+}
+
 TEST_F(LimitsTest, TreeIsNotBuiltOfTooManyNodes)
 {
     for (const char* two : {"<b c=\"\"/>", "<!----><!---->", "<?b?><?b?>", "<![CDATA[]]><b/>"}) {
@@ -154,6 +174,57 @@ TEST_F(LimitsTest, SendersAndGroupsBeyondTheLimitsOfAFileArePassedOver)
     EXPECT_FALSE(project.GetLastFileError().isEmpty());
 }
 
+TEST_F(LimitsTest, WhatWouldNotBeReadWholeIsNotSaved)
+{
+    const QString saved = folder.Path(QStringLiteral("a.prj"));
+    CPort* port = project.NewSender()->GetPort(0);
+    ASSERT_TRUE(project.SaveProjectToFile(saved, nullptr));
+    const QByteArray before = ReadFile(saved);
+    SAddTileInfo block;
+    block.columns = 400;
+    block.rows = 400;
+    ASSERT_TRUE(port->GetPortProject()->AddTile(block));
+    const QString other = folder.Path(QStringLiteral("other"));
+    const std::function<bool()> saves[] = {
+        [&] { return project.SaveProjectToFile(saved, nullptr); },
+        [&] { return project.ExportSender(other, project.GetSender(0)->GetId()); },
+        [&] { return project.ExportPort(other); },
+    };
+    for (const auto& save : saves) {
+        EXPECT_FALSE(save());
+        EXPECT_TRUE(project.GetLastFileError().contains(QString::number(layoutnames::kMaxTilesOfPort)));
+    }
+    EXPECT_EQ(ReadFile(saved), before);
+    EXPECT_FALSE(QFile::exists(other));
+
+    port->GetPortProject()->ClearAllTiles();
+    block.columns = 1024;
+    block.rows = 128;
+    ASSERT_TRUE(port->GetPortProject()->AddTile(block));
+    QList<const CPort*> ports;
+    QList<const CSender*> senders;
+    for (int i = 0; i < layoutnames::kMaxTilesOfFile / layoutnames::kMaxTilesOfPort; ++i)
+        ports.append(port);
+    EXPECT_EQ(WhyTooLarge(ports), QString());
+    ports.append(port);
+    EXPECT_TRUE(WhyTooLarge(ports).contains(QString::number(layoutnames::kMaxTilesOfFile)));
+    for (int i = 0; i <= layoutnames::kMaxSenders; ++i)
+        senders.append(project.GetSender(0));
+    EXPECT_TRUE(WhyTooLarge(senders).contains(QString::number(layoutnames::kMaxSenders)));
+
+    SInputVideoColorCurveParam curve;
+    for (QList<QPointF>& points : curve.points)
+        for (int i = 0; i < kMaxCurvePoints; ++i)
+            points.append({0, 0});
+    QList<SInputVideoColorCurveParam> curves;
+    for (int i = 0; i < 20; ++i)
+        curves.append(curve);
+    project.GetSender(0)->SetColorCurveParams(curves);
+    EXPECT_NE(project.ExportMutiProcessorParam(other, project.GetSender(0)->GetId()), 0U);
+    EXPECT_NE(project.GetLastFileError(), QString());
+    EXPECT_FALSE(QFile::exists(other));
+}
+
 TEST_F(LimitsTest, ArchiveIsHeldToItsLimitsWhenPackedAndWhenUnpacked)
 {
     const QString packed = folder.Path(QStringLiteral("a.zip"));
@@ -162,14 +233,19 @@ TEST_F(LimitsTest, ArchiveIsHeldToItsLimitsWhenPackedAndWhenUnpacked)
     const auto limits = [](qint64 total) { return ArchiveLimits{total, QStringLiteral("in/large")}; };
     const QString in = folder.Path(QStringLiteral("in"));
     const QString out = folder.Path(QStringLiteral("out"));
+    QString error;
     EXPECT_FALSE(PackFolder(in, packed, nullptr, limits(999)));
     ASSERT_TRUE(PackFolder(in, packed, nullptr, limits(1000)));
-    EXPECT_FALSE(UnpackArchive(packed, out, {}, nullptr, limits(999)));
+    EXPECT_FALSE(UnpackArchive(packed, out, {}, &error, limits(999)));
+    EXPECT_EQ(error, QStringLiteral("压缩包内容过大: in/small"));
     EXPECT_TRUE(UnpackArchive(packed, out, {}, nullptr, limits(1000)));
 
-    QDir(in).mkpath(QStringLiteral("d/").repeated(kMaxArchiveDepth - 1));
+    const QString deepest = QStringLiteral("d/").repeated(kMaxArchiveDepth - 2);
+    QDir(in).mkpath(deepest);
     EXPECT_TRUE(PackFolder(in, packed));
-    QDir(in).mkpath(QStringLiteral("d/").repeated(kMaxArchiveDepth));
+    EXPECT_TRUE(UnpackArchive(packed, out));
+    EXPECT_TRUE(QDir(out).exists(QStringLiteral("in/") + deepest));
+    QDir(in).mkpath(deepest + QLatin1Char('d'));
     EXPECT_FALSE(PackFolder(in, packed));
 }
 
@@ -268,6 +344,7 @@ TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
     TestFolder folder;
     const QByteArray list =
         QByteArray("\\0\\0\\0\\t\\0\\0\\0\\x1").repeated(100000); // each of one item, the next one
+    const QByteArray time = "@DateTime(\\0\\0\\0\\x10\\0\\0\\0\\0\\0\\0%\\x8c\\x1 \\0\\0\\0";
     const QByteArray color = "@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)";
     const struct
     {
@@ -282,7 +359,10 @@ TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
         {"a=C:\\\\@home, C:\\\\x40", true},
         {"a=" + QByteArray("\\@").repeated(1000000), false},
         {"a=@DateTime(" + list + ")", false},
-        {"a=@DateTime(\\0\\0\\0\\x10" + QByteArray("\\0").repeated(13) + "\\x3\\0\\0\\0\\x4\\0U)", false},
+        {"a=" + time + "\\x2\\0\\0\\x1\\0)", true},
+        {"a=" + time + "\\x3\\0\\0\\0\\x4\\0U)", false},
+        {"a=" + time + "\\x7)", false}, // of which the low bits are taken
+        {"a=" + QByteArray(time).replace("\\x1 ", "\\q\\q") + "\\0\\0\\x7)", false},
         {"a=@Variant(" + list + ")", false},
         {"a=@Variant(" + list + ")\na=1", false},
         {"[]\na=@Variant(" + list + ")", false},
@@ -292,7 +372,8 @@ TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
     };
     for (const auto& given : cases) {
         const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\nb=1\n" + given.text + '\n');
-        EXPECT_EQ(CheckIni(path) == IniCheck::Harmless, given.harmless) << given.text.left(40).toStdString();
+        EXPECT_EQ(CheckIni(path, "UTF-8") == IniCheck::Harmless, given.harmless)
+            << given.text.left(40).toStdString();
         CConfigData config;
         EXPECT_EQ(config.Load_UI(path), given.harmless);
         EXPECT_TRUE(config.Save_UI());
