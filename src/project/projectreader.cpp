@@ -20,7 +20,7 @@ template <class Record> LeafReader::Take Into(Record& record, void (*describe)(A
 ProjectContent::~ProjectContent() = default;
 
 ProjectReader::ProjectReader(ProjectContent& content, ReadReport& report, std::function<void(int)> progress)
-    : m_content(content), m_report(report), m_root(*this),
+    : m_report(report), m_root(*this),
       m_version([this](XmlAttributes& attributes) { ReadVersion(attributes); }),
       m_demo(Into<SDemoMode>(content.demo, DescribeDemoMode)),
       m_senderGroups(kSenderGroupList, report,

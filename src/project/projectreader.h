@@ -53,7 +53,6 @@ private:
     void ReadVersion(XmlAttributes& attributes);
     XmlHandler* Find(std::string_view name);
 
-    ProjectContent& m_content;
     ReadReport& m_report;
     QString m_refusedVersion;
     Root m_root;
