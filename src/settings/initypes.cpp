@@ -156,16 +156,26 @@ bool IsHarmless(const QByteArray& ini, int at, bool utf8)
     return !Follows("DateTime(", ini, &at) || IsHarmlessDateTime(ini, &at, utf8);
 }
 
+/// Whether a value goes on behind that character, unless it is escaped: QSettings neither drops it nor begins
+/// a value behind it. So are strings marked that begin with "@": by another "@", or by "@String(".
+bool GoesOnBehind(char c)
+{
+    return c != '\0' && std::strchr("!#$%&'()*+-./:;<>?@[]^_`{|}~", c);
+}
+
 } // namespace
 
 bool MayHoldHarmfulTypes(const QByteArray& ini, bool utf8)
 {
     bool escaped = false; // by a backslash: QSettings writes no "@" like that
+    bool goesOn = false;
     for (int i = 0; i < ini.size(); ++i) {
         int at = i + 1;
-        const bool begins = ini[i] == '@' || (ini[i] == '\\' && !escaped && Escaped(ini, &at) == '@');
+        const bool begins =
+            (ini[i] == '@' && !goesOn) || (ini[i] == '\\' && !escaped && Escaped(ini, &at) == '@');
         if (begins && (escaped || !IsHarmless(ini, at, utf8)))
             return true;
+        goesOn = !escaped && GoesOnBehind(ini[i]);
         escaped = ini[i] == '\\' && !escaped;
     }
     return false;

@@ -322,6 +322,8 @@ TEST(IniLimitsTest, ValuesThatWouldNotBeReadAgainAreNotWritten)
         {QStringLiteral("list"), QVariantList{QDate(2026, 1, 2), QTime(3, 4), QStringLiteral("@a")}},
         {QStringLiteral("rect"), QRect(1, 2, 3, 4)},
         {QStringLiteral("text"), QStringLiteral("a@b, \\@c\n\"d\"")},
+        {QStringLiteral("text that looks typed"), QStringLiteral("@Variant(b)")},
+        {QStringLiteral("text with NUL that looks typed"), QStringLiteral("@DateTime(") + QChar(0)},
         {QStringLiteral("time"), QDateTime(QDate(2026, 1, 2), QTime(3, 4), Qt::UTC)},
         {QStringLiteral("url"), QUrl(QStringLiteral("http://a.example/b"))},
     };
@@ -366,6 +368,7 @@ TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
         {"a=@Variant(" + list + ")", false},
         {"a=@Variant(" + list + ")\na=1", false},
         {"[]\na=@Variant(" + list + ")", false},
+        {"a=\\(@Variant(" + list + ")", false},
         {"a=\"a, b\", \\x40Variant(" + list + ")", false},
         {"a=\\10100@V\\x10061\\162iant(" + list + ")", false},
         {"a=\"@Vari\\\r\n\\qa\"nt(" + list + ")\"", false},
