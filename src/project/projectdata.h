@@ -255,8 +255,7 @@ private:
     void WriteDocument(XmlWriter& writer, CCustomProgressbar* progress) const;
     /// Takes the lock and empties the work folder for an archive, which must not lie in the way there.
     bool PrepareWorkFolder(QLockFile& lock, const QString& archive);
-    /// Refuses what would not be read whole again.
-    bool IsReadAgain();
+    bool IsWithinLimits(); ///< else the file would not be read whole again
     bool SaveDocument(CCustomProgressbar* progress);
     bool LoadArchive(const QString& path, QString& version, CCustomProgressbar* progress);
     bool LoadDocument(const QString& path, QString& version, CCustomProgressbar* progress,

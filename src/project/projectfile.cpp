@@ -77,7 +77,7 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
 {
     m_lastFileError.clear();
     QLockFile lock(parameterwork::LockPath());
-    if (!IsReadAgain() || !PrepareWorkFolder(lock, path) || !SaveDocument(progress))
+    if (!IsWithinLimits() || !PrepareWorkFolder(lock, path) || !SaveDocument(progress))
         return false;
 
     ReadReport report;
@@ -91,7 +91,7 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     return true;
 }
 
-bool CProjectData::IsReadAgain()
+bool CProjectData::IsWithinLimits()
 {
     QList<const CSender*> senders;
     for (const CSender* sender : qAsConst(m_senders))
