@@ -3,17 +3,23 @@
 #include "fuzzing.h"
 #include "settings/configdata.h"
 
+#include <QFile>
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const QByteArray content(reinterpret_cast<const char*>(data), static_cast<int>(size));
     const QString folder = FreshFolder();
+    const QString xml = WriteInput(folder, "SystemConfig.xml", content);
+    const QString ini = WriteInput(folder, "SystemConfigUI.ini", content);
     CConfigData config;
-    config.Load(WriteInput(folder, "SystemConfig.xml", content));
-    config.Load_UI(WriteInput(folder, "SystemConfigUI.ini", content));
+    config.Load(xml);
+    config.Load_UI(ini);
     config.LoadCustomizeConfig(WriteInput(folder, "Customize.json", content));
-    Demand(config.Save() && config.SaveCustomizeConfig(), "settings save");
+    Demand(config.XmlSave(xml) && config.SaveCustomizeConfig(), "settings save");
+    const bool saved = config.Save_UI(); // unless a text looks like a value of a type that does harm
 
     CConfigData again;
-    Demand(again.Load(folder + QStringLiteral("SystemConfig.xml")), "saved settings load");
+    Demand(again.XmlLoad(xml), "saved settings load");
+    Demand(!saved || !QFile::exists(ini) || again.Load_UI(ini), "saved settings of windows load");
     return 0;
 }

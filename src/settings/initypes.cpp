@@ -156,27 +156,33 @@ bool IsHarmless(const QByteArray& ini, int at, bool utf8)
     return !Follows("DateTime(", ini, &at) || IsHarmlessDateTime(ini, &at, utf8);
 }
 
-/// Whether a value goes on behind that character, unless it is escaped: QSettings neither drops it nor begins
-/// a value behind it. So are strings marked that begin with "@": by another "@", or by "@String(".
-bool GoesOnBehind(char c)
+/// Whether a value could begin behind that character, or not if it could not before it: a line, an item of a
+/// list or a quotation ends there, or QSettings drops what was read. Strings that begin with "@" are marked
+/// by another one or by "@String(", so that theirs stands inside a value.
+bool MayBeginBehind(const QByteArray& ini, int at, bool mayBeforeIt)
 {
-    return c != '\0' && std::strchr("!#$%&'()*+-./:;<>?@[]^_`{|}~", c);
+    const char c = ini[at];
+    if (c == ' ' || c == '\t')
+        return mayBeforeIt;
+    const bool endsByteOrderMark = c == '\xbf' && ini.mid(at - 2, 3) == "\xef\xbb\xbf";
+    return endsByteOrderMark || uchar(c) < ' ' || std::strchr("=,\"", c);
 }
 
 } // namespace
 
 bool MayHoldHarmfulTypes(const QByteArray& ini, bool utf8)
 {
-    bool escaped = false; // by a backslash: QSettings writes no "@" like that
-    bool goesOn = false;
-    for (int i = 0; i < ini.size(); ++i) {
-        int at = i + 1;
-        const bool begins =
-            (ini[i] == '@' && !goesOn) || (ini[i] == '\\' && !escaped && Escaped(ini, &at) == '@');
-        if (begins && (escaped || !IsHarmless(ini, at, utf8)))
+    bool mayBegin = true;
+    for (int at = 0; at < ini.size();) {
+        const int first = at++;
+        const bool isEscape = ini[first] == '\\';
+        const int value = isEscape ? Escaped(ini, &at) : ini[first];
+        if (value == '@' && mayBegin && !IsHarmless(ini, at, utf8))
             return true;
-        goesOn = !escaped && GoesOnBehind(ini[i]);
-        escaped = ini[i] == '\\' && !escaped;
+        if (!isEscape)
+            mayBegin = MayBeginBehind(ini, first, mayBegin);
+        else if (value != kNone)
+            mayBegin = false;
     }
     return false;
 }

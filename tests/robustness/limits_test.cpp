@@ -323,6 +323,7 @@ TEST(IniLimitsTest, ValuesThatWouldNotBeReadAgainAreNotWritten)
         {QStringLiteral("rect"), QRect(1, 2, 3, 4)},
         {QStringLiteral("text"), QStringLiteral("a@b, \\@c\n\"d\"")},
         {QStringLiteral("text that looks typed"), QStringLiteral("@Variant(b)")},
+        {QStringLiteral("text with a type inside"), QStringLiteral("a屏 @Variant(b)")},
         {QStringLiteral("text with NUL that looks typed"), QStringLiteral("@DateTime(") + QChar(0)},
         {QStringLiteral("time"), QDateTime(QDate(2026, 1, 2), QTime(3, 4), Qt::UTC)},
         {QStringLiteral("url"), QUrl(QStringLiteral("http://a.example/b"))},
@@ -359,7 +360,9 @@ TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
         {"a=a, \"@Variant\", " + color, true},
         {"a=@Variant(\\0\\0\\0L\\xff\\xff\\xff\\xff)", true}, // more keys than there are
         {"a=C:\\\\@home, C:\\\\x40", true},
-        {"a=" + QByteArray("\\@").repeated(1000000), false},
+        {"a=" + QByteArray("\\@").repeated(1000000), true},
+        {"a=\xef\xbb\xbf@Variant(" + list + ")", false},
+        {"a=b\\,\\q, \t@Variant(" + list + ")", false},
         {"a=@DateTime(" + list + ")", false},
         {"a=" + time + "\\x2\\0\\0\\x1\\0)", true},
         {"a=" + time + "\\x3\\0\\0\\0\\x4\\0U)", false},
@@ -370,7 +373,7 @@ TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
         {"[]\na=@Variant(" + list + ")", false},
         {"a=\\(@Variant(" + list + ")", false},
         {"a=\"a, b\", \\x40Variant(" + list + ")", false},
-        {"a=\\10100@V\\x10061\\162iant(" + list + ")", false},
+        {"a=\\x10040V\\x10061\\162iant(" + list + ")", false},
         {"a=\"@Vari\\\r\n\\qa\"nt(" + list + ")\"", false},
     };
     for (const auto& given : cases) {
