@@ -16,41 +16,62 @@ namespace {
 
 constexpr qint64 kMaxFileSize = 1 << 22; ///< keys cost a hundred times their size
 
+void SetCodec(QSettings& file, const char* codec)
+{
+    if (codec)
+        file.setIniCodec(codec);
+}
+
+/// As QSettings takes a key that it is given.
+QString Normalised(const QString& key)
+{
+    return key.split(QLatin1Char('/'), Qt::SkipEmptyParts).join(QLatin1Char('/'));
+}
+
+/// QSettings reads keys with an empty part, but cannot be asked for them, and writes a file with them that
+/// does not read again.
+bool HasName(const QString& key)
+{
+    return !key.isEmpty() && key == Normalised(key);
+}
+
+bool WriteNew(const QString& path, const QVariantMap& values, const char* codec)
+{
+    QSettings file(path, QSettings::IniFormat);
+    SetCodec(file, codec);
+    for (auto value = values.begin(); value != values.end(); ++value)
+        file.setValue(value.key(), value.value());
+    file.sync();
+    return file.status() == QSettings::NoError;
+}
+
 /// Whether the file was written to its end: QSettings does not tell when the disk became full.
 bool IsComplete(const QString& path, const QVariantMap& values, const char* codec)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || !file.seek(file.size() - 1) || file.read(1) != "\n")
         return false;
-    QSettings settings(path, QSettings::IniFormat);
-    if (codec)
-        settings.setIniCodec(codec);
-    const QStringList keys = values.keys();
-    return std::all_of(keys.begin(), keys.end(), [&](const QString& key) { return settings.contains(key); });
+    QVariantMap read;
+    return ReadIniValues(path, &read, codec) && read.keys() == values.keys();
 }
 
-/// Changes a copy of the file. QSettings would leave an empty file on a full disk, and remembers what it
-/// wrote whether it got there or not, so it is read back under another name.
-bool WriteCopy(const QString& path, const QVariantMap& values, const char* codec, QByteArray* content)
+/// The file as it is to be. QSettings would leave an empty file on a full disk, and remembers what it wrote
+/// whether it got there or not, so copies are read and written, and what is written is read back under
+/// another name.
+bool MakeContent(const QString& path, const QVariantMap& changed, const char* codec, QByteArray* content)
 {
     const ScratchFolder scratch;
+    const QString before = scratch.Path("before.ini");
     const QString written = scratch.Path("written.ini");
     const QString readBack = scratch.Path("read.ini");
+    QVariantMap values;
     if (!scratch.IsValid() || CheckIni(path, codec) != IniCheck::Harmless
-        || (QFile::exists(path) && !QFile::copy(path, written)))
+        || (QFile::exists(path) && !QFile::copy(path, before)) || !ReadIniValues(before, &values, codec))
         return false;
-    {
-        QSettings file(written, QSettings::IniFormat);
-        if (codec)
-            file.setIniCodec(codec);
-        for (auto value = values.begin(); value != values.end(); ++value)
-            file.setValue(value.key(), value.value());
-        file.sync();
-        if (file.status() != QSettings::NoError)
-            return false;
-    }
-    if (!QFile::rename(written, readBack) || CheckIni(readBack, codec) != IniCheck::Harmless
-        || !IsComplete(readBack, values, codec))
+    for (auto value = changed.begin(); value != changed.end(); ++value)
+        values.insert(Normalised(value.key()), value.value());
+    if (!WriteNew(written, values, codec) || !QFile::rename(written, readBack)
+        || CheckIni(readBack, codec) != IniCheck::Harmless || !IsComplete(readBack, values, codec))
         return false;
     QFile file(readBack);
     if (!file.open(QIODevice::ReadOnly))
@@ -73,6 +94,19 @@ IniCheck CheckIni(const QString& path, const char* codec)
     return MayHoldHarmfulTypes(file.readAll(), codec) ? IniCheck::Harmful : IniCheck::Harmless;
 }
 
+bool ReadIniValues(const QString& path, QVariantMap* values, const char* codec)
+{
+    QSettings file(path, QSettings::IniFormat);
+    SetCodec(file, codec);
+    const QStringList keys = file.allKeys();
+    if (file.status() != QSettings::NoError)
+        return false;
+    for (const QString& key : keys)
+        if (HasName(key) && file.contains(key))
+            values->insert(key, file.value(key));
+    return true;
+}
+
 bool WriteIniValues(const QString& path, const QVariantMap& values, const char* codec)
 {
     if (values.isEmpty())
@@ -82,6 +116,6 @@ bool WriteIniValues(const QString& path, const QVariantMap& values, const char* 
     // change.
     return ReplaceFile(path, [&](QIODevice& file) {
         QByteArray content;
-        return WriteCopy(path, values, codec, &content) && file.write(content) == content.size();
+        return MakeContent(path, values, codec, &content) && file.write(content) == content.size();
     });
 }

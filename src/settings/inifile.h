@@ -15,6 +15,10 @@ enum class IniCheck
 /// and 4 MiB. `codec`: as QSettings is given it, "UTF-8" or none.
 IniCheck CheckIni(const QString& path, const char* codec = nullptr);
 
+/// Reads all values that have a name, once CheckIni let the file through; a file that is not there has none.
+/// False when it is no INI file.
+bool ReadIniValues(const QString& path, QVariantMap* values, const char* codec = nullptr);
+
 /// Writes values into an INI file as one step; other keys of the file stay. False when they did not get
 /// there, or would not be let through when they are read. Without a codec only ASCII stands unescaped.
 bool WriteIniValues(const QString& path, const QVariantMap& values, const char* codec = nullptr);

@@ -4,7 +4,6 @@
 #include "settings/inifile.h"
 
 #include <QFileInfo>
-#include <QSettings>
 
 namespace {
 
@@ -25,19 +24,7 @@ bool InterfaceSettings::Load(const QString& path)
     const IniCheck check = CheckIni(path, kCodec);
     if (check == IniCheck::Unreadable)
         return false;
-    bool broken = check == IniCheck::Harmful;
-    if (!broken) {
-        QSettings file(path, QSettings::IniFormat);
-        file.setIniCodec(kCodec);
-        const QStringList keys = file.allKeys();
-        broken = file.status() != QSettings::NoError;
-        for (const QString& key : keys)
-            // Without name, or below a section without one: QSettings reads those, but does not write them.
-            if (!key.isEmpty() && !key.startsWith(QLatin1Char('/')) && file.contains(key))
-                m_values.insert(key, file.value(key));
-    }
-    if (broken) {
-        m_values.clear();
+    if (check == IniCheck::Harmful || !ReadIniValues(path, &m_values, kCodec)) {
         SetBrokenFileAside(path);
         return false;
     }

@@ -342,6 +342,20 @@ TEST(IniLimitsTest, ValuesThatWouldNotBeReadAgainAreNotWritten)
     EXPECT_EQ(config.GetUIValue(QStringLiteral("rect")), QRect(1, 2, 3, 4));
 }
 
+TEST(IniLimitsTest, KeysOfEmptyPartsDoNotCostTheOthers)
+{
+    TestFolder folder;
+    const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\na=1\n[s]\n/=2\nb=3\n");
+    CConfigData config;
+    ASSERT_TRUE(config.Load_UI(path));
+    config.SetUIValue(QStringLiteral("/s//c/"), 4);
+    ASSERT_TRUE(config.Save_UI());
+    CConfigData again;
+    ASSERT_TRUE(again.Load_UI(path));
+    for (const char* key : {"a", "s/b", "s/c"})
+        EXPECT_TRUE(again.GetUIValue(QLatin1String(key)).isValid()) << key;
+}
+
 TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
 {
     TestFolder folder;
