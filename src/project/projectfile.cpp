@@ -23,8 +23,10 @@
 
 namespace {
 
-constexpr int kLockTimeout = 30000;   ///< milliseconds
-constexpr int kStaleLockTime = 60000; ///< milliseconds; no save takes that long
+constexpr int kLockTimeout = 30000; ///< milliseconds
+/// Milliseconds. No save takes that long, and it is less than the timeout: a program that was killed before
+/// it wrote its name into the lock file costs a wait.
+constexpr int kStaleLockTime = 20000;
 
 /// The receiver parameter files of a project are small; they are copied several times.
 const ArchiveLimits kLimits = {qint64(64) << 20, QStringLiteral("project/new.prj")};

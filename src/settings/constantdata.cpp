@@ -20,7 +20,8 @@
 
 namespace {
 
-constexpr int kLockTimeout = 30000; ///< milliseconds
+constexpr int kLockTimeout = 30000;   ///< milliseconds
+constexpr int kStaleLockTime = 20000; ///< milliseconds; of a lock file into which no name was written
 
 constexpr int kPortColors = 20;
 constexpr QRgb kPortColor[kPortColors] = {
@@ -150,6 +151,7 @@ QString CConstantData::GetTmpProjectDataPath(const QString& zipPath)
     const QString document = folder + QStringLiteral("/SaveProject/card.prj");
     if (IsOurFolder(folder)) {
         QLockFile lock(folder + QStringLiteral("/unpack.lock"));
+        lock.setStaleLockTime(kStaleLockTime);
         if (!lock.tryLock(kLockTimeout))
             return document;
         // What an earlier archive left must not pass for this one's document.

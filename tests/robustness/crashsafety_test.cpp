@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDateTime>
 #include <QDirIterator>
 #include <QProcess>
 #include <QThread>
@@ -88,6 +89,16 @@ TEST_F(CrashSafetyTest, KilledSaveLeavesTheOldFileOrTheNewOne)
             ASSERT_NE(VersionOf(Document(document), folder), 0) << document << ", kill " << kill;
     }
     ExpectNothingLeft();
+}
+
+TEST_F(CrashSafetyTest, LockFileWithoutANameIsTakenOverBeforeTheWaitForItEnds)
+{
+    SaveAll(1);
+    QFile lock(CConstantData::GetProjectParamFileTemp().chopped(1) + QLatin1String(".lock"));
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(
+        lock.setFileTime(QDateTime::currentDateTime().addSecs(-25), QFileDevice::FileModificationTime));
+    EXPECT_EQ(VersionOf(Document::Project, folder), 1);
 }
 
 TEST_F(CrashSafetyTest, FailingCallLeavesTheOldFileAndIsToldOrTheNewOne)
