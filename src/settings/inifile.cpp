@@ -91,7 +91,7 @@ IniCheck CheckIni(const QString& path, const char* codec)
         return IniCheck::Unreadable;
     if (file.size() > kMaxFileSize)
         return IniCheck::Harmful;
-    return MayHoldHarmfulTypes(file.readAll(), codec) ? IniCheck::Harmful : IniCheck::Harmless;
+    return MayHoldHarmfulTypes(file.readAll(), codec != nullptr) ? IniCheck::Harmful : IniCheck::Harmless;
 }
 
 bool ReadIniValues(const QString& path, QVariantMap* values, const char* codec)

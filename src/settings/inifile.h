@@ -19,6 +19,7 @@ IniCheck CheckIni(const QString& path, const char* codec = nullptr);
 /// False when it is no INI file.
 bool ReadIniValues(const QString& path, QVariantMap* values, const char* codec = nullptr);
 
-/// Writes values into an INI file as one step; other keys of the file stay. False when they did not get
-/// there, or would not be let through when they are read. Without a codec only ASCII stands unescaped.
+/// Writes values into an INI file as one step; other keys of the file that have a name stay. False when they
+/// did not get there, or would not be let through when they are read. Without a codec only ASCII stands
+/// unescaped.
 bool WriteIniValues(const QString& path, const QVariantMap& values, const char* codec = nullptr);
