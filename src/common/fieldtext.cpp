@@ -31,10 +31,10 @@ template <class T> T NumberOr0(std::string_view text)
     return error == std::errc() && end == text.data() + text.size() ? value : T(0);
 }
 
-template <class T, class... Format> void AppendNumber(std::string& out, T value, Format... format)
+template <class T> void AppendNumber(std::string& out, T value)
 {
-    char buffer[32];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value, format...);
+    char buffer[16];
+    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
     out.append(buffer, result.ptr);
 }
 
@@ -85,7 +85,15 @@ void Append(std::string& out, bool value)
 
 void Append(std::string& out, double value)
 {
-    AppendNumber(out, value, std::chars_format::general, 6);
+    // Most fractions of a wall are whole numbers, which need no rounding. The others are rounded as Qt does
+    // it: a tie away from zero, where the standard library would take the even digit.
+    constexpr double firstRounded = 1e6;
+    if (std::fabs(value) < firstRounded && std::trunc(value) == value) {
+        AppendNumber(out, static_cast<int>(value));
+        return;
+    }
+    const QByteArray text = QByteArray::number(value, 'g', 6);
+    out.append(text.constData(), static_cast<size_t>(text.size()));
 }
 
 void Append(std::string& out, float value)

@@ -16,7 +16,7 @@ namespace fieldtext {
 void Append(std::string& out, int value);
 void Append(std::string& out, unsigned int value);
 void Append(std::string& out, bool value);   ///< "1" or "0"
-void Append(std::string& out, double value); ///< six significant digits, shortest general form
+void Append(std::string& out, double value); ///< as QString::number(value, 'g', 6) gives it
 void Append(std::string& out, float value);
 void Append(std::string& out, const QUuid& value); ///< braced, lower case
 void Append(std::string& out, const SMD5& value);  ///< 32 digits and the closing NUL; empty for no type

@@ -4,6 +4,15 @@
 
 #include <cstring>
 
+namespace {
+
+bool IsDigit(QChar c)
+{
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
+
+} // namespace
+
 namespace paramtext {
 
 QString ToText(const PortGroupName& name)
@@ -86,32 +95,43 @@ QVector<QPair<int, QDomElement>> ElementReader::NumberedChildren(const QString& 
                                                                  int count) const
 {
     QVector<QPair<int, QDomElement>> found;
-    for (auto child = m_children.constBegin(); child != m_children.constEnd(); ++child) {
-        if (!child.key().startsWith(base))
-            continue;
-        const QString digits = child.key().mid(base.size());
-        const int number = digits.toInt();
-        if (number >= first && number - first < count && digits == QString::number(number))
-            found.append({number, child->first()});
+    const QVector<int> numbers = ChildNumbers(base, first, count);
+    for (const int number : numbers) {
+        const QDomElement child = Child(base + QString::number(number));
+        if (!child.isNull())
+            found.append({number, child});
     }
-    std::sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     return found;
+}
+
+QVector<int> ElementReader::ChildNumbers(const QString& base, int first, int count) const
+{
+    QVector<int> numbers;
+    for (auto child = m_children.keyBegin(); child != m_children.keyEnd(); ++child) {
+        int digits = 0;
+        while (digits < child->size() - base.size() && IsDigit(child->at(child->size() - 1 - digits)))
+            ++digits;
+        const QString text = child->right(digits);
+        const int number = text.toInt();
+        if (number >= first && number - first < count && text == QString::number(number)
+            && child->startsWith(base))
+            numbers.append(number);
+    }
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    return numbers;
 }
 
 void ElementReader::Points(const FieldName& name, QList<QPointF>& points)
 {
     points.clear();
     Group(name, [&] {
-        const int count = std::min(Value<int>("AdjPointCount"), kMaxCurvePoints);
-        for (int i = 0; i < count; ++i) {
-            const QDomElement x = Child((FieldName("PointX") + i).Text());
-            const QDomElement y = Child((FieldName("PointY") + i).Text());
-            if (x.isNull() && y.isNull())
+        const auto numbers = ChildNumbers(QStringLiteral("Point"), 0, Value<int>("AdjPointCount"));
+        for (const int number : numbers) {
+            if (points.size() == kMaxCurvePoints)
                 break;
-            QPointF point;
-            paramtext::FromText(x.text(), point.rx());
-            paramtext::FromText(y.text(), point.ry());
-            points.append(point);
+            points.append(QPointF(Value<double>(FieldName("PointX") + number),
+                                  Value<double>(FieldName("PointY") + number)));
         }
     });
 }

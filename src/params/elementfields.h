@@ -126,6 +126,8 @@ public:
     /// The children that `base` and a decimal number from `first` to `first` + `count` - 1 name, by number.
     /// As many as there are, whatever a count in a file claims.
     QVector<QPair<int, QDomElement>> NumberedChildren(const QString& base, int first, int count) const;
+    /// The numbers among those, in order, that close the names of children which begin with `base`.
+    QVector<int> ChildNumbers(const QString& base, int first, int count) const;
 
     template <class T> void Field(const FieldName& name, T& value, FieldUse use = FieldUse::Both)
     {

@@ -68,18 +68,11 @@ template <class Fields, class Data> void DescribeOther(Fields& f, Data& data)
     f.Field("outputOtherParamLowLatency", data.lowLatency);
 }
 
-/// A port without cabinets shows the area last read or set.
-QRect PortArea(const CPort& port)
-{
-    const QRect bound = port.GetBound();
-    return bound.isNull() ? port.GetPortArea() : bound;
-}
-
 void WritePortAreas(ElementWriter& writer, const CSender& sender)
 {
     writer.Field(kPortCount, sender.GetPortCount());
     for (int i = 0; i < sender.GetPortCount(); ++i) {
-        const QRect rect = PortArea(*sender.GetPort(i));
+        const QRect rect = sender.GetPort(i)->GetBound(); // without cabinets all zero
         Area area{rect.left(), rect.top(), rect.width(), rect.height()};
         writer.Group(FieldName(kPortArea) + i, [&] { DescribeArea(writer, area); });
     }

@@ -19,6 +19,7 @@ constexpr const char* kGroup = "groupParamRootBase";
 constexpr const char* kInputRoot = "inputParamXmlRoot";
 constexpr const char* kDeviceSetRoot = "DeviceSetParamsXmlRoot";
 constexpr const char* kDeviceOtherRoot = "DeviceOtherParamsXmlRoot";
+constexpr const char* kHotBackup = "hotbackup"; ///< begins the names of all values of a pair
 constexpr const char* kHotBackupCount = "hotbackupCount";
 
 QDomElement Appended(QDomDocument& document, const QDomElement& parent, const FieldName& name)
@@ -64,10 +65,10 @@ bool ReadHotBackup(const QDomElement& element, CSender& sender)
     SInputVideoHotBackup backup;
     SInputVideoHotBackup::Walk(reader, backup);
     const int count = reader.Value<int>(kHotBackupCount);
-    const auto ids = reader.NumberedChildren(QLatin1String(kHotBackupId), 0, count);
-    for (const auto& id : ids) {
+    const auto numbers = reader.ChildNumbers(QLatin1String(kHotBackup), 0, count);
+    for (const int number : numbers) {
         SHotBackupPair pair;
-        SHotBackupPair::WalkNumbered(reader, id.first, pair);
+        SHotBackupPair::WalkNumbered(reader, number, pair);
         backup.pairs.append(pair);
     }
     sender.SetHotBackupInfo(backup);

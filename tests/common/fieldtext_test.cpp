@@ -41,8 +41,9 @@ TEST(FieldTextTest, NumbersThatAreNotFiniteLeaveTheDefault)
 
 TEST(FieldTextTest, FloatsHaveSixSignificantDigitsAsQtWritesThem)
 {
-    for (double value : {2.2, 6.0, 0.1 + 0.2, 1234567.0, 1e-5, -100.0, 29.999999, 1e22})
+    for (double value : {2.2, 6.0, 0.1 + 0.2, 999999.0, -1e6, 1234567.0, 1e-5, -100.0, 29.999999, 1e22})
         EXPECT_EQ(Text(value), QString::number(value, 'g', 6).toStdString());
+    EXPECT_EQ(Text(32767.25) + ' ' + Text(-1234.125) + ' ' + Text(-0.0), "32767.3 -1234.13 0") << "ties";
     EXPECT_EQ(Text(2.85f), "2.85");
 }
 

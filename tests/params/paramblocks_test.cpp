@@ -11,6 +11,7 @@
 
 #include "messagerecorder.h"
 #include "recordwalkers.h"
+#include "support/wallbuilder.h"
 
 #include <gtest/gtest.h>
 
@@ -145,6 +146,7 @@ TEST(ParamBlocksTest, ProcessorElementRestoresEveryValueItHolds)
         FillForFile(source, deviceClass);
         source.Params().support.portGroupBrightness = true;
         source.GetPort(3)->SetPortArea(QRect(1, 2, 30, 40));
+        MakeWall(*source.GetPort(2), 2, 1);
         Block block;
         ASSERT_EQ(WriteSingleProcessorParam(block.document, &block.root, &source), kDone);
 
@@ -156,7 +158,8 @@ TEST(ParamBlocksTest, ProcessorElementRestoresEveryValueItHolds)
         EXPECT_TRUE(target.Params() == source.Params())
             << ProcessorText(source).constData() << ProcessorText(target).constData();
         EXPECT_EQ(target.GetCanvasSize(), source.GetCanvasSize());
-        EXPECT_EQ(target.GetPort(3)->GetPortArea(), QRect(1, 2, 30, 40));
+        EXPECT_EQ(target.GetPort(2)->GetPortArea(), QRect(0, 0, 256, 64));
+        EXPECT_EQ(target.GetPort(3)->GetPortArea(), QRect(0, 0, 0, 0)) << "without cabinets none is written";
         EXPECT_NE(target.GetId(), source.GetId());
     }
 }
@@ -270,20 +273,51 @@ TEST(ParamBlocksTest, NumbersWiderThanTheirFieldAreTakenModuloItsWidth)
     EXPECT_EQ(sender.GetFadeTime(), 0);
 }
 
-TEST(ParamBlocksTest, NullArgumentsFailAndWriteNothing)
+TEST(ParamBlocksTest, EachNullArgumentFailsAndWritesNothing)
 {
     CSender sender;
+    sender.SetInputVideoInfo({SInputVideoParam()});
     Block block;
+    QDomDocument& document = block.document;
     const QByteArray before = block.Text();
-    EXPECT_EQ(SaveBasicInfoParam(block.document, nullptr, &block.root), kFailed);
-    EXPECT_EQ(SaveDeviceSetParam(block.document, &block.root, nullptr), kFailed);
-    EXPECT_EQ(Save3DParam(block.document, nullptr, &sender), kFailed);
-    EXPECT_EQ(SaveOutputParam(block.document, nullptr, &block.root), kFailed);
-    EXPECT_EQ(SaveInputParam(block.document, &block.root, &sender), kFailed) << "no inputs";
-    EXPECT_EQ(LoadInputParam(block.document, nullptr, &sender), 1U);
-    EXPECT_EQ(LoadMultiParam(block.document, QDomElement(), &sender), kFailed);
-    EXPECT_EQ(ReadSingleSenderParam(block.document, &block.root, nullptr), kImportFailed);
+    // Of two arguments that must be there one is null in turn.
+    for (CSender* s : {static_cast<CSender*>(nullptr), &sender}) {
+        QDomElement* e = s ? nullptr : &block.root;
+        const QDomElement null = e ? *e : QDomElement();
+        const quint32 results[] = {
+            SaveBasicInfoParam(document, s, e),
+            LoadBasicInfoParam(document, e, s),
+            SaveDeviceSetParam(document, e, s),
+            LoadDeviceSetParam(document, e, s),
+            SaveMultiParam(document, e, s),
+            LoadMultiParam(document, null, s),
+            Save3DParam(document, e, s),
+            Load3DParam(document, null, s),
+            SaveInputParam(document, e, s),
+            SaveOutputParam(document, s, e),
+            LoadOutputParam(document, e, s),
+            LoadVideoOutParam(document, e, s),
+            SaveOneGroupParam(document, e, 0, s),
+            LoadOneGroupParam(document, e, 0, s),
+            LoadOutputSpiltLineParam(document, e, 0, s),
+            LoadOutputColorBrightParam(document, e, 0, s),
+            LoadOutputExactColorParam(document, e, 0, s),
+            SaveColorCubeParam(document, e, s, true),
+            LoadColorCubeParam(document, null, s, true),
+            SaveColorCurveParam(document, e, s, true),
+            LoadColorCurveParam(document, null, s, true),
+            WriteSingleSenderParam(document, e, s),
+            WriteSingleProcessorParam(document, e, s),
+        };
+        for (const quint32& result : results)
+            EXPECT_EQ(result, kFailed) << (&result - results) << (s ? " element" : " sender");
+        EXPECT_EQ(LoadInputParam(document, e, s), 1U);
+        EXPECT_EQ(ReadSingleSenderParam(document, e, s), kImportFailed);
+        EXPECT_EQ(ReadSingleProcessorParam(document, e, s), kImportFailed);
+    }
     EXPECT_EQ(block.Text(), before);
+    sender.SetInputVideoInfo({});
+    EXPECT_EQ(SaveInputParam(document, &block.root, &sender), kFailed) << "no inputs";
 }
 
 TEST(ParamBlocksTest, InputsAreWrittenByCardAndReadBackWhereTheyAre)
@@ -452,12 +486,13 @@ TEST(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
     EXPECT_EQ(qstrlen(groups.groups[0].name.data()), 61U) << "no half character";
 }
 
-TEST(ParamBlocksTest, HotBackupIsReadFromEitherPlaceAlsoWithoutACount)
+TEST(ParamBlocksTest, HotBackupIsReadFromEitherPlaceAlsoWithoutACountOrAnId)
 {
     CSender sender;
     const QByteArray enable = "<outputOtherParamHotBackup>1</outputOtherParamHotBackup>";
     const QByteArray pairs = "<hotbackupCount>9</hotbackupCount><hotbackupId4>7</hotbackupId4>"
-                             "<hotbackupMaincutID4>3</hotbackupMaincutID4>";
+                             "<hotbackupMaincutID4>3</hotbackupMaincutID4>"
+                             "<hotbackupBackupslotNum8>5</hotbackupBackupslotNum8><hotbackupId9/>";
     for (const QByteArray& values : {enable, enable + pairs}) {
         for (const QByteArray& content :
              {values, "<OtherParam><AdvancedParam>" + values + "</AdvancedParam></OtherParam>"}) {
@@ -466,8 +501,12 @@ TEST(ParamBlocksTest, HotBackupIsReadFromEitherPlaceAlsoWithoutACount)
             ASSERT_EQ(ReadSingleProcessorParam(block.document, &block.root, &sender), kDone);
             const SInputVideoHotBackup backup = sender.GetHotBackupInfo();
             EXPECT_TRUE(backup.enable) << content.constData();
-            ASSERT_EQ(backup.pairs.size(), values == enable ? 0 : 1) << content.constData();
-            EXPECT_EQ(backup.pairs.isEmpty() ? 3 : backup.pairs[0].main.cutId, 3);
+            ASSERT_EQ(backup.pairs.size(), values == enable ? 0 : 2) << content.constData();
+            if (!backup.pairs.isEmpty()) {
+                EXPECT_EQ(backup.pairs[0].main.cutId, 3);
+                EXPECT_EQ(backup.pairs[1].id, 0) << "no id element";
+                EXPECT_EQ(backup.pairs[1].backup.slotNum, 5);
+            }
         }
     }
 }
@@ -513,11 +552,13 @@ TEST(ParamBlocksTest, CurvePointsAreBelievedAsFarAsTheFileHoldsThem)
 {
     Block block("<ColorCurveParamRoot><boardCount>2000000000</boardCount>"
                 "<ColorCurveBoard0><SlotNum>1</SlotNum><Red><AdjPointCount>2000000000</AdjPointCount>"
-                "<PointX0>0.5</PointX0><PointY1>inf</PointY1><PointX1>1</PointX1></Red></ColorCurveBoard0>"
+                "<PointX0>0.5</PointX0><PointY1>inf</PointY1><PointX1>1</PointX1><PointY7>3</PointY7></Red>"
+                "</ColorCurveBoard0>"
                 "</ColorCurveParamRoot>");
     CSender sender;
     ASSERT_EQ(LoadColorCurveParam(block.document, block.root, &sender, true), kDone);
     QList<QPointF> points;
     ASSERT_TRUE(sender.GetColorCurveAdjPoint(ColorCurveRed, points, 1, 0));
-    EXPECT_EQ(points, (QList<QPointF>{QPointF(0.5, 0), QPointF(1, 0)}));
+    EXPECT_EQ(points, (QList<QPointF>{QPointF(0.5, 0), QPointF(1, 0), QPointF(0, 3)}))
+        << "one behind a gap stays, none is made up for it";
 }

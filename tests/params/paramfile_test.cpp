@@ -103,9 +103,10 @@ void Replace(const QString& path, const QByteArray& before, const QByteArray& af
     file.write(content);
 }
 
-/// What an import leaves to the sender, and the fading to black that only device class 4 has.
+/// What an import leaves to the sender and its cabinets, and the fading to black that only device class 4
+/// has.
 const QStringList kOwn{QStringLiteral("DeviceGuid"), QStringLiteral("NetIP"),
-                       QStringLiteral("OutNetPortAreaCount"), QStringLiteral("outputOtherParamBlackFade")};
+                       QStringLiteral("OutNetPortParamXmlRoot"), QStringLiteral("outputOtherParamBlackFade")};
 
 /// Everything in `part` but what is the sender's own is in `whole` with the same text.
 void ExpectPart(const QJsonObject& part, const QJsonObject& whole, const QString& path = QString())

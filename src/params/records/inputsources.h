@@ -57,7 +57,6 @@ struct SHotBackupSource : WalkedRecord<SHotBackupSource>
 };
 
 constexpr const char* kHotBackupEnable = "outputOtherParamHotBackup";
-constexpr const char* kHotBackupId = "hotbackupId";
 
 /// An input and the one that takes its place when it fails.
 struct SHotBackupPair : WalkedRecord<SHotBackupPair>
@@ -73,7 +72,7 @@ struct SHotBackupPair : WalkedRecord<SHotBackupPair>
 
     template <class Fields, class... Records> static void WalkNumbered(Fields& f, int pair, Records&... r)
     {
-        f.Field(FieldName(kHotBackupId) + pair, r.id...);
+        f.Field(FieldName("hotbackupId") + pair, r.id...);
         SHotBackupSource::WalkNumbered(f, QStringLiteral("hotbackupMain"), pair, r.main...);
         SHotBackupSource::WalkNumbered(f, QStringLiteral("hotbackupBackup"), pair, r.backup...);
     }
