@@ -249,6 +249,42 @@ TEST_F(ProjectDataTest, ListsInTextsComeBackAndLoseOnlyTheirSeparators)
     EXPECT_EQ(project.GetVideoInfoString(), QStringLiteral("1,2,3,1;4,5,6,0;"));
 }
 
+TEST_F(ProjectDataTest, AllCabinetsOfAllSendersAreSelectedInTheDesignView)
+{
+    AddSenders(2);
+    MakeWall(*project.GetSender(0)->GetPort(3), 2, 1);
+    MakeWall(*project.GetSender(1)->GetPort(159), 1, 1);
+    project.CancelAllTileSelect(InterfaceDesign);
+    const auto selected = [this](int sender, int port) {
+        CTileSet found;
+        TilesOf(*project.GetSender(sender)->GetPort(port)).GetSelTileSet(found, InterfaceDesign);
+        return found.GetCount();
+    };
+    EXPECT_EQ(selected(0, 3) + selected(1, 159), 0);
+    project.SelectAllTile();
+    EXPECT_EQ(selected(0, 3), 2);
+    EXPECT_EQ(selected(1, 159), 1);
+}
+
+TEST_F(ProjectDataTest, GammaOfATypeIsSetOnceAndDeletedAlone)
+{
+    const SMD5 a = SMD5::FromString(QString(32, QLatin1Char('a')));
+    const SMD5 b = SMD5::FromString(QString(32, QLatin1Char('b')));
+    float gamma = 0;
+    project.SetRcvParamGamma(a, 1);
+    EXPECT_FALSE(project.GetRcvParamGamma(a, &gamma)) << "setting adds none";
+    project.AddRcvParamGamma(a, 2);
+    project.AddRcvParamGamma(b, 3);
+    project.AddRcvParamGamma(a, 4);
+    EXPECT_EQ(project.GetRcvParamGammas().size(), 2);
+    EXPECT_TRUE(project.GetRcvParamGamma(a, &gamma));
+    EXPECT_EQ(gamma, 4);
+    project.DeleteRcvParamGamma(a);
+    EXPECT_FALSE(project.GetRcvParamGamma(a, nullptr));
+    EXPECT_TRUE(project.GetRcvParamGamma(b, &gamma));
+    EXPECT_EQ(gamma, 3);
+}
+
 TEST(ProjectTextTest, AddressesAreFourDecimalOctetsOrOneNumber)
 {
     const std::pair<const char*, quint32> cases[] = {

@@ -1,8 +1,37 @@
 #include "project/projectmanagement.h"
 
 #include "project/projectdata.h"
+#include "support/library.h"
+#include "support/testfolder.h"
 
 #include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QProgressDialog>
+#include <QTimer>
+
+namespace {
+
+/// Saves all, with a chooser that takes `folder`, or is cancelled when that is empty.
+bool SaveInto(CProjectManagement& management, const QString& folder, QProgressDialog* dialog)
+{
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [&folder] {
+        auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!chooser)
+            return;
+        EXPECT_EQ(chooser->windowTitle(), QStringLiteral("选取"));
+        chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(folder);
+        QMetaObject::invokeMethod(chooser, folder.isEmpty() ? "reject" : "accept");
+    });
+    user.start(20);
+    return management.SaveMutiProject(dialog);
+}
+
+} // namespace
 
 TEST(ProjectManagementTest, SameProjectTwiceIsOneCopyOfTheLaterContent)
 {
@@ -22,4 +51,34 @@ TEST(ProjectManagementTest, SameProjectTwiceIsOneCopyOfTheLaterContent)
     management.DeleteProject(QUuid::createUuid());
     management.DeleteProject(project.GetID());
     EXPECT_EQ(management.GetProjectCount(), 0);
+}
+
+TEST(ProjectManagementTest, AllNamedProjectsAreSavedIntoTheChosenFolder)
+{
+    Library library;
+    TestFolder folder;
+    CProjectManagement management;
+    for (const char* name : {"wall", "", "../Wall", "wall"}) {
+        CProjectData project;
+        project.SetDeviceSetName(QLatin1String(name));
+        project.SetDemoSenderType(management.GetProjectCount());
+        management.AddProject(&project);
+    }
+    EXPECT_FALSE(SaveInto(management, QString(), nullptr));
+    EXPECT_TRUE(QDir(folder.Path()).isEmpty());
+
+    QProgressDialog dialog;
+    EXPECT_TRUE(SaveInto(management, folder.Path(), &dialog));
+    EXPECT_EQ(dialog.value(), 75);
+    const QStringList files = {QStringLiteral("_Wall.prj"), QStringLiteral("wall (2).prj"),
+                               QStringLiteral("wall.prj")};
+    EXPECT_EQ(QDir(folder.Path()).entryList(QDir::Files), files);
+    const int types[] = {2, 3, 0};
+    for (int i = 0; i < files.size(); ++i) {
+        CProjectData saved;
+        QString error;
+        ASSERT_TRUE(
+            saved.LoadProjectFromFile(QFile::encodeName(folder.Path(files[i])).constData(), error, nullptr));
+        EXPECT_EQ(saved.GetDemoSenderType(), types[i]) << files[i].toStdString();
+    }
 }
