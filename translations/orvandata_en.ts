@@ -96,20 +96,12 @@
         <translation>parameter file &quot;%1&quot; is missing</translation>
     </message>
     <message>
-        <source>参数文件“%1”无法保存</source>
-        <translation>parameter file &quot;%1&quot; cannot be saved</translation>
-    </message>
-    <message>
         <source>另一个程序正在使用项目工作文件夹。</source>
         <translation>Another program is using the project work folder.</translation>
     </message>
     <message>
         <source>项目文件不能是项目工作文件夹里的临时文件。</source>
         <translation>The project file cannot be a temporary file of the project work folder.</translation>
-    </message>
-    <message>
-        <source>无法创建项目工作文件夹。</source>
-        <translation>The project work folder could not be made.</translation>
     </message>
     <message>
         <source>没有给出文件。</source>
@@ -380,28 +372,44 @@
         <translation>An element has too many attributes.</translation>
     </message>
     <message>
-        <source>标记过长。</source>
-        <translation>A tag is too long.</translation>
-    </message>
-    <message>
-        <source>分组过多，其余的被跳过</source>
-        <translation>too many groups; the rest passed over</translation>
-    </message>
-    <message>
-        <source>“%1”过多，只读取%2个</source>
-        <translation>too many "%1"; only %2 are read</translation>
-    </message>
-    <message>
         <source>无法在项目文件旁创建锁文件。</source>
         <translation>The lock file beside the project file could not be made.</translation>
     </message>
     <message>
         <source>项目正在被“%1”（%2，进程%3）编辑。</source>
-        <translation>The project is being edited by "%1" (%2, process %3).</translation>
+        <translation>The project is being edited by &quot;%1&quot; (%2, process %3).</translation>
     </message>
     <message>
         <source>不是普通文件。</source>
         <translation>This is not a regular file.</translation>
+    </message>
+    <message>
+        <source>内容超过%1 MiB，文件未保存。</source>
+        <translation>The content is larger than %1 MiB; the file was not saved.</translation>
+    </message>
+    <message>
+        <source>“%1”的文字超过%2 MiB，文件未保存。</source>
+        <translation>The text of &quot;%1&quot; is longer than %2 MiB; the file was not saved.</translation>
+    </message>
+    <message>
+        <source>参数文件“%1”无法保存：%2</source>
+        <translation>parameter file &quot;%1&quot; cannot be saved: %2</translation>
+    </message>
+    <message>
+        <source>无法创建项目工作文件夹“%1”。</source>
+        <translation>The project work folder &quot;%1&quot; could not be created.</translation>
+    </message>
+    <message>
+        <source>参数文件“%1”无法放入产品库</source>
+        <translation>parameter file &quot;%1&quot; cannot be put into the product library</translation>
+    </message>
+    <message>
+        <source>项目文件没有保存：%1</source>
+        <translation>The project file was not saved: %1</translation>
+    </message>
+    <message>
+        <source>“%1”过多，最多%2个，文件未读取。</source>
+        <translation>Too many of &quot;%1&quot;, at most %2; the file was not read.</translation>
     </message>
 </context>
 </TS>

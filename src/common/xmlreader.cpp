@@ -1,5 +1,7 @@
 #include "common/xmlreader.h"
 
+#include "common/xmlcleaner.h"
+
 #include <expat.h>
 
 #include <QByteArray>
@@ -14,8 +16,8 @@
 
 namespace {
 
-constexpr int kChunk = 256 * 1024;
-constexpr const char* kTooManyElements = QT_TRANSLATE_NOOP("OrvanData", "文件中的元素过多。");
+constexpr qint64 kChunk = 256 * 1024;
+constexpr qint64 kMaxChunk = 16 << 20;
 constexpr const char* kTextTooLong = QT_TRANSLATE_NOOP("OrvanData", "文字过长。");
 
 QString Message(const char* text)
@@ -33,8 +35,7 @@ struct ParseState
 {
     XML_Parser parser = nullptr;
     std::vector<XmlHandler*> open;
-    int depth = 0; ///< of all elements
-    int elements = 0;
+    int depth = 0;   ///< of all elements
     qint64 text = 0; ///< bytes since the last tag
     QString refusal;
 
@@ -64,8 +65,6 @@ void OnStart(void* data, const XML_Char* name, const XML_Char** attributes)
     state.text = 0;
     if (++state.depth > kMaxXmlDepth)
         return state.Refuse(QT_TRANSLATE_NOOP("OrvanData", "元素嵌套过深。"));
-    if (++state.elements > kMaxXmlElements)
-        return state.Refuse(kTooManyElements);
     if (const char* why = WhyTooMuch(attributes))
         return state.Refuse(why);
     XmlHandler* parent = state.open.back();
@@ -119,15 +118,6 @@ void OnDoctype(void* data, const XML_Char*, const XML_Char*, const XML_Char*, in
     static_cast<ParseState*>(data)->Refuse(QT_TRANSLATE_NOOP("OrvanData", "不接受文档类型声明。"));
 }
 
-/// Removes the control bytes that no XML document may hold; how many bytes are left.
-int DropControls(char* bytes, int count)
-{
-    char* end = std::remove_if(bytes, bytes + count, [](char c) {
-        return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
-    });
-    return static_cast<int>(end - bytes);
-}
-
 QString ParserError(const ParseState& state)
 {
     if (!state.refusal.isEmpty())
@@ -139,11 +129,16 @@ QString ParserError(const ParseState& state)
 
 bool FeedAll(QIODevice& source, ParseState& state, QString* error)
 {
+    XmlCleaner cleaner;
+    QByteArray raw;
+    QByteArray clean;
     qint64 total = 0;
-    qint64 parsed = 0;
+    qint64 fed = 0;
     for (;;) {
-        void* buffer = XML_GetBuffer(state.parser, kChunk);
-        const qint64 got = buffer ? source.read(static_cast<char*>(buffer), kChunk) : -1;
+        // The parser looks at an unfinished tag anew with every chunk, so chunks grow with it.
+        const qint64 held = fed - std::max<qint64>(XML_GetCurrentByteIndex(state.parser), 0);
+        raw.resize(static_cast<int>(std::clamp(held, kChunk, kMaxChunk)));
+        const qint64 got = source.read(raw.data(), raw.size());
         if (got < 0) {
             *error = Message(QT_TRANSLATE_NOOP("OrvanData", "文件无法读取。"));
             return false;
@@ -153,19 +148,17 @@ bool FeedAll(QIODevice& source, ParseState& state, QString* error)
             *error = Message(QT_TRANSLATE_NOOP("OrvanData", "文件过大。"));
             return false;
         }
-        const int kept = DropControls(static_cast<char*>(buffer), static_cast<int>(got));
-        if (XML_ParseBuffer(state.parser, kept, got == 0) == XML_STATUS_ERROR) {
+        clean.resize(0);
+        cleaner.Take(raw.constData(), got, clean);
+        if (got == 0)
+            cleaner.Finish(clean);
+        fed += clean.size();
+        if (XML_Parse(state.parser, clean.constData(), clean.size(), got == 0) == XML_STATUS_ERROR) {
             *error = ParserError(state);
             return false;
         }
         if (got == 0)
             return true;
-        // The parser starts an unfinished tag anew with every chunk.
-        parsed += kept;
-        if (parsed - XML_GetCurrentByteIndex(state.parser) > kMaxXmlMarkup) {
-            *error = Message(QT_TRANSLATE_NOOP("OrvanData", "标记过长。"));
-            return false;
-        }
     }
 }
 

@@ -12,10 +12,8 @@ class QIODevice;
 // What a document may hold, so that a hostile one costs neither time nor memory.
 constexpr int kMaxXmlDepth = 1024;
 constexpr qint64 kMaxXmlBytes = qint64(256) * 1024 * 1024;
-constexpr int kMaxXmlElements = 1500000;  ///< 1048576 cabinets and more groups than are read
-constexpr int kMaxXmlText = 64 * 1024;    ///< bytes of an attribute, or of the text in an element
-constexpr int kMaxXmlAttributes = 256;    ///< of one element
-constexpr qint64 kMaxXmlMarkup = 4 << 20; ///< bytes of one tag, comment or instruction
+constexpr int kMaxXmlText = 16 << 20;  ///< bytes of an attribute, or of the text in an element
+constexpr int kMaxXmlAttributes = 256; ///< of one element
 
 /// Takes one element of a document as it is read. Handlers belong to whoever made them; a reader of many
 /// equal elements hands out the same one again and again.
@@ -30,8 +28,9 @@ public:
 };
 
 /// Reads a document with constant memory; `document` stands above the root and is asked for it by Child. A
-/// document type declaration and whatever goes beyond the limits above are refused. Bytes that no XML
-/// document can hold (the NUL that closes a digest, other controls) are passed over. False: `error` says why.
+/// document type declaration and whatever goes beyond the limits above are refused. What no XML document can
+/// hold (the NUL that closes a digest, also as a reference, and other controls) is passed over. False:
+/// `error` says why.
 bool ParseXml(QIODevice& source, XmlHandler& document, QString* error);
 
 /// Gives an element of a DOM tree and all below it to a handler.

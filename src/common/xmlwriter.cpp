@@ -2,6 +2,7 @@
 
 #include "common/xmlreader.h"
 
+#include <QCoreApplication>
 #include <QIODevice>
 
 namespace {
@@ -44,23 +45,17 @@ void AppendEscaped(std::string& out, std::string_view text)
     out.append(text, begin);
 }
 
-/// As much as a reader takes, up to a whole character.
-std::string_view Cut(std::string_view text)
-{
-    if (text.size() <= kMaxXmlText)
-        return text;
-    size_t length = kMaxXmlText;
-    while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
-        --length;
-    return text.substr(0, length);
-}
-
 QString FromUtf8(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
 } // namespace
+
+QString DocumentTooLarge()
+{
+    return QCoreApplication::translate("OrvanData", "内容超过%1 MiB，文件未保存。").arg(kMaxXmlBytes >> 20);
+}
 
 StreamXmlWriter::StreamXmlWriter(QIODevice& device, std::string_view encodingName) : m_device(device)
 {
@@ -89,7 +84,8 @@ void StreamXmlWriter::BeginElement(std::string_view name)
 void StreamXmlWriter::Attribute(const char* name, std::string_view text)
 {
     m_buffer.append(" ").append(name).append("=\"");
-    AppendEscaped(m_buffer, Cut(text));
+    if (IsWithinLimit(text, name))
+        AppendEscaped(m_buffer, text);
     m_buffer.push_back('"');
 }
 
@@ -99,7 +95,21 @@ void StreamXmlWriter::Text(std::string_view text)
         m_buffer.push_back('>');
     m_tagOpen = false;
     m_hasText = true;
-    AppendEscaped(m_buffer, Cut(text));
+    if (IsWithinLimit(text, nullptr))
+        AppendEscaped(m_buffer, text);
+}
+
+bool StreamXmlWriter::IsWithinLimit(std::string_view text, const char* attribute)
+{
+    if (text.size() <= kMaxXmlText)
+        return true;
+    QString name = FromUtf8(m_open.back());
+    if (attribute)
+        name += QLatin1Char('/') + QString::fromUtf8(attribute);
+    if (m_refusal.isEmpty())
+        m_refusal = QCoreApplication::translate("OrvanData", "“%1”的文字超过%2 MiB，文件未保存。")
+                        .arg(name, QString::number(kMaxXmlText >> 20));
+    return false;
 }
 
 void StreamXmlWriter::EndElement()
@@ -126,7 +136,10 @@ void StreamXmlWriter::FlushWhenLarge()
 bool StreamXmlWriter::Flush()
 {
     const auto size = static_cast<qint64>(m_buffer.size());
-    m_failed = m_failed || m_device.write(m_buffer.data(), size) != size;
+    m_written += size;
+    if (m_written > kMaxXmlBytes && m_refusal.isEmpty())
+        m_refusal = DocumentTooLarge();
+    m_failed = m_failed || !m_refusal.isEmpty() || m_device.write(m_buffer.data(), size) != size;
     m_buffer.clear();
     return !m_failed;
 }

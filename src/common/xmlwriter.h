@@ -23,8 +23,8 @@ public:
     virtual void EndElement() = 0;
 };
 
-/// Writes a document as UTF-8 text with an XML declaration, indented by 4. Texts are cut to what a reader
-/// takes. Flush() tells whether all was taken.
+/// Writes a document as UTF-8 text with an XML declaration, indented by 4. Flush() tells whether all was
+/// taken and a reader will take it again.
 class StreamXmlWriter : public XmlWriter
 {
 public:
@@ -35,10 +35,12 @@ public:
     void Text(std::string_view text) override;
     void EndElement() override;
     bool Flush();
+    QString GetRefusal() const { return m_refusal; } ///< why no reader would take it; empty while one would
 
 private:
     void StartLine();
     void FlushWhenLarge();
+    bool IsWithinLimit(std::string_view text, const char* attribute); ///< `attribute`: null for a content
 
     QIODevice& m_device;
     std::string m_buffer;
@@ -46,6 +48,8 @@ private:
     bool m_tagOpen = false;
     bool m_hasText = false;
     bool m_failed = false;
+    qint64 m_written = 0;
+    QString m_refusal;
 };
 
 /// Appends elements below a parent in a DOM document.
@@ -63,6 +67,9 @@ private:
     QDomDocument m_document;
     QDomElement m_current;
 };
+
+/// Tells the user that a document would be larger than readers take.
+QString DocumentTooLarge();
 
 /// Writes the fields of a record description as attributes of the element just begun.
 class AttributeWriter

@@ -17,9 +17,8 @@
 namespace {
 
 constexpr int kView = InterfaceDesign; ///< the view whose selection is edited
-constexpr qint64 kMaxBlockCabinets = 1048576;
-constexpr double kNoAngle = 0.0001; ///< degrees, below it nothing counts as turned
-constexpr double kFar = 1 << 29;    ///< beyond every canvas, and differences of such places still fit
+constexpr double kNoAngle = 0.0001;    ///< degrees, below it nothing counts as turned
+constexpr double kFar = 1 << 29;       ///< beyond every canvas, and differences of such places still fit
 
 QPoint Rounded(double x, double y) ///< half away from zero
 {
@@ -231,7 +230,7 @@ bool CPortProject::AddTile(const SAddTileInfo& info)
     if (info.columns < 1 || info.rows < 1)
         return false;
     const qint64 count = qint64(info.columns) * info.rows;
-    if (count > kMaxBlockCabinets)
+    if (count > kMaxTilesOfPort - m_tiles.GetCount())
         return false;
 
     QUuid groupId;

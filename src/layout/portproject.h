@@ -51,7 +51,7 @@ public:
     void CancelAllSelected();
     bool DeleteSelectedTileAndGroup();
     /// Places a block row by row, selected and, from two cabinets on, as a group of its own. False, and
-    /// nothing changed, for an empty block or one of more than 1048576 cabinets.
+    /// nothing changed, for an empty block or one with which the port would hold more than kMaxTilesOfPort.
     bool AddTile(const SAddTileInfo& info);
 
     // groups

@@ -4,6 +4,7 @@
 #include "common/rotateparam.h"
 #include "common/smd5.h"
 #include "common/xmlattributes.h"
+#include "common/xmlreader.h"
 
 #include <QString>
 #include <QUuid>
@@ -25,11 +26,15 @@ constexpr char kGroupCount[] = "GroupCount";
 constexpr char kGroup[] = "TileGroup";
 constexpr int kMaxGroupDepth = 1000;
 
-// How much of a file is read, so that a hostile one does not fill the memory.
+// What a file may hold, so that a hostile one does not fill the memory. Of cabinets and groups that is more
+// than a document of the size that is read has room for, as long as they say where they are.
 constexpr int kMaxSenders = 1024;
-constexpr int kMaxTilesOfPort = 131072; ///< a full canvas of cabinets of 64 pixels
-constexpr int kMaxTilesOfFile = 1048576;
-constexpr int kMaxGroupsOfFile = 262144;
+constexpr int kMaxTilesOfFile = static_cast<int>(kMaxXmlBytes / 128);
+constexpr int kMaxGroupsOfFile = static_cast<int>(kMaxXmlBytes / 256);
+
+// Bytes that each takes at least when it is written.
+constexpr int kLeastBytesOfTile = 600;
+constexpr int kLeastBytesOfGroup = 240;
 
 } // namespace layoutnames
 

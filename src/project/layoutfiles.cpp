@@ -61,40 +61,42 @@ bool ReadElement(const QByteArray& content, std::initializer_list<std::string_vi
 
 bool WriteFile(const QString& path, const std::function<void(XmlWriter&)>& write, QString& error)
 {
-    QString tooLarge;
+    QString refusal;
     const bool written = ReplaceFile(
         path,
         [&](QIODevice& file) {
             StreamXmlWriter writer(file);
             write(writer);
-            return writer.Flush()
-                   && (file.size() <= kMaxXmlBytes
-                       || Fail(&tooLarge, QCoreApplication::translate("OrvanData", "文件过大。")));
+            const bool flushed = writer.Flush();
+            refusal = writer.GetRefusal();
+            return flushed;
         },
         &error);
-    return written || tooLarge.isEmpty() ? written : Fail(&error, tooLarge);
+    return written || refusal.isEmpty() ? written : Fail(&error, refusal);
 }
 
-/// Gives the groups of a port whose ids are used elsewhere fresh ones, and adds all of the port's to the
-/// used.
-void RenewGroupIds(CPortProject& layout, QSet<QUuid>& used)
+/// Gives the groups whose ids are used elsewhere fresh ones, kept in `renewed` by the old ones: a group may
+/// lie on several ports.
+void RenewGroupIds(CTileGroupSet& level, const QSet<QUuid>& used, QHash<QUuid, QUuid>& renewed)
 {
-    QHash<QUuid, QUuid> renewed;
     QList<CTileGroup*> groups;
-    layout.GetTileGroupSet()->GetGroupListRecursive(groups);
+    level.GetGroupListRecursive(groups);
     for (CTileGroup* group : groups) {
-        const QUuid id = group->GetID();
-        if (used.contains(id)) {
-            group->SetID(QUuid::createUuid());
-            renewed.insert(id, group->GetID());
-        }
-        used.insert(group->GetID());
+        if (!used.contains(group->GetID()))
+            continue;
+        QUuid& id = renewed[group->GetID()];
+        if (id.isNull())
+            id = QUuid::createUuid();
+        group->SetID(id);
     }
-    CTileSet* tiles = layout.GetTileSet();
-    for (int i = 0; !renewed.isEmpty() && i < tiles->GetCount(); ++i) {
-        const auto found = renewed.constFind(tiles->GetTile(i)->GetGroupId());
+}
+
+void RenewGroupsOfTiles(CTileSet& tiles, const QHash<QUuid, QUuid>& renewed)
+{
+    for (int i = 0; i < tiles.GetCount(); ++i) {
+        const auto found = renewed.constFind(tiles.GetTile(i)->GetGroupId());
         if (found != renewed.constEnd())
-            tiles->GetTile(i)->SetGroupId(*found);
+            tiles.GetTile(i)->SetGroupId(*found);
     }
 }
 
@@ -147,6 +149,8 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
     if (!ReadInput(path, kMaxXmlBytes, &content, &m_lastFileError)
         || !ReadElement(content, names, check, m_lastFileError))
         return false;
+    if (checked.IsRefused())
+        return FailFile(checked.GetRefusal());
 
     QList<CPort*> replaced;
     for (int i = 0; i < kMaxPorts; ++i)
@@ -198,6 +202,8 @@ bool CProjectData::ImportPort(const QString& path)
     if (!ReadInput(path, kMaxXmlBytes, &content, &m_lastFileError)
         || !ReadElement(content, {kPortRoot}, reader, m_lastFileError))
         return false;
+    if (report.IsRefused())
+        return FailFile(report.GetRefusal());
 
     port->GetPortProject()->ClearAllTiles();
     *port = imported;
@@ -214,6 +220,9 @@ void CProjectData::RenewGroupIdsOf(const QList<CPort*>& ports) const
         for (int i = 0; i < kMaxPorts; ++i)
             if (!ports.contains(sender->GetPort(i)))
                 AddGroupIds(*sender->GetPort(i), used);
+    QHash<QUuid, QUuid> renewed;
     for (CPort* port : ports)
-        RenewGroupIds(*port->GetPortProject(), used);
+        RenewGroupIds(*port->GetPortProject()->GetTileGroupSet(), used, renewed);
+    for (CPort* port : ports)
+        RenewGroupsOfTiles(*port->GetPortProject()->GetTileSet(), renewed);
 }

@@ -75,7 +75,8 @@ void DropRepeatedGroups(CTileGroupSet& groups, std::set<QUuid>& seen, ReadReport
 
 } // namespace
 
-TileSetReader::TileSetReader(ReadReport& report) : m_tileReader(*this), m_tiles(kTile, report)
+TileSetReader::TileSetReader(ReadReport& report)
+    : m_report(report), m_tileReader(*this), m_tiles(kTile, report)
 {}
 
 void TileSetReader::SetTarget(CTileSet* tiles, const QUuid& senderId, int portIndex)
@@ -87,14 +88,15 @@ void TileSetReader::SetTarget(CTileSet* tiles, const QUuid& senderId, int portIn
 
 void TileSetReader::Begin(XmlAttributes& attributes)
 {
-    m_tiles.Start(ReadCount(attributes, kTileCount), std::min(kMaxTilesOfPort, kMaxTilesOfFile - m_read));
+    m_tiles.Start(ReadCount(attributes, kTileCount), kMaxTilesOfPort);
 }
 
 XmlHandler* TileSetReader::Child(std::string_view name)
 {
     if (!m_tiles.Expect(name))
         return nullptr;
-    ++m_read;
+    if (++m_read > kMaxTilesOfFile)
+        m_report.Refuse(TooManyToRead(kTile, kMaxTilesOfFile));
     return &m_tileReader;
 }
 
@@ -108,7 +110,7 @@ void TileSetReader::TileReader::Begin(XmlAttributes& attributes)
 
 void TileSetReader::End()
 {
-    if (m_tiles.GetCount() < 1)
+    if (m_tiles.GetCount() < 1 || m_report.IsRefused())
         return;
     m_target->DeleteAllTiles();
     for (std::unique_ptr<CTile>& tile : m_tiles.Take())
@@ -152,9 +154,12 @@ XmlHandler* GroupLevelReader::Child(std::string_view name)
 {
     if (!m_children->Expect(name))
         return nullptr;
-    if (m_depth >= kMaxGroupDepth || m_left == 0) {
-        m_report.Add(m_left > 0 ? QCoreApplication::translate("OrvanData", "分组嵌套过深，更深的分组被跳过")
-                                : QCoreApplication::translate("OrvanData", "分组过多，其余的被跳过"));
+    if (m_depth >= kMaxGroupDepth) {
+        m_report.Add(QCoreApplication::translate("OrvanData", "分组嵌套过深，更深的分组被跳过"));
+        return nullptr;
+    }
+    if (m_left == 0) {
+        m_report.Refuse(TooManyToRead(kGroup, kMaxGroupsOfFile));
         return nullptr;
     }
     --m_left;
@@ -189,7 +194,7 @@ void GroupTreeReader::SetTarget(CTileGroupSet* groups)
 void GroupTreeReader::Take(GroupLevelReader::GroupTree tree)
 {
     CTileGroupSet& groups = *tree->GetSubGroupSet();
-    if (m_top.GetCount() < 1)
+    if (m_top.GetCount() < 1 || m_report.IsRefused())
         return;
     std::set<QUuid> seen; // ordered: ids of a hostile file may share one hash
     DropRepeatedGroups(groups, seen, m_report);
@@ -235,7 +240,7 @@ XmlHandler* PortReader::Child(std::string_view name)
 
 void PortReader::End()
 {
-    if (m_target)
+    if (m_target && !m_report.IsRefused())
         ApplyRecord(m_record, m_senderId, m_portIndex, *m_target);
 }
 
@@ -279,7 +284,7 @@ void SenderReader::End()
 
 SenderLayoutReader::SenderLayoutReader(ReadReport& report, std::function<void(Senders)> take,
                                        std::function<void(int)> progress)
-    : m_take(std::move(take)), m_progress(std::move(progress)), m_senders(kSender, report),
+    : m_report(report), m_take(std::move(take)), m_progress(std::move(progress)), m_senders(kSender, report),
       m_senderReader(report)
 {
     m_senderReader.SetIdRule([this](const QUuid& fileId) { return UniqueId(fileId); });
@@ -321,5 +326,7 @@ QUuid SenderLayoutReader::UniqueId(const QUuid& fileId)
 
 void SenderLayoutReader::End()
 {
-    m_take(m_senders.Take());
+    Senders senders = m_senders.Take();
+    if (!m_report.IsRefused())
+        m_take(std::move(senders));
 }

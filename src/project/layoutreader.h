@@ -21,7 +21,8 @@ class CTileGroupSet;
 class CTileSet;
 
 // Readers of the layout elements, for a stream and for a DOM tree alike. They fill what they are told to fill
-// when their element ends, and say in the report what they passed over.
+// when their element ends, and say in the report what they passed over. Once the report refuses the file they
+// fill nothing any more; what they filled before is for the caller to drop.
 
 /// The cabinets of one port.
 class TileSetReader : public XmlHandler
@@ -48,6 +49,7 @@ private:
         TileSetReader& m_set;
     };
 
+    ReadReport& m_report;
     CTileSet* m_target = nullptr;
     QUuid m_senderId;
     int m_portIndex = -1;
@@ -184,6 +186,7 @@ private:
     void TakeSender();
     QUuid UniqueId(const QUuid& fileId);
 
+    ReadReport& m_report;
     std::function<void(Senders)> m_take;
     std::function<void(int)> m_progress;
     std::unique_ptr<CSender> m_current;

@@ -117,7 +117,9 @@ std::unique_ptr<CTile> MakeTile(const TileRecord& record, const QUuid& senderId,
     auto tile = std::make_unique<CTile>();
     tile->SetSenderId(senderId.isNull() ? record.senderId : senderId);
     tile->SetPortIndex(portIndex == -1 ? record.portIndex : portIndex);
-    tile->SetType(record.type);
+    if (!record.type
+             .IsNull()) // without a type the flags stay those of a new cabinet unless the file says them
+        tile->SetType(record.type);
     tile->SetGroupId(record.groupId);
     PlaceTile(record, *tile);
     WireTile(record, *tile);

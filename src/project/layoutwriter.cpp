@@ -81,19 +81,16 @@ void WriteSenderElement(XmlWriter& writer, std::string_view name, const CSender&
 
 QString WhyTooLarge(const QList<const CPort*>& ports)
 {
-    qint64 tiles = 0;
-    qint64 groups = 0;
+    qint64 bytes = 0;
     for (const CPort* port : ports) {
         const CPortProject& layout = *port->GetPortProject();
         if (layout.GetTileSet()->GetCount() > kMaxTilesOfPort)
             return TooMany(kTile, kMaxTilesOfPort);
-        tiles += layout.GetTileSet()->GetCount();
+        bytes += qint64(layout.GetTileSet()->GetCount()) * kLeastBytesOfTile;
         QList<CTileGroup*> list;
-        groups += layout.GetTileGroupSet()->GetGroupListRecursive(list);
+        bytes += qint64(layout.GetTileGroupSet()->GetGroupListRecursive(list)) * kLeastBytesOfGroup;
     }
-    if (tiles > kMaxTilesOfFile)
-        return TooMany(kTile, kMaxTilesOfFile);
-    return groups > kMaxGroupsOfFile ? TooMany(kGroup, kMaxGroupsOfFile) : QString();
+    return bytes > kMaxXmlBytes ? DocumentTooLarge() : QString();
 }
 
 QString WhyTooLarge(const QList<const CSender*>& senders)

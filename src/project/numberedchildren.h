@@ -14,19 +14,19 @@
 #include <vector>
 
 /// The numbered children of an element ("Tile_1", "Tile_2" …), collected as they come and given out by their
-/// numbers: the first of equal ones, and none beyond the count that the element states.
+/// numbers: the first of equal ones, and none beyond the count that the element states. A file that holds
+/// more than can be saved again is refused, so that the next save cannot cost the rest.
 template <class Item> class NumberedChildren
 {
 public:
     NumberedChildren(std::string prefix, ReadReport& report) : m_prefix(std::move(prefix)), m_report(report)
     {}
 
-    /// `most`: how many are taken whatever the count says; that there were more is told once.
+    /// `most`: how many there may be, whatever the count says.
     void Start(int count, int most)
     {
         m_count = std::max(count, 0);
         m_most = most;
-        m_overflowed = false;
         m_items.clear();
         m_numbers.clear();
     }
@@ -35,6 +35,8 @@ public:
     /// Whether a child of this name is wanted, which it is once; its number is that of the next item added.
     bool Expect(std::string_view name)
     {
+        if (m_report.IsRefused())
+            return false;
         if (name.substr(0, m_prefix.size()) != m_prefix)
             return Skip(name);
         const std::string_view digits = name.substr(m_prefix.size());
@@ -61,7 +63,7 @@ public:
         const auto before = [](const auto& a, const auto& b) { return a.first < b.first; };
         if (!std::is_sorted(m_items.begin(), m_items.end(), before))
             std::sort(m_items.begin(), m_items.end(), before);
-        if (static_cast<int>(m_items.size()) < m_count && !m_overflowed)
+        if (static_cast<int>(m_items.size()) < m_count)
             ReportMissing();
 
         std::vector<Item> items;
@@ -81,10 +83,7 @@ private:
 
     bool Overflow()
     {
-        if (!m_overflowed)
-            m_report.Add(QCoreApplication::translate("OrvanData", "“%1”过多，只读取%2个")
-                             .arg(QString::fromStdString(m_prefix).left(64), QString::number(m_most)));
-        m_overflowed = true;
+        m_report.Refuse(TooManyToRead(m_prefix, m_most));
         return false;
     }
 
@@ -99,7 +98,6 @@ private:
     ReadReport& m_report;
     int m_count = 0;
     int m_most = 0;
-    bool m_overflowed = false;
     int m_number = 0;
     QSet<int> m_numbers; ///< of the children expected so far
     std::vector<std::pair<int, Item>> m_items;

@@ -1,16 +1,22 @@
 #include "project/parameterwork.h"
 
 #include "common/atomicfile.h"
+#include "common/failure.h"
 #include "common/inputfile.h"
 #include "products/productdirectoryset.h"
 #include "project/readreport.h"
+#include "settings/archive.h"
 #include "settings/constantdata.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
 
 namespace parameterwork {
 
@@ -18,18 +24,20 @@ namespace {
 
 constexpr auto kAllEntries = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
-bool IsDocumentOrParameterFile(const QString& name)
+const QString kEntryFolder = QStringLiteral("project/");
+const QString kDocument = QStringLiteral("new.prj");
+const ArchiveLimits kLimits = {qint64(256) << 20, kEntryFolder + kDocument}; ///< of all parameter files
+
+bool IsParameterFile(const QString& name)
 {
-    static const QRegularExpression files(QStringLiteral("\\A([0-9]+\\.rcvbp|new\\.prj)\\z"));
+    static const QRegularExpression files(QStringLiteral("\\A[0-9]+\\.rcvbp\\z"));
     return files.match(name).hasMatch();
 }
 
 /// Whether packing and unpacking put something of that name into the project folder.
 bool IsOurs(const QString& name)
 {
-    // What a copy that was killed leaves on a file system without unnamed files.
-    static const QRegularExpression unfinished(QStringLiteral("\\Aqt_temp\\.[A-Za-z]{6}\\z"));
-    return IsDocumentOrParameterFile(name) || unfinished.match(name).hasMatch();
+    return name == kDocument || IsParameterFile(name);
 }
 
 void Remove(const QFileInfo& entry)
@@ -40,9 +48,20 @@ void Remove(const QFileInfo& entry)
         QFile::remove(entry.filePath());
 }
 
+/// Where a document is written before it takes the place of the last one.
+QString NextDocumentPath()
+{
+    return CConstantData::GetProjectParamFileTemp() + kDocument + QStringLiteral(".part");
+}
+
+QString NumberedName(int row)
+{
+    return QString::number(row) + QStringLiteral(".rcvbp");
+}
+
 QString NumberedPath(int row)
 {
-    return ProjectFolder() + QString::number(row) + QStringLiteral(".rcvbp");
+    return ProjectFolder() + NumberedName(row);
 }
 
 bool IsThere(const QString& path)
@@ -58,43 +77,88 @@ bool HoldsType(const QString& path, const SMD5& type)
            && CConstantData::GetMD5FromFile(path) == type;
 }
 
-bool Replace(const QString& source, const QString& target)
+bool Replace(const QString& source, const QString& target, QString* error)
 {
     QFile file(source);
-    // A link would be written through.
-    if (!OpenInput(file) || (QFileInfo(target).isSymLink() && !QFile::remove(target)))
+    if (!OpenInput(file, error))
         return false;
-    return ReplaceFile(target, [&file](QIODevice& copy) { return CopyContent(file, copy); });
+    QFile link(target); // would be written through
+    if (QFileInfo(target).isSymLink() && !link.remove())
+        return Fail(error, link.errorString());
+    const auto copy = [&file](QIODevice& to) { return CopyContent(file, to); };
+    return ReplaceFile(target, copy, error)
+           || (file.error() != QFileDevice::NoError && Fail(error, file.errorString()));
+}
+
+/// How far a copy came. A file that cannot be read costs itself; where nothing can be written any more, the
+/// archive that is there keeps what it has.
+enum class Copied
+{
+    Yes,
+    Unreadable,
+    Unwritable
+};
+
+Copied CopyAnew(const QString& source, const QString& target, qint64 most, QString* error)
+{
+    QFile from(source);
+    if (!OpenInput(from, error))
+        return Copied::Unreadable;
+    if (from.size() > most) {
+        *error = QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(source);
+        return Copied::Unreadable;
+    }
+    QFile to(target);
+    if (to.open(QIODevice::WriteOnly | QIODevice::NewOnly) && CopyContent(from, to) && to.flush())
+        return Copied::Yes;
+    const bool readFailed = from.error() != QFileDevice::NoError;
+    *error = readFailed ? from.errorString() : to.errorString();
+    to.remove();
+    return readFailed ? Copied::Unreadable : Copied::Unwritable;
 }
 
 /// Copies the row's file to where it is packed: the project's own, or the library's when that is not of the
 /// row's type. The copy is looked at: another program may replace the original. `error` stays empty when
 /// there is no file.
-bool CopyForPacking(const SParameterFileInfo& row, const CProductDirectorySet* products,
-                    const QString& target, QString* error)
+Copied CopyForPacking(const SParameterFileInfo& row, const CProductDirectorySet* products,
+                      const QString& target, qint64 most, QString* error)
 {
-    QFile own(PathOf(row.name));
-    QFile library(LibraryFile(products, row.type));
-    const bool hasOwn = QFileInfo(own).isFile();
-    const bool hasLibrary = !library.fileName().isEmpty() && library.exists();
-    if (hasOwn && own.copy(target) && (!hasLibrary || HoldsType(target, row.type)))
-        return true;
-    if (!hasLibrary) {
-        *error = hasOwn ? own.errorString() : QString();
-        return false;
-    }
+    const QString own = PathOf(row.name);
+    const QString library = LibraryFile(products, row.type);
+    const bool hasLibrary = QFile::exists(library);
+    Copied copied = Copied::Unreadable;
+    if (QFileInfo::exists(own))
+        copied = CopyAnew(own, target, most, error);
+    if (copied == Copied::Unwritable || !hasLibrary || (copied == Copied::Yes && HoldsType(target, row.type)))
+        return copied;
     QFile::remove(target);
-    const bool copied = library.copy(target);
-    *error = copied ? QString() : library.errorString();
-    return copied;
+    return CopyAnew(library, target, most, error);
 }
 
 /// A product is told by its digest: the library keeps the file it has, and never loses one to another's name.
-void OfferToLibrary(const QString& source, const SParameterFileInfo& row, CProductDirectorySet* products)
+bool OfferToLibrary(const QString& source, const SParameterFileInfo& row, QSet<SMD5>& known)
 {
+    const SMD5 digest = CConstantData::GetMD5FromFile(source);
+    if (known.contains(digest))
+        return true;
     const QString target = CProductDirectorySet::GetRootDir() + row.name + QStringLiteral(".rcvbp");
-    if (!IsThere(target) && !products->FindProductFromGuid(CConstantData::GetMD5FromFile(source)))
-        QFile::copy(source, target);
+    if (IsThere(target) ? CConstantData::GetMD5FromFile(target) != digest : !QFile::copy(source, target))
+        return false;
+    known.insert(digest);
+    return true;
+}
+
+/// The digests of all products in the product folder, as it is now: a copy of one of them would make the next
+/// scan take one of the two away.
+QSet<SMD5> DigestsInFolder(CProductDirectorySet& products)
+{
+    QSet<SMD5> digests;
+    products.LoadProductInfo();
+    products.FindProduct([&digests](const CProduct& product) {
+        digests.insert(product.GetMd5());
+        return false;
+    });
+    return digests;
 }
 
 void ReportMissing(const SParameterFileInfo& row, ReadReport& report)
@@ -102,22 +166,35 @@ void ReportMissing(const SParameterFileInfo& row, ReadReport& report)
     report.Add(QCoreApplication::translate("OrvanData", "缺少参数文件“%1”").arg(row.name));
 }
 
+void ReportUnsaved(const SParameterFileInfo& row, const QString& why, ReadReport& report)
+{
+    report.Add(QCoreApplication::translate("OrvanData", "参数文件“%1”无法保存：%2").arg(row.name, why));
+}
+
+/// Unpacks what it can; why the others are not there, by the names of their entries.
+QHash<QString, QString> UnpackParameterFiles(const QString& archive, ReadReport& report)
+{
+    const auto isParameterFile = [](const QString& name) {
+        return name.startsWith(kEntryFolder) && IsParameterFile(name.mid(kEntryFolder.size()));
+    };
+    QHash<QString, QString> damaged;
+    QString error;
+    if (!UnpackArchive(archive, CConstantData::GetProjectParamFileTemp(), isParameterFile, &error, kLimits,
+                       [&damaged](const QString& name, const QString& why) { damaged.insert(name, why); }))
+        report.Add(error);
+    return damaged;
+}
+
 } // namespace
 
 QString ProjectFolder()
 {
-    return CConstantData::GetProjectParamFileTemp() + QStringLiteral("project/");
+    return CConstantData::GetProjectParamFileTemp() + kEntryFolder;
 }
 
 QString DocumentPath()
 {
-    return ProjectFolder() + QStringLiteral("new.prj");
-}
-
-bool IsPacked(const QString& entry)
-{
-    const QLatin1String folder("project/");
-    return entry.startsWith(folder) && IsDocumentOrParameterFile(entry.mid(folder.size()));
+    return ProjectFolder() + kDocument;
 }
 
 QString LockPath()
@@ -140,27 +217,31 @@ QString LibraryFile(const CProductDirectorySet* products, const SMD5& type)
     return path;
 }
 
-bool Store(const QString& source, const QString& name, const SMD5& type)
+bool Store(const QString& source, const QString& name, const SMD5& type, QString* error)
 {
     const QString target = PathOf(name);
-    return HoldsType(target, type) || Replace(source, target);
+    return HoldsType(target, type) || Replace(source, target, error);
 }
 
 bool IsInTheWay(const QString& path)
 {
     const QFileInfo file(path);
     const QFileInfo target(file.exists() ? file.canonicalFilePath() : path);
-    return target.dir().canonicalPath() == QDir(ProjectFolder()).canonicalPath() && IsOurs(target.fileName());
+    const QString folder = target.dir().canonicalPath();
+    if (folder == QFileInfo(NextDocumentPath()).dir().canonicalPath())
+        return target.fileName() == QFileInfo(NextDocumentPath()).fileName();
+    return folder == QDir(ProjectFolder()).canonicalPath() && IsOurs(target.fileName());
 }
 
-bool MakeProjectFolder()
+bool MakeProjectFolder(QString* error)
 {
     const QString path = ProjectFolder().chopped(1);
     const QFileInfo info(path);
     if (info.isSymLink() || info.isFile())
         QFile::remove(path);
     if (!QDir().mkpath(path))
-        return false;
+        return Fail(error,
+                    QCoreApplication::translate("OrvanData", "无法创建项目工作文件夹“%1”。").arg(path));
     const QDir folder(path);
     for (const QFileInfo& entry : folder.entryInfoList(kAllEntries))
         if (IsOurs(entry.fileName()))
@@ -168,39 +249,84 @@ bool MakeProjectFolder()
     return true;
 }
 
+bool ReplaceDocument(const std::function<bool(QIODevice&)>& write, QString* error)
+{
+    QFile next(NextDocumentPath());
+    const auto fail = [&next, error] {
+        return Fail(error, next.fileName() + QStringLiteral(": ") + next.errorString());
+    };
+    next.remove(); // a killed save's
+    bool done =
+        (next.open(QIODevice::WriteOnly | QIODevice::NewOnly) && write(next) && next.flush()) || fail();
+    next.close();
+    done = done && MakeProjectFolder(error) && (next.rename(DocumentPath()) || fail());
+    if (!done)
+        next.remove();
+    return done;
+}
+
 bool CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
                       ReadReport& report)
 {
+    qint64 left = kLimits.total;
+    int entries = 1; // the document
     for (int i = 0; i < rows.size(); ++i) {
         QString error;
-        if (CopyForPacking(rows[i], products, NumberedPath(i), &error))
-            continue;
-        if (!error.isEmpty()) {
-            report.Add(error);
-            return false;
+        const qint64 most = entries < kMaxArchiveEntries ? std::min(left, kMaxArchiveEntrySize) : -1;
+        const Copied copied = CopyForPacking(rows[i], products, NumberedPath(i), most, &error);
+        if (copied == Copied::Yes) {
+            left -= QFileInfo(NumberedPath(i)).size();
+            ++entries;
+        } else if (error.isEmpty()) {
+            ReportMissing(rows[i], report);
+        } else {
+            ReportUnsaved(rows[i], error, report);
         }
-        ReportMissing(rows[i], report);
+        if (copied == Copied::Unwritable)
+            return false;
     }
     return true;
 }
 
-void DistributeAfterLoading(const QList<SParameterFileInfo>& rows, CProductDirectorySet* products,
-                            ReadReport& report)
+bool Pack(const QString& archive, QString* error)
 {
+    return PackFolder(ProjectFolder(), archive, error, kLimits);
+}
+
+bool UnpackDocument(const QString& archive, QString* error)
+{
+    const auto isDocument = [](const QString& name) { return name == kEntryFolder + kDocument; };
+    return UnpackArchive(archive, CConstantData::GetProjectParamFileTemp(), isDocument, error)
+           && (QFile::exists(DocumentPath())
+               || Fail(error, QCoreApplication::translate("OrvanData", "压缩包里没有“project/new.prj”。")));
+}
+
+void DistributeAfterLoading(const QString& archive, const QList<SParameterFileInfo>& rows,
+                            CProductDirectorySet* products, ReadReport& report)
+{
+    const QHash<QString, QString> damaged = UnpackParameterFiles(archive, report);
+    QSet<SMD5> known = products ? DigestsInFolder(*products) : QSet<SMD5>();
+    const int knownBefore = known.size();
     for (int i = 0; i < rows.size(); ++i) {
         const QString source = NumberedPath(i);
+        QString why = damaged.value(kEntryFolder + NumberedName(i));
+        if (!why.isEmpty()) {
+            ReportUnsaved(rows[i], why, report);
+            continue;
+        }
         if (!QFileInfo(source).isFile()) {
             ReportMissing(rows[i], report);
             continue;
         }
         if (rows[i].name.isEmpty()) // a repeated type, listed once under another row
             continue;
-        if (!Store(source, rows[i].name, rows[i].type))
-            report.Add(QCoreApplication::translate("OrvanData", "参数文件“%1”无法保存").arg(rows[i].name));
-        if (products)
-            OfferToLibrary(source, rows[i], products);
+        if (!Store(source, rows[i].name, rows[i].type, &why))
+            ReportUnsaved(rows[i], why, report);
+        if (products && !OfferToLibrary(source, rows[i], known))
+            report.Add(
+                QCoreApplication::translate("OrvanData", "参数文件“%1”无法放入产品库").arg(rows[i].name));
     }
-    if (products)
+    if (known.size() > knownBefore)
         products->LoadProductInfo();
 }
 

@@ -6,7 +6,10 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 class CProductDirectorySet;
+class QIODevice;
 class ReadReport;
 
 /// The receiver parameter files in the project work folder: name + ".rcvbp" while a project is open, numbered
@@ -22,26 +25,32 @@ QString PathOf(const QString& name); ///< of the open project's file of that nam
 QString LibraryFile(const CProductDirectorySet* products, const SMD5& type);
 
 /// Puts a copy of `source` under the name, unless a file of that type is there already.
-bool Store(const QString& source, const QString& name, const SMD5& type);
+bool Store(const QString& source, const QString& name, const SMD5& type, QString* error = nullptr);
 
 /// Makes the project folder, in the place of a file or link of that name if there is one, and removes the
 /// document and the numbered files that an earlier packing or unpacking left there.
-bool MakeProjectFolder();
+bool MakeProjectFolder(QString* error);
 
-/// Whether an archive's entry of that name is the document or a parameter file. Others would come into every
-/// project that is packed afterwards.
-bool IsPacked(const QString& entry);
+/// The same with a new document in the folder. When `write` fails, nothing there has changed.
+bool ReplaceDocument(const std::function<bool(QIODevice&)>& write, QString* error);
 
-/// Whether the path leads to one of the files that MakeProjectFolder removes.
+/// Whether the path leads to one of the files that saving and loading remove.
 bool IsInTheWay(const QString& path);
 
-/// Lays the files of the rows down by their numbers. A file that is nowhere to be found is reported; false,
-/// with the reason, when one that is there cannot be copied.
+/// Lays the files of the rows down by their numbers. One that is nowhere to be found, cannot be read or is
+/// too large for an archive is left out and reported; false, with the reason, when the folder takes no copy.
 bool CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
                       ReadReport& report);
 
-/// Gives the unpacked numbered files their names here and in the product library, and lets that look again.
-void DistributeAfterLoading(const QList<SParameterFileInfo>& rows, CProductDirectorySet* products,
-                            ReadReport& report);
+bool Pack(const QString& archive, QString* error); ///< what lies in the project folder
+
+/// Unpacks the document alone. Other entries than it and the parameter files are passed over: they would come
+/// into every project that is packed afterwards.
+bool UnpackDocument(const QString& archive, QString* error);
+
+/// Unpacks the parameter files, gives them their names here and in the product library, and lets that look
+/// again. What cannot be had or be put there is reported.
+void DistributeAfterLoading(const QString& archive, const QList<SParameterFileInfo>& rows,
+                            CProductDirectorySet* products, ReadReport& report);
 
 } // namespace parameterwork

@@ -253,8 +253,8 @@ private:
     MonitorRecord MakeMonitorRecord() const;
     void TakeMonitorRecord(const MonitorRecord& record);
     void WriteDocument(XmlWriter& writer, CCustomProgressbar* progress) const;
-    /// Takes the lock and empties the work folder for an archive, which must not lie in the way there.
-    bool PrepareWorkFolder(QLockFile& lock, const QString& archive);
+    /// Takes the lock of the work folder for an archive, which must not lie in the way there.
+    bool TakeWorkFolder(QLockFile& lock, const QString& archive);
     bool IsWithinLimits(); ///< else the file would not be read whole again
     bool SaveDocument(CCustomProgressbar* progress);
     bool LoadArchive(const QString& path, QString& version, CCustomProgressbar* progress);

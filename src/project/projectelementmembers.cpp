@@ -37,13 +37,16 @@ void ReadRecord(const QDomElement* element, Record& record, void (*describe)(Att
     ReadFrom(element, reader);
 }
 
-template <class Record> QList<Record> ReadList(const QDomElement* element, const ListFormat<Record>& format)
+/// The list of an element, `held` when there are more records than there may be.
+template <class Record>
+QList<Record> ReadList(const QDomElement* element, const ListFormat<Record>& format,
+                       const QList<Record>& held)
 {
     ReadReport report;
     QList<Record> list;
     ListReader<Record> reader(format, report, [&list](QList<Record> read) { list = std::move(read); });
     ReadFrom(element, reader);
-    return list;
+    return report.IsRefused() ? held : list;
 }
 
 /// The element itself when it has the name, else its first child of that name.
@@ -95,7 +98,7 @@ void CProjectData::WriteSenderGroup(QDomDocument document, QDomElement* parent)
 
 void CProjectData::ReadSenderGroup(QDomDocument, QDomElement* element)
 {
-    m_groups = ReadList(element, kSenderGroupList);
+    m_groups = ReadList(element, kSenderGroupList, m_groups);
 }
 
 void CProjectData::WriteTileGamma(QDomDocument document, QDomElement* parent)
@@ -105,7 +108,7 @@ void CProjectData::WriteTileGamma(QDomDocument document, QDomElement* parent)
 
 void CProjectData::ReadTileGamma(QDomDocument, QDomElement* element)
 {
-    m_gamma = ReadList(element, kGammaList);
+    m_gamma = ReadList(element, kGammaList, m_gamma);
 }
 
 void CProjectData::WritePrintData(QDomDocument document, QDomElement* parent)
@@ -138,7 +141,7 @@ void CProjectData::WriteParameterFileInfo(QDomDocument document, QDomElement* pa
 
 void CProjectData::ReadParameterFileInfo(QDomDocument, QDomElement* element)
 {
-    TakeParameterFiles(ReadList(element, kParameterFileList));
+    TakeParameterFiles(ReadList(element, kParameterFileList, m_parameterFiles));
 }
 
 void CProjectData::WriteSender(QDomDocument document, QDomElement* parent, CCustomProgressbar* progress)
@@ -164,6 +167,7 @@ bool CProjectData::ReadSender(QDomDocument, QDomElement* element, QString&, CCus
         },
         progress ? [progress](int percent) { progress->SetValue(percent); } : std::function<void(int)>());
     ReadFrom(element, reader);
+    m_lastFileError = report.IsRefused() ? report.GetRefusal() : report.Text();
     return true;
 }
 
@@ -177,11 +181,14 @@ void CProjectData::WriteSingleSender(QDomDocument document, QDomElement* parent,
 void CProjectData::ReadSingleSender(QDomDocument, QDomElement* element, CSender* sender, const QUuid& newId,
                                     bool keepLockedPorts, bool attributes)
 {
-    if (!element || !sender)
+    ReadReport report;
+    CSender probe;
+    SenderReader check(report);
+    check.SetTarget(&probe, SenderParts::LayoutOnly, false);
+    if (!sender || !ReadFrom(element, check) || report.IsRefused())
         return;
     if (!newId.isNull())
         sender->SetId(newId);
-    ReadReport report;
     SenderReader reader(report);
     reader.SetTarget(sender, attributes ? SenderParts::LayoutAndView : SenderParts::LayoutOnly,
                      keepLockedPorts);
@@ -198,9 +205,12 @@ bool CProjectData::ReadPort(QDomDocument, const QString& name, CPort* port, QDom
                             const QUuid& senderId, int portIndex, bool keepLocked)
 {
     const QDomElement found = Named(element, name);
-    if (found.isNull() || !port)
-        return false;
     ReadReport report;
+    CPort probe;
+    PortReader check(report);
+    check.SetTarget(&probe, senderId, portIndex, false);
+    if (!port || !ReadFrom(&found, check) || report.IsRefused())
+        return false;
     PortReader reader(report);
     reader.SetTarget(port, senderId, portIndex, keepLocked);
     return ReadFrom(&found, reader);

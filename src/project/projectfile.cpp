@@ -10,8 +10,6 @@
 #include "project/projectdata.h"
 #include "project/projectlookup.h"
 #include "project/projectreader.h"
-#include "settings/archive.h"
-#include "settings/constantdata.h"
 
 #include "customprogressbar.h"
 
@@ -27,9 +25,6 @@ constexpr int kLockTimeout = 30000; ///< milliseconds
 /// Milliseconds. No save takes that long, and it is less than the timeout: a program that was killed before
 /// it wrote its name into the lock file costs a wait.
 constexpr int kStaleLockTime = 20000;
-
-/// The receiver parameter files of a project are small; they are copied several times.
-const ArchiveLimits kLimits = {qint64(64) << 20, QStringLiteral("project/new.prj")};
 
 std::function<void(int)> Reports(CCustomProgressbar* progress)
 {
@@ -64,22 +59,20 @@ QString CProjectData::GetLastFileError() const
     return m_lastFileError;
 }
 
-bool CProjectData::PrepareWorkFolder(QLockFile& lock, const QString& archive)
+bool CProjectData::TakeWorkFolder(QLockFile& lock, const QString& archive)
 {
     if (!LockWorkFolder(lock))
         return FailFile(QCoreApplication::translate("OrvanData", "另一个程序正在使用项目工作文件夹。"));
-    if (parameterwork::IsInTheWay(archive))
-        return FailFile(
-            QCoreApplication::translate("OrvanData", "项目文件不能是项目工作文件夹里的临时文件。"));
-    return parameterwork::MakeProjectFolder()
-           || FailFile(QCoreApplication::translate("OrvanData", "无法创建项目工作文件夹。"));
+    return !parameterwork::IsInTheWay(archive)
+           || FailFile(
+               QCoreApplication::translate("OrvanData", "项目文件不能是项目工作文件夹里的临时文件。"));
 }
 
 bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* progress)
 {
     m_lastFileError.clear();
     QLockFile lock(parameterwork::LockPath());
-    if (!IsWithinLimits() || !PrepareWorkFolder(lock, path) || !SaveDocument(progress))
+    if (!IsWithinLimits() || !TakeWorkFolder(lock, path) || !SaveDocument(progress))
         return false;
 
     ReadReport report;
@@ -87,9 +80,11 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     const bool complete =
         parameterwork::CollectForSaving(m_parameterFiles, GetProjectLookup()->Products(), report);
     QString error;
-    if (complete && !PackFolder(parameterwork::ProjectFolder(), path, &error, kLimits))
-        report.Add(error);
+    const bool saved = complete && parameterwork::Pack(path, &error);
     m_lastFileError = report.Text();
+    if (!saved)
+        m_lastFileError = QCoreApplication::translate("OrvanData", "项目文件没有保存：%1")
+                              .arg(complete ? error : m_lastFileError);
     return true;
 }
 
@@ -112,12 +107,16 @@ bool CProjectData::IsWithinLimits()
 
 bool CProjectData::SaveDocument(CCustomProgressbar* progress)
 {
-    QFile file(parameterwork::DocumentPath());
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return FailFile(file.errorString());
-    StreamXmlWriter writer(file);
-    WriteDocument(writer, progress);
-    return (writer.Flush() && file.flush()) || FailFile(file.errorString());
+    QString refusal;
+    QString error;
+    const auto write = [&](QIODevice& file) {
+        StreamXmlWriter writer(file);
+        WriteDocument(writer, progress);
+        const bool written = writer.Flush();
+        refusal = writer.GetRefusal();
+        return written;
+    };
+    return parameterwork::ReplaceDocument(write, &error) || FailFile(refusal.isEmpty() ? error : refusal);
 }
 
 void CProjectData::WriteDocument(XmlWriter& writer, CCustomProgressbar* progress) const
@@ -186,17 +185,14 @@ bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustom
 bool CProjectData::LoadArchive(const QString& path, QString& version, CCustomProgressbar* progress)
 {
     QLockFile lock(parameterwork::LockPath());
-    if (!PrepareWorkFolder(lock, path))
+    if (!TakeWorkFolder(lock, path))
         return false;
     QString error;
-    const bool unpacked = UnpackArchive(path, CConstantData::GetProjectParamFileTemp(),
-                                        parameterwork::IsPacked, &error, kLimits);
-    if (!unpacked || !QFile::exists(parameterwork::DocumentPath()))
-        return FailFile(unpacked ? QCoreApplication::translate("OrvanData", "压缩包里没有“project/new.prj”。")
-                                 : error);
+    if (!parameterwork::MakeProjectFolder(&error) || !parameterwork::UnpackDocument(path, &error))
+        return FailFile(error);
     return LoadDocument(parameterwork::DocumentPath(), version, progress,
-                        [](const QList<SParameterFileInfo>& rows, ReadReport& report) {
-                            parameterwork::DistributeAfterLoading(rows, GetProjectLookup()->Products(),
+                        [&path](const QList<SParameterFileInfo>& rows, ReadReport& report) {
+                            parameterwork::DistributeAfterLoading(path, rows, GetProjectLookup()->Products(),
                                                                   report);
                         });
 }
@@ -219,6 +215,8 @@ bool CProjectData::LoadDocument(
     version = reader.GetRefusedVersion();
     if (!version.isNull())
         return FailFile(QCoreApplication::translate("OrvanData", "此文件需要更新的版本：") + version);
+    if (report.IsRefused())
+        return FailFile(report.GetRefusal());
 
     const QList<SParameterFileInfo> rows = TakeContent(content);
     if (distribute)

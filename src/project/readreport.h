@@ -5,18 +5,26 @@
 
 #include <string_view>
 
-/// What a reader passed over: a few lines for the user, never more than kMaxLines of a hostile file.
+/// Tells the user that a file holds more children of this name than there may be.
+QString TooManyToRead(std::string_view name, int most);
+
+/// What a reader passed over: a few lines for the user, never more than kMaxLines of a hostile file. Or why
+/// it refuses the file, of which nothing is taken then.
 class ReadReport
 {
 public:
+    void Refuse(const QString& why); ///< the first reason stays
+    bool IsRefused() const { return !m_refusal.isEmpty(); }
+    QString GetRefusal() const { return m_refusal; }
+
     void Add(const QString& line);
     void AddElement(std::string_view name); ///< an element that was passed over
     QString Text() const;                   ///< lines joined by "; ", empty when nothing was passed over
-    bool IsEmpty() const { return m_lines.isEmpty(); }
 
 private:
     static constexpr int kMaxLines = 10;
 
+    QString m_refusal;
     QStringList m_lines;
     int m_more = 0;
 };

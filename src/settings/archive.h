@@ -26,7 +26,8 @@ bool PackFolder(const QString& folder, const QString& zipPath, QString* error = 
 /// Unpacks an archive below a folder in the archive's order and stops at the first entry that is refused or
 /// fails; what was unpacked before it stays. With `wanted`, which is told the names of entries, others are
 /// skipped after their names were checked. Files of the same name are replaced; nothing is written through a
-/// link.
+/// link. With `leftOut` an entry whose content is damaged or too large costs itself alone and is told there.
 bool UnpackArchive(const QString& zipPath, const QString& folder,
                    const std::function<bool(const QString&)>& wanted = {}, QString* error = nullptr,
-                   const ArchiveLimits& limits = {});
+                   const ArchiveLimits& limits = {},
+                   const std::function<void(const QString& name, const QString& why)>& leftOut = {});

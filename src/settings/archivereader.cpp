@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
 #include <memory>
 #include <sys/stat.h>
 #include <zip.h>
@@ -98,10 +99,11 @@ bool Accept(zip_t* archive, zip_uint64_t index, const QString& name, bool counts
     zip_stat_t stat;
     if (zip_stat_index(archive, index, 0, &stat) != 0 || !IsReadable(stat) || IsLink(archive, index))
         return Fail(error, NotUnpacked(name));
-    if (stat.size > zip_uint64_t(kMaxArchiveEntrySize))
+    const qint64 most = counts ? std::min(*left, kMaxArchiveEntrySize) : kMaxArchiveEntrySize;
+    if (stat.size > zip_uint64_t(most))
         return Fail(error, TooLarge(name));
     *left -= counts ? static_cast<qint64>(stat.size) : 0;
-    return *left >= 0 || Fail(error, TooLarge(name));
+    return true;
 }
 
 std::unique_ptr<zip_t, Discard> Open(const QString& path)
@@ -117,7 +119,8 @@ std::unique_ptr<zip_t, Discard> Open(const QString& path)
 
 bool UnpackArchive(const QString& zipPath, const QString& folder,
                    const std::function<bool(const QString&)>& wanted, QString* error,
-                   const ArchiveLimits& limits)
+                   const ArchiveLimits& limits,
+                   const std::function<void(const QString& name, const QString& why)>& leftOut)
 {
     if (!QFileInfo(zipPath).isFile())
         return Fail(error, QCoreApplication::translate("OrvanData", "文件不存在: %1").arg(zipPath));
@@ -144,10 +147,13 @@ bool UnpackArchive(const QString& zipPath, const QString& folder,
             return Fail(error, TooLarge(name.left(kShownName)));
         if (wanted && !wanted(name))
             continue;
-        if (!Accept(archive.get(), i, name, name != limits.apart, &left, error))
-            return false;
-        if (!Extract(archive.get(), i, name, base, folders))
-            return Fail(error, NotUnpacked(name));
+        QString why;
+        if (Accept(archive.get(), i, name, name != limits.apart, &left, &why)
+            && (Extract(archive.get(), i, name, base, folders) || Fail(&why, NotUnpacked(name))))
+            continue;
+        if (!leftOut)
+            return Fail(error, why);
+        leftOut(name, why);
     }
     return true;
 }

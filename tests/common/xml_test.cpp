@@ -65,9 +65,19 @@ TEST(XmlReaderTest, StreamAndTreeGiveTheSameToAHandler)
     EXPECT_EQ(recorder.log, log);
 }
 
-TEST(XmlReaderTest, NulBehindADigestIsPassedOver)
+TEST(XmlReaderTest, NulIsPassedOverHoweverItIsWritten)
 {
-    EXPECT_EQ(Parsed(QByteArray("<r a='ab\0'/>", 12), true), "r(ab)");
+    const QByteArray zeros(300000, '0');
+    for (const QByteArray& nul : {QByteArray(1, '\0'), QByteArray("&#0;"), QByteArray("&#x00;"),
+                                  "&#" + zeros + ';', QByteArray("&#\0x0;", 7)})
+        EXPECT_EQ(Parsed("<r a='a" + nul + "b&#10;&amp;'/>", true), "r(ab\n&)") << nul.left(9).toStdString();
+    for (const char* other : {"&#;", "&#x;", "&#X0;", "&#00", "&#01;", "&#0g;"})
+        Parsed(QByteArray("<r a='") + other + "'/>", false);
+    for (int before = 1; before < 8; ++before) { // cut in two by the end of a chunk
+        const QByteArray text = QByteArray(256 * 1024 - 6 - before, 'x');
+        EXPECT_EQ(Parsed("<r a='" + text + "&#x000;'/>", true).size(), size_t(text.size()) + 3);
+        EXPECT_EQ(Parsed("<r a='" + text + "&#x009;'/>", true).back(), ')');
+    }
 }
 
 TEST(XmlReaderTest, DeepNestingDoctypeAndBrokenFilesAreRefused)

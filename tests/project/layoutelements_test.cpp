@@ -59,6 +59,7 @@ TEST_F(LayoutElementsTest, AttributesAreTakenAsTheirRulesSay)
               "MultiRcvSizeX=\"0\" MultiRcvSizeY=\"5\" MultiOrdered=\"0\"/></TitleLayout>");
     const CTile& first = *tiles.GetTile(0);
     EXPECT_TRUE(first.GetType().IsNull()) << "31 characters are no digest";
+    EXPECT_TRUE(first.IsMultiRcvsOrdered()) << "only a type takes the flags of its product";
     EXPECT_EQ(first.GetX(), 32568);
     EXPECT_EQ(first.GetY(), 0);
     EXPECT_EQ(first.GetMultiRcvsLineCode(3), 2);

@@ -85,23 +85,27 @@ TEST_F(LayoutFilesTest, LockedPortsAreKeptWhenWanted)
     EXPECT_EQ(target->GetSenderName(), QString()) << "only the layout was asked for";
 }
 
-TEST_F(LayoutFilesTest, GroupIdsUsedElsewhereAreRenewed)
+TEST_F(LayoutFilesTest, GroupIdsUsedElsewhereAreRenewedOverTheWholeSender)
 {
-    ASSERT_TRUE(project.ImportSender(SamplePath("sender-layout.xml"), target->GetId(), false, false));
+    const QUuid inner = MakeWall(*target->GetPort(0), 2, 1);
+    const QUuid outer = MakeWall(*target->GetPort(0), 2, 1);
+    NestGroups(*target->GetPort(0), outer, {inner});
+    MakeWall(*target->GetPort(1), 1, 1);
+    TilesOf(*target->GetPort(1)).GetTile(0)->SetGroupId(inner); // the group itself lies on the first port
+    const QString path = folder.Path(QStringLiteral("a.xml"));
+    ASSERT_TRUE(project.ExportSender(path, target->GetId()));
     CSender* other = project.GetSender(0);
-    ASSERT_TRUE(project.ImportSender(SamplePath("sender-layout.xml"), other->GetId(), false, false));
-    QMap<QUuid, CTileGroup*> first;
-    QMap<QUuid, CTileGroup*> second;
-    GroupsOf(*target->GetPort(0)).GetGroupListRecursive(first);
-    GroupsOf(*other->GetPort(0)).GetGroupListRecursive(second);
-    ASSERT_EQ(second.size(), first.size());
-    for (auto group = second.cbegin(); group != second.cend(); ++group) {
-        EXPECT_FALSE(first.contains(group.key()));
-        EXPECT_TRUE(group.value()->GetParentGroupID().isNull()
-                    || second.contains(group.value()->GetParentGroupID()));
-    }
-    for (int i = 0; i < 12; ++i)
-        EXPECT_TRUE(second.contains(TilesOf(*other->GetPort(0)).GetTile(i)->GetGroupId()));
+    ASSERT_TRUE(project.ImportSender(path, other->GetId(), false, false));
+
+    const CTileGroup* renewed = GroupsOf(*other->GetPort(0)).GetDirectGroupByDirIndex(0);
+    EXPECT_NE(renewed->GetID(), outer);
+    EXPECT_NE(renewed->GetSubGroupSet()->GetDirectGroupByDirIndex(0)->GetID(), inner);
+    EXPECT_EQ(renewed->GetSubGroupSet()->GetDirectGroupByDirIndex(0)->GetParentGroupID(), renewed->GetID());
+    CTileSet tiles;
+    EXPECT_TRUE(other->GetAllTileSetInGroup(tiles, renewed->GetID()));
+    EXPECT_EQ(tiles.GetCount(), 5);
+    EXPECT_TRUE(target->GetAllTileSetInGroup(tiles, outer));
+    EXPECT_EQ(tiles.GetCount(), 5);
 }
 
 TEST_F(LayoutFilesTest, PortFileGoesToTheCurrentSendersRecentPort)

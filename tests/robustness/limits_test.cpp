@@ -70,8 +70,6 @@ protected:
 TEST_F(LimitsTest, DocumentIsRefusedOneBeyondEachLimit)
 {
     const QByteArray text(kMaxXmlText, 'x');
-    const QByteArray manyElements = QByteArray("<b/>").repeated(kMaxXmlElements - 1);
-    const QByteArray markup(int(kMaxXmlMarkup) + 1024 * 1024, 'x');
     const struct
     {
         const char* what;
@@ -82,9 +80,6 @@ TEST_F(LimitsTest, DocumentIsRefusedOneBeyondEachLimit)
         {"text", "<a><b/>" + text + "<b/>" + text + "</a>", "<a>" + text + "<![CDATA[x]]></a>"},
         {"attributes", "<a" + Attributes(kMaxXmlAttributes) + "/>",
          "<a" + Attributes(kMaxXmlAttributes + 1) + "/>"},
-        {"elements", "<a>" + manyElements + "</a>", "<a>" + manyElements + "<b/></a>"},
-        {"comment", "<a><!--" + markup.left(int(kMaxXmlMarkup) - 1024 * 1024) + "--></a>",
-         "<a><!--" + markup + "--></a>"},
     };
     for (const auto& limit : cases) {
         EXPECT_EQ(WhyRefused(limit.within).toStdString(), "") << limit.what;
@@ -125,65 +120,88 @@ TEST_F(LimitsTest, TreeIsNotBuiltOfTooManyNodes)
     }
 }
 
-TEST_F(LimitsTest, LongTextIsCutAtACharacterSoThatTheFileLoadsAgain)
+TEST_F(LimitsTest, LongTextIsKeptOrRefusedByName)
 {
-    project.GetPrintSetData()->designer = {true, QStringLiteral("a") + QString(40000, QChar(0x5C4F))};
+    const QString longest = QStringLiteral("a") + QString((kMaxXmlText - 1) / 3, QChar(0x5C4F));
+    project.GetPrintSetData()->designer = {true, longest};
     const QString path = folder.Path(QStringLiteral("a.prj"));
     ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
+    project.GetPrintSetData()->designer = {};
     QString version;
     ASSERT_TRUE(project.LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr))
         << project.GetLastFileError().toStdString();
-    EXPECT_EQ(project.GetPrintSetData()->designer.text,
-              QStringLiteral("a") + QString((kMaxXmlText - 1) / 3, QChar(0x5C4F)));
+    EXPECT_EQ(project.GetPrintSetData()->designer.text, longest);
+
+    const QByteArray before = ReadFile(path);
+    const QString document = CConstantData::GetProjectParamFileTemp() + QStringLiteral("project/new.prj");
+    const qint64 size = QFileInfo(document).size();
+    project.NewSender()->SetSenderName(longest + QStringLiteral("b"));
+    const QString layout = folder.Path(QStringLiteral("a.xml"));
+    EXPECT_FALSE(project.SaveProjectToFile(path, nullptr));
+    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("Sender_1/Name")));
+    EXPECT_FALSE(project.ExportSender(layout, project.GetSender(0)->GetId()));
+    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("SenderLayout/Name")));
+    EXPECT_EQ(ReadFile(path), before);
+    EXPECT_EQ(QFileInfo(document).size(), size);
+    EXPECT_FALSE(QFile::exists(layout));
+    EXPECT_FALSE(QFile::exists(CConstantData::GetProjectParamFileTemp() + QStringLiteral("new.prj.part")));
 }
 
-TEST_F(LimitsTest, CabinetsBeyondThoseOfAPortAreToldAndPassedOver)
+TEST_F(LimitsTest, FileThatHoldsTooMuchIsRefusedWhole)
 {
-    QByteArray tiles;
-    for (int i = 1; i <= layoutnames::kMaxTilesOfPort + 1; ++i)
-        tiles += "<Tile_" + QByteArray::number(i) + "/>";
-    const auto portOf = [&tiles](int count) {
-        return "<SenderLayout SenderCount=\"1\"><Sender_1 PortCount=\"2\"><Port_1><TitleLayout TileCount=\""
-               + QByteArray::number(count) + "\">" + tiles
-               + "</TitleLayout></Port_1><Port_2/></Sender_1></SenderLayout>";
+    const auto numbered = [](const char* name, int count) {
+        QByteArray elements;
+        for (int i = 1; i <= count; ++i)
+            elements += '<' + QByteArray(name) + QByteArray::number(i) + "/>";
+        return elements;
     };
-    ASSERT_TRUE(Load(portOf(layoutnames::kMaxTilesOfPort + 1)));
-    EXPECT_EQ(TilesOf(*project.GetSender(0)->GetPort(0)).GetCount(), layoutnames::kMaxTilesOfPort);
-    EXPECT_TRUE(project.GetLastFileError().contains(QString::number(layoutnames::kMaxTilesOfPort)));
-}
-
-TEST_F(LimitsTest, SendersAndGroupsBeyondTheLimitsOfAFileArePassedOver)
-{
-    QByteArray senders;
-    for (int i = 1; i <= layoutnames::kMaxSenders + 1; ++i)
-        senders += "<Sender_" + QByteArray::number(i) + "/>";
-    ASSERT_TRUE(Load("<SenderLayout SenderCount=\"9999\">" + senders + "</SenderLayout>"));
-    EXPECT_EQ(project.GetSenderCount(), layoutnames::kMaxSenders);
-
-    QByteArray groups; // half of them inside the other half
-    for (int i = 1; i <= layoutnames::kMaxGroupsOfFile / 2 + 1; ++i) {
-        const QByteArray name = "TileGroup_" + QByteArray::number(i);
-        groups += '<' + name + " GroupCount=\"1\"><" + name + "_1/></" + name + '>';
+    const QByteArray layout =
+        "<TitleLayout TileCount=\"999999\">" + numbered("Tile_", kMaxTilesOfPort + 1) + "</TitleLayout>";
+    const QByteArray ports = " PortCount=\"2\" Name=\"b\"><Port_1/><Port_2>" + layout + "</Port_2>";
+    CSender* sender = project.NewSender();
+    sender->SetSenderName(QStringLiteral("a"));
+    MakeWall(*sender->GetPort(0), 2, 1);
+    sender->SetRecentPortIndex(0);
+    const QByteArray projects[] = {
+        "<SenderLayout SenderCount=\"1\"><Sender_1" + ports + "</Sender_1></SenderLayout>",
+        "<SenderLayout SenderCount=\"9999\">" + numbered("Sender_", layoutnames::kMaxSenders + 1)
+            + "</SenderLayout>",
+        "<TileTypeGamma ItemCount=\"99999\">" + numbered("Gamma_", 65537) + "</TileTypeGamma>",
+    };
+    for (const QByteArray& elements : projects) {
+        EXPECT_FALSE(Load(elements));
+        EXPECT_FALSE(project.GetLastFileError().isEmpty());
     }
-    ASSERT_TRUE(Load("<SenderLayout SenderCount=\"1\"><Sender_1 PortCount=\"2\"><Port_1><TitleGroupLayout "
-                     "GroupCount=\"999999\">"
-                     + groups + "</TitleGroupLayout></Port_1></Sender_1></SenderLayout>"));
-    QList<CTileGroup*> read;
-    GroupsOf(*project.GetSender(0)->GetPort(0)).GetGroupListRecursive(read);
-    EXPECT_EQ(read.size(), layoutnames::kMaxGroupsOfFile);
-    EXPECT_FALSE(project.GetLastFileError().isEmpty());
+    const QString senderFile = folder.Write(QStringLiteral("s.xml"), "<SenderLayout><SenderLayout" + ports
+                                                                         + "</SenderLayout></SenderLayout>");
+    const QString portFile =
+        folder.Write(QStringLiteral("p.xml"), "<PortLayout Lock=\"1\">" + layout + "</PortLayout>");
+    EXPECT_FALSE(project.ImportSender(senderFile, sender->GetId(), false, true));
+    EXPECT_FALSE(project.ImportPort(portFile));
+    EXPECT_TRUE(project.GetLastFileError().contains(QString::number(kMaxTilesOfPort)));
+    ASSERT_EQ(project.GetSender(0), sender);
+    EXPECT_EQ(sender->GetSenderName(), QStringLiteral("a"));
+    EXPECT_EQ(TilesOf(*sender->GetPort(0)).GetCount(), 2);
+    EXPECT_FALSE(sender->GetPort(0)->IsFlagLock());
 }
 
-TEST_F(LimitsTest, WhatWouldNotBeReadWholeIsNotSaved)
+TEST_F(LimitsTest, WhatOnePortCanHoldIsSavedAndReadAndMoreIsRefused)
 {
     const QString saved = folder.Path(QStringLiteral("a.prj"));
     CPort* port = project.NewSender()->GetPort(0);
-    ASSERT_TRUE(project.SaveProjectToFile(saved, nullptr));
-    const QByteArray before = ReadFile(saved);
     SAddTileInfo block;
-    block.columns = 400;
-    block.rows = 400;
+    block.columns = 1024;
+    block.rows = kMaxTilesOfPort / 1024;
     ASSERT_TRUE(port->GetPortProject()->AddTile(block));
+    block.columns = block.rows = 1;
+    EXPECT_FALSE(port->GetPortProject()->AddTile(block));
+    ASSERT_EQ(TilesOf(*port).GetCount(), kMaxTilesOfPort);
+    ASSERT_TRUE(TilesOf(*port).GetTile(0)->IsSelected(InterfaceDesign));
+    ASSERT_TRUE(project.SaveProjectToFile(saved, nullptr));
+    ASSERT_EQ(project.GetLastFileError(), QString());
+    const QByteArray before = ReadFile(saved);
+
+    TilesOf(*port).AddTile(new CTile);
     const QString other = folder.Path(QStringLiteral("other"));
     const std::function<bool()> saves[] = {
         [&] { return project.SaveProjectToFile(saved, nullptr); },
@@ -192,26 +210,41 @@ TEST_F(LimitsTest, WhatWouldNotBeReadWholeIsNotSaved)
     };
     for (const auto& save : saves) {
         EXPECT_FALSE(save());
-        EXPECT_TRUE(project.GetLastFileError().contains(QString::number(layoutnames::kMaxTilesOfPort)));
+        EXPECT_TRUE(project.GetLastFileError().contains(QString::number(kMaxTilesOfPort)));
     }
     EXPECT_EQ(ReadFile(saved), before);
     EXPECT_FALSE(QFile::exists(other));
 
-    port->GetPortProject()->ClearAllTiles();
-    block.columns = 1024;
-    block.rows = 128;
-    ASSERT_TRUE(port->GetPortProject()->AddTile(block));
-    QList<const CPort*> ports;
+    QString version;
+    ASSERT_TRUE(project.LoadProjectFromFile(QFile::encodeName(saved).constData(), version, nullptr));
+    EXPECT_EQ(project.GetLastFileError(), QString());
+    port = project.GetSender(0)->GetPort(0);
+    ASSERT_EQ(TilesOf(*port).GetCount(), kMaxTilesOfPort);
+    EXPECT_EQ(WhyTooLarge(QList<const CPort*>{port}), QString());
+    EXPECT_EQ(WhyTooLarge(QList<const CPort*>{port, port}), DocumentTooLarge());
     QList<const CSender*> senders;
-    for (int i = 0; i < layoutnames::kMaxTilesOfFile / layoutnames::kMaxTilesOfPort; ++i)
-        ports.append(port);
-    EXPECT_EQ(WhyTooLarge(ports), QString());
-    ports.append(port);
-    EXPECT_TRUE(WhyTooLarge(ports).contains(QString::number(layoutnames::kMaxTilesOfFile)));
     for (int i = 0; i <= layoutnames::kMaxSenders; ++i)
         senders.append(project.GetSender(0));
     EXPECT_TRUE(WhyTooLarge(senders).contains(QString::number(layoutnames::kMaxSenders)));
+}
 
+TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
+{
+    QFile nowhere(QStringLiteral("/dev/null"));
+    ASSERT_TRUE(nowhere.open(QIODevice::WriteOnly));
+    StreamXmlWriter writer(nowhere);
+    writer.BeginElement("a");
+    const std::string text(kMaxXmlText, 'x');
+    for (qint64 size = 0; size < kMaxXmlBytes; size += kMaxXmlText) {
+        EXPECT_EQ(writer.GetRefusal(), QString());
+        writer.BeginElement("b");
+        writer.Text(text);
+        writer.EndElement();
+    }
+    EXPECT_FALSE(writer.Flush());
+    EXPECT_EQ(writer.GetRefusal(), DocumentTooLarge());
+
+    CSender* sender = project.NewSender();
     SInputVideoColorCurveParam curve;
     for (QList<QPointF>& points : curve.points)
         for (int i = 0; i < kMaxCurvePoints; ++i)
@@ -219,8 +252,9 @@ TEST_F(LimitsTest, WhatWouldNotBeReadWholeIsNotSaved)
     QList<SInputVideoColorCurveParam> curves;
     for (int i = 0; i < 20; ++i)
         curves.append(curve);
-    project.GetSender(0)->SetColorCurveParams(curves);
-    EXPECT_NE(project.ExportMutiProcessorParam(other, project.GetSender(0)->GetId()), 0U);
+    sender->SetColorCurveParams(curves);
+    const QString other = folder.Path(QStringLiteral("other"));
+    EXPECT_NE(project.ExportMutiProcessorParam(other, sender->GetId()), 0U);
     EXPECT_NE(project.GetLastFileError(), QString());
     EXPECT_FALSE(QFile::exists(other));
 }
