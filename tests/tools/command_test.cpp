@@ -6,8 +6,10 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
+#include <QProcess>
 
 #include <cmath>
+#include <csignal>
 
 namespace {
 
@@ -154,6 +156,37 @@ TEST(CommandTest, TheUsersFoldersStayAsTheyAreUnlessADocumentsFolderIsGiven)
         EXPECT_TRUE(QDir(documents).removeRecursively());
     }
     EXPECT_EQ(Snapshot(home.Path()), before);
+}
+
+TEST(CommandTest, NoEndLeavesItsPrivateFolder)
+{
+    TestFolder folder;
+    const QString wall = folder.Path(Arg("wall.prj"));
+    ASSERT_EQ(RunOrvan({Arg("new"), wall, Arg("--grid"), Arg("40x20")}).status, 0);
+    const QDir tmp(folder.Path(Arg("tmp")));
+    QDir().mkpath(tmp.filePath(Arg("OrvanCommand-backup"))); // the user's
+    const auto leaves = [&](int signal) {
+        QProcess process;
+        process.setProcessEnvironment(EnvironmentWith({Arg("TMPDIR=") + tmp.path()}));
+        process.start(Arg(ORVAN_COMMAND), {Arg("info"), wall, Arg("--json"), Arg("--tiles")});
+        process.waitForReadyRead(); // it writes, and more than a pipe holds
+        EXPECT_EQ(tmp.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 2);
+        kill(static_cast<pid_t>(process.processId()), signal);
+        process.waitForFinished();
+        EXPECT_EQ(process.exitStatus(), QProcess::CrashExit);
+        EXPECT_EQ(process.exitCode(), signal);
+        return tmp.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() - 1;
+    };
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        EXPECT_EQ(leaves(signal), 0) << signal;
+    const QString closed = Arg("\"$0\" info \"$1\" --json --tiles | head -c 1");
+    EXPECT_EQ(
+        RunOrvan({Arg("-c"), closed, Arg(ORVAN_COMMAND), wall}, {}, {Arg("TMPDIR=") + tmp.path()}, Arg("sh"))
+            .errors,
+        QString());
+    EXPECT_EQ(tmp.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+    EXPECT_EQ(leaves(SIGKILL), 1);
+    EXPECT_EQ(leaves(SIGTERM), 0); // the killed run's too
 }
 
 TEST(CommandTest, NewSharesTheColumnsOutAndAlternatesTheTypes)

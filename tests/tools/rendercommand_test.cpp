@@ -66,6 +66,24 @@ TEST(RenderCommandTest, AFailedDrawingLeavesWhatIsThere)
     EXPECT_EQ(QDir(folder.Path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), Args({"wall.svg"}));
 }
 
+TEST(RenderCommandTest, AnOutputThatLeadsToAnInputIsWrongUsage)
+{
+    TestFolder folder;
+    const QByteArray project = ReadFile(SamplePath("small-wall.prj"));
+    const QString input = folder.Write(Arg("wall.png"), project);
+    QDir().mkpath(folder.Path(Arg("sub")));
+    ASSERT_TRUE(QFile::link(input, folder.Path(Arg("link.png"))));
+    for (const char* output : {"wall.png", "sub/../wall.png", "link.png"})
+        EXPECT_EQ(RunOrvan({Arg("render"), Arg("wall.png"), Arg(output)}, folder.Path()).status, 2) << output;
+    EXPECT_EQ(RunOrvan({Arg("render"), Arg("link.png"), Arg("wall.png")}, folder.Path()).status, 2);
+    EXPECT_EQ(RunOrvan({Arg("new"), Arg("wall.png"), Arg("--force"), Arg("--product"), SamplePath("x"),
+                        Arg("--product"), Arg("link.png")},
+                       folder.Path())
+                  .status,
+              2);
+    EXPECT_EQ(ReadFile(input), project);
+}
+
 TEST(RenderCommandTest, OutputThatIsNotTakenIsAnError)
 {
     if (!QFile::exists(Arg("/dev/full")))

@@ -25,15 +25,20 @@ QJsonObject OrvanRun::Json() const
     return QJsonDocument::fromJson(output).object();
 }
 
+QProcessEnvironment EnvironmentWith(const QStringList& entries)
+{
+    QProcessEnvironment all = QProcessEnvironment::systemEnvironment();
+    for (const QString& entry : entries)
+        all.insert(entry.section(QLatin1Char('='), 0, 0), entry.section(QLatin1Char('='), 1));
+    return all;
+}
+
 OrvanRun RunOrvan(const QStringList& arguments, const QString& folder, const QStringList& environment,
                   const QString& program)
 {
     QProcess process;
     process.setWorkingDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
-    QProcessEnvironment all = QProcessEnvironment::systemEnvironment();
-    for (const QString& entry : environment)
-        all.insert(entry.section(QLatin1Char('='), 0, 0), entry.section(QLatin1Char('='), 1));
-    process.setProcessEnvironment(all);
+    process.setProcessEnvironment(EnvironmentWith(environment));
     process.start(program.isEmpty() ? QStringLiteral(ORVAN_COMMAND) : program, arguments);
     OrvanRun run;
     if (process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit)

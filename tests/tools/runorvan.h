@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QMap>
+#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 
@@ -21,8 +22,10 @@ struct OrvanRun
     QJsonObject Json() const; ///< of the output
 };
 
+QProcessEnvironment EnvironmentWith(const QStringList& entries); ///< this one, with "NAME=value" on top
+
 /// Runs the built command in a folder, by default the current one, with `environment` ("NAME=value") on top
-/// of this one's; or another program.
+/// of this one; or another program.
 OrvanRun RunOrvan(const QStringList& arguments, const QString& folder = QString(),
                   const QStringList& environment = {}, const QString& program = QString());
 

@@ -2,10 +2,12 @@
 
 #include "command.h"
 #include "console.h"
+#include "privatefolder.h"
 
 #include <OrvanData/orvandata.h>
 #include <orvantools/layoutdrawing.h>
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -36,16 +38,18 @@ bool IsDrawingName(const QString& file)
 
 int WriteDrawing(const QString& file, int sender, int width)
 {
-    QSaveFile output(file);
-    if (!output.open(QIODevice::WriteOnly))
-        return Fail(StatusFile, file, output.errorString());
     OrvanTools::DrawingOptions options;
     options.sender = sender;
     options.width = width;
-    if (!OrvanTools::WriteLayout(output, FormatOf(file).value_or(DrawingFormat::Svg), *GetProjectData(),
+    QBuffer drawing;
+    drawing.open(QIODevice::WriteOnly);
+    if (!OrvanTools::WriteLayout(drawing, FormatOf(file).value_or(DrawingFormat::Svg), *GetProjectData(),
                                  options))
-        return Fail(StatusFile, file, QStringLiteral("cannot be written: ") + output.errorString());
-    if (!output.commit())
+        return Fail(StatusFile, file, QStringLiteral("cannot be drawn"));
+    const SignalsHeld held; // what is written beside the file is gone or renamed afterwards
+    QSaveFile output(file);
+    if (!output.open(QIODevice::WriteOnly) || output.write(drawing.data()) != drawing.size()
+        || !output.commit())
         return Fail(StatusFile, file, output.errorString());
     return StatusDone;
 }

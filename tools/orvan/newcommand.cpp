@@ -1,6 +1,7 @@
 #include "command.h"
 #include "console.h"
 #include "openproject.h"
+#include "samefile.h"
 
 #include <OrvanData/orvandata.h>
 #include <orvantools/newproject.h>
@@ -89,6 +90,11 @@ int Run(const Invocation& invocation)
     const QString wrong = ReadOptions(parser, &wanted);
     if (!wrong.isEmpty())
         return Fail(StatusUsage, QString(), wrong);
+    const QStringList products = parser.values(QStringLiteral("product"));
+    for (const QString& product : products) {
+        if (IsSameFile(file, product))
+            return Fail(StatusUsage, file, QStringLiteral("is a product of the project"));
+    }
     const QFileInfo info(file);
     if (info.isDir() || !QFileInfo(info.absolutePath()).isDir())
         return Fail(StatusFile, file,
@@ -98,7 +104,7 @@ int Run(const Invocation& invocation)
         return Fail(StatusFile, file, QStringLiteral("exists; --force replaces it"));
 
     GetRuntimeData()->GetProductDirectorySet()->LoadProductInfo();
-    for (const QString& product : parser.values(QStringLiteral("product"))) {
+    for (const QString& product : products) {
         wanted.types.append(TakeProduct(product));
         if (wanted.types.last().IsNull())
             return Fail(StatusFile, product, QStringLiteral("cannot be read"));

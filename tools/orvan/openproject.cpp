@@ -2,6 +2,7 @@
 
 #include "command.h"
 #include "console.h"
+#include "privatefolder.h"
 #include "progressline.h"
 
 #include <OrvanData/orvandata.h>
@@ -35,6 +36,7 @@ bool OpenProject(const QString& file)
 bool SaveProject(const QString& file)
 {
     ProgressLine progress(QStringLiteral("writing ") + file);
+    const SignalsHeld held; // what is written beside the file is gone or renamed afterwards
     const bool saved =
         GetProjectData()->SaveProjectToFile(QFileInfo(file).absoluteFilePath(), progress.Bar());
     progress.End();

@@ -2,6 +2,7 @@
 #include "console.h"
 #include "drawingfile.h"
 #include "openproject.h"
+#include "samefile.h"
 
 #include <OrvanData/orvandata.h>
 
@@ -40,6 +41,8 @@ int Run(const Invocation& invocation)
     if (parser.isSet(QStringLiteral("sender"))
         && (!ParseNumber(parser.value(QStringLiteral("sender")), &number) || number < 1))
         return Fail(StatusUsage, QString(), QStringLiteral("--sender takes a number from 1"));
+    if (IsSameFile(file, output))
+        return Fail(StatusUsage, output, QStringLiteral("is the project itself"));
     if (!OpenProject(file))
         return StatusFile;
     const int senders = GetProjectData()->GetSenderCount();

@@ -30,9 +30,6 @@ QMessageBox::StandardButton AnswerBox(CCustomMessageBox::Kind kind, const QStrin
 
 } // namespace
 
-Session::Session() : m_private(QDir::tempPath() + QStringLiteral("/orvan-XXXXXX"))
-{}
-
 Session::~Session()
 {
     if (!m_started)
@@ -44,11 +41,11 @@ Session::~Session()
 
 bool Session::Start(const QString& documents, QString* why)
 {
-    if (!m_private.isValid()) {
-        *why = m_private.errorString();
+    if (!m_private.IsValid()) {
+        *why = m_private.ErrorText();
         return false;
     }
-    const QString folder = documents.isEmpty() ? m_private.filePath(QStringLiteral("Documents")) : documents;
+    const QString folder = documents.isEmpty() ? m_private.Path("Documents") : documents;
     if (!LeadTo(folder, why))
         return false;
     CCustomMessageBox::SetHandler(AnswerBox);
@@ -66,8 +63,8 @@ bool Session::LeadTo(const QString& documents, QString* why)
     }
     // The desktop's own way to say where the documents lie; the home folder, and with it the user's fonts,
     // stay where they are.
-    const QString settings = m_private.filePath(QStringLiteral("config"));
-    const QString scratch = m_private.filePath(QStringLiteral("tmp"));
+    const QString settings = m_private.Path("config");
+    const QString scratch = m_private.Path("tmp");
     QFile file(settings + QStringLiteral("/user-dirs.dirs"));
     const QByteArray line = "XDG_DOCUMENTS_DIR=\"" + QFile::encodeName(documents) + "\"\n";
     if (!QDir().mkpath(settings) || !QDir().mkpath(scratch) || !file.open(QIODevice::WriteOnly)

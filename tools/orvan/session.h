@@ -1,7 +1,8 @@
 #pragma once
 
+#include "privatefolder.h"
+
 #include <QString>
-#include <QTemporaryDir>
 #include <QTranslator>
 
 /// The library at work in a documents folder of its own, so that looking at a project leaves the user's
@@ -9,7 +10,7 @@
 class Session
 {
 public:
-    Session();
+    Session() = default;
     ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -22,7 +23,7 @@ private:
     bool LeadTo(const QString& documents, QString* why);
     void Translate();
 
-    QTemporaryDir m_private; ///< settings that lead to the documents, scratch space, private documents
+    PrivateFolder m_private; ///< settings that lead to the documents, scratch space, private documents
     QTranslator m_translator;
     bool m_started = false;
 };

@@ -1,0 +1,6 @@
+#pragma once
+
+class QString;
+
+/// Whether two paths lead to one file, through whatever links. False when one of them leads nowhere.
+bool IsSameFile(const QString& a, const QString& b);
