@@ -103,6 +103,24 @@ TEST(CommandTest, AProjectReadInPartIsAWarning)
     EXPECT_EQ(ErrorLines(run), 1);
 }
 
+TEST(CommandTest, NothingThatATerminalObeysIsPrinted)
+{
+    TestFolder folder;
+    QByteArray content = ReadFile(SamplePath("small-wall.xml"));
+    content.replace("\"Hall left\"", "\"a&#10;  b\xC2\x9B\x7F\xE2\x80\xAE屏\"");
+    const QString file = folder.Write(Arg("wall\n\x1B[2J.xml"), content);
+    const OrvanRun info = RunOrvan({Arg("info"), file});
+    EXPECT_TRUE(info.output.contains("wall\uFFFD\uFFFD[2J.xml (xml)\n"));
+    EXPECT_TRUE(info.output.contains("Sender 1        a\uFFFD  b\uFFFD\uFFFD\uFFFD屏, canvas"));
+    const OrvanRun json = RunOrvan({Arg("info"), file, Arg("--json")});
+    EXPECT_TRUE(json.output.contains("\"a\\n  b\\u009b\\u007f\\u202e屏\""));
+    EXPECT_EQ(json.Json()[Arg("senders")].toArray()[0].toObject()[Arg("name")].toString(),
+              Arg("a\n  b\xC2\x9B\x7F\xE2\x80\xAE屏"));
+    const OrvanRun failed = RunOrvan({Arg("info"), folder.Path(Arg("no\n\x1B[2J"))});
+    EXPECT_TRUE(failed.errors.contains(Arg("/no \uFFFD[2J: "))) << qPrintable(failed.errors);
+    EXPECT_EQ(ErrorLines(failed), 1);
+}
+
 TEST(CommandTest, WrongUsageEndsWithTwo)
 {
     const QStringList wrong[] = {

@@ -8,6 +8,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <limits>
 
 using OrvanTools::CheckOptions;
 using OrvanTools::Fault;
@@ -97,6 +98,33 @@ TEST_F(LayoutCheckTest, ChainsWithGapsDoublesAndLooseCabinets)
     EXPECT_EQ(Faults(), List({"index-gap 1 1 2"}));
     Tiles(0).ClearConnectIndex();
     EXPECT_EQ(Faults().size(), 6);
+}
+
+TEST_F(LayoutCheckTest, WhatNoCabinetCanBeIsNeitherFollowedNorCounted)
+{
+    constexpr int least = std::numeric_limits<int>::min();
+    constexpr int most = std::numeric_limits<int>::max();
+    Build(QSize(6, 1), 1);
+    const QSize sizes[] = {{least, least}, {-3, least}, {-3, -5}, {0, 128}};
+    for (int i = 0; i < 4; ++i) {
+        Tile(0, i).SetWidth(sizes[i].width());
+        Tile(0, i).SetHeight(sizes[i].height());
+    }
+    EXPECT_EQ(Faults(), QStringList());
+    SRotateParam record;
+    record.angle = 30;
+    record.centerX = 1e308;
+    record.centerY = -1e308;
+    Tile(0, 4).SetTileRotateParam(&record);
+    EXPECT_EQ(Faults(), List({"off-canvas 1 1 5"}));
+    CTileSet none;
+    Tile(0, 0).SetConnectionIndex(most, &none);
+    Tile(0, 1).SetConnectionIndex(most, &none);
+    Tiles(0).GetTile(5)->SetMultiRcvsSize(QSize(most, 1));
+    EXPECT_EQ(Faults(), List({"off-canvas 1 1 5", "duplicate-index 1 1 1", "duplicate-index 1 1 2",
+                              "index-gap 1 1 1", "index-gap 1 1 3"}));
+    const QString gap = OrvanTools::CheckProject(Project(), LargePorts())[3].text;
+    EXPECT_TRUE(gap.contains(QStringLiteral("number 2147483648 follows 6"))) << qPrintable(gap);
 }
 
 TEST_F(LayoutCheckTest, TypesNeedAParameterFileAndParameterFilesTheFileItself)

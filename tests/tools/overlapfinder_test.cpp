@@ -50,6 +50,7 @@ TEST(OverlapFinderTest, TouchingIsNotOverlapping)
     EXPECT_FALSE(Overlaps(shape, Rect(120, 120, 0, 10))); // covers no pixel
     EXPECT_TRUE(Overlaps(shape, Rect(149, 149, 50, 50)));
     EXPECT_TRUE(Overlaps(shape, Rect(110, 110, 10, 10)));
+    EXPECT_FALSE(Overlaps(shape, Rect(-1e6, -1e6, 2e6, 2e6))); // no cabinet
     EXPECT_TRUE(Overlaps(shape, shape));
     EXPECT_TRUE(Overlaps(Rect(-60, -60, 50, 50), Rect(-11, -11, 5, 5)));
 }
@@ -68,8 +69,8 @@ TEST(OverlapFinderTest, FindsWhatComparingEveryPairFinds)
     std::mt19937 random(7);
     for (int round = 0; round < 20; ++round) {
         std::vector<TileShape> shapes;
-        const int size = round % 2 ? 40 : 400;
         for (int i = 0; i < 150; ++i) {
+            const int size = i % 3 == 0 ? 2 : i % 3 == 1 ? 40 : 1000; // each in cells of its own
             const auto place = [&random] { return double(random() % 3000) - 500; };
             const TileShape rect =
                 Rect(place(), place(), 1 + random() % static_cast<unsigned>(size), 1 + random() % 60);

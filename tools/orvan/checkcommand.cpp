@@ -7,7 +7,6 @@
 #include <orvantools/storedreceivers.h>
 
 #include <QCommandLineParser>
-#include <QJsonArray>
 
 namespace {
 
@@ -20,23 +19,26 @@ void AddOptions(QCommandLineParser& parser)
                       QStringLiteral("N"), QStringLiteral("655360")});
 }
 
-void PrintFaults(const QList<Fault>& faults)
+int PrintFaults(const OrvanTools::CheckOptions& options)
 {
-    QString text;
-    for (const Fault& fault : faults)
-        text += fault.Line() + QLatin1Char('\n');
-    Print(text
-          + QStringLiteral("%1 %2\n")
-                .arg(faults.size())
-                .arg(faults.size() == 1 ? QStringLiteral("fault") : QStringLiteral("faults")));
+    int count = 0;
+    OrvanTools::CheckProject(*GetProjectData(), options, [&count](const Fault& fault) {
+        ++count;
+        Print(fault.Line() + QLatin1Char('\n'));
+    });
+    Print(QString::number(count) + (count == 1 ? QStringLiteral(" fault\n") : QStringLiteral(" faults\n")));
+    return count;
 }
 
-void PrintFaultsJson(const QList<Fault>& faults)
+int PrintFaultsJson(const OrvanTools::CheckOptions& options)
 {
-    QJsonArray list;
-    for (const Fault& fault : faults)
-        list.append(fault.Json());
-    PrintJson({{QStringLiteral("faults"), list}});
+    int count = 0;
+    JsonListPrinter list("faults");
+    OrvanTools::CheckProject(*GetProjectData(), options, [&](const Fault& fault) {
+        ++count;
+        list.Add(fault.Json());
+    });
+    return count;
 }
 
 int Run(const Invocation& invocation)
@@ -53,12 +55,9 @@ int Run(const Invocation& invocation)
     options.stored = stored.Read(file) ? &stored : nullptr;
     if (!options.stored)
         Warn(file, QStringLiteral("its receiver numbers cannot be read and are not checked"));
-    const QList<Fault> faults = OrvanTools::CheckProject(*GetProjectData(), options);
-    if (invocation.parser.isSet(QStringLiteral("json")))
-        PrintFaultsJson(faults);
-    else
-        PrintFaults(faults);
-    return faults.isEmpty() ? StatusDone : StatusFaults;
+    const bool json = invocation.parser.isSet(QStringLiteral("json"));
+    const int faults = json ? PrintFaultsJson(options) : PrintFaults(options);
+    return faults == 0 ? StatusDone : StatusFaults;
 }
 
 } // namespace

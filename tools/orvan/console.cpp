@@ -1,5 +1,7 @@
 #include "console.h"
 
+#include <orvantools/printable.h>
+
 #include <QJsonDocument>
 #include <QRegularExpression>
 
@@ -14,12 +16,38 @@ void WriteError(const char* kind, const QString& subject, const QString& what)
         line += subject + QStringLiteral(": ");
     line += QLatin1String(kind) + what;
     line.replace(QRegularExpression(QStringLiteral("[\\s]*[\\r\\n]+[\\s]*")), QStringLiteral(" "));
-    std::fprintf(stderr, "%s\n", line.trimmed().toLocal8Bit().constData());
+    std::fprintf(stderr, "%s\n", OrvanTools::Printable(line.trimmed()).toLocal8Bit().constData());
 }
 
-void Write(const QByteArray& bytes)
+void Write(const char* bytes, int size)
 {
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
+    std::fwrite(bytes, 1, static_cast<size_t>(size), stdout);
+}
+
+/// Bytes of the character that begins with `lead`, for those that may hold an unprintable one.
+int LengthFrom(uchar lead)
+{
+    if (lead == 0x7F)
+        return 1;
+    return lead == 0xC2 || lead == 0xD8 ? 2 : lead == 0xE2 ? 3 : 0;
+}
+
+/// Qt's writer escapes the controls of ASCII alone.
+void WriteJson(const QByteArray& json)
+{
+    int written = 0;
+    for (int i = 0; i < json.size(); ++i) {
+        const int length = LengthFrom(static_cast<uchar>(json.at(i)));
+        const QChar character =
+            length > 0 ? QString::fromUtf8(json.constData() + i, length).at(0) : QChar(QLatin1Char(' '));
+        if (!OrvanTools::IsUnprintable(character))
+            continue;
+        Write(json.constData() + written, i - written);
+        std::printf("\\u%04x", static_cast<unsigned>(character.unicode()));
+        written = i + length;
+        i = written - 1;
+    }
+    Write(json.constData() + written, json.size() - written);
 }
 
 } // namespace
@@ -37,12 +65,36 @@ void Warn(const QString& subject, const QString& what)
 
 void Print(const QString& text)
 {
-    Write(text.toLocal8Bit());
+    for (int begin = 0; begin < text.size();) {
+        const int end = text.indexOf(QLatin1Char('\n'), begin);
+        const QString line = text.mid(begin, end < 0 ? -1 : end - begin);
+        const QByteArray bytes = OrvanTools::Printable(line).toLocal8Bit() + (end < 0 ? "" : "\n");
+        Write(bytes.constData(), bytes.size());
+        begin = end < 0 ? text.size() : end + 1;
+    }
 }
 
 void PrintJson(const QJsonObject& object)
 {
-    Write(QJsonDocument(object).toJson(QJsonDocument::Indented));
+    WriteJson(QJsonDocument(object).toJson(QJsonDocument::Indented));
+}
+
+JsonListPrinter::JsonListPrinter(const char* name)
+{
+    std::printf("{\n    \"%s\": [\n", name);
+}
+
+JsonListPrinter::~JsonListPrinter()
+{
+    std::printf("%s    ]\n}\n", m_empty ? "" : "\n");
+}
+
+void JsonListPrinter::Add(const QJsonObject& object)
+{
+    const QByteArray indent(8, ' ');
+    const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Indented).trimmed();
+    WriteJson((m_empty ? indent : ",\n" + indent) + QByteArray(json).replace('\n', '\n' + indent));
+    m_empty = false;
 }
 
 bool FlushOutput()

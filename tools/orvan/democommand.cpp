@@ -4,6 +4,7 @@
 #include "openproject.h"
 
 #include <OrvanData/orvandata.h>
+#include <orvantools/printable.h>
 #include <orvantools/samplewall.h>
 
 #include <QCommandLineParser>
@@ -17,7 +18,7 @@ void AddOptions(QCommandLineParser& /*parser*/)
 
 void TellStep(const QString& line)
 {
-    Print(line + QLatin1Char('\n'));
+    Print(OrvanTools::Printable(line) + QLatin1Char('\n'));
 }
 
 /// Loads what was saved into a document beside the open one.

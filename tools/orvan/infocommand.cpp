@@ -3,6 +3,7 @@
 #include "openproject.h"
 
 #include <OrvanData/orvandata.h>
+#include <orvantools/printable.h>
 #include <orvantools/projectjson.h>
 #include <orvantools/projecttext.h>
 
@@ -32,7 +33,7 @@ int Run(const Invocation& invocation)
         object.insert(QStringLiteral("format"), format);
         PrintJson(object);
     } else {
-        Print(QStringLiteral("%1 (%2)\n").arg(file, format));
+        Print(OrvanTools::Printable(file) + QStringLiteral(" (%1)\n").arg(format));
         Print(OrvanTools::SummarizeProject(*GetProjectData()));
     }
     return StatusDone;

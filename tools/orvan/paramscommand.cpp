@@ -2,6 +2,7 @@
 #include "console.h"
 
 #include <OrvanData/orvandata.h>
+#include <orvantools/printable.h>
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -35,7 +36,8 @@ void AddLines(const QString& name, const QJsonValue& value, int depth, QString& 
     }
     const QString indent(depth * 2, QLatin1Char(' '));
     if (!value.isObject()) {
-        text += indent + name + QStringLiteral(": ") + value.toString() + QLatin1Char('\n');
+        text += indent + name + QStringLiteral(": ") + OrvanTools::Printable(value.toString())
+                + QLatin1Char('\n');
         return;
     }
     text += indent + name + QLatin1Char('\n');

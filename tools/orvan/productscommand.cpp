@@ -2,6 +2,7 @@
 #include "console.h"
 
 #include <OrvanData/orvandata.h>
+#include <orvantools/printable.h>
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -52,8 +53,9 @@ void PrintTable(const QJsonArray& products)
         const QJsonObject product = value.toObject();
         const QString folder = product[QStringLiteral("folder")].toString();
         Print(product[QStringLiteral("type")].toString() + QStringLiteral("  ")
-              + (folder.isEmpty() ? QString() : folder + QLatin1Char('/'))
-              + product[QStringLiteral("name")].toString() + QLatin1Char('\n'));
+              + OrvanTools::Printable((folder.isEmpty() ? QString() : folder + QLatin1Char('/'))
+                                      + product[QStringLiteral("name")].toString())
+              + QLatin1Char('\n'));
     }
     Print(QStringLiteral("%1 %2\n")
               .arg(products.size())

@@ -1,10 +1,13 @@
 #include "progressline.h"
 
+#include <orvantools/printable.h>
+
 #include <cstdio>
 #include <unistd.h>
 
 ProgressLine::ProgressLine(const QString& work)
-    : m_work(work), m_terminal(isatty(STDERR_FILENO) != 0), m_bar([this](int percent) { Show(percent); })
+    : m_work(OrvanTools::Printable(work)), m_terminal(isatty(STDERR_FILENO) != 0),
+      m_bar([this](int percent) { Show(percent); })
 {
     m_clock.start();
 }

@@ -47,7 +47,7 @@ int Run(const Invocation& invocation)
         return StatusFile;
     const int senders = GetProjectData()->GetSenderCount();
     if (number > senders)
-        return Fail(StatusUsage, file, QStringLiteral("has %1 senders only").arg(senders));
+        return Fail(StatusUsage, file, QStringLiteral("has no sender %1").arg(number));
     const int sender = number > 0 ? number - 1 : GetProjectData()->GetCurSenderIndexForRtCnnt();
     if (!GetProjectData()->GetSender(sender))
         return Fail(StatusFile, file, QStringLiteral("has no sender to draw"));

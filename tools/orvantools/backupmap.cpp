@@ -53,8 +53,8 @@ int BackupMap::IndexOf(const PortPlace& port) const
     if (port.sender < 0 || port.sender + 1 >= static_cast<int>(m_firstPort.size()) || port.port < 0)
         return kNone;
     const auto sender = static_cast<size_t>(port.sender);
-    const int index = m_firstPort[sender] + port.port;
-    return index < m_firstPort[sender + 1] ? index : kNone;
+    const int ports = m_firstPort[sender + 1] - m_firstPort[sender];
+    return port.port < ports ? m_firstPort[sender] + port.port : kNone;
 }
 
 void BackupMap::FindLoops()

@@ -2,6 +2,7 @@
 
 #include "orvantools/backupmap.h"
 #include "orvantools/overlapfinder.h"
+#include "orvantools/printable.h"
 #include "orvantools/storedreceivers.h"
 
 #include <OrvanData/orvandata.h>
@@ -23,6 +24,12 @@ constexpr std::array<const char*, 12> kKindNames = {
     "orphan-group", "backup-of-nothing", "backup-loop",  "port-overload",
 };
 
+/// As the host shows what counts from 0; any number may stand in a file.
+qint64 Shown(int number)
+{
+    return qint64(number) + 1;
+}
+
 QString PortAndCabinet(int port, int cabinet)
 {
     return QStringLiteral("port %1 cabinet %2").arg(port + 1).arg(cabinet + 1);
@@ -32,79 +39,112 @@ QString PortAndCabinet(int port, int cabinet)
 class Checker
 {
 public:
-    Checker(const CProjectData& project, const CheckOptions& options)
-        : m_project(project), m_options(options), m_backups(project)
+    Checker(const CProjectData& project, const CheckOptions& options,
+            const std::function<void(const Fault&)>& found)
+        : m_project(project), m_options(options), m_found(found), m_backups(project)
     {}
 
-    QList<Fault> Run();
+    void Run();
 
 private:
-    void CheckSender();
+    using Check = void (Checker::*)();
+
+    void OverSenders(Check check);
+    void OverPorts(Check check);
+    void OverOwnLayouts(Check check); ///< of all ports but the backups
+    void Tell();
+
     void CheckOverlaps();
     void CheckPlaces();
-    void CheckPort();
-    void CheckChain(const CTileSet& tiles);
-    void CheckReceivers(const CTileSet& tiles);
-    void CheckTypesAndGroups(const CPort& port);
-    void CheckBackup(const CPort& port);
-    void CheckLoad(const CTileSet& tiles);
+    void CheckChain();
+    void CheckReceivers();
+    void CheckTypes();
     void CheckParameterFiles();
+    void CheckGroups();
+    void CheckBackup();
+    void CheckLoad();
 
-    const CTileSet& Tiles(int port) const
-    {
-        return *m_project.GetSender(m_sender)->GetPort(port)->GetPortProject()->GetTileSet();
-    }
-    bool IsOwnLayoutShown(int port) const
-    {
-        return !m_project.GetSender(m_sender)->GetPort(port)->IsBackupDest();
-    }
+    const CPort& Port() const { return *m_project.GetSender(m_sender)->GetPort(m_port); }
+    const CTileSet& Tiles() const { return *Port().GetPortProject()->GetTileSet(); }
     void Add(FaultKind kind, int cabinet, const QString& text)
     {
-        m_faults.append({kind, m_sender + 1, m_port + 1, cabinet + 1, text});
+        m_faults.push_back({kind, m_sender + 1, m_port + 1, cabinet + 1, text});
     }
 
     static constexpr int kNoCabinet = -1;
 
     const CProjectData& m_project;
     const CheckOptions& m_options;
+    const std::function<void(const Fault&)>& m_found;
     BackupMap m_backups;
     QSet<SMD5> m_types;
-    QList<Fault> m_faults;
+    std::vector<Fault> m_faults; ///< not told yet
     int m_sender = 0;
     int m_port = 0;
 };
 
-QList<Fault> Checker::Run()
+/// Told kind after kind, so that not all faults of a large wall are held at a time.
+void Checker::Run()
 {
     for (const SParameterFileInfo& file : m_project.GetParameterFiles())
         m_types.insert(file.type);
-    for (m_sender = 0; m_sender < m_project.GetSenderCount(); ++m_sender)
-        CheckSender();
+    OverSenders(&Checker::CheckOverlaps);
+    OverOwnLayouts(&Checker::CheckPlaces);
+    OverOwnLayouts(&Checker::CheckChain);
+    OverOwnLayouts(&Checker::CheckReceivers);
+    OverOwnLayouts(&Checker::CheckTypes);
     CheckParameterFiles();
+    Tell();
+    OverOwnLayouts(&Checker::CheckGroups);
+    OverPorts(&Checker::CheckBackup);
+    OverOwnLayouts(&Checker::CheckLoad);
+}
+
+void Checker::OverSenders(Check check)
+{
+    for (m_sender = 0; m_sender < m_project.GetSenderCount(); ++m_sender)
+        (this->*check)();
+    Tell();
+}
+
+void Checker::OverPorts(Check check)
+{
+    for (m_sender = 0; m_sender < m_project.GetSenderCount(); ++m_sender) {
+        for (m_port = 0; m_port < m_project.GetSender(m_sender)->GetPortCount(); ++m_port)
+            (this->*check)();
+    }
+    Tell();
+}
+
+void Checker::OverOwnLayouts(Check check)
+{
+    for (m_sender = 0; m_sender < m_project.GetSenderCount(); ++m_sender) {
+        for (m_port = 0; m_port < m_project.GetSender(m_sender)->GetPortCount(); ++m_port) {
+            if (!Port().IsBackupDest())
+                (this->*check)();
+        }
+    }
+    Tell();
+}
+
+void Checker::Tell()
+{
     std::stable_sort(m_faults.begin(), m_faults.end(), [](const Fault& a, const Fault& b) {
         return std::tie(a.kind, a.sender, a.port, a.cabinet) < std::tie(b.kind, b.sender, b.port, b.cabinet);
     });
-    return m_faults;
-}
-
-void Checker::CheckSender()
-{
-    CheckOverlaps();
-    CheckPlaces();
-    for (m_port = 0; m_port < m_project.GetSender(m_sender)->GetPortCount(); ++m_port)
-        CheckPort();
+    for (const Fault& fault : m_faults)
+        m_found(fault);
+    m_faults.clear();
 }
 
 void Checker::CheckOverlaps()
 {
     std::vector<TileShape> shapes;
     std::vector<std::pair<int, int>> places; // port and cabinet
-    for (int port = 0; port < m_project.GetSender(m_sender)->GetPortCount(); ++port) {
-        if (!IsOwnLayoutShown(port))
-            continue;
-        for (int i = 0; i < Tiles(port).GetCount(); ++i) {
-            shapes.push_back(ShapeOf(*Tiles(port).GetTile(i)));
-            places.emplace_back(port, i);
+    for (m_port = 0; m_port < m_project.GetSender(m_sender)->GetPortCount(); ++m_port) {
+        for (int i = 0; !Port().IsBackupDest() && i < Tiles().GetCount(); ++i) {
+            shapes.push_back(ShapeOf(*Tiles().GetTile(i)));
+            places.emplace_back(m_port, i);
         }
     }
     const OverlapFinder finder(shapes);
@@ -119,43 +159,36 @@ void Checker::CheckOverlaps()
     }
 }
 
+bool IsWithin(const QRectF& bound, const QRectF& area, double allowed)
+{
+    return bound.left() >= area.left() - allowed && bound.top() >= area.top() - allowed
+           && bound.right() <= area.right() + allowed && bound.bottom() <= area.bottom() + allowed;
+}
+
 void Checker::CheckPlaces()
 {
+    constexpr double rounding = 1; // of turned corners
     const CSender& sender = *m_project.GetSender(m_sender);
     // A sender that nobody has placed yet has the offset (-1, -1), one without a canvas the size (-1, -1).
     const QSize offset = sender.GetOffset() == QSize(-1, -1) ? QSize(0, 0) : sender.GetOffset();
+    const QSize size = sender.GetCanvasSize();
     const QRectF limits(0, 0, kMaxCanvasWidth, kMaxCanvasHeight);
-    const QRectF canvas =
-        sender.GetCanvasSize().isEmpty() ? limits : QRectF(QPointF(), sender.GetCanvasSize());
-    constexpr double rounding = 1; // of turned corners
-    for (m_port = 0; m_port < sender.GetPortCount(); ++m_port) {
-        for (int i = 0; IsOwnLayoutShown(m_port) && i < Tiles(m_port).GetCount(); ++i) {
-            const TileShape shape = ShapeOf(*Tiles(m_port).GetTile(i));
-            QRectF bound = shape.Bound().translated(offset.width(), offset.height());
-            if (shape.IsTurned())
-                bound.adjust(rounding, rounding, -rounding, -rounding);
-            if (!limits.contains(bound))
-                Add(FaultKind::OffCanvas, i, QStringLiteral("off-canvas: beyond the largest canvas"));
-            else if (!canvas.contains(bound))
-                Add(FaultKind::OffCanvas, i,
-                    QStringLiteral("off-canvas: outside the canvas of %1x%2")
-                        .arg(sender.GetCanvasSize().width())
-                        .arg(sender.GetCanvasSize().height()));
-        }
+    const QRectF canvas = size.isEmpty() ? limits : QRectF(QPointF(), size);
+    const QString beyond = QStringLiteral("off-canvas: beyond the largest canvas");
+    const QString outside =
+        QStringLiteral("off-canvas: outside the canvas of %1x%2").arg(size.width()).arg(size.height());
+    for (int i = 0; i < Tiles().GetCount(); ++i) {
+        const CTile& tile = *Tiles().GetTile(i);
+        const TileShape shape = ShapeOf(tile);
+        const QRectF bound = shape.Bound().translated(offset.width(), offset.height());
+        const double allowed = shape.IsTurned() ? rounding : 0;
+        if (PixelsOf(tile) == 0)
+            continue;
+        if (!IsWithin(bound, limits, allowed))
+            Add(FaultKind::OffCanvas, i, beyond);
+        else if (!IsWithin(bound, canvas, allowed))
+            Add(FaultKind::OffCanvas, i, outside);
     }
-}
-
-void Checker::CheckPort()
-{
-    const CPort& port = *m_project.GetSender(m_sender)->GetPort(m_port);
-    CheckBackup(port);
-    if (!IsOwnLayoutShown(m_port))
-        return;
-    const CTileSet& tiles = *port.GetPortProject()->GetTileSet();
-    CheckChain(tiles);
-    CheckReceivers(tiles);
-    CheckTypesAndGroups(port);
-    CheckLoad(tiles);
 }
 
 /// The numbered cabinets, by number and then by place.
@@ -170,8 +203,9 @@ std::vector<std::pair<int, int>> ChainOf(const CTileSet& tiles)
     return chain;
 }
 
-void Checker::CheckChain(const CTileSet& tiles)
+void Checker::CheckChain()
 {
+    const CTileSet& tiles = Tiles();
     for (int i = 0; i < tiles.GetCount(); ++i) {
         if (!tiles.GetTile(i)->HasSetConnectIndex())
             Add(FaultKind::Unnumbered, i, QStringLiteral("unnumbered: not in the chain"));
@@ -185,24 +219,26 @@ void Checker::CheckChain(const CTileSet& tiles)
         if (!once)
             Add(FaultKind::DuplicateIndex, cabinet,
                 QStringLiteral("duplicate-index: number %1, as cabinet %2")
-                    .arg(number + 1)
+                    .arg(Shown(number))
                     .arg((again ? chain[i - 1] : chain[i + 1]).second + 1));
-        if (number > before + 1)
+        if (number > Shown(before))
             Add(FaultKind::IndexGap, cabinet,
-                before < 0
-                    ? QStringLiteral("index-gap: the chain begins with number %1").arg(number + 1)
-                    : QStringLiteral("index-gap: number %1 follows %2").arg(number + 1).arg(before + 1));
+                before < 0 ? QStringLiteral("index-gap: the chain begins with number %1").arg(Shown(number))
+                           : QStringLiteral("index-gap: number %1 follows %2")
+                                 .arg(Shown(number))
+                                 .arg(Shown(before)));
     }
 }
 
-void Checker::CheckReceivers(const CTileSet& tiles)
+void Checker::CheckReceivers()
 {
+    const CTileSet& tiles = Tiles();
     if (!m_options.stored)
         return;
     const std::vector<int> stored = m_options.stored->OfPort(m_sender, m_port);
     if (static_cast<int>(stored.size()) != tiles.GetCount())
         return; // the file states other cabinets than it holds; reading it said so
-    int receivers = 0;
+    qint64 receivers = 0;
     for (const auto& link : ChainOf(tiles)) {
         const int cabinet = link.second;
         if (stored[static_cast<size_t>(cabinet)] != receivers)
@@ -214,37 +250,44 @@ void Checker::CheckReceivers(const CTileSet& tiles)
     }
 }
 
-void Checker::CheckTypesAndGroups(const CPort& port)
+void Checker::CheckTypes()
 {
-    QMap<QUuid, CTileGroup*> groups;
-    port.GetPortProject()->GetTileGroupSet()->GetGroupListRecursive(groups);
-    const CTileSet& tiles = *port.GetPortProject()->GetTileSet();
-    for (int i = 0; i < tiles.GetCount(); ++i) {
-        const CTile& tile = *tiles.GetTile(i);
-        if (!tile.GetType().IsNull() && !m_types.contains(tile.GetType()))
+    for (int i = 0; i < Tiles().GetCount(); ++i) {
+        const SMD5 type = Tiles().GetTile(i)->GetType();
+        if (!type.IsNull() && !m_types.contains(type))
             Add(FaultKind::UnknownType, i,
-                QStringLiteral("unknown-type: no parameter file for ") + tile.GetType().ToString());
-        if (!tile.GetGroupId().isNull() && !groups.contains(tile.GetGroupId()))
-            Add(FaultKind::OrphanGroup, i,
-                QStringLiteral("orphan-group: the port has no group ") + tile.GetGroupId().toString());
+                QStringLiteral("unknown-type: no parameter file for ") + type.ToString());
     }
 }
 
-void Checker::CheckBackup(const CPort& port)
+void Checker::CheckGroups()
+{
+    QMap<QUuid, CTileGroup*> groups;
+    Port().GetPortProject()->GetTileGroupSet()->GetGroupListRecursive(groups);
+    for (int i = 0; i < Tiles().GetCount(); ++i) {
+        const QUuid group = Tiles().GetTile(i)->GetGroupId();
+        if (!group.isNull() && !groups.contains(group))
+            Add(FaultKind::OrphanGroup, i,
+                QStringLiteral("orphan-group: the port has no group ") + group.toString());
+    }
+}
+
+void Checker::CheckBackup()
 {
     const PortPlace place{m_sender, m_port};
-    if (port.IsBackupDest() && !m_backups.SourceOf(place))
+    if (Port().IsBackupDest() && !m_backups.SourceOf(place))
         Add(FaultKind::BackupOfNothing, kNoCabinet,
             QStringLiteral("backup-of-nothing: the port backed up does not exist"));
     if (m_backups.IsInLoop(place))
         Add(FaultKind::BackupLoop, kNoCabinet, QStringLiteral("backup-loop: in the end it backs up itself"));
 }
 
-void Checker::CheckLoad(const CTileSet& tiles)
+void Checker::CheckLoad()
 {
+    const CTileSet& tiles = Tiles();
     qint64 pixels = 0;
     for (int i = 0; i < tiles.GetCount(); ++i)
-        pixels += qint64(tiles.GetTile(i)->GetWidth()) * tiles.GetTile(i)->GetHeight();
+        pixels += PixelsOf(*tiles.GetTile(i));
     if (pixels > m_options.portPixels)
         Add(FaultKind::PortOverload, kNoCabinet,
             QStringLiteral("port-overload: %1 pixels, the port carries %2")
@@ -259,7 +302,7 @@ void Checker::CheckParameterFiles()
         const QString path = CConstantData::GetProjectParamFileTemp() + file.name + QStringLiteral(".rcvbp");
         const bool there = QFileInfo(path).isFile() && CConstantData::GetMD5FromFile(path) == file.type;
         if (!there && !products->FindProductFromGuid(file.type))
-            m_faults.append(
+            m_faults.push_back(
                 {FaultKind::MissingParameterFile, 0, 0, 0,
                  QStringLiteral("missing-parameter-file: %1, ").arg(file.name) + file.type.ToString()});
     }
@@ -283,7 +326,7 @@ QString Fault::Line() const
     place("sender ", sender);
     place("port ", port);
     place("cabinet ", cabinet);
-    return line.isEmpty() ? text : line + QStringLiteral(": ") + text;
+    return Printable(line.isEmpty() ? text : line + QStringLiteral(": ") + text);
 }
 
 QJsonObject Fault::Json() const
@@ -295,9 +338,17 @@ QJsonObject Fault::Json() const
             {QStringLiteral("text"), text}};
 }
 
+void CheckProject(const CProjectData& project, const CheckOptions& options,
+                  const std::function<void(const Fault&)>& found)
+{
+    Checker(project, options, found).Run();
+}
+
 QList<Fault> CheckProject(const CProjectData& project, const CheckOptions& options)
 {
-    return Checker(project, options).Run();
+    QList<Fault> faults;
+    CheckProject(project, options, [&faults](const Fault& fault) { faults.append(fault); });
+    return faults;
 }
 
 } // namespace OrvanTools

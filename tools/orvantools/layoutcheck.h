@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 class CProjectData;
 
 namespace OrvanTools {
@@ -38,7 +40,7 @@ struct Fault
     int cabinet = 0; ///< place in the order of the port's cabinets
     QString text;
 
-    QString Line() const; ///< "sender 1 port 2 cabinet 3: …"
+    QString Line() const; ///< "sender 1 port 2 cabinet 3: …", fit for a terminal
     QJsonObject Json() const;
 };
 
@@ -48,8 +50,11 @@ struct CheckOptions
     const StoredReceivers* stored = nullptr; ///< [ref] of the file read; null: no receiver-mismatch
 };
 
-/// The faults of the open document, by kind, sender, port and cabinet; at most one of a kind for a cabinet.
-/// The stored cabinets of a backup port are not looked at: the port shows those of its source.
-QList<Fault> CheckProject(const CProjectData& project, const CheckOptions& options);
+/// Tells the faults of the open document, by kind, sender, port and cabinet; at most one of a kind for a
+/// cabinet. The stored cabinets of a backup port are not looked at: the port shows those of its source.
+void CheckProject(const CProjectData& project, const CheckOptions& options,
+                  const std::function<void(const Fault&)>& found);
+
+QList<Fault> CheckProject(const CProjectData& project, const CheckOptions& options); ///< the same, as a list
 
 } // namespace OrvanTools

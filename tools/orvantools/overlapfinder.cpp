@@ -1,5 +1,6 @@
 #include "orvantools/overlapfinder.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -7,16 +8,30 @@ namespace OrvanTools {
 
 namespace {
 
-constexpr double kCell = 256; ///< pixels
+constexpr int kLeastCell = 32;    ///< pixels
+constexpr double kLargest = 4096; ///< pixels; more than any cabinet turned by any angle
+constexpr int kNotCompared = 0;
 
-int CellOf(double place)
+/// The side of the cells for a shape, at least twice its own.
+int CellSideFor(const TileShape& shape, const QRectF& bound)
 {
-    return static_cast<int>(std::floor(place / kCell));
+    const double size = std::max(bound.width(), bound.height());
+    if (!shape.CanOverlap() || size > kLargest)
+        return kNotCompared;
+    int side = kLeastCell;
+    while (side < 2 * size)
+        side *= 2;
+    return side;
 }
 
-int LastCellOf(double end)
+template <class Visit> void VisitCells(const QRectF& bound, int side, Visit visit)
 {
-    return static_cast<int>(std::ceil(end / kCell)) - 1;
+    const auto first = [side](double place) { return static_cast<qint64>(std::floor(place / side)); };
+    const auto last = [side](double end) { return static_cast<qint64>(std::ceil(end / side)) - 1; };
+    for (qint64 y = first(bound.top()); y <= last(bound.bottom()); ++y) {
+        for (qint64 x = first(bound.left()); x <= last(bound.right()); ++x)
+            visit(y * (qint64(1) << 32) + x);
+    }
 }
 
 } // namespace
@@ -24,21 +39,36 @@ int LastCellOf(double end)
 OverlapFinder::OverlapFinder(const std::vector<TileShape>& shapes)
     : m_shapes(shapes), m_partners(shapes.size(), kNone)
 {
-    for (size_t i = 0; i < shapes.size(); ++i)
-        Add(static_cast<int>(i));
+    std::vector<std::pair<int, int>> order; // the side of its cells, and the shape
+    m_bounds.reserve(shapes.size());
+    for (const TileShape& shape : shapes) {
+        const auto place = static_cast<int>(m_bounds.size());
+        m_bounds.push_back(shape.Bound());
+        const int side = CellSideFor(shape, m_bounds.back());
+        if (side != kNotCompared)
+            order.emplace_back(side, place);
+    }
+    std::stable_sort(order.begin(), order.end(),
+                     [](const auto& a, const auto& b) { return a.first > b.first; });
+    for (const auto& [side, shape] : order)
+        Add(shape, side);
 }
 
-void OverlapFinder::Add(int shape)
+void OverlapFinder::Add(int shape, int side)
 {
-    const QRectF bound = m_shapes[static_cast<size_t>(shape)].Bound();
-    for (int y = CellOf(bound.top()); y <= LastCellOf(bound.bottom()); ++y) {
-        for (int x = CellOf(bound.left()); x <= LastCellOf(bound.right()); ++x) {
-            Cell& cell = m_cells[y * (qint64(1) << 32) + x];
-            CompareWithin(cell, shape);
-            const bool overlaps = m_partners[static_cast<size_t>(shape)] != kNone;
-            (overlaps ? cell.overlapping : cell.alone).push_back(shape);
-        }
+    const auto index = static_cast<size_t>(shape);
+    Grid& own = m_grids[side];
+    for (auto& [cellSide, grid] : m_grids) {
+        VisitCells(m_bounds[index], cellSide, [&, &cells = grid](qint64 place) {
+            const auto cell = cells.find(place);
+            if (cell != cells.end())
+                CompareWithin(cell->second, shape);
+        });
     }
+    VisitCells(m_bounds[index], side, [&](qint64 place) {
+        Cell& cell = own[place];
+        (m_partners[index] != kNone ? cell.overlapping : cell.alone).push_back(shape);
+    });
 }
 
 void OverlapFinder::CompareWithin(Cell& cell, int shape)
@@ -59,7 +89,9 @@ void OverlapFinder::CompareWithin(Cell& cell, int shape)
 
 bool OverlapFinder::Compare(int a, int b)
 {
-    if (a == b || !IsOverlap(m_shapes[static_cast<size_t>(a)], m_shapes[static_cast<size_t>(b)]))
+    const auto first = static_cast<size_t>(a);
+    const auto second = static_cast<size_t>(b);
+    if (!m_bounds[first].intersects(m_bounds[second]) || !IsOverlap(m_shapes[first], m_shapes[second]))
         return false;
     for (const auto& pair : {std::pair(a, b), std::pair(b, a)}) {
         int& partner = m_partners[static_cast<size_t>(pair.first)];

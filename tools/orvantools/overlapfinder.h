@@ -2,14 +2,16 @@
 
 #include "orvantools/tileshape.h"
 
+#include <map>
 #include <unordered_map>
 #include <vector>
 
 namespace OrvanTools {
 
-/// Finds which shapes overlap another one. The canvas is cut into cells, and a shape is compared with those
-/// of its cells: shapes already known to overlap are kept apart, and of the others only so many fit into a
-/// cell.
+/// Finds which shapes overlap another one. The canvas is cut into cells, for each size of shapes into others,
+/// so that a shape covers few cells; from the largest to the smallest each is compared with those of its
+/// cells. Shapes already known to overlap are kept apart, and of the others only so many fit into a cell.
+/// Shapes without area, and what is larger than any cabinet, overlap nothing.
 class OverlapFinder
 {
 public:
@@ -26,13 +28,16 @@ private:
         std::vector<int> overlapping;
     };
 
-    void Add(int shape);
+    using Grid = std::unordered_map<qint64, Cell>;
+
+    void Add(int shape, int side);
     void CompareWithin(Cell& cell, int shape);
     bool Compare(int a, int b);
 
     const std::vector<TileShape>& m_shapes;
+    std::vector<QRectF> m_bounds;
     std::vector<int> m_partners;
-    std::unordered_map<qint64, Cell> m_cells;
+    std::map<int, Grid> m_grids; ///< by the side of their cells, pixels
 };
 
 } // namespace OrvanTools

@@ -1,5 +1,7 @@
 #include "orvantools/projecttext.h"
 
+#include "orvantools/printable.h"
+
 #include <OrvanData/orvandata.h>
 
 #include <QHostAddress>
@@ -13,7 +15,7 @@ constexpr int kLabelWidth = 16;
 
 QString Row(const char* label, const QString& value)
 {
-    return QString::fromLatin1(label).leftJustified(kLabelWidth) + value + QLatin1Char('\n');
+    return QString::fromLatin1(label).leftJustified(kLabelWidth) + Printable(value) + QLatin1Char('\n');
 }
 
 QString PrintRow(const char* label, const SPrintLine& line)
@@ -49,7 +51,7 @@ QString BackupText(const CProjectData& project, const CPort& port)
                          : sender >= 0              ? project.GetShowSenderName(sender, true)
                                                     : QStringLiteral("an unknown sender");
     return QStringLiteral("backup of ") + name + QStringLiteral(", port ")
-           + QString::number(port.GetBackupSrcPortIndex() + 1);
+           + QString::number(qint64(port.GetBackupSrcPortIndex()) + 1);
 }
 
 QString PortRow(const CProjectData& project, const CPort& port)
@@ -69,7 +71,8 @@ QString PortRow(const CProjectData& project, const CPort& port)
     QString row = QStringLiteral("  ");
     for (const int number : {port.GetPortIndex() + 1, tiles.GetCount(), numbered, tiles.GetRcvCount()})
         row += QString::number(number).rightJustified(9) + QLatin1Char(' ');
-    row += QLatin1Char(' ') + BoundText(tiles).leftJustified(22) + notes.join(QStringLiteral(", "));
+    row +=
+        QLatin1Char(' ') + BoundText(tiles).leftJustified(22) + Printable(notes.join(QStringLiteral(", ")));
     while (row.endsWith(QLatin1Char(' ')))
         row.chop(1);
     return row + QLatin1Char('\n');
@@ -108,7 +111,7 @@ QString SummarizeProject(const CProjectData& project)
     if (!files.isEmpty())
         text += QStringLiteral("\nParameter files\n");
     for (const SParameterFileInfo& file : files)
-        text += QStringLiteral("  ") + file.type.ToString() + QStringLiteral("  ") + file.name
+        text += QStringLiteral("  ") + file.type.ToString() + QStringLiteral("  ") + Printable(file.name)
                 + QLatin1Char('\n');
     return text;
 }

@@ -11,12 +11,24 @@ namespace {
 
 constexpr double kTurnedFrom = 0.0001; ///< degrees; the library's own limit
 constexpr double kRounding = 1.5;      ///< pixels that two turned neighbours may share
+constexpr double kFarthest = 1 << 24;  ///< pixels
 
 struct Range
 {
     double low;
     double high;
 };
+
+/// Also what turning about a point beyond all bounds makes of a corner.
+double Reachable(double place)
+{
+    return std::isnan(place) ? kFarthest : std::clamp(place, -kFarthest, kFarthest);
+}
+
+double Length(const QPointF& way)
+{
+    return std::hypot(way.x(), way.y());
+}
 
 Range Project(const TileShape& shape, const QPointF& axis)
 {
@@ -34,7 +46,7 @@ bool IsSeparatedByEdges(const TileShape& a, const TileShape& b, double rounding)
 {
     for (size_t i = 0; i < 2; ++i) {
         const QPointF edge = a.corners[i + 1] - a.corners[i];
-        const double length = std::hypot(edge.x(), edge.y());
+        const double length = Length(edge);
         if (length == 0)
             return true;
         const QPointF axis(-edge.y() / length, edge.x() / length);
@@ -51,6 +63,12 @@ bool IsSeparatedByEdges(const TileShape& a, const TileShape& b, double rounding)
 QPointF TileShape::Center() const
 {
     return (corners[0] + corners[2]) / 2;
+}
+
+bool TileShape::CanOverlap() const
+{
+    const double least = IsTurned() ? kRounding : 0;
+    return Length(corners[1] - corners[0]) > least && Length(corners[3] - corners[0]) > least;
 }
 
 QRectF TileShape::Bound() const
@@ -76,8 +94,8 @@ TileShape ShapeOf(const CTile& tile)
 {
     const double left = tile.GetX();
     const double top = tile.GetY();
-    const double right = left + tile.GetWidth();
-    const double bottom = top + tile.GetHeight();
+    const double right = left + std::max(0, tile.GetWidth());
+    const double bottom = top + std::max(0, tile.GetHeight());
     TileShape shape{{QPointF(left, top), QPointF(right, top), QPointF(right, bottom), QPointF(left, bottom)},
                     0};
     const SRotateParam& record = tile.GetRotateRecord();
@@ -86,9 +104,14 @@ TileShape ShapeOf(const CTile& tile)
     shape.angle = record.angle;
     for (QPointF& corner : shape.corners) {
         const CPointEx<double> turned = GetRotatePoint(&record, corner.x(), corner.y());
-        corner = QPointF(turned.x, turned.y);
+        corner = QPointF(Reachable(turned.x), Reachable(turned.y));
     }
     return shape;
+}
+
+qint64 PixelsOf(const CTile& tile)
+{
+    return tile.GetSize().isEmpty() ? 0 : qint64(tile.GetWidth()) * tile.GetHeight();
 }
 
 bool IsOverlap(const TileShape& a, const TileShape& b)

@@ -18,12 +18,16 @@ struct TileShape
 
     bool IsTurned() const { return angle != 0; }
     QPointF Center() const;
+    bool CanOverlap() const; ///< false without area, and for what is no wider than rounding
     QRectF Bound() const;
     QPointF At(double x, double y) const; ///< from (0, 0) at the first corner to (1, 1) at the third
     QPolygonF Polygon() const;
 };
 
+/// A width or height below 0 counts as 0, and no corner lies farther out than any canvas could.
 TileShape ShapeOf(const CTile& tile);
+
+qint64 PixelsOf(const CTile& tile);
 
 /// Whether two shapes share more than rounding: turned cabinets that stand side by side have positions in
 /// whole pixels and cut into each other a little.

@@ -271,7 +271,7 @@ void WallPainter::PaintChain(const PicturePort& port)
     for (const int place : port.chain) {
         const TileShape& shape = port.shapes[static_cast<size_t>(place)];
         const QPointF to = Map(shape.Center());
-        if (before >= 0 && NumberOf(port, place) == NumberOf(port, before) + 1) {
+        if (before >= 0 && NumberOf(port, place) - 1 == NumberOf(port, before)) {
             const TileShape& last = port.shapes[static_cast<size_t>(before)];
             const double side = std::min(SideOf(last), SideOf(shape));
             LineTo(lines.back(), to);

@@ -48,7 +48,7 @@ void WallPainter::PaintEnds(const PicturePort& port)
     m_painter.setBrush(Qt::black);
     m_painter.drawEllipse(start, radius, radius);
     m_labels.Block(QRectF(start - QPointF(radius, radius), start + QPointF(radius, radius)));
-    const QString text = QString::number(port.index + 1);
+    const QString text = FromOne(port.index);
     PaintInside({start, text, radius * (text.size() > 2 ? 0.8 : 1.1), 0}, Qt::white);
 }
 
@@ -70,7 +70,7 @@ void WallPainter::PaintBackups(const PicturePort& port)
 
 double WallPainter::NumberHeight(const PicturePort& port, const TileShape& shape) const
 {
-    const int digits = QString::number(NumberOf(port, port.chain.back()) + 1).size();
+    const int digits = FromOne(NumberOf(port, port.chain.back())).size();
     const double side = SideOf(shape);
     return std::min({kMostText, side * 0.27, side * 0.42 / (digits * kDigitWidth)}); // left of the chain
 }
@@ -84,7 +84,7 @@ void WallPainter::PaintNumbers(const PicturePort& port)
         const double height = NumberHeight(port, shape);
         if (height < m_leastText)
             continue;
-        const QString text = QString::number(NumberOf(port, place) + 1);
+        const QString text = FromOne(NumberOf(port, place));
         const double inset = SideOf(shape) * 0.09;
         const QPointF middle(inset + text.size() * height * kDigitWidth * 0.5, inset + height * 0.5);
         const QPointF corner = Map(shape.corners[0]);
@@ -114,7 +114,7 @@ void WallPainter::PaintNumbersOfTurns(const PicturePort& port)
         if (i != 0 && !isLast && !turns)
             continue;
         // Moved along the row into the port's own cabinets, away from the next port's numbers.
-        const QString text = QString::number(NumberOf(port, port.chain[i]) + 1);
+        const QString text = FromOne(NumberOf(port, port.chain[i]));
         const double beyond = QFontMetricsF(Font(m_leastText)).horizontalAdvance(text) + m_leastText * 0.5
                               - shape.Bound().width() * m_scale;
         const double row = std::abs(in.x()) > std::abs(out.x()) ? -in.x() : out.x();
@@ -131,7 +131,7 @@ void WallPainter::PaintReceiverNumbers(const PicturePort& port)
         const double side = SideOf(port.shapes[c]);
         for (size_t i = 0; cabinet.firstReceiver >= 0 && i < cabinet.receivers.size(); ++i) {
             const QRectF& part = cabinet.receivers[i];
-            const QString text = QString::number(cabinet.firstReceiver + static_cast<int>(i) + 1);
+            const QString text = FromOne(cabinet.firstReceiver + static_cast<qint64>(i));
             const double height = std::min({40.0, side * 0.16, side * part.height() * 0.3,
                                             side * part.width() * 0.5 / (text.size() * kDigitWidth)});
             if (height < m_leastText)

@@ -26,6 +26,12 @@ inline QColor FillOf(const PicturePort& port)
     return port.hidden ? lighter : port.color;
 }
 
+/// What counts from 0, as it is shown; any number may stand in a file.
+inline QString FromOne(qint64 number)
+{
+    return QString::number(number + 1);
+}
+
 inline int NumberOf(const PicturePort& port, int place)
 {
     return port.cabinets[static_cast<size_t>(place)].number;

@@ -72,7 +72,7 @@ QString BackupText(const CProjectData& project, const CPort& port, const BackupM
     if (port.GetBackupSrcIP() == 0)
         return Tr("backup of a port that does not exist");
     return Tr("backup of ") + QHostAddress(static_cast<quint32>(port.GetBackupSrcIP())).toString()
-           + QLatin1Char(' ') + Tr("port %1").arg(port.GetBackupSrcPortIndex() + 1);
+           + QLatin1Char(' ') + Tr("port %1").arg(qint64(port.GetBackupSrcPortIndex()) + 1);
 }
 
 PicturePort MakePort(const CProjectData& project, const CPort& port, const BackupMap& map, int sender)
@@ -88,7 +88,7 @@ PicturePort MakePort(const CProjectData& project, const CPort& port, const Backu
         CTile& tile = *tiles.GetTile(i);
         picture.shapes.push_back(ShapeOf(tile));
         picture.cabinets.push_back(MakeCabinet(tile));
-        picture.pixels += qint64(tile.GetWidth()) * tile.GetHeight();
+        picture.pixels += PixelsOf(tile);
     }
     picture.receivers = tiles.GetRcvCount();
     picture.chain = MakeChain(picture.cabinets);
@@ -124,11 +124,11 @@ QStringList FormLines(const SPrintFormData& form)
 QString Figures(const WallPicture& picture, const QSize& canvas)
 {
     qint64 pixels = 0;
-    int cabinets = 0;
-    int receivers = 0;
+    qint64 cabinets = 0;
+    qint64 receivers = 0;
     for (const PicturePort& port : picture.ports) {
         pixels += port.pixels;
-        cabinets += static_cast<int>(port.cabinets.size());
+        cabinets += static_cast<qint64>(port.cabinets.size());
         receivers += port.receivers;
     }
     QStringList parts;
@@ -159,7 +159,7 @@ WallPicture MakeWallPicture(const CProjectData& project, int index)
     const QSize offset = sender.GetOffset() == QSize(-1, -1) ? QSize(0, 0) : sender.GetOffset();
     const QSize canvas = sender.GetCanvasSize();
     if (!canvas.isEmpty())
-        picture.canvas = QRectF(QPointF(-offset.width(), -offset.height()), canvas);
+        picture.canvas = QRectF(-QPointF(offset.width(), offset.height()), canvas);
 
     const QString name = project.GetShowSenderName(index, true);
     const SPrintLine& printed = project.GetPrintSetData()->projectName;
