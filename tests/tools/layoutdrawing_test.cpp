@@ -53,14 +53,6 @@ protected:
     }
 };
 
-TEST_F(LayoutDrawingTest, APngHasTheWidthAskedForAndThePagesProportions)
-{
-    Build(QSize(4, 3), 2);
-    EXPECT_EQ(DrawPng().width(), 1920);
-    const QImage image = DrawPng(700);
-    EXPECT_EQ(image.size(), QSize(700, 495));
-}
-
 TEST_F(LayoutDrawingTest, EveryPortIsFilledWithTheColourOfItsIndex)
 {
     Build(QSize(24, 12), 20);

@@ -1,7 +1,5 @@
 #include "tools/toolsproject.h"
 
-#include <QFile>
-
 using OrvanTools::NewProject;
 
 class NewProjectTest : public ToolsTest
@@ -37,32 +35,6 @@ TEST_F(NewProjectTest, EachPortIsNumberedForItself)
     }
     Build(QSize(6, 3), 2, NewProject::kNotNumbered);
     EXPECT_FALSE(Tiles(0).HasNumberedTiles());
-}
-
-TEST_F(NewProjectTest, TypesAlternateByColumnOverAllPorts)
-{
-    NewProject wanted;
-    wanted.grid = QSize(5, 2);
-    wanted.ports = 2;
-    for (const char* content : {"a", "b", "c"}) {
-        const QString path =
-            CProductDirectorySet::GetRootDir() + QString::fromLatin1(content) + QStringLiteral(".rcvbp");
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content));
-        file.close();
-        wanted.types.append(CConstantData::GetMD5FromFile(path));
-    }
-    GetRuntimeData()->GetProductDirectorySet()->LoadProductInfo();
-    ASSERT_TRUE(OrvanTools::BuildProject(Project(), wanted));
-    for (int port : {0, 1}) {
-        for (int i = 0; i < Tiles(port).GetCount(); ++i)
-            EXPECT_EQ(Tile(port, i).GetType(), wanted.types[Tile(port, i).GetX() / 128 % 3]);
-    }
-    QStringList names;
-    for (const SParameterFileInfo& file : Project().GetParameterFiles())
-        names.append(file.name);
-    names.sort();
-    EXPECT_EQ(names, (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
 }
 
 TEST_F(NewProjectTest, WhatCannotBeBuiltLeavesTheDocumentAlone)

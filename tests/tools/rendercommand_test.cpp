@@ -33,7 +33,7 @@ TEST(RenderCommandTest, TheEndingChoosesTheFormat)
     EXPECT_EQ(QDir(folder.Path()).entryList(QDir::Files).size(), 3); // no scratch file is left
     EXPECT_EQ(QImage(folder.Path(Arg("墙.png"))).width(), 1920);
     EXPECT_EQ(Render(folder.Path(Arg("b.png")), Args({"--width", "640"})).status, 0);
-    EXPECT_EQ(QImage(folder.Path(Arg("b.png"))).width(), 640);
+    EXPECT_EQ(QImage(folder.Path(Arg("b.png"))).size(), QSize(640, 453)); // as A3
 }
 
 TEST(RenderCommandTest, TheSenderAskedForIsDrawn)

@@ -1,24 +1,9 @@
 #include "tools/toolsproject.h"
 
-#include <orvantools/layoutcheck.h>
 #include <orvantools/samplewall.h>
 
 class SampleWallTest : public ToolsTest
 {};
-
-TEST_F(SampleWallTest, ItIsBuiltWithoutAFaultAndHoldsWhatItTells)
-{
-    QStringList told;
-    OrvanTools::SampleWall wall([&told](const QString& line) { told.append(line); });
-    ASSERT_TRUE(wall.Build()) << qPrintable(wall.GetFault());
-    EXPECT_GE(told.size(), 10);
-    EXPECT_TRUE(OrvanTools::CheckProject(Project(), {}).isEmpty());
-    EXPECT_EQ(Project().GetParameterFiles().size(), 2);
-    EXPECT_TRUE(Project().HasTileRotated());
-    EXPECT_TRUE(Project().GetSender(0)->GetPort(3)->IsBackupDest());
-    EXPECT_TRUE(Tile(1, 0).IsMultiRcvTile());
-    EXPECT_GT(GetRuntimeData()->GetProjectUndoRedo()->GetCanUndoStep(), 3);
-}
 
 TEST_F(SampleWallTest, AnyDifferenceBetweenTwoProjectsIsFound)
 {
