@@ -39,10 +39,7 @@ template <class Fields, class Data> void DescribeOther(Fields& f, Data& data)
     f.Group(kOtherRoot, [&] {
         f.Group(kAdvancedRoot, [&] {
             DescribeAdvanced(f, data);
-            f.Field("outputOtherParamBlackFade", data.blackoutFadeTime, FieldUse::IfPresent);
-            f.Field("outputOtherParamWorkMode", data.deviceMode, FieldUse::IfPresent);
-            f.Field("outputOtherParamFiberWorkMode", data.fiberMode, FieldUse::IfPresent);
-            f.Field("outputOtherParamHDMIOutput", data.videoOutputMode, FieldUse::IfPresent);
+            DescribeProcessorAdvanced(f, data);
         });
     });
 }

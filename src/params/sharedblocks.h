@@ -91,4 +91,13 @@ template <class Fields, class Data> void DescribeAdvanced(Fields& f, Data& data)
     f.Field("PeakBrightnessSharpen", data.peakBrightness.sharpen, FieldUse::IfPresent);
 }
 
+/// What processor files hold behind those, likewise.
+template <class Fields, class Data> void DescribeProcessorAdvanced(Fields& f, Data& data)
+{
+    f.Field("outputOtherParamBlackFade", data.blackoutFadeTime, FieldUse::IfPresent);
+    f.Field("outputOtherParamWorkMode", data.deviceMode, FieldUse::IfPresent);
+    f.Field("outputOtherParamFiberWorkMode", data.fiberMode, FieldUse::IfPresent);
+    f.Field("outputOtherParamHDMIOutput", data.videoOutputMode, FieldUse::IfPresent);
+}
+
 } // namespace params

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "params/records/recordwalk.h"
+#include "params/elementfields.h"
 
 #include <QColor>
 #include <QList>
 #include <QPointF>
-#include <QSet>
 #include <QVector>
 
 #include <array>
+#include <map>
+#include <string>
 #include <type_traits>
 
 template <class T> constexpr bool kIsRecord = std::is_base_of_v<WalkedRecord<T>, T>;
@@ -33,51 +34,47 @@ private:
     Self& self() { return static_cast<Self&>(*this); }
 };
 
-/// Gives every value of a record, however deep, a new one that no other value has (flags: the opposite). With
-/// `only` set, the values before and after that one stay.
-class ChangeValues : public RecordVisitor<ChangeValues>
+/// The values of a record in the order in which it declares them, which no walk and no name of a file
+/// decides;
+/// "-" stands for a record inside that is as it was made.
+class ValuesInOrder : public RecordVisitor<ValuesInOrder>
 {
 public:
-    explicit ChangeValues(int only = -1) : m_only(only) {}
-    int Count() const { return m_count; } ///< values seen
+    template <class R> static std::string Of(R& record, const char* separator)
+    {
+        ValuesInOrder values;
+        R::Walk(values, record);
+        std::string text;
+        for (const auto& value : values.m_texts)
+            text += (text.empty() ? "" : separator) + value.second;
+        return text;
+    }
 
-    template <class T> void Visit(T& value)
-    {
-        if constexpr (kIsRecord<T>)
-            T::Walk(*this, value);
-        else if (const int n = m_count++; m_only < 0 || n == m_only)
-            Change(value, n + 1);
-    }
-    template <class T, size_t n> void Visit(std::array<T, n>& values)
-    {
-        for (T& value : values)
-            Visit(value);
-    }
-    template <class T> void Visit(QList<T>& values)
-    {
-        while (m_only < 0 && values.size() < 2)
-            values.append(T());
-        for (T& value : values)
-            Visit(value);
-    }
+    template <class T> void Visit(T& value) { m_texts[&value] = Text(value); }
 
 private:
-    static void Change(bool& value, int) { value = !value; }
-    static void Change(QString& value, int n) { value += QStringLiteral("名%1").arg(n); }
-    static void Change(QColor& value, int n) { value.setRed(value.red() ^ (n % 255 + 1)); }
-    static void Change(QPointF& value, int n) { value += QPointF(n, -n); }
-    static void Change(QVector<float>& value, int n) { value.append(static_cast<float>(n)); }
-    template <class T> static std::enable_if_t<std::is_enum_v<T>> Change(T& value, int n)
+    static std::string Text(PortGroupName& name) { return name.data(); }
+    static std::string Text(QColor& color) { return color.name().toStdString(); }
+    static std::string Text(QPointF& point) { return Text(point.rx()) + ',' + Text(point.ry()); }
+    template <class T, size_t n> static std::string Text(std::array<T, n>& values) { return All(values); }
+    template <class T> static std::string Text(QList<T>& values) { return '[' + All(values) + ']'; }
+    template <class T> static std::string Text(QVector<T>& values) { return '[' + All(values) + ']'; }
+    template <class T> static std::string Text(T& value)
     {
-        value = static_cast<T>(value + n);
+        if constexpr (kIsRecord<T>)
+            return value == T() ? "-" : Of(value, " ");
+        else
+            return paramtext::ToText(value).toStdString();
     }
-    template <class T> static std::enable_if_t<std::is_arithmetic_v<T>> Change(T& value, int n)
+    template <class List> static std::string All(List& values)
     {
-        value = static_cast<T>(value + static_cast<T>(n % 100 + 1));
+        std::string text;
+        for (auto& value : values)
+            text += (text.empty() ? "" : " ") + Text(value);
+        return text;
     }
 
-    int m_only;
-    int m_count = 0;
+    std::map<const void*, std::string> m_texts; ///< by address; a key is walked in several places
 };
 
 /// Finds the bytes of a record that its walk does not reach and that alignment does not explain: a field that

@@ -1,0 +1,132 @@
+#include "params/sharedblocks.h"
+#include "project/layoutdescription.h"
+#include "project/projectdescription.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QHash>
+#include <QStringList>
+
+namespace {
+
+QString TypeOf(bool)
+{
+    return QStringLiteral("flag");
+}
+QString TypeOf(int)
+{
+    return QStringLiteral("number");
+}
+QString TypeOf(unsigned)
+{
+    return QStringLiteral("number");
+}
+QString TypeOf(double)
+{
+    return QStringLiteral("fraction");
+}
+QString TypeOf(const QUuid&)
+{
+    return QStringLiteral("id");
+}
+QString TypeOf(const SMD5&)
+{
+    return QStringLiteral("digest");
+}
+QString TypeOf(const QString&)
+{
+    return QStringLiteral("text");
+}
+
+std::string Lines(const QStringList& rows)
+{
+    return rows.join(QLatin1Char('\n')).toStdString();
+}
+
+/// The fields of descriptions, as the rows of the tables name them.
+class FieldList
+{
+public:
+    template <class T> void Field(const FieldName& name, const T& value, FieldUse use = FieldUse::Both)
+    {
+        static const char* const kUses[] = {"", "never read", "never written", "if present"};
+        const QString quoted = QLatin1Char('`') + name.Text() + QLatin1Char('`');
+        // What a record holds in another form than the file.
+        static const QHash<QString, QString> kForms{
+            {QStringLiteral("PortColor"), QStringLiteral("colour")},
+            {QStringLiteral("IsMultiCabinet"), QStringLiteral("flag")},
+            {QStringLiteral("IsMultiFixed"), QStringLiteral("flag")},
+            {QStringLiteral("MultiOrdered"), QStringLiteral("flag")}};
+        m_rows.append(quoted + QLatin1Char(' ') + kForms.value(name.Text(), TypeOf(value)));
+        if (use != FieldUse::Both)
+            m_deviations.append(m_element + QLatin1Char(' ') + quoted + QLatin1Char(' ')
+                                + QLatin1String(kUses[static_cast<int>(use)]));
+    }
+
+    void Begin(const char* element)
+    {
+        m_element = QLatin1Char('`') + QLatin1String(element) + QLatin1Char('`');
+    }
+    std::string TakeRows() { return Lines(std::exchange(m_rows, {})); }
+    std::string TakeDeviations() { return Lines(std::exchange(m_deviations, {})); }
+
+private:
+    QString m_element;
+    QStringList m_rows;
+    QStringList m_deviations;
+};
+
+/// The rows of the table below a heading that begins so: the first `columns` cells, by blanks.
+std::string Table(const char* heading, int columns)
+{
+    const QString document = QString::fromUtf8(ReadFile(QStringLiteral(ORVAN_DOCS "/file-formats.md")));
+    QStringList rows;
+    bool here = false;
+    for (const QString& line : document.split(QLatin1Char('\n'))) {
+        if (line.startsWith(QLatin1Char('#')))
+            here = line.section(QLatin1Char(' '), 1).startsWith(QLatin1String(heading));
+        else if (here && line.startsWith(QLatin1String("| ")))
+            rows.append(line.section(QLatin1Char('|'), 1, columns).remove(QLatin1Char('|')).simplified());
+    }
+    return Lines(rows.mid(1));
+}
+
+} // namespace
+
+TEST(DocumentTablesTest, AttributesAndDeviationsAreThoseOfTheDescriptions)
+{
+    FieldList f;
+    const auto expect = [&f](const char* element, const char* heading, auto record, auto describe) {
+        f.Begin(element);
+        describe(f, record);
+        EXPECT_EQ(Table(heading, 2), f.TakeRows()) << heading;
+    };
+    expect("VersionSupport", "`VersionSupport`", VersionRecord(),
+           [](auto& l, auto& r) { DescribeVersion(l, r); });
+    expect("DemoModeInfo", "`DemoModeInfo`", SDemoMode(), [](auto& l, auto& r) { DescribeDemoMode(l, r); });
+    expect("SenderGroup_n", "`SenderGroup_n`", SSenderGroupInfo(),
+           [](auto& l, auto& r) { DescribeSenderGroup(l, r); });
+    expect("Gamma_n", "`Gamma_n`", SRcvParamGamma(), [](auto& l, auto& r) { DescribeGamma(l, r); });
+    expect("PrintFormData", "`PrintFormData`", SPrintFormData(),
+           [](auto& l, auto& r) { DescribePrintForm(l, r); });
+    expect("File", "`File`n", SParameterFileInfo(), [](auto& l, auto& r) { DescribeParameterFile(l, r); });
+    expect("Sender_n", "`Sender_n`", SenderRecord(), [](auto& l, auto& r) {
+        DescribeSenderDevice(l, r);
+        DescribeSender(l, r);
+    });
+    expect("Port_n", "`Port_n`", PortRecord(), [](auto& l, auto& r) { DescribePort(l, r); });
+    expect("Tile_n", "`Tile_n`", TileRecord(), [](auto& l, auto& r) { DescribeTile(l, r); });
+    expect("TileGroup_n", "Groups:", GroupRecord(), [](auto& l, auto& r) {
+        DescribeGroup(l, r);
+        l.Field(layoutnames::kGroupCount, 0);
+    });
+    expect("Monitor", "`Monitor`", MonitorRecord(), [](auto& l, auto& r) { DescribeMonitor(l, r); });
+    EXPECT_EQ(Table("Deviations between", 3), f.TakeDeviations());
+
+    SenderParamData data;
+    f.Begin("AdvancedParam");
+    params::DescribeAdvanced(f, data);
+    params::DescribeProcessorAdvanced(f, data);
+    EXPECT_EQ(Table("Deviations in parameter files", 3), f.TakeDeviations());
+}

@@ -1,0 +1,106 @@
+#include "formats/samplexml.h"
+#include "frame/lednimbradata.h"
+#include "frame/runtimedata.h"
+#include "params/recordwalkers.h"
+#include "project/projectdata.h"
+#include "support/library.h"
+#include "support/testfolder.h"
+#include "support/wallbuilder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Counts and what tells processors apart are needed to reach the values. The rest is the sender's own.
+const QRegularExpression kStructure(
+    QStringLiteral("Count$|^(CheckValue|bSpecifyIP|SenderType|DeviceType|NetIP|ParamFileMainVersion|"
+                   "DeviceReserveFlag|DeviceGuid|DeviceClass)$"));
+
+class ParamSampleTest : public testing::Test
+{
+protected:
+    /// Two senders as in the samples, one with picture values of its own.
+    ParamSampleTest()
+    {
+        const QUuid ids[] = {QUuid(QStringLiteral("{513c9595-dafb-4d1e-9f00-fce30301cab7}")),
+                             QUuid(QStringLiteral("{d3cbe907-e273-42d7-9f07-5f0244d56622}"))};
+        for (int i = 0; i < 2; ++i) {
+            CSender& sender = *project.NewSender();
+            sender.SetId(ids[i]);
+            sender.SetNetSenderIP(3232235777U + i);
+            sender.SetProcessorType(17);
+            sender.SetDeviceClass(2 + 2 * i);
+            sender.SetPortCount(2);
+            SSupportOptionsInfo support;
+            support.portGroupBrightness = true;
+            sender.SetProcessorSupportInfo(support);
+        }
+        SImpExpPrepareInfo info;
+        info.matchByIp = true;
+        info.senders = {0, 1};
+        GetRuntimeData()->SetImpExpPrepareInfo(info);
+    }
+
+    QByteArray Values() const
+    {
+        std::string text;
+        for (CSender* s : project.GetSenders()) {
+            text += ValuesInOrder::Of(s->Params(), "\n") + '\n'
+                    + Row(s->GetCanvasSize().width(), s->GetCanvasSize().height());
+            for (int port = 0; port < 2; ++port) {
+                const QRect area = s->GetPort(port)->GetPortArea();
+                text += Row(area.x(), area.y(), area.width(), area.height());
+            }
+            text += '\n';
+        }
+        return QByteArray::fromStdString(text);
+    }
+
+    using Transfer = quint32 (CProjectData::*)(const QString&, const QUuid&);
+
+    void ExpectSample(const char* name, const char* values, Transfer take, Transfer write)
+    {
+        const QByteArray sample = FullSample(name);
+        const QString path = folder.Write(QStringLiteral("a.xml"), Hollow(sample, kStructure));
+        ASSERT_EQ((project.*take)(path, QUuid()), 0U);
+        ASSERT_EQ((project.*write)(path, QUuid()), 0U);
+        EXPECT_EQ(NamesWithoutOwnValue(sample, ReadFile(path), kStructure), "");
+
+        ASSERT_EQ((project.*take)(folder.Write(QStringLiteral("b.xml"), sample), QUuid()), 0U);
+        EXPECT_EQ(FirstDifference(Values(), Told(values)), "");
+        for (CSender* sender : project.GetSenders())
+            AddCabinets(*sender);
+        ASSERT_EQ((project.*write)(path, QUuid()), 0U);
+        EXPECT_EQ(FirstDifference(ReadFile(path), sample), "");
+    }
+
+    /// The areas of its ports are those of the samples then.
+    static void AddCabinets(CSender& sender)
+    {
+        Wall wall;
+        wall.columns = 2;
+        wall.leftTop = QPoint(10, 20);
+        MakeWall(*sender.GetPort(0), wall);
+        wall.columns = 1;
+        wall.leftTop = QPoint(300, 400);
+        MakeWall(*sender.GetPort(1), wall);
+    }
+
+    Library library;
+    TestFolder folder;
+    CProjectData& project = *GetProjectData();
+};
+
+} // namespace
+
+TEST_F(ParamSampleTest, ProcessorFileIsReadByTheValueAndWrittenByTheByte)
+{
+    ExpectSample("device-params.xml", "device-params.txt", &CProjectData::ImportMutiProcessorParam,
+                 &CProjectData::ExportMutiProcessorParam);
+}
+
+TEST_F(ParamSampleTest, SenderFileIsReadByTheValueAndWrittenByTheByte)
+{
+    ExpectSample("sender-params.xml", "sender-params.txt", &CProjectData::ImportMutiSenderParam,
+                 &CProjectData::ExportMutiSenderParam);
+}
