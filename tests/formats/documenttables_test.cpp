@@ -1,11 +1,16 @@
+#include "common/xmldom.h"
+#include "common/xmlreader.h"
 #include "params/sharedblocks.h"
 #include "project/layoutdescription.h"
 #include "project/projectdescription.h"
+#include "project/projectelements.h"
+#include "settings/archive.h"
 #include "support/testfolder.h"
 
 #include <gtest/gtest.h>
 
 #include <QHash>
+#include <QRegularExpression>
 #include <QStringList>
 
 namespace {
@@ -129,4 +134,38 @@ TEST(DocumentTablesTest, AttributesAndDeviationsAreThoseOfTheDescriptions)
     params::DescribeAdvanced(f, data);
     params::DescribeProcessorAdvanced(f, data);
     EXPECT_EQ(Table("Deviations in parameter files", 3), f.TakeDeviations());
+}
+
+TEST(DocumentTablesTest, LimitsAreThoseOfTheCode)
+{
+    const auto row = [](const char* what, qint64 limit, const char* unit = "") {
+        return QStringLiteral("%1 %2%3").arg(QLatin1String(what)).arg(limit).arg(QString::fromUtf8(unit));
+    };
+    const auto mebibytes = [&row](const char* what, qint64 bytes) { return row(what, bytes >> 20, " MiB"); };
+    QString portCounts = QStringLiteral("ports of a sender");
+    for (int count = 1; count <= kMaxPorts; ++count)
+        if (CSender::IsPortCountAccepted(count))
+            portCounts += QLatin1Char(' ') + QString::number(count);
+    const QString limits = QLatin1Char('\n')
+                           + QString::fromStdString(Table("Limits", 2))
+                                 .remove(QLatin1Char(','))
+                                 .replace(QLatin1String(" or "), QLatin1String(" "));
+    for (const QString& limit :
+         {mebibytes("XML file", kMaxXmlBytes),
+          row("XML file of parameters settings", kMaxTreeNodes, " elements"),
+          row("attributes of an element", kMaxXmlAttributes),
+          mebibytes("one attribute the text in one element", kMaxXmlText),
+          row("nesting of elements", kMaxXmlDepth), row("senders of a project", layoutnames::kMaxSenders),
+          row("cabinets of a port", kMaxTilesOfPort), row("cabinets of a file", layoutnames::kMaxTilesOfFile),
+          row("\ngroups of cabinets of a file", layoutnames::kMaxGroupsOfFile),
+          row("sender groups gamma values parameter files of a file", kMaxListRecords),
+          row("\nnesting of groups", layoutnames::kMaxGroupDepth),
+          row("entries of an archive", kMaxArchiveEntries),
+          mebibytes("one entry unpacked", kMaxArchiveEntrySize),
+          row("an archive unpacked", kMaxArchiveTotalSize >> 30, " GiB"), portCounts,
+          row("\ncabinet", kMaxCabinetSize, " × 1024 pixels"),
+          row("canvas", kMaxCanvasWidth, " × ") + QString::number(kMaxCanvasHeight),
+          row("receiving cards of a cabinet with an order of its own", kMaxReceiversInTile)})
+        EXPECT_TRUE(limits.contains(QRegularExpression(limit + QStringLiteral("(?!\\d)"))))
+            << limit.toStdString() << "\nis not in:" << limits.toStdString();
 }

@@ -1,0 +1,57 @@
+#include "formats/samplexml.h"
+#include "settings/configdata.h"
+#include "settings/configfile.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+TEST(SettingsSampleTest, FileIsReadByTheValueAndWrittenByTheByte)
+{
+    const QByteArray sample = FullSample("system-config.xml");
+    TestFolder folder;
+    CConfigData c;
+    ASSERT_TRUE(c.XmlLoad(SamplePath("full/system-config.xml")));
+    EXPECT_EQ(Row(c.IsAutoSelectLanguage(), static_cast<int>(c.GetLanguageType()), c.IsShowGrid(),
+                  c.IsShowTileSort(), c.IsSoftEdgeSheet(), c.IsSetEdgePixel(), c.GetDisTime(),
+                  c.IsEnableAttraction(), c.GetAttractionDis(), c.IsEnableFahrenheit(), c.IsEnableGamutRGB(),
+                  c.IsEnableGamutAutoCalculate(), c.IsOpenBackupProject(), c.IsSendAfterModify(),
+                  c.IsSupportMutiTileType(), c.IsShowPowerSupply(), c.GetDeviceInformationLayoutSize(),
+                  c.GetBeaconNoBorder(), c.GetDetectStrategy(), c.GetCustomerTileSize().width(),
+                  c.GetCustomerTileSize().height(), c.IsVisableAutoBrightAdjust()),
+              "1|1041|0|1|1|1|11|0|21|1|0|1|0|1|0|1|45.67|2|2|192|96|1|");
+    for (int i = 0; i < 4; ++i) {
+        const SCurrentGain gain = c.GetCurrentGain(i);
+        const double tenth = 0.1 * (i + 1);
+        EXPECT_EQ(Row(gain.red, gain.green, gain.blue, gain.tip),
+                  Row(tenth + 0.01, tenth + 0.02, tenth + 0.03, QStringLiteral("增益 %1").arg(i + 1)));
+    }
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(c.GetProjectRecordPath(i), QStringLiteral("/home/屏/%1 & a.prj").arg(i + 1));
+    const SBrightTableInfo table = c.GetBrightTableInfo();
+    EXPECT_EQ(Row(table.gamma, table.sensitivity, table.sensorMin, table.sensorMax, table.yStart, table.yEnd),
+              "2.85|51|1.5|99|2.5|98|");
+    const QList<SUiStyle> styles = c.GetUiStyles();
+    ASSERT_EQ(styles.size(), 3);
+    EXPECT_EQ(Row(c.GetCurrentUiStyle(), styles[0].key, styles[1].key, styles[2].key),
+              "2|StyleDark|StyleBlue|StyleLight|");
+    for (int i = 0; i < 40; ++i) {
+        const SHotkey hotkey = c.GetHotkey(1 + i / 20, i % 20);
+        EXPECT_EQ(Row(hotkey.enable, hotkey.operation, hotkey.hotkey, hotkey.description),
+                  Row(false, QStringLiteral("operation %1").arg(i + 1),
+                      QStringLiteral("Ctrl+Alt+") + QChar('A' + i % 20),
+                      QStringLiteral("动作 %1").arg(i + 1)));
+    }
+    for (int i = 0; i < kInterfaceCount; ++i)
+        EXPECT_TRUE(c.GetReadOnlyState(i)) << i;
+
+    const QString path = folder.Path(QStringLiteral("c.xml"));
+    ASSERT_TRUE(c.XmlSave(path));
+    const QByteArray written = QString::fromUtf8(ReadFile(path))
+                                   .remove(QRegularExpression(QStringLiteral("(?<=\") Name=\"[^\"]*\"")))
+                                   .toUtf8();
+    EXPECT_EQ(FirstDifference(written, sample), ""); // the name of a style follows its key
+    SConfigItems defaults;
+    SetConfigDefaults(&defaults);
+    ASSERT_TRUE(WriteConfigFile(path, defaults));
+    EXPECT_EQ(NamesWithoutOwnValue(sample, ReadFile(path), QRegularExpression(QStringLiteral("^$a"))), "");
+}
