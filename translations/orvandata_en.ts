@@ -4,14 +4,6 @@
 <context>
     <name>OrvanData</name>
     <message>
-        <source>目标不是普通文件。</source>
-        <translation>The target is not a regular file.</translation>
-    </message>
-    <message>
-        <source>文件无法写入。</source>
-        <translation>The file could not be written.</translation>
-    </message>
-    <message>
         <source>元素嵌套过深。</source>
         <translation>Elements are nested too deep.</translation>
     </message>
@@ -156,14 +148,6 @@
         <translation>and %1 more</translation>
     </message>
     <message>
-        <source>文件不存在: %1</source>
-        <translation>file does not exist: %1</translation>
-    </message>
-    <message>
-        <source>文件夹无法创建: %1</source>
-        <translation>folder could not be made: %1</translation>
-    </message>
-    <message>
         <source>系统缺少GBK编码</source>
         <translation>the system has no GBK codec</translation>
     </message>
@@ -182,14 +166,6 @@
     <message>
         <source>压缩包条目无法解压: %1</source>
         <translation>archive entry could not be unpacked: %1</translation>
-    </message>
-    <message>
-        <source>文件夹无法读取: %1</source>
-        <translation>folder could not be read: %1</translation>
-    </message>
-    <message>
-        <source>文件无法写入</source>
-        <translation>the file could not be written</translation>
     </message>
     <message>
         <source>文件夹不存在: %1</source>
@@ -380,10 +356,6 @@
         <translation>The project is being edited by &quot;%1&quot; (%2, process %3).</translation>
     </message>
     <message>
-        <source>不是普通文件。</source>
-        <translation>This is not a regular file.</translation>
-    </message>
-    <message>
         <source>内容超过%1 MiB，文件未保存。</source>
         <translation>The content is larger than %1 MiB; the file was not saved.</translation>
     </message>
@@ -396,10 +368,6 @@
         <translation>parameter file &quot;%1&quot; cannot be saved: %2</translation>
     </message>
     <message>
-        <source>无法创建项目工作文件夹“%1”。</source>
-        <translation>The project work folder &quot;%1&quot; could not be created.</translation>
-    </message>
-    <message>
         <source>参数文件“%1”无法放入产品库</source>
         <translation>parameter file &quot;%1&quot; cannot be put into the product library</translation>
     </message>
@@ -410,6 +378,26 @@
     <message>
         <source>“%1”过多，最多%2个，文件未读取。</source>
         <translation>Too many of &quot;%1&quot;, at most %2; the file was not read.</translation>
+    </message>
+    <message>
+        <source>无法读取“%1”：%2</source>
+        <translation>&quot;%1&quot; cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>无法写入“%1”。</source>
+        <translation>&quot;%1&quot; cannot be written.</translation>
+    </message>
+    <message>
+        <source>无法写入“%1”：%2</source>
+        <translation>&quot;%1&quot; cannot be written: %2</translation>
+    </message>
+    <message>
+        <source>无法创建文件夹“%1”：%2</source>
+        <translation>The folder &quot;%1&quot; cannot be made: %2</translation>
+    </message>
+    <message>
+        <source>“%1”不是普通文件。</source>
+        <translation>&quot;%1&quot; is not a regular file.</translation>
     </message>
 </context>
 </TS>

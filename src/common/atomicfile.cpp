@@ -1,9 +1,12 @@
 #include "common/atomicfile.h"
 
+#include "common/fileproblem.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QIODevice>
 #include <QThread>
 
 #include <cerrno>
@@ -49,6 +52,66 @@ bool IsFresh(int file, const char* path)
     return false;
 }
 
+/// An open file that is written to. It holds nothing back and remembers what failed first, so that no failure
+/// is lost on a writer that goes on, or that asks for the size or the place in between.
+class NewFileDevice : public QIODevice
+{
+public:
+    ~NewFileDevice() override { close(); }
+
+    void Open(int file)
+    {
+        m_file = file;
+        open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    }
+
+    void close() override
+    {
+        if (isOpen())
+            ::close(m_file);
+        QIODevice::close();
+    }
+
+    qint64 size() const override
+    {
+        struct stat status = {};
+        return fstat(m_file, &status) == 0 ? status.st_size : 0;
+    }
+
+    bool seek(qint64 position) override
+    {
+        return QIODevice::seek(position) && (lseek(m_file, position, SEEK_SET) == position || Fail());
+    }
+
+    bool Flush() { return m_error == 0 && (fsync(m_file) == 0 || Fail()); }
+    int Error() const { return m_error; } ///< as errno, 0: none
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+
+    qint64 writeData(const char* data, qint64 size) override
+    {
+        for (qint64 done = 0; m_error == 0 && done < size;) {
+            const ssize_t now = ::write(m_file, data + done, static_cast<size_t>(size - done));
+            if (now >= 0)
+                done += now;
+            else if (errno != EINTR)
+                Fail();
+        }
+        return m_error == 0 ? size : -1;
+    }
+
+private:
+    bool Fail()
+    {
+        m_error = errno;
+        return false;
+    }
+
+    int m_file = -1;
+    int m_error = 0;
+};
+
 /// The new file beside a target. It has one name for each target and is locked while it is written, so what
 /// an interrupted save left is found and removed by the next one, and another program's is waited for.
 class NewFile
@@ -61,7 +124,7 @@ public:
 
     ~NewFile()
     {
-        if (m_file.isOpen() && !m_renamed)
+        if (m_device.isOpen() && !m_renamed)
             unlink(m_path.constData());
     }
 
@@ -90,34 +153,31 @@ public:
         return false;
     }
 
-    bool Commit()
+    bool Commit(bool flush)
     {
-        if (!m_file.flush() || m_file.error() != QFileDevice::NoError)
+        if (m_device.Error() != 0 || (flush && !m_device.Flush()))
             return false;
-        m_renamed = fsync(m_file.handle()) == 0 && rename(m_path.constData(), m_target.constData()) == 0;
+        m_renamed = rename(m_path.constData(), m_target.constData()) == 0;
         if (!m_renamed)
             return FailWithErrno();
-        FlushFolder();
+        if (flush)
+            FlushFolder();
         return true;
     }
 
-    QFile& Device() { return m_file; }
+    QIODevice& Device() { return m_device; }
 
-    QString Error() const
-    {
-        if (!m_error.isEmpty())
-            return m_error;
-        return m_file.error() == QFileDevice::NoError ? Tr(QT_TRANSLATE_NOOP("OrvanData", "文件无法写入。"))
-                                                      : m_file.errorString();
-    }
+    /// Why the system refused; empty when it did not.
+    QString Error() const { return m_device.Error() != 0 ? qt_error_string(m_device.Error()) : m_error; }
 
 private:
     bool Take(int file)
     {
         struct stat replaced = {};
-        if (stat(m_target.constData(), &replaced) == 0)
+        if (lstat(m_target.constData(), &replaced) == 0 && S_ISREG(replaced.st_mode))
             fchmod(file, replaced.st_mode & 07777);
-        return m_file.open(file, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle);
+        m_device.Open(file);
+        return true;
     }
 
     bool FailWithErrno()
@@ -140,30 +200,41 @@ private:
     QByteArray m_target;
     QByteArray m_folder;
     QByteArray m_path;
-    QFile m_file;
+    NewFileDevice m_device;
     QString m_error;
     bool m_renamed = false;
 };
+
+bool Replace(const QString& target, bool flush, const std::function<bool(QIODevice&)>& write, QString* error)
+{
+    if (error)
+        error->clear();
+    NewFile file(target);
+    if (file.Open() && write(file.Device()) && file.Commit(flush))
+        return true;
+    const QString system = file.Error();
+    if (error && (error->isEmpty() || !system.isEmpty()))
+        *error = CannotWrite(target, system);
+    return false;
+}
 
 } // namespace
 
 bool ReplaceFile(const QString& path, const std::function<bool(QIODevice&)>& write, QString* error)
 {
     const QFileInfo target(path);
-    if (path.isEmpty() || (target.exists() && !target.isFile())) { // a device or a folder is not ours
-        if (error)
-            *error = Tr(QT_TRANSLATE_NOOP("OrvanData", "目标不是普通文件。"));
-        return false;
-    }
-    NewFile file(Resolved(path));
-    const bool done = file.Open() && write(file.Device()) && file.Commit();
-    if (!done && error)
-        *error = file.Error();
-    return done;
+    if (path.isEmpty() || (target.exists() && !target.isFile())) // a device or a folder is not ours
+        return Fail(error, NotRegular(path));
+    return Replace(Resolved(path), true, write, error);
 }
 
 bool ReplaceFile(const QString& path, const QByteArray& content, QString* error)
 {
     return ReplaceFile(
         path, [&content](QIODevice& file) { return file.write(content) == content.size(); }, error);
+}
+
+bool ReplaceWorkFile(const QString& path, const std::function<bool(QIODevice&)>& write, QString* error)
+{
+    return Replace(QFileInfo(path).absoluteFilePath(), false, write, error);
 }

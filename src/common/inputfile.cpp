@@ -1,6 +1,6 @@
 #include "common/inputfile.h"
 
-#include "common/failure.h"
+#include "common/fileproblem.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -10,8 +10,8 @@ bool OpenInput(QFile& file, QString* error)
 {
     const QFileInfo info(file.fileName());
     if (info.exists() && !info.isFile())
-        return Fail(error, QCoreApplication::translate("OrvanData", "不是普通文件。"));
-    return file.open(QIODevice::ReadOnly) || Fail(error, file.errorString());
+        return Fail(error, NotRegular(file.fileName()));
+    return file.open(QIODevice::ReadOnly) || Fail(error, CannotRead(file.fileName(), file.errorString()));
 }
 
 bool ReadInput(const QString& path, qint64 most, QByteArray* content, QString* error)
@@ -22,7 +22,7 @@ bool ReadInput(const QString& path, qint64 most, QByteArray* content, QString* e
     if (file.size() > most)
         return Fail(error, QCoreApplication::translate("OrvanData", "文件过大。"));
     *content = file.read(file.size());
-    return file.error() == QFileDevice::NoError || Fail(error, file.errorString());
+    return file.error() == QFileDevice::NoError || Fail(error, CannotRead(path, file.errorString()));
 }
 
 bool CopyContent(QIODevice& from, QIODevice& to)

@@ -1,7 +1,7 @@
 #include "project/parameterwork.h"
 
 #include "common/atomicfile.h"
-#include "common/failure.h"
+#include "common/fileproblem.h"
 #include "common/inputfile.h"
 #include "products/productdirectoryset.h"
 #include "project/readreport.h"
@@ -37,7 +37,10 @@ bool IsParameterFile(const QString& name)
 /// Whether packing and unpacking put something of that name into the project folder.
 bool IsOurs(const QString& name)
 {
-    return name == kDocument || IsParameterFile(name);
+    // What an unpacking that was killed left of one.
+    const bool isPart = name.startsWith(QLatin1Char('.')) && name.endsWith(QLatin1String(".part"));
+    const QString whole = isPart ? name.mid(1).chopped(5) : name;
+    return whole == kDocument || IsParameterFile(whole);
 }
 
 void Remove(const QFileInfo& entry)
@@ -80,14 +83,10 @@ bool HoldsType(const QString& path, const SMD5& type)
 bool Replace(const QString& source, const QString& target, QString* error)
 {
     QFile file(source);
-    if (!OpenInput(file, error))
-        return false;
-    QFile link(target); // would be written through
-    if (QFileInfo(target).isSymLink() && !link.remove())
-        return Fail(error, link.errorString());
-    const auto copy = [&file](QIODevice& to) { return CopyContent(file, to); };
-    return ReplaceFile(target, copy, error)
-           || (file.error() != QFileDevice::NoError && Fail(error, file.errorString()));
+    const auto copy = [&](QIODevice& to) {
+        return CopyContent(file, to) || Fail(error, CannotRead(source, file.errorString()));
+    };
+    return OpenInput(file, error) && ReplaceWorkFile(target, copy, error);
 }
 
 /// How far a copy came. A file that cannot be read costs itself; where nothing can be written any more, the
@@ -112,7 +111,7 @@ Copied CopyAnew(const QString& source, const QString& target, qint64 most, QStri
     if (to.open(QIODevice::WriteOnly | QIODevice::NewOnly) && CopyContent(from, to) && to.flush())
         return Copied::Yes;
     const bool readFailed = from.error() != QFileDevice::NoError;
-    *error = readFailed ? from.errorString() : to.errorString();
+    *error = readFailed ? CannotRead(source, from.errorString()) : CannotWrite(target, to.errorString());
     to.remove();
     return readFailed ? Copied::Unreadable : Copied::Unwritable;
 }
@@ -239,9 +238,8 @@ bool MakeProjectFolder(QString* error)
     const QFileInfo info(path);
     if (info.isSymLink() || info.isFile())
         QFile::remove(path);
-    if (!QDir().mkpath(path))
-        return Fail(error,
-                    QCoreApplication::translate("OrvanData", "无法创建项目工作文件夹“%1”。").arg(path));
+    if (!MakeFolder(path, error))
+        return false;
     const QDir folder(path);
     for (const QFileInfo& entry : folder.entryInfoList(kAllEntries))
         if (IsOurs(entry.fileName()))
@@ -253,7 +251,7 @@ bool ReplaceDocument(const std::function<bool(QIODevice&)>& write, QString* erro
 {
     QFile next(NextDocumentPath());
     const auto fail = [&next, error] {
-        return Fail(error, next.fileName() + QStringLiteral(": ") + next.errorString());
+        return Fail(error, CannotWrite(next.fileName(), next.errorString()));
     };
     next.remove(); // a killed save's
     bool done =

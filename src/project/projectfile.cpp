@@ -1,4 +1,5 @@
 // The project file: saving to an archive, loading from an archive or a bare document.
+#include "common/fileproblem.h"
 #include "common/inputfile.h"
 #include "common/xmlwriter.h"
 #include "layout/sender.h"
@@ -62,7 +63,9 @@ QString CProjectData::GetLastFileError() const
 bool CProjectData::TakeWorkFolder(QLockFile& lock, const QString& archive)
 {
     if (!LockWorkFolder(lock))
-        return FailFile(QCoreApplication::translate("OrvanData", "另一个程序正在使用项目工作文件夹。"));
+        return FailFile(lock.error() == QLockFile::LockFailedError
+                            ? QCoreApplication::translate("OrvanData", "另一个程序正在使用项目工作文件夹。")
+                            : WhyNotWritable(QFileInfo(parameterwork::LockPath()).path()));
     return !parameterwork::IsInTheWay(archive)
            || FailFile(
                QCoreApplication::translate("OrvanData", "项目文件不能是项目工作文件夹里的临时文件。"));

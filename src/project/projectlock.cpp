@@ -1,5 +1,7 @@
 #include "project/projectlock.h"
 
+#include "common/fileproblem.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
@@ -15,12 +17,14 @@ QString LockPath(const QString& projectPath)
     return (info.exists() ? info.canonicalFilePath() : info.absoluteFilePath()) + QStringLiteral(".lock");
 }
 
-QString Reason(const QLockFile& lock)
+QString Reason(const QLockFile& lock, const QString& path)
 {
+    if (lock.error() != QLockFile::LockFailedError)
+        return WhyNotWritable(QFileInfo(path).path());
     qint64 process = 0;
     QString host;
     QString program;
-    if (lock.error() != QLockFile::LockFailedError || !lock.getLockInfo(&process, &host, &program))
+    if (!lock.getLockInfo(&process, &host, &program))
         return QCoreApplication::translate("OrvanData", "无法在项目文件旁创建锁文件。");
     return QCoreApplication::translate("OrvanData", "项目正在被“%1”（%2，进程%3）编辑。")
         .arg(program, host, QString::number(process));
@@ -53,7 +57,7 @@ bool CProjectLock::Lock(QString* holder)
         m_lock->isLocked() || m_lock->tryLock(0)
         || (IsAbandoned(*m_lock, m_path) && m_lock->removeStaleLockFile() && m_lock->tryLock(0));
     if (!locked && holder)
-        *holder = Reason(*m_lock);
+        *holder = Reason(*m_lock, m_path);
     return locked;
 }
 

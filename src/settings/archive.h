@@ -5,8 +5,7 @@
 #include <functional>
 
 /// What an archive may hold, so that a hostile one fills neither the memory nor the disk.
-constexpr int kMaxArchiveEntries = 65535;
-constexpr int kMaxArchiveDepth = 64;                        ///< components of a name
+constexpr int kMaxArchiveEntries = 65535;                   ///< also of the folders that their names make
 constexpr qint64 kMaxArchiveEntrySize = qint64(256) << 20;  ///< bytes unpacked
 constexpr qint64 kMaxArchiveTotalSize = qint64(1024) << 20; ///< bytes unpacked
 
@@ -25,8 +24,8 @@ bool PackFolder(const QString& folder, const QString& zipPath, QString* error = 
 
 /// Unpacks an archive below a folder in the archive's order and stops at the first entry that is refused or
 /// fails; what was unpacked before it stays. With `wanted`, which is told the names of entries, others are
-/// skipped after their names were checked. Files of the same name are replaced; nothing is written through a
-/// link. With `leftOut` an entry whose content is damaged or too large costs itself alone and is told there.
+/// skipped after their names were checked. A file of the same name is replaced once the entry is whole;
+/// nothing is written through a link.
 bool UnpackArchive(const QString& zipPath, const QString& folder,
                    const std::function<bool(const QString&)>& wanted = {}, QString* error = nullptr,
                    const ArchiveLimits& limits = {},

@@ -1,13 +1,15 @@
 #include "settings/archivename.h"
 
+#include <QByteArrayMatcher>
 #include <QFile>
 #include <QtEndian>
 #include <QTextCodec>
 
-#include <algorithm>
 #include <zip.h>
 
 namespace {
+
+constexpr int kRecordSize = 46; ///< bytes of a directory record in front of its name
 
 QTextCodec* Gbk()
 {
@@ -28,22 +30,6 @@ QString Decode(zip* archive, quint64 index)
     // Codecs differ in what they report of broken text; only a name that encodes back was read right.
     const QString name = Gbk()->toUnicode(raw);
     return Gbk()->fromUnicode(name) == raw ? name : QString();
-}
-
-/// The directory at the end of an archive, empty where it is not found: the bytes of one entry after another.
-QByteArray ReadDirectory(QFile& file)
-{
-    constexpr qint64 endSize = 22;
-    constexpr qint64 maxComment = 0xFFFF;
-    constexpr qint64 maxDirectory = 1 << 30;
-    file.seek(std::max<qint64>(0, file.size() - endSize - maxComment));
-    const QByteArray tail = file.readAll();
-    const int end = tail.lastIndexOf("PK\5\6");
-    if (end < 0 || tail.size() - end < endSize)
-        return QByteArray();
-    const auto size = qFromLittleEndian<quint32>(tail.constData() + end + 12);
-    const auto offset = qFromLittleEndian<quint32>(tail.constData() + end + 16);
-    return size <= std::min(file.size(), maxDirectory) && file.seek(offset) ? file.read(size) : QByteArray();
 }
 
 bool HasControl(const QString& name)
@@ -70,31 +56,54 @@ bool StaysBelow(const QString& name)
     return true;
 }
 
+/// The name in a directory record that stands at `record`, its NULs as blanks; null where it has none, or
+/// where something else stands. Ends at the first control, so that overlapping records cost no more than
+/// their bytes.
+QByteArray NameWithNul(const QByteArray& bytes, int record)
+{
+    if (bytes.size() - record < kRecordSize)
+        return QByteArray();
+    const int begin = record + kRecordSize;
+    const int size = qFromLittleEndian<quint16>(bytes.constData() + record + 28);
+    if (bytes.size() - begin < size)
+        return QByteArray();
+    bool hasNul = false;
+    for (int i = begin; i < begin + size; ++i) {
+        const auto byte = static_cast<unsigned char>(bytes[i]);
+        if (byte != 0 && byte < ' ')
+            return QByteArray();
+        hasNul = hasNul || byte == 0;
+    }
+    return hasNul ? bytes.mid(begin, size).replace('\0', ' ') : QByteArray();
+}
+
+/// Those of the names for which a directory record with a NUL stands anywhere in the file. An archive may
+/// hold several directories and several ends, and which of them count is libzip's choice.
+QSet<QByteArray> FindNamesWithNul(QFile& file, const QSet<QByteArray>& names)
+{
+    constexpr int chunk = 1 << 20;
+    constexpr int overlap = kRecordSize + 0xFFFF; // of a record, wherever a chunk ends
+    const QByteArrayMatcher record("PK\1\2");
+    QSet<QByteArray> found;
+    QByteArray bytes;
+    for (;;) {
+        const QByteArray more = file.read(chunk);
+        if (more.isEmpty())
+            return file.error() == QFileDevice::NoError ? found : names;
+        bytes = bytes.right(overlap) + more;
+        for (int at = record.indexIn(bytes); at >= 0; at = record.indexIn(bytes, at + 1)) {
+            const QByteArray name = NameWithNul(bytes, at);
+            if (!name.isNull() && names.contains(name))
+                found.insert(name);
+        }
+    }
+}
+
 } // namespace
 
 bool HasArchiveCodec()
 {
     return Gbk() != nullptr;
-}
-
-qint64 FindNulInNames(const QString& zipPath)
-{
-    constexpr int fixedSize = 46;
-    QFile file(zipPath);
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    const QByteArray directory = ReadDirectory(file);
-    int at = 0;
-    for (qint64 i = 0; directory.size() - at >= fixedSize && directory.mid(at, 4) == "PK\1\2"; ++i) {
-        const char* entry = directory.constData() + at;
-        const int nameSize = qFromLittleEndian<quint16>(entry + 28);
-        const int extraSize = qFromLittleEndian<quint16>(entry + 30);
-        const int commentSize = qFromLittleEndian<quint16>(entry + 32);
-        if (directory.mid(at + fixedSize, nameSize).contains('\0'))
-            return i;
-        at += fixedSize + nameSize + extraSize + commentSize;
-    }
-    return -1;
 }
 
 ArchiveName EncodeArchiveName(const QString& name)
@@ -105,9 +114,26 @@ ArchiveName EncodeArchiveName(const QString& name)
     return {name.toUtf8(), true};
 }
 
-QString GetArchiveEntryName(zip* archive, quint64 index)
+ArchiveNames::ArchiveNames(zip* archive, const QString& path) : m_archive(archive)
 {
-    QString name = Decode(archive, index);
+    QSet<QByteArray> inDoubt;
+    const auto count = static_cast<zip_uint64_t>(zip_get_num_entries(archive, 0));
+    for (zip_uint64_t i = 0; i < count; ++i) {
+        const QByteArray name(zip_get_name(archive, i, ZIP_FL_ENC_RAW));
+        if (name.contains(' '))
+            inDoubt.insert(name);
+    }
+    if (inDoubt.isEmpty())
+        return;
+    QFile file(path);
+    m_withNul = file.open(QIODevice::ReadOnly) ? FindNamesWithNul(file, inDoubt) : inDoubt;
+}
+
+QString ArchiveNames::Get(quint64 index) const
+{
+    if (m_withNul.contains(QByteArray(zip_get_name(m_archive, index, ZIP_FL_ENC_RAW))))
+        return QString();
+    QString name = Decode(m_archive, index);
     name.replace(QLatin1Char('\\'), QLatin1Char('/'));
     return HasControl(name) || !StaysBelow(name) ? QString() : name;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSet>
 #include <QString>
 
 struct zip;
@@ -15,10 +16,18 @@ struct ArchiveName
 bool HasArchiveCodec(); ///< false where this system lacks GBK: no archive can be made or read then
 ArchiveName EncodeArchiveName(const QString& name);
 
-/// The first entry of an archive whose name holds a NUL, -1: none. libzip shows a NUL as a blank, as if it
-/// had always been one.
-qint64 FindNulInNames(const QString& zipPath);
+/// The names of the entries of an open archive.
+class ArchiveNames
+{
+public:
+    ArchiveNames(zip* archive, const QString& path);
 
-/// Name of an entry with "/" between components. Empty when it cannot be decoded or would lead out of the
-/// folder unpacked into: absolute, with a drive, "." or "..", an empty component or a control character.
-QString GetArchiveEntryName(zip* archive, quint64 index);
+    /// With "/" between components. Empty when it cannot be decoded, holds a NUL or would lead out of the
+    /// folder unpacked into: absolute, with a drive, "." or "..", an empty component or a control character.
+    QString Get(quint64 index) const;
+
+private:
+    zip* m_archive;
+    QSet<QByteArray>
+        m_withNul; ///< as libzip gives them: a NUL is a blank there, as if it had always been one
+};

@@ -1,16 +1,18 @@
 #include "settings/archive.h"
 
-#include "common/failure.h"
+#include "common/atomicfile.h"
+#include "common/fileproblem.h"
+#include "common/inputfile.h"
 #include "settings/archivename.h"
 #include "settings/folders.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
+#include <cerrno>
 #include <memory>
 #include <sys/stat.h>
 #include <zip.h>
@@ -41,8 +43,18 @@ bool IsReadable(const zip_stat_t& stat)
            && (stat.comp_method == ZIP_CM_STORE || stat.comp_method == ZIP_CM_DEFLATE);
 }
 
+QString TooLarge(const QString& name)
+{
+    return QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(name);
+}
+
+QString NotUnpacked(const QString& name)
+{
+    return QCoreApplication::translate("OrvanData", "压缩包条目无法解压: %1").arg(name);
+}
+
 /// Copies the declared number of bytes. Asking for one more makes the end, and with it the checksum, tested.
-bool CopyContent(zip_file_t* source, QFile& target, zip_uint64_t size)
+bool CopyContent(zip_file_t* source, QIODevice& target, zip_uint64_t size)
 {
     QByteArray buffer(kBufferSize, Qt::Uninitialized);
     zip_uint64_t copied = 0;
@@ -56,40 +68,25 @@ bool CopyContent(zip_file_t* source, QFile& target, zip_uint64_t size)
     }
 }
 
-bool ExtractFile(zip_t* archive, zip_uint64_t index, zip_uint64_t size, const QString& path)
+bool Extract(zip_t* archive, zip_uint64_t index, const QString& name, const QString& base,
+             QSet<QString>& folders, QString* error)
 {
-    const std::unique_ptr<zip_file_t, Discard> source(zip_fopen_index(archive, index, 0));
-    // A new file in place of the old one: a link there is removed, not followed.
-    QFile::remove(path);
-    QFile target(path);
-    if (!source || !target.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+    if (!MakeFoldersOf(base, name, &folders, error))
         return false;
-    if (CopyContent(source.get(), target, size) && target.flush())
-        return true;
-    target.remove();
-    return false;
-}
-
-bool Extract(zip_t* archive, zip_uint64_t index, const QString& path, const QString& base,
-             QSet<QString>& folders)
-{
-    if (!MakeFoldersOf(base, path, &folders))
-        return false;
-    if (path.endsWith(QLatin1Char('/')))
+    if (folders.size() > kMaxArchiveEntries)
+        return Fail(error, TooLarge(name.left(kShownName)));
+    if (name.endsWith(QLatin1Char('/')))
         return true;
     zip_stat_t stat;
-    return zip_stat_index(archive, index, 0, &stat) == 0
-           && ExtractFile(archive, index, stat.size, base + QLatin1Char('/') + path);
-}
-
-QString TooLarge(const QString& name)
-{
-    return QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(name);
-}
-
-QString NotUnpacked(const QString& name)
-{
-    return QCoreApplication::translate("OrvanData", "压缩包条目无法解压: %1").arg(name);
+    const std::unique_ptr<zip_file_t, Discard> source(zip_fopen_index(archive, index, 0));
+    if (!source || zip_stat_index(archive, index, 0, &stat) != 0)
+        return Fail(error, NotUnpacked(name));
+    return ReplaceWorkFile(
+        base + QLatin1Char('/') + name,
+        [&](QIODevice& target) {
+            return CopyContent(source.get(), target, stat.size) || Fail(error, NotUnpacked(name));
+        },
+        error);
 }
 
 /// Checks an entry before anything is written for it. `left` shrinks by what it unpacks to, if that counts.
@@ -106,13 +103,20 @@ bool Accept(zip_t* archive, zip_uint64_t index, const QString& name, bool counts
     return true;
 }
 
-std::unique_ptr<zip_t, Discard> Open(const QString& path)
+std::unique_ptr<zip_t, Discard> Open(const QString& path, QString* error)
 {
-    int code = 0;
+    QFile file(path);
+    if (!OpenInput(file, error))
+        return nullptr;
+    int code = ZIP_ER_NOZIP;
     // libzip takes an empty file for an archive without entries.
-    const bool empty = QFileInfo(path).size() == 0;
-    return std::unique_ptr<zip_t, Discard>(
-        empty ? nullptr : zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, &code));
+    zip_t* archive =
+        file.size() == 0 ? nullptr : zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, &code);
+    if (!archive)
+        Fail(error, code == ZIP_ER_READ
+                        ? CannotRead(path, qt_error_string(errno))
+                        : QCoreApplication::translate("OrvanData", "不是有效的压缩包: %1").arg(path));
+    return std::unique_ptr<zip_t, Discard>(archive);
 }
 
 } // namespace
@@ -122,34 +126,28 @@ bool UnpackArchive(const QString& zipPath, const QString& folder,
                    const ArchiveLimits& limits,
                    const std::function<void(const QString& name, const QString& why)>& leftOut)
 {
-    if (!QFileInfo(zipPath).isFile())
-        return Fail(error, QCoreApplication::translate("OrvanData", "文件不存在: %1").arg(zipPath));
-    if (folder.isEmpty() || !QDir().mkpath(folder))
-        return Fail(error, QCoreApplication::translate("OrvanData", "文件夹无法创建: %1").arg(folder));
     if (!HasArchiveCodec())
         return Fail(error, QCoreApplication::translate("OrvanData", "系统缺少GBK编码"));
-    const std::unique_ptr<zip_t, Discard> archive = Open(zipPath);
-    if (!archive)
-        return Fail(error, QCoreApplication::translate("OrvanData", "不是有效的压缩包: %1").arg(zipPath));
+    const std::unique_ptr<zip_t, Discard> archive = Open(zipPath, error);
+    if (!archive || !MakeFolder(folder, error))
+        return false;
     const zip_int64_t count = zip_get_num_entries(archive.get(), 0);
     if (count > kMaxArchiveEntries)
         return Fail(error, TooLarge(zipPath));
 
-    const qint64 withNul = FindNulInNames(zipPath);
+    const ArchiveNames names(archive.get(), zipPath);
     const QString base = QFileInfo(folder).absoluteFilePath();
     qint64 left = limits.total;
     QSet<QString> folders;
     for (zip_uint64_t i = 0; i < static_cast<zip_uint64_t>(count); ++i) {
-        const QString name = GetArchiveEntryName(archive.get(), i);
-        if (name.isEmpty() || qint64(i) == withNul)
+        const QString name = names.Get(i);
+        if (name.isEmpty())
             return Fail(error, QCoreApplication::translate("OrvanData", "压缩包条目名称无效"));
-        if (name.count(QLatin1Char('/')) >= kMaxArchiveDepth)
-            return Fail(error, TooLarge(name.left(kShownName)));
         if (wanted && !wanted(name))
             continue;
         QString why;
         if (Accept(archive.get(), i, name, name != limits.apart, &left, &why)
-            && (Extract(archive.get(), i, name, base, folders) || Fail(&why, NotUnpacked(name))))
+            && Extract(archive.get(), i, name, base, folders, &why))
             continue;
         if (!leftOut)
             return Fail(error, why);

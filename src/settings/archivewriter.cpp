@@ -1,16 +1,19 @@
 #include "settings/archive.h"
 
 #include "common/atomicfile.h"
-#include "common/failure.h"
+#include "common/fileproblem.h"
 #include "settings/archivename.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QIODevice>
 #include <QVector>
 
+#include <cerrno>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <zip.h>
 
 namespace {
@@ -40,12 +43,11 @@ public:
 
     bool Walk(const QString& folder, const QString& name, QString* error)
     {
-        const QDir dir(folder);
-        if (!dir.isReadable())
-            return Fail(error, QCoreApplication::translate("OrvanData", "文件夹无法读取: %1").arg(folder));
+        if (access(QFile::encodeName(folder).constData(), R_OK | X_OK) != 0)
+            return Fail(error, CannotRead(folder, qt_error_string(errno)));
         const auto filters =
             QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot;
-        const QFileInfoList children = dir.entryInfoList(filters, QDir::Name);
+        const QFileInfoList children = QDir(folder).entryInfoList(filters, QDir::Name);
         for (const QFileInfo& child : children) {
             if (child.filePath() != m_except && !Add(child, name, error))
                 return false;
@@ -60,9 +62,7 @@ private:
     {
         const QString name = parent + QLatin1Char('/') + child.fileName();
         m_left -= child.isDir() || name == m_limits.apart ? 0 : child.size();
-        const int depth =
-            name.count(QLatin1Char('/')) + (child.isDir() ? 1 : 0); // a folder's name ends in "/"
-        if (m_entries.size() == kMaxArchiveEntries || depth >= kMaxArchiveDepth || m_left < 0
+        if (m_entries.size() == kMaxArchiveEntries || m_left < 0
             || (!child.isDir() && child.size() > kMaxArchiveEntrySize))
             return Fail(error, QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(name));
         m_entries.append({name, child.isDir() ? QString() : child.filePath()});
@@ -149,6 +149,18 @@ bool AddEntry(zip_t* archive, const Entry& entry)
                || zip_set_file_compression(archive, added, ZIP_CM_DEFLATE, kCompressionLevel) == 0);
 }
 
+/// Why libzip gave up; it does not say over which file.
+QString Reason(zip_t* archive, const QVector<Entry>& entries)
+{
+    for (const Entry& entry : entries) {
+        QFile file(entry.path);
+        if (!entry.path.isEmpty() && !file.open(QIODevice::ReadOnly))
+            return CannotRead(entry.path, file.errorString());
+    }
+    return QString::fromUtf8(zip_strerror(archive));
+}
+
+/// What the device refuses is for its owner to tell.
 bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, QString* error)
 {
     if (entries.isEmpty())
@@ -166,10 +178,7 @@ bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, QString* err
         done = done && AddEntry(archive, entry);
     if (done && zip_close(archive) == 0)
         return true;
-    if (zip_error_code_zip(zip_get_error(archive)) == ZIP_ER_WRITE)
-        Fail(error, QCoreApplication::translate("OrvanData", "文件无法写入"));
-    else
-        Fail(error, QString::fromUtf8(zip_strerror(archive)));
+    Fail(error, Reason(archive, entries));
     zip_discard(archive);
     return false;
 }
@@ -185,14 +194,12 @@ bool PackFolder(const QString& folder, const QString& zipPath, QString* error, c
         return Fail(error, QCoreApplication::translate("OrvanData", "系统缺少GBK编码"));
     const int separator = zipPath.lastIndexOf(QLatin1Char('/'));
     const QString parent = zipPath.left(separator + 1);
-    if (!parent.isEmpty() && !QDir().mkpath(parent))
-        return Fail(error, QCoreApplication::translate("OrvanData", "文件夹无法创建: %1").arg(parent));
+    if (!parent.isEmpty() && !MakeFolder(parent, error))
+        return false;
 
     FolderWalk walk(QFileInfo(zipPath).canonicalFilePath(), limits);
     if (!walk.Walk(QFileInfo(root).canonicalFilePath(), QFileInfo(root).fileName(), error))
         return false;
-    QString reason;
-    const bool done = ReplaceFile(
-        zipPath, [&](QIODevice& file) { return WriteArchive(file, walk.Entries(), &reason); }, error);
-    return done || reason.isEmpty() ? done : Fail(error, reason);
+    return ReplaceFile(
+        zipPath, [&](QIODevice& file) { return WriteArchive(file, walk.Entries(), error); }, error);
 }

@@ -1,8 +1,23 @@
 #include "settings/folders.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include "common/fileproblem.h"
+
+#include <QFile>
 #include <QStandardPaths>
+#include <QStringList>
+
+#include <cerrno>
+#include <climits>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int kShownPath = 64; ///< characters of a path that is too long
+
+} // namespace
 
 QString DocumentsFolder()
 {
@@ -14,21 +29,39 @@ QString ProductFolder()
     return DocumentsFolder() + QStringLiteral("/Orvan/LedConfig/");
 }
 
-bool MakeFoldersOf(const QString& base, const QString& relativeFile, QSet<QString>* made)
+bool MakeFoldersOf(const QString& base, const QString& relativeFile, QSet<QString>* made, QString* error)
 {
-    const int separator = relativeFile.lastIndexOf(QLatin1Char('/'));
-    if (separator < 0)
+    const QLatin1Char separator('/');
+    const QString root = base.endsWith(separator) ? base : base + separator;
+    // Deeper ones could be made, step by step, but neither reached nor removed by their path.
+    if (QFile::encodeName(root + relativeFile).size() >= PATH_MAX)
+        return Fail(error, CannotMakeFolder(root + relativeFile.left(kShownPath), ENAMETOOLONG));
+    QStringList missing; // the deepest first
+    int end = relativeFile.lastIndexOf(separator);
+    for (; end > 0 && !(made && made->contains(relativeFile.left(end)));
+         end = relativeFile.lastIndexOf(separator, end - 1))
+        missing.append(relativeFile.left(end));
+    if (missing.isEmpty())
         return true;
-    const QString below = relativeFile.left(separator);
-    if (made && made->contains(below))
-        return true;
-    if (!MakeFoldersOf(base, below, made))
-        return false;
-    const QString folder = base.endsWith(QLatin1Char('/')) ? base + below : base + QLatin1Char('/') + below;
-    const QFileInfo info(folder);
-    if (info.isSymLink() || (!info.isDir() && !QDir().mkdir(folder)))
-        return false;
-    if (made)
-        made->insert(below);
+
+    // By handles: a path would be looked up from its start for each folder, and through links.
+    constexpr int flags = O_PATH | O_DIRECTORY | O_CLOEXEC;
+    int folder = open(QFile::encodeName(root + relativeFile.left(qMax(end, 0))).constData(), flags);
+    if (folder < 0)
+        return Fail(error, CannotMakeFolder(root, errno));
+    while (!missing.isEmpty()) {
+        const QString below = missing.takeLast();
+        const QByteArray name = QFile::encodeName(below.mid(below.lastIndexOf(separator) + 1));
+        const bool there = mkdirat(folder, name.constData(), 0777) == 0 || errno == EEXIST;
+        const int child = there ? openat(folder, name.constData(), flags | O_NOFOLLOW) : -1;
+        const int failure = errno;
+        close(folder);
+        folder = child;
+        if (folder < 0)
+            return Fail(error, CannotMakeFolder(root + below, failure));
+        if (made)
+            made->insert(below);
+    }
+    close(folder);
     return true;
 }

@@ -10,4 +10,5 @@ QString ProductFolder();   ///< the product library's root, with a trailing "/"
 
 /// Makes the folders of a relative file path, one by one below `base`; false where one is a link or a file or
 /// cannot be made. `made`, kept from call to call, saves looking again at folders that were made before.
-bool MakeFoldersOf(const QString& base, const QString& relativeFile, QSet<QString>* made = nullptr);
+bool MakeFoldersOf(const QString& base, const QString& relativeFile, QSet<QString>* made = nullptr,
+                   QString* error = nullptr);

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <QtEndian>
+
 #include <sys/stat.h>
 #include <zip.h>
 
@@ -58,9 +60,23 @@ void Patch(const QString& path, const QByteArray& signature, int offset, const Q
     file.write(content);
 }
 
-bool Unpack(const TestFolder& folder, const QString& path)
+/// The archive with an end of the 64-bit kind, as those of many or large entries have.
+QByteArray WithEnd64(const QByteArray& archive)
 {
-    return UnpackArchive(path, folder.Path(QStringLiteral("in/out")));
+    const int end = archive.lastIndexOf("PK\5\6");
+    const QByteArray none(4, '\0'), all(4, '\xFF'), count = archive.mid(end + 8, 2) + none + none.left(2);
+    const QByteArray record = "PK\6\6," + none + none.left(3) + "-" + none.left(1) + "-" + none.left(1) + none
+                              + none + count + count + archive.mid(end + 12, 4) + none
+                              + archive.mid(end + 16, 4) + none;
+    QByteArray place(8, '\0');
+    qToLittleEndian(quint64(end), place.data());
+    return archive.left(end) + record + "PK\6\7" + none + place + '\1' + none.left(3) + archive.mid(end, 8)
+           + all + all + all + none.left(2);
+}
+
+bool Unpack(const TestFolder& folder, const QString& path, QString* error = nullptr)
+{
+    return UnpackArchive(path, folder.Path(QStringLiteral("in/out")), {}, error);
 }
 
 } // namespace
@@ -110,16 +126,7 @@ TEST(ArchiveTest, NamesAreGbkWhereItHoldsThem)
     EXPECT_TRUE(RawNames(path).contains(QString::fromLatin1("B/\xF0\x9F\x98\x80")));
 }
 
-TEST(ArchiveTest, EmptyFolderGivesAnArchiveThatUnpacks)
-{
-    TestFolder folder;
-    QDir().mkpath(folder.Path(QStringLiteral("B")));
-    const QString path = folder.Path(QStringLiteral("new/a.zip"));
-    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("B")), path));
-    EXPECT_TRUE(Unpack(folder, path));
-}
-
-TEST(ArchiveTest, FailedPackingKeepsTheOldArchive)
+TEST(ArchiveTest, FailedPackingKeepsTheOldArchiveAndAnEmptyFolderIsOne)
 {
     TestFolder folder;
     const QString path = folder.Write(QStringLiteral("a.zip"), "old");
@@ -130,6 +137,9 @@ TEST(ArchiveTest, FailedPackingKeepsTheOldArchive)
     EXPECT_FALSE(PackFolder(folder.Path(QStringLiteral("B")), path, &error));
     EXPECT_FALSE(error.isEmpty());
     EXPECT_EQ(ReadFile(path), "old");
+    ASSERT_TRUE(large.remove());
+    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("B")), path));
+    EXPECT_TRUE(Unpack(folder, path));
 }
 
 TEST(ArchiveTest, EntryThatLeadsOutStopsUnpackingAndWritesNothing)
@@ -154,8 +164,6 @@ TEST(ArchiveTest, LinksAndEncryptedAndDamagedEntriesAreRefused)
     TestFolder folder;
     EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"link", "/etc", S_IFLNK | 0777}})));
     EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"secret", "text", S_IFREG, "key"}})));
-    QByteArray withNul = ReadFile(MakeArchive(folder, {{"new#.txt", "1"}})).replace('#', '\0');
-    EXPECT_FALSE(Unpack(folder, folder.Write(QStringLiteral("nul.zip"), withNul)));
     EXPECT_FALSE(Unpack(folder, folder.Write(QStringLiteral("empty.zip"), QByteArray())));
     EXPECT_FALSE(Unpack(folder, folder.Write(QStringLiteral("text.zip"), "no archive at all")));
 
@@ -174,6 +182,42 @@ TEST(ArchiveTest, LinksAndEncryptedAndDamagedEntriesAreRefused)
     Patch(path, local, 14, "abcd");
     EXPECT_FALSE(Unpack(folder, path));
     EXPECT_TRUE(QDir(folder.Path(QStringLiteral("in/out"))).isEmpty());
+}
+
+TEST(ArchiveTest, NulInANameIsSeenWhateverTheEndOfTheArchiveLooksLike)
+{
+    TestFolder folder;
+    const QByteArray plain = ReadFile(MakeArchive(folder, {{"a", "1"}, {"new#.txt", "2"}}));
+    const QByteArray commented = QByteArray(plain).replace(plain.size() - 2, 2, QByteArray("\4\0PK\5\6", 6));
+    for (const QByteArray& archive : {plain, commented, WithEnd64(plain)}) {
+        for (const char replacement : {' ', '\0'}) {
+            const QByteArray content = QByteArray(archive).replace('#', replacement);
+            EXPECT_EQ(Unpack(folder, folder.Write(QStringLiteral("a.zip"), content)), replacement == ' ');
+        }
+    }
+}
+
+TEST(ArchiveTest, DamagedEntryCostsNoOldFileAndEachFailureNamesWhatItIsOf)
+{
+    TestFolder folder;
+    const QString old = folder.Write(QStringLiteral("in/out/file"), "old");
+    const QString damaged = MakeArchive(folder, {{"file", "new"}});
+    Patch(damaged, "PK\1\2", 16, "abcd"); // checksum
+    QString error;
+    EXPECT_FALSE(Unpack(folder, damaged, &error));
+    EXPECT_TRUE(error.endsWith(QLatin1String(" file"))) << error.toStdString();
+    EXPECT_EQ(ReadFile(old), "old");
+    EXPECT_EQ(QDir(folder.Path(QStringLiteral("in/out"))).entryList(QDir::Files | QDir::Hidden).size(), 1);
+
+    QDir().mkpath(folder.Path(QStringLiteral("in/out/folder")));
+    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"folder", "new"}}), &error));
+    EXPECT_TRUE(error.contains(QStringLiteral("/in/out/folder”：Is a directory"))) << error.toStdString();
+    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"file/x", "new"}}), &error));
+    EXPECT_TRUE(error.contains(QStringLiteral("/in/out/file”：Not a directory"))) << error.toStdString();
+    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{QByteArray("d/").repeated(3000) + 'x', "1"}}), &error));
+    EXPECT_TRUE(error.endsWith(QLatin1String("File name too long"))) << error.right(40).toStdString();
+    EXPECT_FALSE(Unpack(folder, folder.Path(QStringLiteral("missing.zip")), &error));
+    EXPECT_TRUE(error.contains(QStringLiteral("/missing.zip”：No such file"))) << error.toStdString();
 }
 
 TEST(ArchiveTest, NothingIsWrittenThroughALinkAndOldFilesAreReplaced)

@@ -1,0 +1,45 @@
+#include "common/fileproblem.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryFile>
+
+#include <filesystem>
+
+QString CannotRead(const QString& path, const QString& reason)
+{
+    return QCoreApplication::translate("OrvanData", "无法读取“%1”：%2").arg(path, reason);
+}
+
+QString CannotWrite(const QString& path, const QString& reason)
+{
+    if (reason.isEmpty())
+        return QCoreApplication::translate("OrvanData", "无法写入“%1”。").arg(path);
+    return QCoreApplication::translate("OrvanData", "无法写入“%1”：%2").arg(path, reason);
+}
+
+QString CannotMakeFolder(const QString& path, int error)
+{
+    return QCoreApplication::translate("OrvanData", "无法创建文件夹“%1”：%2")
+        .arg(path, qt_error_string(error));
+}
+
+QString NotRegular(const QString& path)
+{
+    return QCoreApplication::translate("OrvanData", "“%1”不是普通文件。").arg(path);
+}
+
+bool MakeFolder(const QString& path, QString* error)
+{
+    std::error_code code;
+    const std::filesystem::path folder(QFile::encodeName(path).toStdString());
+    std::filesystem::create_directories(folder, code);
+    return !code || Fail(error, CannotMakeFolder(path, code.value()));
+}
+
+QString WhyNotWritable(const QString& folder)
+{
+    QTemporaryFile probe(folder + QStringLiteral("/XXXXXX"));
+    const bool written = probe.open() && probe.write("x") == 1 && probe.flush();
+    return CannotWrite(folder, written ? QString() : probe.errorString());
+}
