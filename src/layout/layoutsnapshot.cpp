@@ -9,23 +9,29 @@
 #include <QPair>
 
 #include <algorithm>
-#include <tuple>
+#include <array>
+#include <cstring>
 
 namespace {
 
-/// Unlike the comparison of records, to the last bit: what is shared is restored as it was.
+// Unlike the comparison of cabinets, to the last bit: a cabinet that shares its record is not altered by
+// that, and what is shared is restored as it was.
+
 bool IsIdentical(const SRotateParam& a, const SRotateParam& b)
 {
-    const auto values = [](const SRotateParam& r) {
-        return std::tie(r.rotated, r.showCenter, r.centerX, r.centerY, r.leftTopX, r.leftTopY, r.angle,
-                        r.width, r.height);
+    const auto numbers = [](const SRotateParam& r) {
+        return std::array{r.centerX, r.centerY, r.leftTopX, r.leftTopY, r.angle, r.width, r.height};
     };
-    return values(a) == values(b);
+    const auto mine = numbers(a);
+    const auto theirs = numbers(b);
+    return a.rotated == b.rotated && a.showCenter == b.showCenter
+           && std::memcmp(mine.data(), theirs.data(), sizeof mine) == 0; // tells -0 from 0
 }
 
 bool IsIdentical(const TileData& a, const TileData& b)
 {
-    return IsIdentical(a.rotate, b.rotate) && a.IsEqual(b);
+    return IsIdentical(a.rotate, b.rotate) && std::memcmp(&a.type, &b.type, sizeof a.type) == 0
+           && a.IsEqual(b);
 }
 
 /// Whether the cabinet is as recorded. One that came back to its record shares it again, which keeps both the

@@ -51,10 +51,11 @@ public:
     CPortProject* GetPortProject(); ///< [ref]
     const CPortProject* GetPortProject() const;
     QRect GetBound() const; ///< of this port's own tiles
-    /// [ref] The tiles shown: the port's own, or those of the port it backs up; null when that does not
-    /// exist. The set is normalised first.
+    /// [ref] The tiles shown: the port's own, or those of the port it backs up, looked for by the id of its
+    /// sender alone; null when there is none, so for every source named by its address. The set is normalised
+    /// first.
     CTileSet* GetPortTileSetOrBackupSrc();
-    void GetPortTileSetOrBackupSrc(CTileSet& out);
+    void GetPortTileSetOrBackupSrc(CTileSet& out); ///< lists the same; nothing where that is null
 
 private:
     QUuid m_senderId;

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kView = InterfaceDesign; ///< the view whose selection is edited
 constexpr double kNoAngle = 0.0001;    ///< degrees, below it nothing counts as turned
-constexpr double kFar = 1 << 29;       ///< beyond every canvas, and differences of such places still fit
+constexpr double kFar = 1 << 29;       ///< beyond every canvas
 
 QPoint Rounded(double x, double y) ///< half away from zero
 {
@@ -95,16 +95,17 @@ bool FillGrid(const CTileSet& tiles)
         first->SetWidth(1);
     if (first->GetHeight() == 0)
         first->SetHeight(1);
-    const int width = first->GetWidth();
-    const int height = first->GetHeight();
+    const qint64 width = first->GetWidth(); // 64 bits: a host may move cabinets anywhere
+    const qint64 height = first->GetHeight();
     if (width < 1 || height < 1)
         return false;
 
     const QRect bound = tiles.GetBound();
-    const int columns = bound.width() / width;
-    const int rows = bound.height() / height;
-    if (width * columns != bound.width() || height * rows != bound.height()
-        || qint64(columns) * rows != tiles.GetCount())
+    const qint64 boundWidth = qint64(bound.right()) - bound.left() + 1;
+    const qint64 boundHeight = qint64(bound.bottom()) - bound.top() + 1;
+    const qint64 columns = boundWidth / width;
+    const qint64 rows = boundHeight / height;
+    if (width * columns != boundWidth || height * rows != boundHeight || columns * rows != tiles.GetCount())
         return false;
 
     QVector<bool> taken(tiles.GetCount(), false);
@@ -112,15 +113,16 @@ bool FillGrid(const CTileSet& tiles)
         const CTile* tile = tiles.GetTile(i);
         if (tile->GetWidth() < 1 || tile->GetHeight() < 1)
             return false;
-        const int dx = tile->GetX() - bound.left();
-        const int dy = tile->GetY() - bound.top();
+        const qint64 dx = qint64(tile->GetX()) - bound.left();
+        const qint64 dy = qint64(tile->GetY()) - bound.top();
         if (dx < 0 || dy < 0 || dx % tile->GetWidth() != 0 || dy % tile->GetHeight() != 0)
             return false;
-        const int column = dx / tile->GetWidth();
-        const int row = dy / tile->GetHeight();
-        if (column >= columns || row >= rows || taken[column + row * columns])
+        const qint64 column = dx / tile->GetWidth();
+        const qint64 row = dy / tile->GetHeight();
+        const auto cell = static_cast<int>(column + row * columns);
+        if (column >= columns || row >= rows || taken[cell])
             return false;
-        taken[column + row * columns] = true;
+        taken[cell] = true;
     }
     return true;
 }
@@ -148,8 +150,8 @@ void TurnTile(CTile& tile, const SRotateParam& turn)
     record.angle = NormalizedAngle(record.angle + turn.angle);
     record.rotated = std::abs(record.angle) > kNoAngle;
     // Not clamped: what is turned may lie on the canvas while its left top, before turning, does not.
-    const QPoint move = Rounded(centre.x + corner.x(), centre.y + corner.y()) - tile.GetPosition();
-    tile.Offset(move.x(), move.y());
+    const QPoint place = Rounded(centre.x + corner.x(), centre.y + corner.y());
+    tile.Offset(SaturatedInt(qint64(place.x()) - tile.GetX()), SaturatedInt(qint64(place.y()) - tile.GetY()));
     tile.SetTileRotateParam(&record);
 }
 

@@ -151,12 +151,14 @@ bool CProjectUndoRedo::Redo(int steps, int* ports, int* count)
 
 bool CProjectUndoRedo::Move(int steps, bool back, int* ports, int* count)
 {
+    CSender* sender = GetLayoutLookup()->CurrentSender();
+    CSenderUndoRedo* history = GetCurSenderUndoRedo();
+    if (!sender || !history)
+        return false;
     const int capacity = count ? *count : 0;
     if (count)
         *count = 0;
-    CSender* sender = GetLayoutLookup()->CurrentSender();
-    CSenderUndoRedo* history = GetCurSenderUndoRedo();
-    if (!sender || !history || steps < 0)
+    if (steps < 0)
         return false;
     const int start = history->GetCurrentStep();
     if (!history->Move(back ? -steps : steps))

@@ -15,7 +15,7 @@ class ORVANDATA_EXPORT CProjectUndoRedo
 {
 public:
     using Type = CSenderRecordItem::VIEW_OPERATION_TYPE;
-    static constexpr int kSlotCount = 256; ///< at most that many senders have a history
+    static constexpr int kSlotCount = 256; ///< senders with a history; edits of further ones are not recorded
 
     CProjectUndoRedo();
     CProjectUndoRedo(const CProjectUndoRedo&) = delete;
@@ -34,12 +34,16 @@ public:
     CSenderUndoRedo* GetSenderUndoRedoEmpty(); ///< the first free slot
 
     // steps
-    /// Records the sender after an edit. False: no such sender, no history to be had, or nothing changed.
+    /// Records the sender after an edit, and writes to none of its cabinets. The first step of a sender
+    /// without a history is the base that undoing leads back to at most: true, but there is nothing to undo
+    /// yet. True as well, and nothing recorded, for OperationSelect and OperationView. False: no such sender,
+    /// all slots taken, or nothing changed.
     bool AddOneStepToSender(int senderIndex, Type type);
     bool AddOneStep(Type type); ///< of the current sender
     /// Takes back (brings back) `steps` edits on the visible ports. `ports` with the capacity `*count`
-    /// receives the ports that those edits were made on, when the capacity is above `steps`; `*count` their
-    /// number.
+    /// receives the recent ports of the records from the first to the last one passed, each once and oldest
+    /// first: one record more than the steps, so the capacity has to be above `steps`. `*count` becomes their
+    /// number, 0 when there was no room or so many steps do not exist; without a history it stays as it is.
     bool Undo(int steps, int* ports, int* count);
     bool Redo(int steps, int* ports, int* count);
 

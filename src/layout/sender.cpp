@@ -1,6 +1,7 @@
 #include "layout/sender.h"
 
 #include "common/interfacedlg.h"
+#include "common/saturated.h"
 #include "layout/groupqueries.h"
 #include "layout/layoutlookup.h"
 #include "layout/tile.h"
@@ -206,12 +207,11 @@ void CSender::SetOffset(const QSize& offset)
 void CSender::OffsetValid()
 {
     const QRect bound = GetBound();
-    if (bound.width() == 0 || bound.height() == 0)
+    const auto isEmpty = [](int first, int last) { return quint32(first) - quint32(last) == 1; };
+    if (isEmpty(bound.left(), bound.right()) || isEmpty(bound.top(), bound.bottom()))
         return;
-    if (m_offset.width() < -bound.left())
-        m_offset.setWidth(-bound.left());
-    if (m_offset.height() < -bound.top())
-        m_offset.setHeight(-bound.top());
+    m_offset.setWidth(qMax(m_offset.width(), SaturatedInt(-qint64(bound.left()))));
+    m_offset.setHeight(qMax(m_offset.height(), SaturatedInt(-qint64(bound.top()))));
 }
 
 void CSender::OffsetToZero(bool zero)

@@ -77,7 +77,8 @@ private:
     std::array<PortPointer, kMaxPorts> m_ports;
 };
 
-/// The history of one sender: its base record and the steps after it, at most kStepLimit records. Owns them.
+/// The history of one sender: its base record and the steps after it, at most kStepLimit records. Beyond that
+/// the oldest step goes; the base stays. Owns them.
 class ORVANDATA_EXPORT CSenderUndoRedo
 {
 public:

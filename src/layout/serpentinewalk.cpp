@@ -34,27 +34,31 @@ quint32 PlaceAlong(int direction, const QPoint& point)
     return RunsBackwards(direction) ? ~ascending : ascending;
 }
 
-SerpentineWalk::SerpentineWalk(int type, const QRect& bound, const QSize& cell)
+SerpentineWalk::Axis::Axis(int first, int last, int size, bool fromEnd) : start(first), cell(size)
 {
-    const Pattern& pattern = kPatterns[type];
-    m_byColumns = pattern.byColumns;
-    m_fromEnd = m_byColumns ? pattern.fromRight : pattern.fromBottom;
-    m_directions[0] = pattern.evenStrip;
-    m_directions[1] = pattern.oddStrip;
+    const qint64 end = qint64(last) + 1;
+    count = (end - first + cell - 1) / cell;
+    if (fromEnd)
+        start = end - count * cell;
+}
 
-    // Along the strips the order follows the points themselves, so only the grid across them matters.
-    const qint64 first = m_byColumns ? bound.left() : bound.top();
-    const qint64 end = (m_byColumns ? qint64(bound.right()) : qint64(bound.bottom())) + 1;
-    m_cell = m_byColumns ? cell.width() : cell.height();
-    m_strips = (end - first + m_cell - 1) / m_cell;
-    m_start =
-        m_fromEnd ? end - m_strips * m_cell : first; // whole cells lie against the edge of the first strip
+SerpentineWalk::SerpentineWalk(int type, const QRect& bound, const QSize& cell)
+    : m_byColumns(kPatterns[type].byColumns),
+      m_fromEnd(m_byColumns ? kPatterns[type].fromRight : kPatterns[type].fromBottom),
+      m_directions{kPatterns[type].evenStrip, kPatterns[type].oddStrip},
+      m_columns(bound.left(), bound.right(), cell.width(), kPatterns[type].fromRight),
+      m_rows(bound.top(), bound.bottom(), cell.height(), kPatterns[type].fromBottom)
+{}
+
+bool SerpentineWalk::Visits(const QPoint& point) const
+{
+    return m_columns.Holds(point.x()) && m_rows.Holds(point.y());
 }
 
 quint64 SerpentineWalk::PlaceOf(const QPoint& point) const
 {
-    const qint64 across = (m_byColumns ? point.x() : point.y()) - m_start;
-    const qint64 cell = across < 0 ? 0 : qMin(across / m_cell, m_strips - 1);
-    const qint64 strip = m_fromEnd ? m_strips - 1 - cell : cell;
+    const Axis& across = m_byColumns ? m_columns : m_rows;
+    const qint64 cell = ((m_byColumns ? point.x() : point.y()) - across.start) / across.cell;
+    const qint64 strip = m_fromEnd ? across.count - 1 - cell : cell;
     return static_cast<quint64>(strip) << 32 | PlaceAlong(m_directions[strip % 2], point);
 }

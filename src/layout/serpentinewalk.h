@@ -22,15 +22,26 @@ public:
     /// `type` is 0 to 7, see EnAutoNumberType; neither the bound nor the cell is empty.
     SerpentineWalk(int type, const QRect& bound, const QSize& cell);
 
-    /// Ascending along the walk, so sorting by it visits each cell in turn and, inside a cell, its points in
-    /// the direction of the strip. A point beyond the grid counts to the nearest cell.
+    bool Visits(const QPoint& point) const; ///< whether a cell holds the point
+    /// Of a point that it visits. Ascending along the walk, so sorting by it visits each cell in turn and,
+    /// inside a cell, its points in the direction of the strip.
     quint64 PlaceOf(const QPoint& point) const;
 
 private:
+    /// The grid on one axis. Whole cells lie against the edge that the pattern begins at.
+    struct Axis
+    {
+        Axis(int first, int last, int cell, bool fromEnd);
+        bool Holds(int coordinate) const { return coordinate >= start && coordinate < start + count * cell; }
+
+        qint64 start;
+        qint64 cell;
+        qint64 count; ///< of cells
+    };
+
     bool m_byColumns;
     bool m_fromEnd; ///< the first strip is the bottom or the rightmost one
     int m_directions[2];
-    qint64 m_start; ///< edge of the grid across the strips
-    qint64 m_cell;
-    qint64 m_strips;
+    Axis m_columns;
+    Axis m_rows;
 };

@@ -29,8 +29,11 @@ public:
     bool operator!=(const CTile& other) const;
 
     // place and size: canvas pixels, origin top left, y grows downwards
-    bool SetX(int x);           ///< clamped to the canvas by the present width; false when it had to be
-    bool SetY(int y);           ///< clamped to the canvas by the present height; false when it had to be
+    /// Clamps the left edge, not the right one: a place on the canvas stays even where the cabinet reaches
+    /// beyond it. False for others: one left of it becomes 0, one right of it lets the present width end
+    /// there.
+    bool SetX(int x);
+    bool SetY(int y);           ///< the same with the top, and the present height
     void SetWidth(int width);   ///< at most 1024, no lower bound
     void SetHeight(int height); ///< at most 1024, no lower bound
     int GetX() const;
@@ -88,8 +91,11 @@ public:
     void RestoreMultiRcvsLine(const unsigned char* line); ///< all ten bytes, as a file stores them
     unsigned char* GetMultiRcvsLine();                    ///< [ref] ten bytes, valid while the tile lives
     unsigned char GetMultiRcvsLineCode(int index) const;  ///< 0 outside 0 to 9
-    QRect GetMultiRcvRect(int index); ///< canvas pixels; null rectangle out of range; repairs an empty size
-    QRect GetMultiRcvRelativeRect(int index); ///< the same, relative to the cabinet
+    /// Canvas pixels; the null rectangle out of range, so for every card of an empty size.
+    QRect GetMultiRcvRect(int index);
+    /// The same, relative to the cabinet. Only the upper end of the range is tested: with a negative index an
+    /// empty size is repaired to one card a pixel.
+    QRect GetMultiRcvRelativeRect(int index);
     void SetMultiRcvDemarcateIndex(int index);
     int GetMultiRcvDemarcateIndex() const; ///< inner card marked for calibration, -1 for none
 
@@ -103,8 +109,9 @@ public:
     void SetBeginRcvCnnt(int begin);
 
     // rotation
-    SRotateParam* GetTileRotateParam();          ///< [ref] the tile's own record, valid while the tile lives
-    const SRotateParam& GetRotateRecord() const; ///< to read; valid until the tile is next written to
+    SRotateParam* GetTileRotateParam(); ///< [ref] the tile's own record, valid while the tile lives
+    /// To read; valid until the tile is next written to or recorded as an undo step.
+    const SRotateParam& GetRotateRecord() const;
     void SetTileRotateParam(const SRotateParam* param); ///< rotated too when the angle is above 0.0001
     bool IsTileRotated() const;                         ///< false while the rotation setting is off
 

@@ -1,6 +1,7 @@
 #include "layout/tilegroupset.h"
 
 #include "common/interfacedlg.h"
+#include "layout/groupqueries.h"
 #include "layout/tilegroup.h"
 
 #include <QSet>
@@ -157,22 +158,24 @@ bool CTileGroupSet::AddGuidToGuidArray(QList<QUuid>& ids, const QUuid& id)
 
 bool CTileGroupSet::GroupAndParentAddGuidArray(QList<QUuid>& ids, const QUuid& id) const
 {
-    QMap<QUuid, CTileGroup*> groups;
-    GetGroupListRecursive(groups);
-    const bool found = groups.contains(id);
-    // Taking each group out ends the climb even where parents name each other in a circle.
-    for (const CTileGroup* group = groups.take(id); group; group = groups.take(group->GetParentGroupID()))
+    const GroupIndex groups(*this);
+    const CTileGroup* const found = groups.Group(id);
+    QSet<QUuid> climbed; // parents may name each other in a circle
+    for (const CTileGroup* group = found; group && !climbed.contains(group->GetID());) {
+        climbed.insert(group->GetID());
         AddGuidToGuidArray(ids, group->GetID());
+        const QUuid parent = group->GetParentGroupID();
+        group = parent.isNull() ? nullptr : groups.Group(parent);
+    }
     return found;
 }
 
 int CTileGroupSet::GetGroupCountWithoutParent(const QList<QUuid>& ids, QUuid* first) const
 {
-    QMap<QUuid, CTileGroup*> groups;
-    GetGroupListRecursive(groups);
+    const GroupIndex groups(*this);
     int count = 0;
     for (const QUuid& id : ids) {
-        const CTileGroup* group = groups.value(id);
+        const CTileGroup* group = groups.Group(id);
         if (!group)
             return 0;
         if (!group->GetParentGroupID().isNull())

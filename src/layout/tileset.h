@@ -111,7 +111,9 @@ public:
     /// from an empty rectangle the tile nearest the origin. `byReceiver` goes by receiving cards and marks
     /// the one found.
     CTile* GetDirectionTile(const QRect& from, unsigned long key, bool onlyUnnumbered, bool byReceiver);
-    bool AutoConnection(EnAutoNumberType type, int unused); ///< false when no tile was numbered
+    /// Numbers the tiles anew; one whose centre lies in no cell of the grid stays without a number. False
+    /// when none was numbered: whatever numbers there were are gone then, too.
+    bool AutoConnection(EnAutoNumberType type, int unused);
     bool AutoConnectGetSize(QSize& cell) const; ///< of the grid: the common size, else the smallest; or false
     /// Numbers the unnumbered tiles whose centre lies in `rect` from `next` on, which moves along. Codes: 0
     /// and 1 right, 2 and 3 left, 4 and 5 down, 6 and 7 up. `cell` takes no part. False: none numbered.

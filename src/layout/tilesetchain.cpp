@@ -153,8 +153,9 @@ bool FollowsWalk(const QList<CTile*>& tiles, const std::vector<Stop>& chain, con
 {
     auto previous = std::make_pair(quint64(0), -1);
     for (const Stop& link : chain) {
-        const auto stop = std::make_pair(walk.PlaceOf(tiles[link.position]->GetCenter()), link.position);
-        if (stop < previous)
+        const QPoint centre = tiles[link.position]->GetCenter();
+        const auto stop = std::make_pair(walk.PlaceOf(centre), link.position);
+        if (!walk.Visits(centre) || stop < previous)
             return false;
         previous = stop;
     }
@@ -240,12 +241,16 @@ bool CTileSet::AutoConnection(EnAutoNumberType type, int)
     stops.reserve(static_cast<size_t>(m_tiles.size()));
     for (int i = 0; i < m_tiles.size(); ++i) {
         FetchAhead(m_tiles, i);
-        const CTile* tile = m_tiles.at(i);
-        stops.push_back({walk.PlaceOf(tile->GetCenter()), i, tile->GetMultiRcvsCount()});
+        CTile* tile = m_tiles.at(i);
+        const QPoint centre = tile->GetCenter();
+        if (walk.Visits(centre))
+            stops.push_back({walk.PlaceOf(centre), i, tile->GetMultiRcvsCount()});
+        else
+            tile->SetConnectionIndex(-1, nullptr);
     }
     BringInOrder(m_tiles, stops);
     NumberAlong(stops, m_tiles);
-    return true;
+    return !stops.empty();
 }
 
 bool CTileSet::AutoConnectGetSize(QSize& cell) const
@@ -297,14 +302,19 @@ bool CTileSet::NumberSetRect(int& next, const QRect& rect, const QSize&, int dir
 int CTileSet::GetConnectionType() const
 {
     const std::vector<Stop> chain = ChainOrder(m_tiles);
-    if (chain.empty() || chain.size() != static_cast<size_t>(m_tiles.size()) || !IsWithoutGap(chain))
+    if (chain.empty() || !IsWithoutGap(chain))
         return -1;
+    CTileSet unnumbered;
+    GetTileSetUnnumbered(unnumbered);
     const QRect bound = GetBound();
     QSize cell;
     if (bound.isEmpty() || !AutoConnectGetSize(cell))
         return -1;
     for (int type = 0; type < SerpentineWalk::kPatternCount; ++type) {
-        if (FollowsWalk(m_tiles, chain, SerpentineWalk(type, bound, cell)))
+        const SerpentineWalk walk(type, bound, cell);
+        const auto isVisited = [&](const CTile* tile) { return walk.Visits(tile->GetCenter()); };
+        const QList<CTile*>& left = unnumbered.GetTiles();
+        if (std::none_of(left.begin(), left.end(), isVisited) && FollowsWalk(m_tiles, chain, walk))
             return type;
     }
     return -1;

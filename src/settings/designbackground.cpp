@@ -265,7 +265,8 @@ bool CDesignBackground::NewProSetAdeptScaling(QSize content, int margin)
     lookup.SetDesignSubDlg(0);
     for (int i = 0; i <= kLastInterface; ++i) {
         lookup.SetCurrentInterface(i);
-        SetAdaptiveScaling(GetClientRect().size(), content, margin);
+        const QRect client = GetClientRect();
+        SetAdaptiveScaling(QSize(TruncatedInt(Width(client)), TruncatedInt(Height(client))), content, margin);
     }
     lookup.SetCurrentInterface(interface);
     lookup.SetDesignSubDlg(subDialog);
@@ -303,25 +304,29 @@ QPoint CDesignBackground::GetFixPointerStart(float scaling, QPoint fix) const
 
 bool CDesignBackground::WholePixelToViewPixel(const QPoint& whole, QPoint* view) const
 {
-    *view = ToPoint(ToView(whole));
+    if (view)
+        *view = ToPoint(ToView(whole));
     return true;
 }
 
 bool CDesignBackground::WholePixelToViewPixel(const QPointF& whole, QPointF* view) const
 {
-    *view = ToView(whole);
+    if (view)
+        *view = ToView(whole);
     return true;
 }
 
 bool CDesignBackground::WholePixelToViewPixel(const QRect& whole, QRect* view) const
 {
-    *view = QRect(ToPoint(ToView(whole.topLeft())), ToPoint(ToView(whole.bottomRight())));
+    if (view)
+        *view = QRect(ToPoint(ToView(whole.topLeft())), ToPoint(ToView(whole.bottomRight())));
     return true;
 }
 
 bool CDesignBackground::WholePixelToViewPixel(int whole, int* view) const
 {
-    *view = TruncatedInt(std::round(whole * double(GetViewScaling())));
+    if (view)
+        *view = TruncatedInt(std::round(whole * double(GetViewScaling())));
     return true;
 }
 

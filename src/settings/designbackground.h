@@ -45,7 +45,7 @@ public:
     bool ViewStartPtValid(QPoint& start, float scaling) const; ///< true when the start was moved into bounds
     QPoint GetFixPointerStart(float scaling, QPoint fix) const;
 
-    // conversion, rounded half away from zero; always true
+    // conversion, rounded half away from zero; always true, and for a null pointer nothing else
     bool WholePixelToViewPixel(const QPoint& whole, QPoint* view) const;
     bool WholePixelToViewPixel(const QPointF& whole, QPointF* view) const;
     bool WholePixelToViewPixel(const QRect& whole, QRect* view) const; ///< left, top, right and bottom

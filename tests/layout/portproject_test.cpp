@@ -374,6 +374,11 @@ TEST_F(PortProjectTest, OnlyAWholeRegularBlockMayBeChanged)
     Tile(2)->Offset(-129, 0);
     EXPECT_FALSE(both()); // two in one cell
     Tile(2)->Offset(128, 0);
+    for (const int far : {2000000000, -2000000000}) { // a bound whose size no int holds, and back
+        Tile(3)->Offset(far, far);
+        Tile(6)->Offset(-far, -far);
+        EXPECT_EQ(both(), far < 0);
+    }
     Tile(2)->SetWidth(64);
     EXPECT_FALSE(both()); // another size
     Tile(2)->SetWidth(128);

@@ -290,7 +290,13 @@ TEST_F(ProjectUndoRedoTest, TheLimitKeepsTheBaseAndMovesTheSavedPositionWithItsR
 
 TEST_F(ProjectUndoRedoTest, OnlyChangedLayoutsAreRecorded)
 {
+    SMD5 noType;
+    Tile(0).SetType(noType);
+    history.Init();
+    noType.digest[SMD5::kDigits] = 'x'; // takes no part in comparisons
+    Tile(0).SetType(noType);
     EXPECT_FALSE(history.AddOneStep(Record::OperationAlign));
+    EXPECT_EQ(Tile(0).GetType().digest[SMD5::kDigits], 'x') << "a step writes to no cabinet";
     for (const auto type : {Record::OperationSelect, Record::OperationView}) {
         Tile(0).SetX(5);
         EXPECT_TRUE(history.AddOneStep(type));
@@ -438,10 +444,15 @@ TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)
         count = 8;
         EXPECT_FALSE(history.Undo(steps, ports, &count));
         EXPECT_FALSE(history.Redo(steps, ports, &count));
+        EXPECT_EQ(count, 0);
         EXPECT_EQ(history.GetUndoStepType(steps), -1);
         EXPECT_EQ(history.GetRedoStepPort(steps), -1);
     }
     EXPECT_EQ(history.GetCurSenderCurStep(), 2);
+    history.Release();
+    count = 8;
+    EXPECT_FALSE(history.Undo(1, ports, &count) || history.Redo(1, ports, &count));
+    EXPECT_EQ(count, 8) << "without a history nobody touches it";
 }
 
 TEST_F(ProjectUndoRedoTest, AHistoryThatAnEditStartedIsModified)

@@ -8,6 +8,8 @@
 
 #include <QVariant>
 
+#include <limits>
+
 TEST(SenderTest, PortsKnowTheirOwnerAndColour)
 {
     CSender sender;
@@ -88,6 +90,11 @@ TEST(SenderTest, ACopyEqualsItsSourceInEveryField)
     copy.CopySender(*source);
     copy.CopySender(copy);
     EXPECT_EQ(Fields(copy), expected);
+    copy.ResetMonitorRenderParam(false);
+    EXPECT_TRUE(copy.GetMonitorRenderArea() == QRect() && copy.GetMonitorRenderRelativePos() == 0);
+    EXPECT_EQ(copy.GetMonitorRcvOffsetPt(), QPoint(11, 12));
+    copy.ResetMonitorRenderParam(true);
+    EXPECT_EQ(copy.GetMonitorRcvOffsetPt(), QPoint());
     for (int i = 0; i < kMaxPorts; ++i)
         EXPECT_TRUE(copy.GetPort(i)->BeSameAs(*source->GetPort(i))) << i;
 
@@ -138,6 +145,9 @@ TEST(SenderTest, TheOffsetNeverStartsTheLayoutBeforeTheCanvas)
     MakeWall(*sender.GetPort(1), wall);
     MakeWall(*sender.GetPort(4), 1, 1); // not in use
     EXPECT_EQ(sender.GetBound(), QRect(QPoint(-30, 5), QPoint(2127, 163)));
+    TilesOf(*sender.GetPort(3)).SetOffset(std::numeric_limits<int>::min(), 0);
+    sender.OffsetValid();
+    EXPECT_EQ(sender.GetOffset(), QSize(std::numeric_limits<int>::max(), -5)) << "as far as numbers go";
     sender.ClearAllTiles();
     EXPECT_EQ(TilesOf(*sender.GetPort(4)).GetCount(), 0);
 }

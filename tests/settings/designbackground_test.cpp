@@ -201,4 +201,8 @@ TEST_F(DesignBackgroundTest, ConversionRoundsHalfAwayFromZeroAndSaturates)
     background.SetViewScaling(3.0f, noFix);
     EXPECT_TRUE(background.WholePixelToViewPixel(2000000000, &length));
     EXPECT_EQ(length, 2147483647);
+    EXPECT_TRUE(background.WholePixelToViewPixel(1, nullptr)
+                && background.WholePixelToViewPixel(QPoint(), nullptr)
+                && background.WholePixelToViewPixel(QPointF(), nullptr)
+                && background.WholePixelToViewPixel(QRect(), nullptr));
 }
