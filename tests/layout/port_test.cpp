@@ -23,8 +23,7 @@ TEST(PortTest, CopyTakesAllButLockVisibilityAndArea)
     EXPECT_NE(TilesOf(copy).GetTile(0), TilesOf(source).GetTile(0));
     EXPECT_EQ(copy.GetPortColor(), source.GetPortColor());
     EXPECT_FALSE(copy.IsFlagLock());
-    EXPECT_TRUE(copy.IsVisible());
-    EXPECT_TRUE(copy.GetPortArea().isNull());
+    EXPECT_TRUE(copy.IsVisible() && copy.GetPortArea().isNull());
 
     CPort bare;
     bare.Copy(source, true);
@@ -36,16 +35,12 @@ TEST(PortTest, CopyTakesAllButLockVisibilityAndArea)
 TEST(PortTest, NamingTheSourceOneWayForgetsTheOther)
 {
     CPort port;
-    EXPECT_FALSE(port.SetBeBackupDestIP(0, 1));
-    EXPECT_FALSE(port.IsBackupDest());
+    EXPECT_FALSE(port.SetBeBackupDestIP(0, 1) || port.IsBackupDest());
     EXPECT_EQ(port.GetBackupSrcPortIndex(), -1);
-
     port.SetBeBackupDest(QUuid::createUuid(), 4);
-    EXPECT_TRUE(port.SetBeBackupDestIP(5, 2));
-    EXPECT_TRUE(port.GetBackupSrcSenderId().isNull());
+    EXPECT_TRUE(port.SetBeBackupDestIP(5, 2) && port.GetBackupSrcSenderId().isNull());
     port.SetBeBackupDest(QUuid::createUuid(), 4);
     EXPECT_EQ(port.GetBackupSrcIP(), 0u);
-
     port.CancelBackupDest();
     EXPECT_TRUE(port.BeSameAs(CPort()));
 }
@@ -53,11 +48,10 @@ TEST(PortTest, NamingTheSourceOneWayForgetsTheOther)
 TEST(PortTest, UndoBetweenBackupAndNormalPortClearsTheLayout)
 {
     CPort normal;
-    MakeWall(normal, 2, 2);
     CPort snapshot;
+    MakeWall(normal, 2, 2);
     snapshot.SetSenderIdAndPortIndex(QUuid::createUuid(), 5);
     MakeWall(snapshot, 1, 1);
-
     normal.UndoRedoCopy(snapshot);
     EXPECT_TRUE(normal.BeSameAs(snapshot));
 
@@ -68,19 +62,13 @@ TEST(PortTest, UndoBetweenBackupAndNormalPortClearsTheLayout)
     EXPECT_EQ(normal.GetPortIndex(), 5);
 }
 
-class PortBackupTest : public testing::Test
+TEST(PortTest, BackupShowsTheNormalisedSourceUntilItIsGone)
 {
-protected:
-    PortBackupTest() { lookup.senders = {sender.get()}; }
-
-    std::unique_ptr<CSender> sender = MakeWall(3, 1, 2);
+    TestLookup lookup;
+    const auto sender = MakeWall(3, 1, 2);
+    lookup.senders = {sender.get()};
     CPort& first = *sender->GetPort(0);
     CPort& second = *sender->GetPort(1);
-    TestLookup lookup;
-};
-
-TEST_F(PortBackupTest, ShowsTheNormalisedSourceUntilItIsGone)
-{
     TilesOf(second).GetTile(0)->SetConnectionIndex(9, nullptr);
     first.SetBeBackupDest(sender->GetId(), 1);
     EXPECT_EQ(first.GetPortTileSetOrBackupSrc(), &TilesOf(second));
@@ -91,26 +79,20 @@ TEST_F(PortBackupTest, ShowsTheNormalisedSourceUntilItIsGone)
     shown.AddTile(new CTile);
     first.GetPortTileSetOrBackupSrc(shown);
     EXPECT_FALSE(shown.IsOwner());
-    EXPECT_EQ(shown.GetCount(), 3);
-    EXPECT_EQ(shown.GetTile(2), TilesOf(second).GetTile(2));
+    EXPECT_EQ(shown.GetTiles(), TilesOf(second).GetTiles());
+
+    second.SetBeBackupDest(sender->GetId(), 0); // each other, then itself: one step and no further
+    EXPECT_EQ(second.GetPortTileSetOrBackupSrc(), &TilesOf(first));
+    second.SetBeBackupDest(sender->GetId(), 1);
+    EXPECT_EQ(second.GetPortTileSetOrBackupSrc(), &TilesOf(second));
 
     first.SetBeBackupDest(sender->GetId(), kMaxPorts);
     EXPECT_EQ(first.GetPortTileSetOrBackupSrc(), nullptr);
+    sender->SetNetSenderIP(1);
     first.SetBeBackupDestIP(1, 1);
-    EXPECT_EQ(first.GetPortTileSetOrBackupSrc(), nullptr);
+    EXPECT_EQ(first.GetPortTileSetOrBackupSrc(), nullptr) << "sources named by address are not looked for";
     first.SetBeBackupDest(sender->GetId(), 1);
     lookup.senders.clear();
-    EXPECT_EQ(first.GetPortTileSetOrBackupSrc(), nullptr);
     first.GetPortTileSetOrBackupSrc(shown);
     EXPECT_EQ(shown.GetCount(), 0);
-}
-
-TEST_F(PortBackupTest, BackupsOfEachOtherOrOfThemselvesEnd)
-{
-    first.SetBeBackupDest(sender->GetId(), 1);
-    second.SetBeBackupDest(sender->GetId(), 0);
-    EXPECT_EQ(first.GetPortTileSetOrBackupSrc(), &TilesOf(second));
-    EXPECT_EQ(second.GetPortTileSetOrBackupSrc(), &TilesOf(first));
-    first.SetBeBackupDest(sender->GetId(), 0);
-    EXPECT_EQ(first.GetPortTileSetOrBackupSrc(), &TilesOf(first));
 }

@@ -47,8 +47,7 @@ protected:
 TEST_F(PortProjectTest, AddTilePlacesABlockRowByRowAsASelectedGroup)
 {
     ASSERT_TRUE(layout.AddTile(Block(1, 1)));
-    EXPECT_TRUE(Tile(0)->GetGroupId().isNull());
-    EXPECT_TRUE(Tile(0)->IsSelected(kView));
+    EXPECT_TRUE(Tile(0)->GetGroupId().isNull() && Tile(0)->IsSelected(kView));
     EXPECT_EQ(groups.GetDirectCount(), 0);
 
     SAddTileInfo info = Block(3, 2);
@@ -60,24 +59,18 @@ TEST_F(PortProjectTest, AddTilePlacesABlockRowByRowAsASelectedGroup)
     EXPECT_FALSE(Tile(0)->IsSelected(kView));
     EXPECT_EQ(Tile(3)->GetPosition(), QPoint(240, 10));
     EXPECT_EQ(Tile(4)->GetPosition(), QPoint(40, 60));
-    EXPECT_EQ(Tile(6)->GetSize(), QSize(100, 50));
-    EXPECT_EQ(Tile(6)->GetPortIndex(), 2);
-    EXPECT_FALSE(Tile(6)->HasSetConnectIndex());
-    EXPECT_TRUE(Tile(6)->GetTileShowColor().isValid());
-    SRotateParam record;
-    record.centerX = 290;
-    record.centerY = 85;
-    record.width = 100;
-    record.height = 50;
+    EXPECT_EQ(Tile(6)->GetBound(), QRect(240, 60, 100, 50));
+    EXPECT_TRUE(Tile(6)->GetPortIndex() == 2 && !Tile(6)->HasSetConnectIndex()
+                && Tile(6)->GetTileShowColor().isValid());
+    const SRotateParam record = {false, false, 290, 85, -100, -100, 0, 100, 50};
     EXPECT_EQ(Tile(6)->GetRotateRecord(), record);
 
     ASSERT_EQ(groups.GetDirectCount(), 1);
     CTileGroup* group = groups.GetDirectGroupByDirIndex(0);
     EXPECT_EQ(Tile(6)->GetGroupId(), group->GetID());
     EXPECT_TRUE(group->IsSelected(kView));
-    EXPECT_EQ(group->GetRotateParam()->centerX, 190);
-    EXPECT_EQ(group->GetRotateParam()->leftTopY, 10);
-    EXPECT_EQ(group->GetRotateParam()->height, 100);
+    const SRotateParam block = {false, false, 190, 60, 40, 10, 0, 300, 100};
+    EXPECT_EQ(*group->GetRotateParam(), block);
 }
 
 TEST_F(PortProjectTest, AddTileRefusesEnormousBlocksAndKeepsOthersOnTheCanvas)
@@ -109,10 +102,8 @@ TEST_F(PortProjectTest, AddTileLetsTheBlockOverruleTheProductAndRegistersIt)
     const unsigned char line[] = {1, 0, 3, 2};
     std::copy(std::begin(line), std::end(line), info.line);
     ASSERT_TRUE(layout.AddTile(info));
-    EXPECT_TRUE(Tile(1)->IsMultiRcvTile());
-    EXPECT_TRUE(Tile(1)->IsMultiRcvsOrdered()); // as every fixed line
-    EXPECT_EQ(Tile(1)->GetMultiRcvsCount(), 4);
-    EXPECT_EQ(Tile(1)->GetMultiRcvsLineCode(2), 3);
+    EXPECT_TRUE(Tile(1)->IsMultiRcvTile() && Tile(1)->IsMultiRcvsOrdered()) << "as every fixed line";
+    EXPECT_TRUE(Tile(1)->GetMultiRcvsCount() == 4 && Tile(1)->GetMultiRcvsLineCode(2) == 3);
     EXPECT_EQ(lookup.parameterFiles, QList<QString>{QStringLiteral("cabinet")});
 
     ASSERT_TRUE(layout.AddTile(Block(1, 1)));
@@ -124,20 +115,16 @@ TEST_F(PortProjectTest, CopiesAreEqualAndStandAlone)
     const QUuid outer = MakeWall(port, 2, 1);
     const QUuid inner = MakeWall(port, 2, 1);
     NestGroups(port, outer, {inner});
-
-    auto copy = std::make_unique<CPortProject>(layout);
+    const CPortProject copy(layout);
     CPortProject assigned;
     assigned.AddTile(Block(2, 2));
-    assigned = *copy;
-    EXPECT_EQ(*copy, layout);
-    copy->GetTileSet()->GetTile(0)->Offset(1, 0);
-    EXPECT_NE(*copy, layout);
-    copy.reset();
-    EXPECT_EQ(assigned, layout);
+    assigned = copy;
+    EXPECT_TRUE(assigned == layout && copy == layout);
     EXPECT_NE(assigned.GetTileGroupSet()->GetSubGroupBySubID(inner), groups.GetSubGroupBySubID(inner));
-
-    groups.GetDirectGroupByDirID(outer)->SetSelected(kView, false);
+    assigned.GetTileSet()->GetTile(0)->Offset(1, 0);
     EXPECT_NE(assigned, layout);
+    groups.GetDirectGroupByDirID(outer)->SetSelected(kView, false);
+    EXPECT_NE(copy, layout);
 }
 
 TEST_F(PortProjectTest, DeletingTheSelectionTakesSelectedGroupsAtEveryDepth)
@@ -155,9 +142,7 @@ TEST_F(PortProjectTest, DeletingTheSelectionTakesSelectedGroupsAtEveryDepth)
         Tile(index)->SetSelected(true, kView, -1);
 
     EXPECT_TRUE(layout.DeleteSelectedTileAndGroup());
-    ASSERT_EQ(tiles.GetCount(), 3);
-    for (int i = 0; i < 3; ++i)
-        EXPECT_EQ(Tile(i), staying[i]);
+    EXPECT_EQ(tiles.GetTiles(), staying);
     EXPECT_TRUE(tiles.IsOwner());
     ASSERT_EQ(groups.GetDirectCount(), 1);
     EXPECT_FALSE(groups.GetSubGroupBySubID(ids[0]));
@@ -180,10 +165,7 @@ protected:
 
     void ExpectTiles(const CTileSet& set, std::initializer_list<int> indices)
     {
-        const CTileSet expected = Tiles(indices);
-        ASSERT_EQ(set.GetCount(), expected.GetCount());
-        for (int i = 0; i < set.GetCount(); ++i)
-            EXPECT_EQ(set.GetTile(i), expected.GetTile(i)) << i;
+        EXPECT_EQ(set.GetTiles(), Tiles(indices).GetTiles());
     }
 
     QUuid left, right, above, single;
@@ -279,8 +261,7 @@ TEST_F(PortProjectTest, AQuarterTurnMovesTilesAboutTheGivenCentre)
     EXPECT_EQ(Tile(1)->GetRotateRecord().angle, -90);
     layout.SetTileGroupRotateParam(&record, tiles, 90);
     EXPECT_FALSE(Tile(1)->GetRotateRecord().rotated);
-    EXPECT_EQ(Tile(1)->GetPosition(), QPoint(100, 0));
-    EXPECT_EQ(Tile(0)->GetPosition(), QPoint(0, 0));
+    EXPECT_TRUE(Tile(1)->GetPosition() == QPoint(100, 0) && Tile(0)->GetPosition().isNull());
 
     layout.SetTileGroupRotateParam(nullptr, tiles, 90);
     layout.SetTileGroupRotateParam(&record, tiles, std::numeric_limits<double>::quiet_NaN());
@@ -304,10 +285,11 @@ TEST_F(PortProjectTest, TurnedBackByTheSameAngleEverythingIsWhereItWas)
     }
     for (int i = 0; i < tiles.GetCount(); ++i) {
         const CTile* old = before.GetTileSet()->GetTile(i);
+        const SRotateParam& now = Tile(i)->GetRotateRecord();
         EXPECT_EQ(Tile(i)->GetPosition(), old->GetPosition());
-        EXPECT_NEAR(Tile(i)->GetRotateRecord().centerX, old->GetRotateRecord().centerX, 0.01);
-        EXPECT_NEAR(Tile(i)->GetRotateRecord().centerY, old->GetRotateRecord().centerY, 0.01);
-        EXPECT_NEAR(Tile(i)->GetRotateRecord().angle, 0, 0.01);
+        EXPECT_NEAR(now.centerX, old->GetRotateRecord().centerX, 0.01);
+        EXPECT_NEAR(now.centerY, old->GetRotateRecord().centerY, 0.01);
+        EXPECT_NEAR(now.angle, 0, 0.01);
     }
 }
 

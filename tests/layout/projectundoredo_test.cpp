@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <functional>
 #include <limits>
 
 namespace {
@@ -83,94 +84,66 @@ PlainSender PlainCopy(CSender& sender)
     return copy;
 }
 
-int CountNewChunks(const TileRun& before, const TileRun& after)
+/// What a run is made of.
+struct Parts
 {
-    QSet<const TileRun::Chunk*> known;
-    for (const auto& chunk : before.GetChunks())
-        known.insert(chunk.constData());
-    int count = 0;
-    for (const auto& chunk : after.GetChunks())
-        count += known.contains(chunk.constData()) ? 0 : 1;
-    return count;
-}
-
-int CountNewRecords(const TileRun& before, const TileRun& after)
-{
-    QSet<const TileData*> known;
-    for (const auto& chunk : before.GetChunks()) {
-        for (const TileRun::Record& record : chunk->tiles)
-            known.insert(record.constData());
-    }
-    int count = 0;
-    for (const auto& chunk : after.GetChunks()) {
-        for (const TileRun::Record& record : chunk->tiles)
-            count += known.contains(record.constData()) ? 0 : 1;
-    }
-    return count;
-}
-
-/// Writes to cabinets, none of which comes or goes.
-void WriteAnyhow(CPort& port, int choice, int value)
-{
-    CTileSet& tiles = TilesOf(port);
-    const int count = tiles.GetCount();
-    CTile* tile = tiles.GetTile(value % count);
-    if (choice == 0) {
-        tile->SetX(value % 30000);
-    } else if (choice == 1) {
-        tile->GetTileRotateParam()->angle = value % 180;
-    } else if (choice == 2) {
-        for (CTile* each : tiles.GetTiles()) { // behind a pointer that is out already
-            if (each->GetData()->handedOut)
-                const_cast<SRotateParam&>(each->GetRotateRecord()).angle = value % 170;
+    explicit Parts(const TileRun& run)
+    {
+        for (const auto& chunk : run.GetChunks()) {
+            chunks.insert(chunk.constData());
+            for (const TileRun::Record& record : chunk->tiles)
+                records.insert(record.constData());
         }
-    } else if (choice == 3) {
-        *tile = *tiles.GetTile(value / 7 % count);
-    } else if (choice == 4) {
-        tile->SetMultiRcvDemarcateIndex(value % 3); // often what it was
-    } else if (choice == 5) {
-        tiles.AutoConnection(static_cast<EnAutoNumberType>(value % 8), 0);
-    } else if (choice == 6) {
-        for (int i = 0; i < qMin(count, 1100); ++i) // more than the journal keeps, less than is walked for
-            tiles.GetTile(i)->SetTileVisible(value % 2 == 0);
-    } else if (GroupsOf(port).GetDirectCount() > 0) {
-        GroupsOf(port).GetDirectGroupByDirIndex(0)->SetSelected(3, value % 2 == 0);
     }
-}
 
-/// Adds, drops and moves cabinets in the list.
-void RearrangeAnyhow(CPort& port, const CPort& other, int choice, int value)
-{
-    CTileSet& tiles = TilesOf(port);
-    CTileGroupSet& groups = GroupsOf(port);
-    const int last = tiles.GetCount() - 1;
-    if (choice == 0 || last < 0) {
-        MakeWall(port, 1 + value % 40, 1 + value % 13);
-    } else if (choice == 1) {
-        tiles.DeteleTile(value % (last + 1));
-    } else if (choice == 2) {
-        tiles.ExchangeTile(0, value % (last + 1));
-    } else if (choice == 3) {
-        tiles.DeteleTile(last);
-        tiles.AddTile(new CTile); // mostly at the address of the one that went
-    } else if (choice == 4 && groups.GetDirectCount() > 1) {
-        NestGroups(port, groups.GetDirectGroupByDirIndex(0)->GetID(),
-                   {groups.GetDirectGroupByDirIndex(groups.GetDirectCount() - 1)->GetID()});
-    } else if (choice == 5) {
-        port.GetPortProject()->DeleteSelectedTileAndGroup();
-    } else if (choice == 6) {
-        *port.GetPortProject() = *other.GetPortProject();
-    }
-}
+    QSet<const void*> chunks;
+    QSet<const void*> records;
+};
 
+/// Mostly writes to cabinets; adds, drops and moves them in the list now and then.
 void EditAnyhow(CSender& sender, QRandomGenerator* random)
 {
     CPort& port = *sender.GetPort(random->bounded(kEditedPorts));
+    CTileSet& tiles = TilesOf(port);
+    CTileGroupSet& groups = GroupsOf(port);
     const int value = random->bounded(1000000);
-    if (random->bounded(6) == 0 || TilesOf(port).GetCount() == 0)
-        RearrangeAnyhow(port, *sender.GetPort(value % kEditedPorts), random->bounded(7), value);
-    else
-        WriteAnyhow(port, random->bounded(8), value);
+    if (tiles.GetCount() == 0)
+        MakeWall(port, 1 + value % 40, 1 + value % 13);
+    const int count = tiles.GetCount();
+    CTile* tile = tiles.GetTile(value % count);
+    const auto turnBehindPointers = [&] {
+        for (CTile* each : tiles.GetTiles()) {
+            if (each->GetData()->handedOut)
+                const_cast<SRotateParam&>(each->GetRotateRecord()).angle = value % 170;
+        }
+    };
+    const auto showMany = [&] { // more than the journal keeps, less than is walked for
+        for (int i = 0; i < qMin(count, 1100); ++i)
+            tiles.GetTile(i)->SetTileVisible(value % 2 == 0);
+    };
+    const auto nest = [&] {
+        if (groups.GetDirectCount() > 1)
+            NestGroups(port, groups.GetDirectGroupByDirIndex(0)->GetID(),
+                       {groups.GetDirectGroupByDirIndex(groups.GetDirectCount() - 1)->GetID()});
+    };
+    const std::function<void()> edits[] = {
+        [&] { tile->SetX(value % 30000); },
+        [&] { tile->GetTileRotateParam()->angle = value % 180; },
+        turnBehindPointers,
+        [&] { *tile = *tiles.GetTile(value / 7 % count); },
+        [&] { tile->SetMultiRcvDemarcateIndex(value % 3); }, // often what it was
+        [&] { tiles.AutoConnection(static_cast<EnAutoNumberType>(value % 8), 0); },
+        showMany,
+        [&] { value % 2 == 0 ? groups.SelectAll(3) : groups.CancelAllSelect(3); },
+        [&] { MakeWall(port, 1 + value % 40, 1 + value % 13); },
+        [&] { tiles.DeteleTile(tile); },
+        [&] { tiles.ExchangeTile(0, value % count); },
+        [&] { tiles.DeteleTile(count - 1), tiles.AddTile(new CTile); }, // mostly at the same address
+        nest,
+        [&] { port.GetPortProject()->DeleteSelectedTileAndGroup(); },
+        [&] { *port.GetPortProject() = *sender.GetPort(value % kEditedPorts)->GetPortProject(); },
+    };
+    edits[random->bounded(6) == 0 ? 8 + random->bounded(7) : random->bounded(8)]();
 }
 
 } // namespace
@@ -279,8 +252,7 @@ TEST_F(ProjectUndoRedoTest, TheLimitKeepsTheBaseAndMovesTheSavedPositionWithItsR
         EXPECT_EQ(history.GetCanUndoStep(), 199) << "200 records";
         EXPECT_TRUE(Undo(198));
         EXPECT_EQ(Tile(0).GetX(), place - 198) << "the oldest edits after the base are gone";
-        EXPECT_TRUE(history.IsModidfied());
-        EXPECT_TRUE(Undo(1));
+        EXPECT_TRUE(history.IsModidfied() && Undo(1));
         EXPECT_EQ(Tile(0).GetX(), base);
         EXPECT_EQ(history.IsModidfied(), savedAt != 0);
         Redo(3); // two records went, so what was edit 5 stands at 3 now
@@ -303,9 +275,7 @@ TEST_F(ProjectUndoRedoTest, OnlyChangedLayoutsAreRecorded)
         EXPECT_EQ(history.GetCanUndoStep(), 0);
     }
     EXPECT_FALSE(history.IsModidfied());
-    EXPECT_TRUE(Edit());
-    EXPECT_TRUE(Edit());
-    EXPECT_TRUE(Undo(2));
+    EXPECT_TRUE(Edit() && Edit() && Undo(2));
     EXPECT_EQ(history.GetCanRedoStep(), 2);
     EXPECT_TRUE(Edit());
     EXPECT_EQ(history.GetCanRedoStep(), 0) << "an edit after an undo ends what could be redone";
@@ -326,8 +296,10 @@ TEST_F(ProjectUndoRedoTest, AStepCostsWhatItChanged)
     auto base = LayoutSnapshot::Take(*port.GetPortProject(), {});
     const auto step = [&](int chunks, int records) {
         const auto next = LayoutSnapshot::Take(*port.GetPortProject(), base);
-        EXPECT_LE(CountNewChunks(base->GetTiles(), next->GetTiles()), chunks);
-        EXPECT_EQ(CountNewRecords(base->GetTiles(), next->GetTiles()), records);
+        const Parts before(base->GetTiles());
+        const Parts after(next->GetTiles());
+        EXPECT_LE((after.chunks - before.chunks).size(), chunks);
+        EXPECT_EQ((after.records - before.records).size(), records);
         EXPECT_TRUE(next->IsEqual(*port.GetPortProject()));
         base = next;
     };
@@ -365,26 +337,20 @@ TEST_F(ProjectUndoRedoTest, CabinetsKeepTheirAddressAndViewStateWhereNothingChan
     moved->SetRcvSelected(0, true);
     Tile(0, 2).GetTileRotateParam()->angle = 45;
     Port(0).GetPortProject()->GetTileSet()->AddTile(new CTile);
-    EXPECT_TRUE(history.AddOneStep(Record::OperationAddTiles));
-    EXPECT_TRUE(Undo());
-    EXPECT_EQ(TilesOf(Port(0)).GetCount(), 4);
-    EXPECT_EQ(&Tile(0, 1), moved);
-    EXPECT_EQ(moved->GetX(), 128);
+    EXPECT_TRUE(history.AddOneStep(Record::OperationAddTiles) && Undo());
+    EXPECT_TRUE(TilesOf(Port(0)).GetCount() == 4 && &Tile(0, 1) == moved && moved->GetX() == 128);
     EXPECT_EQ(Tile(0, 0).GetTileShowColor(), QColor(Qt::red));
     EXPECT_FALSE(moved->GetTileShowColor().isValid() || moved->IsRcvSelected(0));
-    EXPECT_EQ(record->angle, 0) << "a pointer into a cabinet stays right";
-    EXPECT_EQ(record, Tile(0, 2).GetTileRotateParam());
+    EXPECT_TRUE(record->angle == 0 && record == Tile(0, 2).GetTileRotateParam()) << "it stays right";
 }
 
 TEST_F(ProjectUndoRedoTest, CabinetListedTwiceBecomesTwoWhenTwoWereRecorded)
 {
     CTileSet& tiles = *Port(0).GetPortProject()->GetTileSet();
     const CTileSet before = tiles;
-    history.Init();
     tiles.DeteleTile(1);
     tiles.AddTile(tiles.GetTile(0));
-    EXPECT_TRUE(history.AddOneStep(Record::OperationAddTiles));
-    EXPECT_TRUE(Undo());
+    EXPECT_TRUE(history.AddOneStep(Record::OperationAddTiles) && Undo());
     EXPECT_EQ(tiles, before);
     EXPECT_NE(tiles.GetTile(0), tiles.GetTile(tiles.GetCount() - 1));
 }
@@ -405,9 +371,7 @@ TEST_F(ProjectUndoRedoTest, HiddenPortsAndPortsThatBecameBackupsAreLeftOut)
     Port(1).SetVisible(false);
     const int kept = Tile(1).GetX();
     EXPECT_TRUE(Undo(2));
-    EXPECT_EQ(Tile(0).GetX(), before);
-    EXPECT_EQ(Tile(1).GetX(), kept);
-    EXPECT_EQ(Sender().GetRecentPortIndex(), 0);
+    EXPECT_TRUE(Tile(0).GetX() == before && Tile(1).GetX() == kept && Sender().GetRecentPortIndex() == 0);
     EXPECT_TRUE(history.IsModidfied()) << "the hidden port still differs";
     history.SetAsSaveStep();
     EXPECT_FALSE(history.IsModidfied());
@@ -436,17 +400,13 @@ TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)
     EXPECT_TRUE(history.Undo(2, ports, &count)) << "a list too short is left empty";
     EXPECT_EQ(count, 0);
     EXPECT_EQ(Sender().GetRecentPortIndex(), 3) << "the record's own";
-    EXPECT_EQ(history.GetRedoStepPort(2), 1);
-    EXPECT_EQ(history.GetUndoStepPort(1), 2);
-    EXPECT_EQ(history.GetUndoStepType(2), Record::OperationBase);
+    EXPECT_TRUE(history.GetRedoStepPort(2) == 1 && history.GetUndoStepPort(1) == 2
+                && history.GetUndoStepType(2) == Record::OperationBase);
 
     for (const int steps : {-1, 3, 1000, std::numeric_limits<int>::max()}) {
         count = 8;
-        EXPECT_FALSE(history.Undo(steps, ports, &count));
-        EXPECT_FALSE(history.Redo(steps, ports, &count));
-        EXPECT_EQ(count, 0);
-        EXPECT_EQ(history.GetUndoStepType(steps), -1);
-        EXPECT_EQ(history.GetRedoStepPort(steps), -1);
+        EXPECT_FALSE(history.Undo(steps, ports, &count) || count != 0 || history.Redo(steps, ports, &count));
+        EXPECT_TRUE(history.GetUndoStepType(steps) == -1 && history.GetRedoStepPort(steps) == -1);
     }
     EXPECT_EQ(history.GetCurSenderCurStep(), 2);
     history.Release();
@@ -458,10 +418,8 @@ TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)
 TEST_F(ProjectUndoRedoTest, AHistoryThatAnEditStartedIsModified)
 {
     history.Release();
-    EXPECT_FALSE(history.IsModidfied());
-    EXPECT_EQ(history.GetCurSenderCurStep(), -1);
-    EXPECT_TRUE(Edit());
-    EXPECT_EQ(history.GetCanUndoStep(), 0) << "the edit is part of the base";
+    EXPECT_TRUE(!history.IsModidfied() && history.GetCurSenderCurStep() == -1);
+    EXPECT_TRUE(Edit() && history.GetCanUndoStep() == 0) << "the edit is part of the base";
     EXPECT_TRUE(history.IsModidfied());
     history.SetAsSaveStep();
     EXPECT_FALSE(history.IsModidfied());
@@ -492,11 +450,9 @@ TEST_F(ProjectUndoRedoTest, SendersBeyondTheSlotsOrWithoutIdHaveNoHistory)
     }
     history.Init();
     EXPECT_FALSE(history.IsModidfied());
-    EXPECT_FALSE(history.SenderUndoRedoInit(lookup.senders.last()));
-    EXPECT_FALSE(history.SenderUndoRedoInit(nullptr));
-    EXPECT_FALSE(history.AddOneStepToSender(CProjectUndoRedo::kSlotCount + 1, Record::OperationClear));
-    EXPECT_FALSE(history.AddOneStepToSender(-1, Record::OperationClear));
-    EXPECT_FALSE(history.IsModidfied());
+    EXPECT_FALSE(history.SenderUndoRedoInit(lookup.senders.last()) || history.SenderUndoRedoInit(nullptr));
+    for (int index : {CProjectUndoRedo::kSlotCount + 1, -1})
+        EXPECT_FALSE(history.AddOneStepToSender(index, Record::OperationClear) || history.IsModidfied());
     EXPECT_FALSE(history.AddOneStepToSender(CProjectUndoRedo::kSlotCount, Record::OperationClear));
     EXPECT_TRUE(history.IsModidfied()) << "an edit that no slot is left for";
 
@@ -505,10 +461,7 @@ TEST_F(ProjectUndoRedoTest, SendersBeyondTheSlotsOrWithoutIdHaveNoHistory)
     history.SetAsSaveStep();
     EXPECT_FALSE(history.IsModidfied());
     Sender().SetId(QUuid());
-    EXPECT_FALSE(Edit());
-    EXPECT_TRUE(history.IsModidfied());
-
+    EXPECT_TRUE(!Edit() && history.IsModidfied());
     lookup.senders.clear();
-    EXPECT_FALSE(history.AddOneStep(Record::OperationClear));
-    EXPECT_FALSE(Undo(0));
+    EXPECT_FALSE(history.AddOneStep(Record::OperationClear) || Undo(0));
 }

@@ -2,12 +2,14 @@
 
 #include "common/interfacedlg.h"
 #include "layout/tiledata.h"
+#include "layout/tileplacing.h"
 #include "layout/tileset.h"
 #include "support/wallbuilder.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
 
 namespace {
 
@@ -19,10 +21,7 @@ SMD5 TypeOf(char digit)
 CTile TileAt(int x, int y, int width, int height)
 {
     CTile tile;
-    tile.SetWidth(width);
-    tile.SetHeight(height);
-    tile.SetX(x);
-    tile.SetY(y);
+    Place(tile, QRect(x, y, width, height));
     return tile;
 }
 
@@ -36,16 +35,6 @@ CTile FourCards()
     const unsigned char line[] = {1, 0, 3, 2};
     tile.SetMultiRcvsLine(line);
     return tile;
-}
-
-void Turn(CTile& tile, double angle, double centerX, double centerY)
-{
-    SRotateParam record;
-    record.rotated = true;
-    record.angle = angle;
-    record.centerX = centerX;
-    record.centerY = centerY;
-    tile.SetTileRotateParam(&record);
 }
 
 } // namespace
@@ -105,40 +94,32 @@ TEST(TileTest, EveryFieldCountsInComparisonAndWritingItLeavesCopiesAlone)
         target = copy;
         EXPECT_EQ(target, copy) << i;
     }
+
+    CTile copy(source); // writes that change nothing leave it sharing
+    copy.SetX(100);
+    copy.SetSelected(false, InterfaceDesign, -1);
+    const unsigned char line[] = {1, 0, 3, 2};
+    copy.SetMultiRcvsLine(line);
+    copy.SetConnectionIndex(-1, nullptr);
+    copy.Offset(0, 0);
+    EXPECT_EQ(copy.GetData(), source.GetData());
 }
 
 TEST(TileTest, ViewStateIsNeitherCopiedNorCompared)
 {
     CTile source = FourCards();
-    source.SetTileShowColor(Qt::red);
-    source.SetTileGamutStatus(3);
-    source.SetRcvSelected(2, true);
-    CTile copy(source);
+    CTile target = FourCards();
+    for (CTile* tile : {&source, &target}) {
+        tile->SetTileShowColor(tile == &source ? Qt::red : Qt::blue);
+        tile->SetTileGamutStatus(tile == &source ? 3 : 5);
+        tile->SetRcvSelected(tile == &source ? 2 : 1, true);
+    }
+    const CTile copy(source);
     EXPECT_EQ(copy, source);
-    EXPECT_TRUE(!copy.GetTileShowColor().isValid() && copy.GetTileGamutStatus() == 0
-                && !copy.IsRcvSelected(2));
-
-    copy.SetTileShowColor(Qt::blue);
-    copy.SetTileGamutStatus(5);
-    copy.SetRcvSelected(1, true);
-    copy = source;
-    EXPECT_TRUE(copy.GetTileShowColor() == Qt::blue && copy.GetTileGamutStatus() == 5);
-    EXPECT_TRUE(copy.IsRcvSelected(1) && !copy.IsRcvSelected(2));
-}
-
-TEST(TileTest, WritesThatChangeNothingKeepCopiesSharing)
-{
-    const CTile source = FourCards();
-    CTile copy(source);
-    copy.SetX(100);
-    copy.SetSelected(false, InterfaceDesign, -1);
-    const unsigned char line[] = {1, 0, 3, 2};
-    copy.SetMultiRcvsLine(line);
-    copy.SetBeMultiRcvsTile(true);
-    copy.SetMultiRcvsOrdered(true);
-    copy.SetConnectionIndex(-1, nullptr);
-    copy.Offset(0, 0);
-    EXPECT_EQ(copy.GetData(), source.GetData());
+    EXPECT_FALSE(copy.GetTileShowColor().isValid() || copy.GetTileGamutStatus() || copy.IsRcvSelected(2));
+    target = source;
+    EXPECT_TRUE(target.GetTileShowColor() == Qt::blue && target.GetTileGamutStatus() == 5);
+    EXPECT_TRUE(target.IsRcvSelected(1) && !target.IsRcvSelected(2));
 }
 
 TEST(TileTest, PointerHandedOutStaysTheTilesOwn)
@@ -171,7 +152,7 @@ TEST(TileTest, PointerHandedOutStaysTheTilesOwn)
     EXPECT_EQ(copy, tile);
 }
 
-TEST(TileTest, TypeBringsTheFlagsOfItsProduct)
+TEST(TileTest, FlagsFollowTheProductAndEachOther)
 {
     TestLookup lookup;
     lookup.productType = TypeOf('a');
@@ -182,6 +163,14 @@ TEST(TileTest, TypeBringsTheFlagsOfItsProduct)
     EXPECT_TRUE(tile.IsMultiRcvTile() && tile.IsMultiRcvsOrdered());
     tile.SetType(TypeOf('b'));
     EXPECT_FALSE(tile.IsMultiRcvTile() || tile.IsMultiRcvsOrdered());
+
+    tile = FourCards();
+    tile.SetBeMultiFixedLine(true);
+    tile.SetMultiRcvsOrdered(false);
+    EXPECT_TRUE(tile.IsMultiRcvsOrdered()) << "as every fixed line";
+    tile.SetBeMultiRcvsTile(false);
+    tile.SetBeMultiFixedLine(true);
+    EXPECT_FALSE(tile.IsMultiRcvsOrdered() || tile.IsMultiFixedLine()) << "that needs several cards";
 }
 
 TEST(TileTest, ViewsKeepSelectionsOfTheirOwn)
@@ -219,17 +208,6 @@ TEST(TileTest, CabinetIsSelectedWhileOneOfItsCardsIs)
     EXPECT_TRUE(tile.IsRcvSelected(9) && !tile.IsRcvSelected(10) && !tile.IsRcvSelected(-1));
 }
 
-TEST(TileTest, AFixedLineIsOrderedAndNeedsSeveralCards)
-{
-    CTile tile = FourCards();
-    tile.SetBeMultiFixedLine(true);
-    tile.SetMultiRcvsOrdered(false);
-    EXPECT_TRUE(tile.IsMultiRcvsOrdered());
-    tile.SetBeMultiRcvsTile(false);
-    tile.SetBeMultiFixedLine(true);
-    EXPECT_FALSE(tile.IsMultiRcvsOrdered() || tile.IsMultiFixedLine());
-}
-
 TEST(TileTest, CardsLieColumnByColumnInWiringOrder)
 {
     CTile tile = FourCards();
@@ -241,11 +219,9 @@ TEST(TileTest, CardsLieColumnByColumnInWiringOrder)
     for (int index : {-1, 4, 400})
         EXPECT_EQ(tile.GetMultiRcvRect(index), QRect()) << index;
     EXPECT_EQ(tile.GetMultiRcvRelativeRect(4), QRect());
-}
 
-TEST(TileTest, OddGridsOfCardsAreHarmless)
-{
-    CTile tile = FourCards();
+    // odd grids are harmless
+    tile.SetMultiRcvsOrdered(true);
     for (const QSize& size : {QSize(-2, 2), QSize(-2, -2), QSize(65536, 65536), QSize(0, 3)}) {
         tile.SetMultiRcvsSize(size);
         EXPECT_EQ(tile.GetMultiRcvRect(0), QRect());
@@ -278,19 +254,15 @@ TEST(TileTest, ChainCountsTheCardsOfThePredecessor)
     EXPECT_EQ(tile.GetBeginRcvCnnt(), 7) << "taken out of the chain";
     tile.SetConnectionIndex(0, &set);
     EXPECT_EQ(tile.GetBeginRcvCnnt(), 0);
-}
 
-TEST(TileTest, PredecessorIsLookedForOnTheTilesOwnPort)
-{
     const auto sender = MakeWall(3, 1, 2);
     TestLookup lookup;
     lookup.senders.append(sender.get());
-    CTile tile;
     tile.SetSenderId(sender->GetId());
-    for (int port : {kMaxPorts, 2, 1}) { // only the last has cabinets
+    for (int port : {kMaxPorts, 2, 1}) { // without a set its own port is asked; only the last has cabinets
         tile.SetPortIndex(port);
         tile.SetConnectionIndex(3, nullptr);
-        EXPECT_EQ(tile.GetBeginRcvCnnt(), port == 1 ? 3 : -1) << port;
+        EXPECT_EQ(tile.GetBeginRcvCnnt(), port == 1 ? 3 : 0) << port;
     }
 }
 
@@ -313,13 +285,8 @@ TEST(TileTest, TurnedTileIsBoundedByItsCornersWhileRotationIsEnabled)
     EXPECT_EQ(tile.GetCenter(), QPoint(-25, 50));
     tile.Offset(10, -20);
     EXPECT_EQ(tile.GetBound(), QRect(-40, -20, 50, 100)) << "its rotation moves along";
-}
-
-TEST(TileTest, OnlyAnAngleAboveZeroMakesARecordCountAsRotated)
-{
-    TestLookup lookup;
-    lookup.rotateEnabled = true;
-    CTile tile;
+    Turn(tile, 90, 1e308, -1e308);
+    EXPECT_EQ(tile.GetBound().top(), std::numeric_limits<int>::min()) << "beyond all numbers";
     for (double angle : {-30.0, 0.0001, 0.001}) {
         SRotateParam record;
         record.angle = angle;

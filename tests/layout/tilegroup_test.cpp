@@ -7,94 +7,214 @@
 
 namespace {
 
-CTileGroup* AddBelow(CTileGroup& parent)
+constexpr int kView = InterfaceDesign;
+
+/// Knows how many of its kind live.
+class CountedGroup : public CTileGroup
 {
-    auto* group = new CTileGroup;
-    group->SetParentGroupID(parent.GetID());
-    parent.GetSubGroupSet()->AddGroup(group, true);
+public:
+    CountedGroup() { ++alive; }
+    ~CountedGroup() override { --alive; }
+    static int alive;
+};
+
+int CountedGroup::alive = 0;
+
+CTileGroup* AddTo(CTileGroupSet& set, CTileGroup* parent = nullptr)
+{
+    auto* group = new CountedGroup;
+    if (parent)
+        group->SetParentGroupID(parent->GetID());
+    (parent ? *parent->GetSubGroupSet() : set).AddGroup(group, true);
     return group;
 }
 
-/// A group that holds two, the first of which holds one more.
+/// Two top-level groups; the first holds `below`, which holds `deep`.
 class TileGroupTest : public testing::Test
 {
 protected:
-    ~TileGroupTest() override { m_top.GetSubGroupSet()->DeleteAll(); }
+    ~TileGroupTest() override
+    {
+        m_set.DeleteAll();
+        EXPECT_EQ(CountedGroup::alive, 0);
+    }
 
-    CTileGroup m_top;
-    CTileGroup* m_first = AddBelow(m_top);
-    CTileGroup* m_deep = AddBelow(*m_first);
-    CTileGroup* m_second = AddBelow(m_top);
+    CTileGroupSet m_set;
+    CTileGroup* m_first = AddTo(m_set);
+    CTileGroup* m_below = AddTo(m_set, m_first);
+    CTileGroup* m_deep = AddTo(m_set, m_below);
+    CTileGroup* m_last = AddTo(m_set);
 };
 
 } // namespace
 
 TEST_F(TileGroupTest, CopyTakesTheWholeTreeButIsVisible)
 {
-    m_top.SetVisible(false);
-    m_top.SetSelected(InterfaceDesign, true);
-    m_top.GetRotateParam()->angle = 30;
+    m_first->SetVisible(false);
+    m_first->SetSelected(kView, true);
+    m_first->GetRotateParam()->angle = 30;
     m_deep->GetRotateParam()->width = 12;
-    CTileGroup copy(m_top);
+    CTileGroup copy(*m_first);
     CTileGroup assigned;
-    assigned = m_top;
+    assigned = *m_first;
     for (const CTileGroup* group : {&copy, &assigned}) {
         EXPECT_TRUE(group->IsVisible());
-        EXPECT_EQ(*group, m_top);
+        EXPECT_EQ(*group, *m_first);
         const CTileGroup* deep = group->GetSubGroupSet()->GetSubGroupBySubID(m_deep->GetID());
         EXPECT_TRUE(deep && deep != m_deep && *deep == *m_deep);
         group->GetSubGroupSet()->DeleteAll();
+        EXPECT_EQ(*group, *m_first) << "sub-groups do not count in comparison";
     }
-}
-
-TEST_F(TileGroupTest, VisibilityAndSubGroupsDoNotCountInComparison)
-{
-    CTileGroup other(m_top);
-    other.SetVisible(false);
-    other.GetSubGroupSet()->DeleteAll();
-    other.GetRotateParam()->angle = 0.3;
-    EXPECT_EQ(other, m_top);
-    other.GetRotateParam()->angle = 0.5;
-    EXPECT_NE(other, m_top);
+    copy.GetRotateParam()->angle = 30.3;
+    EXPECT_EQ(copy, *m_first);
+    copy.GetRotateParam()->angle = 30.5;
+    EXPECT_NE(copy, *m_first);
 }
 
 TEST_F(TileGroupTest, SelectionReachesTheWholeTreeInTheDesignViewAlone)
 {
-    m_top.SetSelected(InterfaceSoftEdge, true);
-    EXPECT_FALSE(m_top.IsSelected(InterfaceSoftEdge) || m_deep->IsSelected(InterfaceDesign));
-    m_top.SetSelected(InterfaceDesign, true);
-    m_second->SetSelected(InterfaceDesign, false);
-    EXPECT_TRUE(m_top.IsSelected(InterfaceDesign) && m_deep->IsSelected(InterfaceDesign));
-    EXPECT_FALSE(m_second->IsSelected(InterfaceDesign) || m_top.IsSelected(InterfaceSoftEdge));
+    m_first->SetSelected(InterfaceSoftEdge, true);
+    EXPECT_FALSE(m_first->IsSelected(InterfaceSoftEdge) || m_deep->IsSelected(kView));
+    m_first->SetSelected(kView, true);
+    m_deep->SetSelected(kView, false);
+    EXPECT_TRUE(m_first->IsSelected(kView) && m_below->IsSelected(kView));
+    EXPECT_FALSE(m_deep->IsSelected(kView) || m_first->IsSelected(InterfaceSoftEdge));
 }
 
 TEST_F(TileGroupTest, OffsetPutsTheVerticalPlaceIntoTheHorizontal)
 {
-    SRotateParam* record = m_top.GetRotateParam();
-    record->centerX = 100;
-    record->centerY = 50;
-    record->leftTopX = 40;
-    record->leftTopY = 30;
-    m_top.SetOffset(10, 20);
-    EXPECT_EQ(record->centerX, 70);
-    EXPECT_EQ(record->centerY, 50);
-    EXPECT_EQ(record->leftTopX, 50);
-    EXPECT_EQ(record->leftTopY, 30);
+    SRotateParam record;
+    record.centerX = 100;
+    record.centerY = 50;
+    record.leftTopX = 40;
+    record.leftTopY = 30;
+    m_first->SetRotateParam(&record);
+    m_below->SetRotateParam(&record);
+    m_set.SetOffset(10, 20);
+    EXPECT_EQ(*m_below->GetRotateParam(), record) << "groups below stay";
+    record.centerX = 70;
+    record.leftTopX = 50;
+    EXPECT_EQ(*m_first->GetRotateParam(), record);
 }
 
 TEST_F(TileGroupTest, RenumberingGoesDownInPreOrder)
 {
-    const QUuid before[] = {m_top.GetID(), m_first->GetID(), m_deep->GetID(), m_second->GetID()};
+    const CTileGroup* groups[] = {m_first, m_below, m_deep, AddTo(m_set, m_first)};
+    QList<QUuid> before;
+    for (const CTileGroup* group : groups)
+        before.append(group->GetID());
     QList<SGuidCompare> records;
-    m_top.ModifyIDAndRecord(records);
-    const CTileGroup* groups[] = {&m_top, m_first, m_deep, m_second};
+    m_first->ModifyIDAndRecord(records);
     ASSERT_EQ(records.size(), 4);
     for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(records[i].oldId, before[i]) << i;
-        EXPECT_EQ(records[i].newId, groups[i]->GetID()) << i;
+        EXPECT_TRUE(records[i].oldId == before[i] && records[i].newId == groups[i]->GetID()) << i;
         EXPECT_NE(before[i], groups[i]->GetID()) << i;
     }
-    EXPECT_EQ(m_first->GetParentGroupID(), m_top.GetID());
-    EXPECT_EQ(m_deep->GetParentGroupID(), m_first->GetID());
-    EXPECT_EQ(m_second->GetParentGroupID(), m_top.GetID());
+    for (const CTileGroup* group : {groups[1], groups[3]})
+        EXPECT_EQ(group->GetParentGroupID(), m_first->GetID());
+    EXPECT_EQ(m_deep->GetParentGroupID(), m_below->GetID());
+}
+
+TEST_F(TileGroupTest, CopiesOfASetAreSeparateGroupsWithTheSameIds)
+{
+    CTileGroupSet copy;
+    AddTo(copy);
+    copy = m_set;
+    EXPECT_EQ(CountedGroup::alive, 4) << "what the target held is gone";
+    EXPECT_EQ(copy, m_set);
+    copy.GetSubGroupBySubID(m_last->GetID())->SetSelected(kView, true);
+    EXPECT_NE(copy, m_set);
+    EXPECT_EQ(copy.DeleteAll(), 2);
+    EXPECT_NE(copy, m_set);
+
+    const QUuid below = m_below->GetID();
+    m_set = *m_first->GetSubGroupSet(); // a level of its own tree
+    EXPECT_EQ(CountedGroup::alive, 0) << "all replaced by copies";
+    EXPECT_EQ(m_set.GetDirectCount(), 1);
+    EXPECT_NE(m_set.GetDirectGroupByDirID(below), nullptr);
+}
+
+TEST_F(TileGroupTest, AGroupListedTwiceIsFreedOnce)
+{
+    m_set.AddFromOther(m_set);
+    EXPECT_EQ(m_set.GetDirectCount(), 4);
+    EXPECT_TRUE(m_set.DeleteGroupRecursive(2));
+    EXPECT_EQ(m_set.GetDirectCount(), 2);
+    EXPECT_EQ(CountedGroup::alive, 1);
+    EXPECT_EQ(m_set.DeleteAll(), 2);
+    EXPECT_EQ(CountedGroup::alive, 0);
+}
+
+TEST_F(TileGroupTest, GroupsAreFoundAtTheirLevel)
+{
+    EXPECT_EQ(m_set.GetDirectGroupBySubID(m_deep->GetID()), m_first);
+    EXPECT_EQ(m_set.GetDirectGroupBySubID(m_last->GetID()), m_last);
+    EXPECT_EQ(m_set.RemoveDirectGroup(m_deep->GetID()), nullptr);
+    EXPECT_FALSE(m_first->HasAnySubGroupInArray({m_last->GetID()}));
+    EXPECT_TRUE(m_first->HasAnySubGroupInArray({m_last->GetID(), m_deep->GetID()}));
+    QList<CTileGroup*> list{m_last};
+    EXPECT_EQ(m_set.GetGroupListRecursive(list), 4);
+    EXPECT_EQ(list, (QList<CTileGroup*>{m_last, m_first, m_below, m_deep, m_last}));
+
+    CTileGroup twin(*m_deep);
+    EXPECT_FALSE(m_set.AddGroup(&twin, false)) << "its id is in the tree";
+    EXPECT_TRUE(m_set.AddGroup(&twin, true));
+    EXPECT_EQ(m_set.RemoveDirectGroup(m_deep->GetID()), &twin);
+}
+
+TEST_F(TileGroupTest, AncestorsAreListedOnceFromTheGroupUp)
+{
+    QList<QUuid> ids{m_below->GetID()};
+    EXPECT_FALSE(m_set.GroupAndParentAddGuidArray(ids, QUuid::createUuid()));
+    m_last->SetID(QUuid()); // is nobody's parent
+    EXPECT_TRUE(m_set.GroupAndParentAddGuidArray(ids, m_deep->GetID()));
+    EXPECT_EQ(ids, (QList<QUuid>{m_below->GetID(), m_deep->GetID(), m_first->GetID()}));
+    m_first->SetParentGroupID(m_deep->GetID()); // a circle, as a damaged file may hold
+    EXPECT_TRUE(m_set.GroupAndParentAddGuidArray(ids, m_deep->GetID()));
+    EXPECT_EQ(ids.size(), 3);
+}
+
+TEST_F(TileGroupTest, TopLevelIdsAreCountedUnlessOneIsUnknown)
+{
+    QUuid first;
+    EXPECT_EQ(m_set.GetGroupCountWithoutParent({}, &first), 0);
+    const QList<QUuid> ids{m_deep->GetID(), m_last->GetID(), m_first->GetID()};
+    EXPECT_EQ(m_set.GetGroupCountWithoutParent(ids, &first), 2);
+    EXPECT_EQ(first, m_last->GetID());
+    CTileGroup twin(*m_last);
+    twin.SetParentGroupID(m_deep->GetID());
+    m_set.AddGroup(&twin, true);
+    EXPECT_EQ(m_set.GetGroupCountWithoutParent(ids, nullptr), 2) << "the first of an id counts";
+    m_set.RemoveDirectGroup(2);
+    EXPECT_EQ(m_set.GetGroupCountWithoutParent(ids + QList<QUuid>{QUuid::createUuid()}, nullptr), 0);
+}
+
+TEST_F(TileGroupTest, DeletingKnowsItsBounds)
+{
+    for (int index : {-1, 3})
+        EXPECT_FALSE(m_set.DeleteDirectGroup(index));
+    EXPECT_TRUE(m_set.DeleteDirectGroup(2)) << "one past the last is let through";
+    for (int index : {-1, 2})
+        EXPECT_FALSE(m_set.DeleteGroupRecursive(index) || m_set.DeleteGroupSelectedRecursive(index));
+    EXPECT_EQ(CountedGroup::alive, 4);
+    EXPECT_TRUE(m_set.DeleteDirectGroup(0));
+    EXPECT_EQ(CountedGroup::alive, 3) << "its sub-groups are left";
+    m_set.AddGroup(m_below, true);
+    EXPECT_TRUE(m_set.DeleteGroupRecursive(1));
+    EXPECT_EQ(m_set.RemoveAll(), 1);
+    EXPECT_EQ(CountedGroup::alive, 1);
+    m_set.AddGroup(m_last, true);
+}
+
+TEST_F(TileGroupTest, SelectedGroupsGoWithWhatTheyHold)
+{
+    AddTo(m_set, m_first);
+    m_below->SetSelected(kView, true);
+    m_deep->SetSelected(kView, false);
+    EXPECT_TRUE(m_set.DeleteGroupSelectedRecursive(0));
+    EXPECT_EQ(CountedGroup::alive, 3);
+    EXPECT_EQ(m_first->GetSubGroupCount(), 1);
+    m_first->SetSelected(kView, true);
+    EXPECT_TRUE(m_set.DeleteGroupSelectedRecursive(0));
+    EXPECT_EQ(m_set.GetDirectGroupByDirIndex(0), m_last);
 }

@@ -1,7 +1,7 @@
 #include "layout/tileset.h"
 
 #include "common/interfacedlg.h"
-#include "layout/tile.h"
+#include "layout/tileplacing.h"
 #include "support/wallbuilder.h"
 
 #include <gtest/gtest.h>
@@ -27,10 +27,7 @@ int CountedTile::alive = 0;
 CTile* Add(CTileSet& set, const QRect& rect)
 {
     auto* tile = new CountedTile;
-    tile->SetWidth(rect.width());
-    tile->SetHeight(rect.height());
-    tile->SetX(rect.x());
-    tile->SetY(rect.y());
+    Place(*tile, rect);
     set.AddTile(tile);
     return tile;
 }
@@ -60,15 +57,6 @@ protected:
     std::vector<CTile*> m_tiles;
     TestLookup m_lookup;
 };
-
-void Turn(CTile* tile, double angle, double centerX, double centerY)
-{
-    SRotateParam record;
-    record.angle = angle;
-    record.centerX = centerX;
-    record.centerY = centerY;
-    tile->SetTileRotateParam(&record);
-}
 
 } // namespace
 
@@ -160,19 +148,16 @@ TEST_F(TileSetTest, SetMayBeReadAndFilledAtOnce)
     m_set.SetOwnerShip(true);
 }
 
-TEST_F(TileSetTest, SubsetIsByIdentity)
+TEST_F(TileSetTest, SubsetsAreByIdentityAndKeepListOrder)
 {
     CTileSet part;
-    CTileSet copies(m_set);
+    const CTileSet copies(m_set);
     EXPECT_TRUE(m_set.IsSubset(nullptr) && part.IsSubset(&part));
     part.AddTile(m_tiles[2]);
     part.AddTile(m_tiles[0]);
     EXPECT_TRUE(m_set.IsSubset(&part));
     EXPECT_FALSE(part.IsSubset(&m_set) || m_set.IsSubset(&copies) || CTileSet().IsSubset(&part));
-}
 
-TEST_F(TileSetTest, SubsetsKeepListOrder)
-{
     const QUuid group = QUuid::createUuid();
     m_tiles[0]->SetGroupId(group);
     m_tiles[2]->SetGroupId(group);
@@ -220,18 +205,15 @@ TEST_F(TileSetTest, LockIsThatOfThePortOfTheCurrentSender)
     EXPECT_TRUE(m_set.ExistTileIsLock());
 }
 
-TEST_F(TileSetTest, HitTestListsTheTopmostTileFirst)
+TEST_F(TileSetTest, HitTestsListTheTopmostTileFirst)
 {
     const CTile* top = Add(m_set, QRect(50, 50, 100, 100));
     CTileSet out;
     EXPECT_TRUE(m_set.GetTileSetAtPosition(out, 99, 99));
     EXPECT_EQ(Contents(out), (Tiles{top, m_tiles[0]}));
     EXPECT_FALSE(m_set.GetTileSetAtPosition(out, 300, 0) || out.GetCount() > 0);
-}
 
-TEST_F(TileSetTest, RectTakesWholeOrTouchedTiles)
-{
-    CTileSet out;
+    m_set.DeteleTile(3);
     m_set.GetTileSetAtRect(out, QRect(0, 0, 200, 100), true);
     EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0]}));
     m_set.GetTileSetAtRect(out, QRect(1, 0, 200, 100), true);
@@ -245,8 +227,8 @@ TEST_F(TileSetTest, RectTakesWholeOrTouchedTiles)
 
 TEST_F(TileSetTest, TurnedTilesAreHitByTheirCorners)
 {
-    Turn(m_tiles[0], 45, 50, 50); // a diamond about (50, 50), half diagonal 70.7
-    Turn(m_tiles[2], 90, 250, 50);
+    Turn(*m_tiles[0], 45, 50, 50); // a diamond about (50, 50), half diagonal 70.7
+    Turn(*m_tiles[2], 90, 250, 50);
     CTileSet out;
     m_set.GetTileSetAtPosition(out, 110, 50);
     EXPECT_EQ(Contents(out), Tiles{m_tiles[1]}) << "rotation is off";
@@ -279,7 +261,7 @@ TEST_F(TileSetTest, BoundFollowsTheDraggedSelection)
     EXPECT_EQ(m_set.GetBound(true, QSize(10, -20)), QRect(0, -20, 310, 120));
     EXPECT_EQ(m_set.GetBound(false, QSize(10, -20)), QRect(0, 0, 300, 100));
     m_lookup.rotateEnabled = true;
-    Turn(m_tiles[0], 45, 0, 0);
+    Turn(*m_tiles[0], 45, 0, 0);
     EXPECT_EQ(m_set.GetBound(false, QSize()), QRect(0, 0, 300, 100)) << "of the tiles before turning";
 }
 

@@ -1,5 +1,5 @@
 #include "common/canvaslimits.h"
-#include "layout/tile.h"
+#include "layout/tileplacing.h"
 #include "layout/tileset.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +8,8 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -15,10 +17,7 @@ namespace {
 CTile* Add(CTileSet& set, const QRect& rect, QSize receivers = QSize(1, 1))
 {
     auto* tile = new CTile;
-    tile->SetWidth(rect.width());
-    tile->SetHeight(rect.height());
-    tile->SetX(rect.x());
-    tile->SetY(rect.y());
+    Place(*tile, rect);
     tile->SetBeMultiRcvsTile(receivers != QSize(1, 1));
     tile->SetMultiRcvsSize(receivers);
     const unsigned char line[kMaxReceiversInTile] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
@@ -51,20 +50,17 @@ void AddScattered(CTileSet& set, int count, unsigned seed)
     }
 }
 
-std::vector<int> Indices(const CTileSet& set)
+std::vector<int> Indices(const CTileSet& set, int (CTile::*index)() const = &CTile::GetConnectionIndex)
 {
     std::vector<int> indices;
-    for (int i = 0; i < set.GetCount(); ++i)
-        indices.push_back(set.GetTile(i)->GetConnectionIndex());
+    for (const CTile* tile : set.GetTiles())
+        indices.push_back((tile->*index)());
     return indices;
 }
 
 std::vector<int> Begins(const CTileSet& set)
 {
-    std::vector<int> begins;
-    for (int i = 0; i < set.GetCount(); ++i)
-        begins.push_back(set.GetTile(i)->GetBeginRcvCnnt());
-    return begins;
+    return Indices(set, &CTile::GetBeginRcvCnnt);
 }
 
 /// The begin of every cabinet in the chain is the sum of the receivers before it.
@@ -166,8 +162,7 @@ TEST(TileSetChainTest, NothingToNumberLeavesTheSetUnnumbered)
     int next = 0;
     for (int type : {8, -1, 1000}) {
         wall.AutoConnection(AutoNumberRowsTopLeft, 0);
-        EXPECT_FALSE(wall.AutoConnection(static_cast<EnAutoNumberType>(type), 0));
-        EXPECT_FALSE(wall.HasNumberedTiles());
+        EXPECT_FALSE(wall.AutoConnection(static_cast<EnAutoNumberType>(type), 0) || wall.HasNumberedTiles());
         EXPECT_FALSE(wall.NumberSetRect(next, wall.GetBound(), QSize(100, 50), type));
     }
     wall.GetTile(2)->SetWidth(0);
@@ -214,6 +209,7 @@ TEST(TileSetChainTest, NormalisationClosesGapsAndResolvesEqualIndices)
         wall.GetTile(i)->SetConnectionIndex(stored[static_cast<size_t>(i)], nullptr);
     CTileSet chain;
     for (int round = 0; round < 2; ++round) {
+        const QMutexLocker lock(&CTileSet::m_mutex); // would hang if it took it
         wall.GetTileSetNumberedNormalization(chain);
         EXPECT_EQ(Indices(wall), (std::vector<int>{2, 0, -1, 3, 4, 1}));
         EXPECT_EQ(Begins(wall), (std::vector<int>{8, 0, -1, 9, 13, 2}));
@@ -224,16 +220,6 @@ TEST(TileSetChainTest, NormalisationClosesGapsAndResolvesEqualIndices)
     wall.TileSetNormalization();
     EXPECT_EQ(Indices(wall), (std::vector<int>{1, -1, 2, 3, 0}));
     EXPECT_EQ(Begins(wall), (std::vector<int>{6, -1, 7, 11, 0}));
-}
-
-TEST(TileSetChainTest, OnlyTheFirstOfTheNormalisingPairTakesTheLock)
-{
-    OwningWall wall(2, 1);
-    wall.AutoConnection(AutoNumberRowsTopRight, 0);
-    CTileSet chain;
-    QMutexLocker lock(&CTileSet::m_mutex);
-    wall.GetTileSetNumberedNormalization(chain); // would hang
-    EXPECT_EQ(chain.GetTile(0), wall.GetTile(1));
 }
 
 TEST(TileSetChainTest, ReceiversAreFoundByTheirPlaceInTheChain)
@@ -266,20 +252,20 @@ TEST(TileSetChainTest, ArrowKeysNumberTheNearestCabinetThatOverlaps)
     CTile* shifted = Add(wall, QRect(120, 60, 100, 100));
     CTile* straight = Add(wall, QRect(120, 10, 100, 100)); // as near as the one above, but straighter
     CTile* below = Add(wall, QRect(110, 120, 100, 1));     // no column in common with the first
-    EXPECT_FALSE(wall.DirectionKeyConnection(Qt::Key_Space));
-    EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Left)) << "the first key takes the one at the origin";
-    EXPECT_EQ(first->GetConnectionIndex(), 0);
-    EXPECT_FALSE(wall.DirectionKeyConnection(Qt::Key_Down));
-    EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Right));
-    EXPECT_EQ(straight->GetConnectionIndex(), 1);
-    EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Right));
-    EXPECT_EQ(far->GetConnectionIndex(), 2);
-    EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Left)) << "numbered cabinets are passed over";
-    EXPECT_EQ(shifted->GetConnectionIndex(), 3);
-    EXPECT_TRUE(wall.DirectionKeyConnection(Qt::Key_Down));
-    EXPECT_EQ(below->GetConnectionIndex(), 4);
-    EXPECT_FALSE(wall.DirectionKeyConnection(Qt::Key_Up)) << "all are numbered";
+    const std::pair<int, CTile*> presses[] = {
+        {Qt::Key_Space, nullptr}, {Qt::Key_Left, first}, // the first arrow takes the one at the origin
+        {Qt::Key_Down, nullptr},  {Qt::Key_Right, straight},
+        {Qt::Key_Right, far},     {Qt::Key_Left, shifted}, // numbered cabinets are passed over
+        {Qt::Key_Down, below},    {Qt::Key_Up, nullptr}};
+    int index = -1;
+    for (const auto& [key, numbered] : presses) {
+        EXPECT_EQ(wall.DirectionKeyConnection(static_cast<unsigned long>(key)), numbered != nullptr) << key;
+        EXPECT_TRUE(!numbered || numbered->GetConnectionIndex() == ++index) << key;
+    }
     EXPECT_EQ(wall.GetDirectionTile(below->GetBound(), Qt::Key_Up, false, false), straight);
+    first->SetConnectionIndex(std::numeric_limits<int>::max(), nullptr);
+    below->SetConnectionIndex(-1, nullptr);
+    EXPECT_FALSE(wall.DirectionKeyConnection(Qt::Key_Right)) << "no number comes after that";
 }
 
 TEST(TileSetChainTest, ArrowKeysMoveTheMarkFromCardToCard)
@@ -288,19 +274,18 @@ TEST(TileSetChainTest, ArrowKeysMoveTheMarkFromCardToCard)
     CTile* multi = Add(wall, QRect(0, 0, 100, 100), QSize(2, 2)); // cards run down each column
     CTile* plain = Add(wall, QRect(100, 0, 100, 100));
     wall.AutoConnection(AutoNumberRowsTopRight, 0);
+    // The first arrow takes the card at the origin; the plain cabinet comes first in the chain.
+    const int presses[][4] = {{Qt::Key_Up, 1, 0, -1},
+                              {Qt::Key_Down, 2, 1, -1},
+                              {Qt::Key_Right, 4, 3, -1},
+                              {Qt::Key_Right, 0, -1, 0}};
     int receiver = -5;
-    EXPECT_TRUE(wall.DirectionKeyDemarcateTile(Qt::Key_Up, receiver));
-    EXPECT_EQ(receiver, 1) << "the card at the origin, behind the plain cabinet's";
-    EXPECT_TRUE(wall.DirectionKeyDemarcateTile(Qt::Key_Down, receiver));
-    EXPECT_EQ(receiver, 2);
-    EXPECT_EQ(multi->GetMultiRcvDemarcateIndex(), 1);
-    EXPECT_TRUE(wall.DirectionKeyDemarcateTile(Qt::Key_Right, receiver));
-    EXPECT_EQ(receiver, 4);
-    EXPECT_TRUE(wall.DirectionKeyDemarcateTile(Qt::Key_Right, receiver));
-    EXPECT_EQ(receiver, 0);
-    EXPECT_EQ(multi->GetMultiRcvDemarcateIndex(), -1);
-    EXPECT_EQ(plain->GetMultiRcvDemarcateIndex(), 0);
+    for (const auto& [key, found, inMulti, inPlain] : presses) {
+        EXPECT_TRUE(wall.DirectionKeyDemarcateTile(static_cast<unsigned long>(key), receiver));
+        EXPECT_EQ(receiver, found);
+        EXPECT_EQ(multi->GetMultiRcvDemarcateIndex(), inMulti) << found;
+        EXPECT_EQ(plain->GetMultiRcvDemarcateIndex(), inPlain) << found;
+    }
     EXPECT_FALSE(wall.DirectionKeyDemarcateTile(Qt::Key_Right, receiver));
-    EXPECT_EQ(receiver, 0);
-    EXPECT_EQ(plain->GetMultiRcvDemarcateIndex(), 0);
+    EXPECT_TRUE(receiver == 0 && plain->GetMultiRcvDemarcateIndex() == 0);
 }
