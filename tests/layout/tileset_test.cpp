@@ -32,15 +32,7 @@ CTile* Add(CTileSet& set, const QRect& rect)
     return tile;
 }
 
-std::vector<const CTile*> Contents(const CTileSet& set)
-{
-    std::vector<const CTile*> tiles;
-    for (int i = 0; i < set.GetCount(); ++i)
-        tiles.push_back(set.GetTile(i));
-    return tiles;
-}
-
-using Tiles = std::vector<const CTile*>;
+using Tiles = QList<CTile*>;
 
 /// An owning set with tiles 0, 1, 2 side by side, each 100 x 100 pixels.
 class TileSetTest : public testing::Test
@@ -66,20 +58,18 @@ TEST_F(TileSetTest, CopiesShareTilesUnlessTheSourceOwnsThem)
         CTileSet query;
         m_set.GetTileSetUngrouped(query);
         const CTileSet copy(query);
-        EXPECT_EQ(Contents(copy), Contents(m_set));
+        EXPECT_EQ(copy.GetTiles(), m_set.GetTiles());
         EXPECT_NE(copy, m_set) << "ownership counts";
     }
     EXPECT_EQ(CountedTile::alive, 3);
     CTileSet copy;
     copy = CTileSet(m_set);
-    EXPECT_TRUE(copy.IsOwner());
-    EXPECT_EQ(copy, m_set);
+    EXPECT_TRUE(copy.IsOwner() && copy == m_set);
     copy.ExchangeTile(2, 3);
     copy.ExchangeTile(2, 0);
     EXPECT_NE(copy, m_set) << "order counts";
     m_set.DeleteAllTiles();
-    EXPECT_EQ(CountedTile::alive, 0);
-    EXPECT_EQ(copy.GetTile(0)->GetX(), 200);
+    EXPECT_TRUE(CountedTile::alive == 0 && copy.GetTile(0)->GetX() == 200);
 }
 
 TEST_F(TileSetTest, OwningSetFreesWhatItDropsOnce)
@@ -90,7 +80,7 @@ TEST_F(TileSetTest, OwningSetFreesWhatItDropsOnce)
     m_set.DeteleTile(m_tiles[0]);
     EXPECT_EQ(CountedTile::alive, 2);
     m_set.AddTile(m_tiles[1]);
-    EXPECT_EQ(Contents(m_set), (Tiles{m_tiles[2], m_tiles[1], m_tiles[1]}));
+    EXPECT_EQ(m_set.GetTiles(), (Tiles{m_tiles[2], m_tiles[1], m_tiles[1]}));
     for (int index : {-1, 3})
         m_set.DeteleTile(index);
     m_set.DeteleTile(nullptr);
@@ -102,8 +92,7 @@ TEST_F(TileSetTest, OwningSetFreesWhatItDropsOnce)
     EXPECT_EQ(CountedTile::alive, 1);
     m_set.AddTile(m_tiles[2]);
     m_set = CTileSet();
-    EXPECT_EQ(CountedTile::alive, 0);
-    EXPECT_FALSE(m_set.IsOwner());
+    EXPECT_TRUE(CountedTile::alive == 0 && !m_set.IsOwner());
 }
 
 TEST_F(TileSetTest, SelectedTilesAreFreedOnceAndByTheirOwnerAlone)
@@ -113,11 +102,11 @@ TEST_F(TileSetTest, SelectedTilesAreFreedOnceAndByTheirOwnerAlone)
         selection.AddTile(m_tiles[static_cast<size_t>(i)]);
     m_tiles[0]->SetSelected(true, InterfaceDesign, -1);
     selection.DeleteSelected(InterfaceDesign);
-    EXPECT_EQ(Contents(selection), Tiles{m_tiles[1]});
+    EXPECT_EQ(selection.GetTiles(), Tiles{m_tiles[1]});
     EXPECT_EQ(CountedTile::alive, 3);
     m_set.AddTile(m_tiles[0]); // twice
     m_set.DeleteSelected(InterfaceDesign);
-    EXPECT_EQ(Contents(m_set), (Tiles{m_tiles[1], m_tiles[2]}));
+    EXPECT_EQ(m_set.GetTiles(), (Tiles{m_tiles[1], m_tiles[2]}));
     EXPECT_EQ(CountedTile::alive, 2);
 }
 
@@ -126,20 +115,19 @@ TEST_F(TileSetTest, SetMayBeReadAndFilledAtOnce)
     CTileSet found;
     found.AddFromOther(m_set);
     found.GetTileSetAtPosition(found, 150, 50);
-    EXPECT_EQ(Contents(found), Tiles{m_tiles[1]});
+    EXPECT_EQ(found.GetTiles(), Tiles{m_tiles[1]});
     found.AddFromOther(found);
     EXPECT_TRUE(found.GetTileSetInGroup(found, QUuid(), true));
-    EXPECT_EQ(Contents(found), Tiles(4, m_tiles[1]));
+    EXPECT_EQ(found.GetTiles(), (Tiles{m_tiles[1], m_tiles[1], m_tiles[1], m_tiles[1]}));
 
     // What a query finds in the owning set that it fills lives on, what it does not find goes.
     m_tiles[2]->SetSelected(true, kView, -1);
     m_set.GetSelTileSet(m_set, kView);
-    EXPECT_EQ(Contents(m_set), Tiles{m_tiles[2]});
+    EXPECT_EQ(m_set.GetTiles(), Tiles{m_tiles[2]});
     EXPECT_EQ(CountedTile::alive, 1);
     m_set.SetOwnerShip(true);
     m_set.AddFromOther(m_set);
-    EXPECT_EQ(m_set.GetCount(), 2);
-    EXPECT_NE(m_set.GetTile(0), m_set.GetTile(1));
+    EXPECT_TRUE(m_set.GetCount() == 2 && m_set.GetTile(0) != m_set.GetTile(1));
 
     CTileSet part;
     part.AddTile(m_tiles[2]);
@@ -164,10 +152,10 @@ TEST_F(TileSetTest, SubsetsAreByIdentityAndKeepListOrder)
     m_tiles[1]->SetConnectionIndex(0, nullptr);
     CTileSet out;
     m_set.GetTileSetUnnumbered(out);
-    EXPECT_EQ(Contents(out), (Tiles{m_tiles[0], m_tiles[2]}));
+    EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[0], m_tiles[2]}));
     m_set.GetTileSetUngrouped(out);
     EXPECT_TRUE(m_set.GetTileSetInGroup(out, group, true));
-    EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0], m_tiles[2]}));
+    EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[1], m_tiles[0], m_tiles[2]}));
     EXPECT_FALSE(m_set.GetTileSetInGroup(out, QUuid::createUuid(), false) || out.GetCount() > 0);
 }
 
@@ -179,8 +167,7 @@ TEST_F(TileSetTest, UnselectingResetsCardsAndMarksOfOneView)
     m_tiles[0]->SetMultiRcvDemarcateIndex(3);
     m_set.UnSelectAll(kView);
     EXPECT_FALSE(m_tiles[0]->IsSelected(kView) || m_tiles[0]->IsRcvSelected(3));
-    EXPECT_TRUE(m_tiles[0]->IsSelected(InterfaceSoftEdge));
-    EXPECT_EQ(m_tiles[0]->GetMultiRcvDemarcateIndex(), -1);
+    EXPECT_TRUE(m_tiles[0]->IsSelected(InterfaceSoftEdge) && m_tiles[0]->GetMultiRcvDemarcateIndex() == -1);
 }
 
 TEST_F(TileSetTest, EachTypeIsListedOnceInListOrder)
@@ -207,22 +194,22 @@ TEST_F(TileSetTest, LockIsThatOfThePortOfTheCurrentSender)
 
 TEST_F(TileSetTest, HitTestsListTheTopmostTileFirst)
 {
-    const CTile* top = Add(m_set, QRect(50, 50, 100, 100));
+    CTile* top = Add(m_set, QRect(50, 50, 100, 100));
     CTileSet out;
     EXPECT_TRUE(m_set.GetTileSetAtPosition(out, 99, 99));
-    EXPECT_EQ(Contents(out), (Tiles{top, m_tiles[0]}));
+    EXPECT_EQ(out.GetTiles(), (Tiles{top, m_tiles[0]}));
     EXPECT_FALSE(m_set.GetTileSetAtPosition(out, 300, 0) || out.GetCount() > 0);
 
     m_set.DeteleTile(3);
     m_set.GetTileSetAtRect(out, QRect(0, 0, 200, 100), true);
-    EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0]}));
+    EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[1], m_tiles[0]}));
     m_set.GetTileSetAtRect(out, QRect(1, 0, 200, 100), true);
-    EXPECT_EQ(Contents(out), Tiles{m_tiles[1]});
+    EXPECT_EQ(out.GetTiles(), Tiles{m_tiles[1]});
     m_set.GetTileSetAtRect(out, QRect(99, 99, 2, 1), false);
-    EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0]}));
+    EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[1], m_tiles[0]}));
     EXPECT_FALSE(m_set.GetTileSetAtRect(out, QRect(0, 100, 300, 5), false));
     m_set.GetTileSetAtRectWithCenter(out, QRect(150, 50, 1, 1));
-    EXPECT_EQ(Contents(out), Tiles{m_tiles[1]});
+    EXPECT_EQ(out.GetTiles(), Tiles{m_tiles[1]});
 }
 
 TEST_F(TileSetTest, TurnedTilesAreHitByTheirCorners)
@@ -231,17 +218,17 @@ TEST_F(TileSetTest, TurnedTilesAreHitByTheirCorners)
     Turn(*m_tiles[2], 90, 250, 50);
     CTileSet out;
     m_set.GetTileSetAtPosition(out, 110, 50);
-    EXPECT_EQ(Contents(out), Tiles{m_tiles[1]}) << "rotation is off";
+    EXPECT_EQ(out.GetTiles(), Tiles{m_tiles[1]}) << "rotation is off";
     m_lookup.rotateEnabled = true;
     m_set.GetTileSetAtPosition(out, 110, 50);
-    EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0]}));
+    EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[1], m_tiles[0]}));
     EXPECT_FALSE(m_set.GetTileSetAtPosition(out, 10, 10)) << "inside the bound, outside the diamond";
     m_set.GetTileSetAtRect(out, QRect(115, -10, 20, 100), false);
-    EXPECT_EQ(Contents(out), (Tiles{m_tiles[1], m_tiles[0]}));
+    EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[1], m_tiles[0]}));
     m_set.GetTileSetAtRect(out, QRect(0, -30, 200, 160), true);
-    EXPECT_EQ(Contents(out), Tiles{m_tiles[1]}) << "one corner of the diamond is out";
+    EXPECT_EQ(out.GetTiles(), Tiles{m_tiles[1]}) << "one corner of the diamond is out";
     m_set.GetTileSetAtRect(out, m_tiles[2]->GetBound(), true);
-    EXPECT_EQ(Contents(out), Tiles{m_tiles[2]}) << "a tile lies in its own bound";
+    EXPECT_EQ(out.GetTiles(), Tiles{m_tiles[2]}) << "a tile lies in its own bound";
     EXPECT_EQ(m_set.GetBound(), QRect(-20, -20, 320, 141));
 }
 
@@ -255,8 +242,7 @@ TEST_F(TileSetTest, OverlapIsStrictOnOneAxis)
 
 TEST_F(TileSetTest, BoundFollowsTheDraggedSelection)
 {
-    EXPECT_EQ(CTileSet().GetBound(), QRect());
-    EXPECT_EQ(CTileSet().GetBound(true, QSize(5, 5)), QRect());
+    EXPECT_TRUE(CTileSet().GetBound() == QRect() && CTileSet().GetBound(true, QSize(5, 5)) == QRect());
     m_tiles[2]->SetSelected(true, kView, -1);
     EXPECT_EQ(m_set.GetBound(true, QSize(10, -20)), QRect(0, -20, 310, 120));
     EXPECT_EQ(m_set.GetBound(false, QSize(10, -20)), QRect(0, 0, 300, 100));
