@@ -165,9 +165,11 @@ TEST(TileSetChainTest, NothingToNumberLeavesTheSetUnnumbered)
     QSize cell;
     EXPECT_TRUE(wall.AutoConnectGetSize(cell));
     EXPECT_EQ(cell, QSize(100, 50)) << "sizes below one pixel give no cell";
-    wall.GetTile(2)->SetWidth(300);
-    for (int pixels : {-1, 0, 1, 49, 50, 99}) // a line needs room both ways
-        EXPECT_EQ(wall.CanDrawCnntLine(pixels), pixels == 1 || pixels == 49) << pixels;
+    for (const QSize& size : {QSize(60, 200), QSize(200, 60)}) { // a line needs room both ways
+        Place(*wall.GetTile(2), QRect(QPoint(0, 0), size));
+        for (int pixels : {-1, 0, 1, 59, 60, 99})
+            EXPECT_EQ(wall.CanDrawCnntLine(pixels), pixels == 1 || pixels == 59) << pixels;
+    }
 }
 
 TEST(TileSetChainTest, NumberSetRectContinuesTheChainAtNext)
