@@ -44,11 +44,12 @@ void CollectGroups(QSet<const CTileGroup*>& out, const CSender& sender)
 
 } // namespace
 
-CSender::CSender() : m_id(QUuid::createUuid())
+CSender::CSender()
 {
+    m_fields.id = QUuid::createUuid();
     static const PortColors colors = MakePortColors();
     for (size_t i = 0; i < m_ports.size(); ++i) {
-        m_ports[i].SetSenderIdAndPortIndex(m_id, static_cast<int>(i));
+        m_ports[i].SetSenderIdAndPortIndex(m_fields.id, static_cast<int>(i));
         m_ports[i].SetPortColor(colors[i]);
     }
 }
@@ -60,12 +61,7 @@ void CSender::CopySender(const CSender& other)
     if (this == &other)
         return;
     CSenderParams::operator=(other);
-    m_canvasSize = other.m_canvasSize;
-    m_id = other.m_id;
-    m_name = other.m_name;
-    m_printName = other.m_printName;
-    m_portCount = other.m_portCount;
-    m_offset = other.m_offset;
+    m_fields = other.m_fields;
     for (size_t i = 0; i < m_ports.size(); ++i) {
         const CPort& port = other.m_ports[i];
         m_ports[i] = port;
@@ -73,16 +69,6 @@ void CSender::CopySender(const CSender& other)
         m_ports[i].SetVisible(port.IsVisible());
         m_ports[i].SetPortArea(port.GetPortArea());
     }
-    m_netIp = other.m_netIp;
-    m_monitorRenderArea = other.m_monitorRenderArea;
-    m_monitorRenderPos = other.m_monitorRenderPos;
-    m_monitorRcvOffset = other.m_monitorRcvOffset;
-    m_recentPort = other.m_recentPort;
-    m_belongGroup = other.m_belongGroup;
-    m_printNameEnable = other.m_printNameEnable;
-    m_bkImgShow = other.m_bkImgShow;
-    m_bkImgStretch = other.m_bkImgStretch;
-    m_bkImgAlpha = other.m_bkImgAlpha;
 }
 
 bool CSender::LayoutCopy(const CSender& other)
@@ -94,114 +80,114 @@ bool CSender::LayoutCopy(const CSender& other)
 
 QUuid CSender::GetId() const
 {
-    return m_id;
+    return m_fields.id;
 }
 
 void CSender::SetId(const QUuid& id)
 {
-    m_id = id;
+    m_fields.id = id;
     for (size_t i = 0; i < m_ports.size(); ++i)
-        m_ports[i].SetSenderIdAndPortIndex(m_id, static_cast<int>(i));
+        m_ports[i].SetSenderIdAndPortIndex(m_fields.id, static_cast<int>(i));
 }
 
 QString CSender::GetSenderName() const
 {
-    return m_name;
+    return m_fields.name;
 }
 
 void CSender::SetSenderName(const QString& name)
 {
-    m_name = name;
+    m_fields.name = name;
 }
 
 bool CSender::IsPrintNameEnable() const
 {
-    return m_printNameEnable;
+    return m_fields.printNameEnable;
 }
 
 void CSender::SetPrintNameEnable(bool enable)
 {
-    m_printNameEnable = enable;
+    m_fields.printNameEnable = enable;
 }
 
 QString CSender::GetPrintName() const
 {
-    return m_printName;
+    return m_fields.printName;
 }
 
 void CSender::SetPrintName(const QString& name)
 {
-    m_printName = name;
+    m_fields.printName = name;
 }
 
 QUuid CSender::GetBelongGroup() const
 {
-    return m_belongGroup;
+    return m_fields.belongGroup;
 }
 
 void CSender::SetBelongGroup(const QUuid& id)
 {
-    m_belongGroup = id;
+    m_fields.belongGroup = id;
 }
 
 unsigned long CSender::GetNetSenderIP() const
 {
-    return m_netIp;
+    return m_fields.netIp;
 }
 
 void CSender::SetNetSenderIP(unsigned long ip)
 {
-    m_netIp = static_cast<quint32>(ip);
+    m_fields.netIp = static_cast<quint32>(ip);
 }
 
 bool CSender::IsBKImgShow() const
 {
-    return m_bkImgShow;
+    return m_fields.bkImgShow;
 }
 
 void CSender::SetBKImgShow(bool show)
 {
-    m_bkImgShow = show;
+    m_fields.bkImgShow = show;
 }
 
 int CSender::GetBKImgAlpha() const
 {
-    return m_bkImgAlpha;
+    return m_fields.bkImgAlpha;
 }
 
 void CSender::SetBKImgAlpha(int alpha)
 {
-    m_bkImgAlpha = alpha;
+    m_fields.bkImgAlpha = alpha;
 }
 
 bool CSender::IsBKImgStretch() const
 {
-    return m_bkImgStretch;
+    return m_fields.bkImgStretch;
 }
 
 void CSender::SetBKImgStretch(bool stretch)
 {
-    m_bkImgStretch = stretch;
+    m_fields.bkImgStretch = stretch;
 }
 
 QSize CSender::GetCanvasSize() const
 {
-    return m_canvasSize;
+    return m_fields.canvasSize;
 }
 
 void CSender::SetCanvasSize(const QSize& size)
 {
-    m_canvasSize = size;
+    m_fields.canvasSize = size;
 }
 
 QSize CSender::GetOffset() const
 {
-    return m_offset;
+    return m_fields.offset;
 }
 
 void CSender::SetOffset(const QSize& offset)
 {
-    m_offset = offset;
+    m_fields.offset = offset;
 }
 
 void CSender::OffsetValid()
@@ -210,8 +196,8 @@ void CSender::OffsetValid()
     const auto isEmpty = [](int first, int last) { return quint32(first) - quint32(last) == 1; };
     if (isEmpty(bound.left(), bound.right()) || isEmpty(bound.top(), bound.bottom()))
         return;
-    m_offset.setWidth(qMax(m_offset.width(), SaturatedInt(-qint64(bound.left()))));
-    m_offset.setHeight(qMax(m_offset.height(), SaturatedInt(-qint64(bound.top()))));
+    m_fields.offset.setWidth(qMax(m_fields.offset.width(), SaturatedInt(-qint64(bound.left()))));
+    m_fields.offset.setHeight(qMax(m_fields.offset.height(), SaturatedInt(-qint64(bound.top()))));
 }
 
 void CSender::OffsetToZero(bool zero)
@@ -227,14 +213,14 @@ bool CSender::IsOffsetToZero()
 void CSender::SetPortCount(int count)
 {
     if (count == 0)
-        m_portCount = kDefaultPortCount;
+        m_fields.portCount = kDefaultPortCount;
     else if (IsPortCountAccepted(count))
-        m_portCount = count;
+        m_fields.portCount = count;
 }
 
 int CSender::GetPortCount() const
 {
-    return m_portCount;
+    return m_fields.portCount;
 }
 
 bool CSender::IsPortCountAccepted(int count)
@@ -255,12 +241,12 @@ const CPort* CSender::GetPort(int index) const
 
 int CSender::GetRecentPortIndex() const
 {
-    return m_recentPort;
+    return m_fields.recentPort;
 }
 
 void CSender::SetRecentPortIndex(int port)
 {
-    m_recentPort = port;
+    m_fields.recentPort = port;
 }
 
 bool CSender::HaveBkPorts() const
@@ -270,12 +256,12 @@ bool CSender::HaveBkPorts() const
 
 bool CSender::ExistBackupDest(bool* selfBackup) const
 {
-    for (int i = 0; i < m_portCount; ++i) {
+    for (int i = 0; i < m_fields.portCount; ++i) {
         const CPort* port = GetPort(i);
         if (!port->IsBackupDest())
             continue;
         if (selfBackup)
-            *selfBackup = port->GetBackupSrcSenderId() == m_id;
+            *selfBackup = port->GetBackupSrcSenderId() == m_fields.id;
         return true;
     }
     return false;
@@ -284,10 +270,10 @@ bool CSender::ExistBackupDest(bool* selfBackup) const
 bool CSender::GetTileSet(CTileSet& out) const
 {
     CTileSet found;
-    for (int i = 0; i < m_portCount; ++i)
+    for (int i = 0; i < m_fields.portCount; ++i)
         found.AddFromOther(*GetPort(i)->GetPortProject()->GetTileSet());
     out = found;
-    return m_portCount > 0;
+    return m_fields.portCount > 0;
 }
 
 bool CSender::GetTileGroupSet(CTileGroupSet& out) const
@@ -297,7 +283,7 @@ bool CSender::GetTileGroupSet(CTileGroupSet& out) const
         const CTileGroupSet* groups = GetPort(i)->GetPortProject()->GetTileGroupSet();
         if (&out == groups)
             return false;
-        if (i < m_portCount)
+        if (i < m_fields.portCount)
             found.AddFromOther(*groups);
     }
 
@@ -315,7 +301,7 @@ bool CSender::GetTileGroupSet(CTileGroupSet& out) const
     out.RemoveAll();
     out.AddFromOther(found);
     dropped.DeleteAll();
-    return m_portCount > 0;
+    return m_fields.portCount > 0;
 }
 
 bool CSender::GetAllTileSetInGroup(CTileSet& out, const QUuid& group) const
@@ -385,7 +371,7 @@ QRect CSender::GetBound() const
 {
     QRect bound;
     bool first = true;
-    for (int i = 0; i < m_portCount; ++i) {
+    for (int i = 0; i < m_fields.portCount; ++i) {
         const CPort* port = GetPort(i);
         if (port->GetPortProject()->GetTileSet()->GetCount() == 0)
             continue;
@@ -397,38 +383,38 @@ QRect CSender::GetBound() const
 
 QRect CSender::GetMonitorRenderArea() const
 {
-    return m_monitorRenderArea;
+    return m_fields.monitorRenderArea;
 }
 
 void CSender::SetMonitorRenderArea(const QRect& area)
 {
-    m_monitorRenderArea = area;
+    m_fields.monitorRenderArea = area;
 }
 
 int CSender::GetMonitorRenderRelativePos() const
 {
-    return m_monitorRenderPos;
+    return m_fields.monitorRenderPos;
 }
 
 void CSender::SetMonitorRenderRelativePos(int position)
 {
-    m_monitorRenderPos = position;
+    m_fields.monitorRenderPos = position;
 }
 
 QPoint CSender::GetMonitorRcvOffsetPt() const
 {
-    return m_monitorRcvOffset;
+    return m_fields.monitorRcvOffset;
 }
 
 void CSender::SetMonitorRcvOffsetPt(const QPoint& point)
 {
-    m_monitorRcvOffset = point;
+    m_fields.monitorRcvOffset = point;
 }
 
 void CSender::ResetMonitorRenderParam(bool all)
 {
-    m_monitorRenderArea = QRect();
-    m_monitorRenderPos = 0;
+    m_fields.monitorRenderArea = QRect();
+    m_fields.monitorRenderPos = 0;
     if (all)
-        m_monitorRcvOffset = QPoint();
+        m_fields.monitorRcvOffset = QPoint();
 }

@@ -95,21 +95,27 @@ public:
     void ResetMonitorRenderParam(bool all); ///< area and position; with `all` the receiver offset too
 
 private:
-    QSize m_canvasSize{-1, -1};
-    QUuid m_id;
-    QString m_name;
-    QString m_printName;
-    int m_portCount = 4;
-    QSize m_offset{-1, -1};
+    /// What a copy takes as it is.
+    struct Fields
+    {
+        QSize canvasSize{-1, -1};
+        QUuid id;
+        QString name;
+        QString printName;
+        int portCount = 4;
+        QSize offset{-1, -1};
+        quint32 netIp = 0;
+        QRect monitorRenderArea;
+        int monitorRenderPos = 0;
+        QPoint monitorRcvOffset;
+        int recentPort = 0;
+        QUuid belongGroup;
+        bool printNameEnable = false;
+        bool bkImgShow = false;
+        bool bkImgStretch = false;
+        int bkImgAlpha = 0;
+    };
+
+    Fields m_fields;
     std::array<CPort, kMaxPorts> m_ports;
-    quint32 m_netIp = 0;
-    QRect m_monitorRenderArea;
-    int m_monitorRenderPos = 0;
-    QPoint m_monitorRcvOffset;
-    int m_recentPort = 0;
-    QUuid m_belongGroup;
-    bool m_printNameEnable = false;
-    bool m_bkImgShow = false;
-    bool m_bkImgStretch = false;
-    int m_bkImgAlpha = 0;
 };
