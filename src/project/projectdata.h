@@ -65,6 +65,8 @@ public:
                               bool numbered) const; ///< "Processor" and the number for a nameless one
     QString GetPortDescription(int sender, int port) const;
     void DeleteSender(const QUuid& id);
+    /// False when it may not go. Its background image goes with it; the later senders' images take the
+    /// numbers of their senders, unless `keepImages` leaves them under the numbers that they have.
     bool DeleteSender(int index, bool ask, bool keepImages, bool selectPrevious, QWidget* parent);
     bool DeleteSenderBefore(int index, bool ask, QWidget* parent); ///< may it go? Tells the user why not
     void DeleteAllSender();
@@ -128,11 +130,16 @@ public:
     static quint32 GetIntFromOctString(const QString& text); ///< host-order IPv4, or a decimal number; else 0
 
     // project file
+    /// False: refused, and nothing was written. True does not mean that there is an archive: ask
+    /// GetLastFileError(), which is empty when it was written with all that belongs into it. The history is
+    /// not told: CProjectUndoRedo::SetAsSaveStep makes the steps count as saved, while what PrjModify marked
+    /// (senders and sender groups added, renamed or deleted) stays modified until the next load.
     bool SaveProjectToFile(const QString& path, CCustomProgressbar* progress);
     /// `error` receives the minimum version of a file that is too new. On failure the project is as it was.
     bool LoadProjectFromFile(const char* path, QString& error, CCustomProgressbar* progress);
     QString GetMinVersionSupport() const;
-    QString GetLastFileError() const; ///< why the last file operation did not do all; empty when it did
+    /// Why the last file operation did not do all that was asked, whatever it returned; empty when it did.
+    QString GetLastFileError() const;
 
     // layout files of one sender or one port
     bool ExportSender(const QString& path, const QUuid& senderId);
@@ -203,7 +210,7 @@ public:
     void WriteParameterFileInfo(QDomDocument document, QDomElement* parent);
     void ReadParameterFileInfo(QDomDocument document, QDomElement* element);
 
-    // elements of the layout
+    // elements of the layout; one that holds more than a file may changes nothing
     void WriteSender(QDomDocument document, QDomElement* parent, CCustomProgressbar* progress);
     bool ReadSender(QDomDocument document, QDomElement* element, QString& error,
                     CCustomProgressbar* progress);

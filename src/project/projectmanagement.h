@@ -29,7 +29,8 @@ public:
     void SetNeedSave(bool needSave);
 
     /// Lets the user choose a folder and saves every project that has a device-set name there, as that name +
-    /// ".prj". False when no folder was chosen; a project that cannot be saved is not reported.
+    /// ".prj", a later one of the same name with " (2)" behind it. Files of the names are replaced. False
+    /// when no folder was chosen; a project that cannot be saved is told by its own GetLastFileError() alone.
     bool SaveMutiProject(QProgressDialog* dialog);
 
 private:

@@ -53,6 +53,9 @@ TEST_F(ProductDirectorySetTest, ProductsAreNumberedInOrderOfTheListing)
 
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(library.LoadProductInfo(), 4);
+        EXPECT_EQ(library.GetSubDirs().at(0)->IsExpanded(), round == 1)
+            << "folders stay expanded over a rescan";
+        library.GetSubDirs().at(0)->SetExpanded(true);
         EXPECT_EQ(library.FindProductFromFileName(QStringLiteral(".hidden.rcvp"))->GetMenuID(), 8192U);
         EXPECT_EQ(library.FindProductFromFileName(QStringLiteral("z.rcvbp"))->GetMenuID(), 8193U);
         EXPECT_EQ(library.FindProductFromFileName(QStringLiteral("b.rcvp"))->GetMenuID(), 8194U);
@@ -147,6 +150,9 @@ TEST_F(ProductDirectorySetTest, DigestSearchFollowsEveryChangeOfTheTree)
     const SMD5 changed = SMD5::FromString(QString(SMD5::kDigits, QLatin1Char('e')));
 
     EXPECT_EQ(library.FindProductFromGuid(was), a);
+    EXPECT_EQ(CProductDirectorySet::GetTraverFirstProduct(&library), a);
+    EXPECT_EQ(CProductDirectorySet::GetThisFirstProduct(&library), nullptr);
+    EXPECT_EQ(CProductDirectorySet::GetThisFirstProduct(sub), a);
     a->SetMd5(changed);
     EXPECT_EQ(library.FindProductFromGuid(was), nullptr);
     EXPECT_EQ(library.FindProductFromGuid(changed), a);
@@ -172,28 +178,4 @@ TEST_F(ProductDirectorySetTest, PixelSizeScansAnEmptyLibraryAndHasADefault)
     EXPECT_EQ(name, QStringLiteral("kept"));
     EXPECT_TRUE(library.GetProductTypeNameFromGuid(md5, name));
     EXPECT_EQ(name, QStringLiteral("a"));
-}
-
-TEST_F(ProductDirectorySetTest, FoldersStayExpandedOverARescan)
-{
-    Write("sub/a.rcvp", "a");
-    library.SetExpanded(true);
-    library.LoadProductInfo();
-    library.GetSubDirs().at(0)->SetExpanded(true);
-    Write("0/b.rcvp", "b");
-    library.LoadProductInfo();
-    EXPECT_TRUE(library.IsExpanded());
-    EXPECT_FALSE(library.GetSubDirs().at(0)->IsExpanded());
-    EXPECT_TRUE(library.GetSubDirs().at(1)->IsExpanded());
-}
-
-TEST_F(ProductDirectorySetTest, FirstProductsAreTakenByLevel)
-{
-    Write("sub/a.rcvp", "a");
-    library.LoadProductInfo();
-    CProduct* a = library.GetSubDirs().at(0)->GetProducts().at(0);
-    EXPECT_EQ(CProductDirectorySet::GetTraverFirstProduct(&library), a);
-    EXPECT_EQ(CProductDirectorySet::GetThisFirstProduct(&library), nullptr);
-    EXPECT_EQ(CProductDirectorySet::GetThisFirstProduct(library.GetSubDirs().at(0)), a);
-    EXPECT_EQ(CProductDirectorySet::GetTraverFirstProduct(nullptr), nullptr);
 }

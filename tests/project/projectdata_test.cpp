@@ -247,6 +247,8 @@ TEST_F(ProjectDataTest, ListsInTextsComeBackAndLoseOnlyTheirSeparators)
     project.SetVideoInfoFromString(setting, QStringLiteral("1,2,3,1;4,5,6,0;"));
     EXPECT_EQ(setting.videoInputs.size(), 2);
     EXPECT_EQ(project.GetVideoInfoString(), QStringLiteral("1,2,3,1;4,5,6,0;"));
+    EXPECT_EQ(CProjectData::GetColorStr(-5) + CProjectData::GetColorStr(3) + CProjectData::GetColorStr(4),
+              QStringLiteral("ColorRedColorWrite"));
 }
 
 TEST_F(ProjectDataTest, AllCabinetsOfAllSendersAreSelectedInTheDesignView)
@@ -283,24 +285,4 @@ TEST_F(ProjectDataTest, GammaOfATypeIsSetOnceAndDeletedAlone)
     EXPECT_FALSE(project.GetRcvParamGamma(a, nullptr));
     EXPECT_TRUE(project.GetRcvParamGamma(b, &gamma));
     EXPECT_EQ(gamma, 3);
-}
-
-TEST(ProjectTextTest, AddressesAreFourDecimalOctetsOrOneNumber)
-{
-    const std::pair<const char*, quint32> cases[] = {
-        {"192.168.0.10", 3232235530u},
-        {" 3232235530 ", 3232235530u},
-        {"010.0.0.1", 167772161u},
-        {"4294967296", 0u},
-        {"1.2.3.256", 0u},
-        {"1.2.3", 0u},
-        {"1.2.3.4.5", 0u},
-        {"-1.2.3.4", 0u},
-        {"", 0u},
-    };
-    for (const auto& [text, ip] : cases)
-        EXPECT_EQ(CProjectData::GetIntFromOctString(QString::fromLatin1(text)), ip) << text;
-    EXPECT_EQ(CProjectData::GetColorStr(-5), QStringLiteral("ColorRed"));
-    EXPECT_EQ(CProjectData::GetColorStr(3), QStringLiteral("ColorWrite"));
-    EXPECT_EQ(CProjectData::GetColorStr(4), QString());
 }
