@@ -1,6 +1,7 @@
 #include "common/xmlreader.h"
 
 #include "common/xmlcleaner.h"
+#include "common/xmltagguard.h"
 
 #include <expat.h>
 
@@ -46,17 +47,12 @@ struct ParseState
     }
 };
 
-/// Why the attributes of an element are too much, null when they are not.
-const char* WhyTooMuch(const XML_Char** attributes)
+bool HasLongValue(const XML_Char** attributes)
 {
-    int count = 0;
-    for (const XML_Char** at = attributes; *at; at += 2) {
-        if (++count > kMaxXmlAttributes)
-            return QT_TRANSLATE_NOOP("OrvanData", "元素的属性过多。");
+    for (const XML_Char** at = attributes; *at; at += 2)
         if (strnlen(at[1], kMaxXmlText + 1) > kMaxXmlText)
-            return kTextTooLong;
-    }
-    return nullptr;
+            return true;
+    return false;
 }
 
 void OnStart(void* data, const XML_Char* name, const XML_Char** attributes)
@@ -65,8 +61,8 @@ void OnStart(void* data, const XML_Char* name, const XML_Char** attributes)
     state.text = 0;
     if (++state.depth > kMaxXmlDepth)
         return state.Refuse(QT_TRANSLATE_NOOP("OrvanData", "元素嵌套过深。"));
-    if (const char* why = WhyTooMuch(attributes))
-        return state.Refuse(why);
+    if (HasLongValue(attributes))
+        return state.Refuse(kTextTooLong);
     XmlHandler* parent = state.open.back();
     XmlHandler* handler = parent ? parent->Child(name) : nullptr;
     state.open.push_back(handler);
@@ -130,6 +126,7 @@ QString ParserError(const ParseState& state)
 bool FeedAll(QIODevice& source, ParseState& state, QString* error)
 {
     XmlCleaner cleaner;
+    XmlTagGuard guard;
     QByteArray raw;
     QByteArray clean;
     qint64 total = 0;
@@ -152,13 +149,18 @@ bool FeedAll(QIODevice& source, ParseState& state, QString* error)
         cleaner.Take(raw.constData(), got, clean);
         if (got == 0)
             cleaner.Finish(clean);
+        if (!guard.Accepts(clean)) {
+            *error = Message(QT_TRANSLATE_NOOP("OrvanData", "元素的属性过多。"));
+            return false;
+        }
         fed += clean.size();
         if (XML_Parse(state.parser, clean.constData(), clean.size(), got == 0) == XML_STATUS_ERROR) {
             *error = ParserError(state);
             return false;
         }
-        if (got == 0)
-            return true;
+        *error = state.open.front()->GetRefusal();
+        if (got == 0 || !error->isEmpty())
+            return error->isEmpty();
     }
 }
 

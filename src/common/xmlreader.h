@@ -25,6 +25,8 @@ public:
     virtual XmlHandler* Child(std::string_view /*name*/) { return nullptr; } ///< [ref] null: passed over
     virtual void Aside() {} ///< there is a comment, an instruction or a CDATA section in it
     virtual void End() {}
+    /// Why the document is read no further. The handler above the root is asked now and then; empty: read on.
+    virtual QString GetRefusal() const { return QString(); }
 };
 
 /// Reads a document with constant memory; `document` stands above the root and is asked for it by Child. A

@@ -22,8 +22,8 @@ constexpr char kPortRoot[] = "PortLayout";
 class PathReader : public XmlHandler
 {
 public:
-    PathReader(std::initializer_list<std::string_view> names, XmlHandler& reader)
-        : m_names(names), m_reader(reader)
+    PathReader(std::initializer_list<std::string_view> names, XmlHandler& reader, const ReadReport& report)
+        : m_names(names), m_reader(reader), m_report(report)
     {}
 
     bool WasFound() const { return m_found; }
@@ -37,21 +37,23 @@ public:
         m_found = true;
         return &m_reader;
     }
+    QString GetRefusal() const override { return m_report.GetRefusal(); }
 
 private:
     std::vector<std::string_view> m_names;
     XmlHandler& m_reader;
+    const ReadReport& m_report;
     size_t m_depth = 0;
     bool m_found = false;
 };
 
 bool ReadElement(const QByteArray& content, std::initializer_list<std::string_view> names, XmlHandler& reader,
-                 QString& error)
+                 const ReadReport& report, QString& error)
 {
     QBuffer source;
     source.setData(content);
     source.open(QIODevice::ReadOnly);
-    PathReader document(names, reader);
+    PathReader document(names, reader, report);
     if (!ParseXml(source, document, &error))
         return false;
     if (!document.WasFound())
@@ -147,10 +149,8 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
     SenderReader check(checked);
     check.SetTarget(&probe, SenderParts::LayoutOnly, false);
     if (!ReadInput(path, kMaxXmlBytes, &content, &m_lastFileError)
-        || !ReadElement(content, names, check, m_lastFileError))
+        || !ReadElement(content, names, check, checked, m_lastFileError))
         return false;
-    if (checked.IsRefused())
-        return FailFile(checked.GetRefusal());
 
     QList<CPort*> replaced;
     for (int i = 0; i < kMaxPorts; ++i)
@@ -162,7 +162,7 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
     SenderReader reader(report);
     reader.SetTarget(sender, attributes ? SenderParts::LayoutAndView : SenderParts::LayoutOnly,
                      keepLockedPorts);
-    if (!ReadElement(content, names, reader, m_lastFileError))
+    if (!ReadElement(content, names, reader, report, m_lastFileError))
         return false;
     RenewGroupIdsOf(replaced);
     if (attributes)
@@ -200,10 +200,8 @@ bool CProjectData::ImportPort(const QString& path)
     PortReader reader(report);
     reader.SetTarget(&imported, sender->GetId(), index, false);
     if (!ReadInput(path, kMaxXmlBytes, &content, &m_lastFileError)
-        || !ReadElement(content, {kPortRoot}, reader, m_lastFileError))
+        || !ReadElement(content, {kPortRoot}, reader, report, m_lastFileError))
         return false;
-    if (report.IsRefused())
-        return FailFile(report.GetRefusal());
 
     port->GetPortProject()->ClearAllTiles();
     *port = imported;

@@ -218,8 +218,6 @@ bool CProjectData::LoadDocument(
     version = reader.GetRefusedVersion();
     if (!version.isNull())
         return FailFile(QCoreApplication::translate("OrvanData", "此文件需要更新的版本：") + version);
-    if (report.IsRefused())
-        return FailFile(report.GetRefusal());
 
     const QList<SParameterFileInfo> rows = TakeContent(content);
     if (distribute)

@@ -36,6 +36,7 @@ public:
     bool HasRoot() const { return m_root.wasSeen; } ///< whether the root was that of a project
 
     XmlHandler* Child(std::string_view name) override;
+    QString GetRefusal() const override { return m_report.GetRefusal(); }
 
 private:
     class Root : public XmlHandler

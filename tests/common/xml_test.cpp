@@ -80,6 +80,19 @@ TEST(XmlReaderTest, NulIsPassedOverHoweverItIsWritten)
     }
 }
 
+TEST(XmlReaderTest, OnlyValuesInATagCountAsItsAttributes)
+{
+    QByteArray many;
+    for (int i = 0; i <= kMaxXmlAttributes; ++i)
+        many += " a" + QByteArray::number(i) + "='>'";
+    const QByteArray others[] = {"<!--<b" + many + "-->", "<![CDATA[<b" + many + "]]]>",
+                                 "<?b <c" + many + " ?>", "<b>" + many + "</b>", "<b a=\"" + many + "\"/>"};
+    for (const QByteArray& other : others) {
+        Parsed("<r>" + other + "</r>", true);
+        Parsed("<r>" + other + "<b" + many + "/></r>", false);
+    }
+}
+
 TEST(XmlReaderTest, DeepNestingDoctypeAndBrokenFilesAreRefused)
 {
     EXPECT_EQ(Parsed(Nested(kMaxXmlDepth), true).size(), 3u * kMaxXmlDepth);
