@@ -275,13 +275,14 @@ bool CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirec
         if (copied == Copied::Yes) {
             left -= QFileInfo(NumberedPath(i)).size();
             ++entries;
+        } else if (copied == Copied::Unwritable) {
+            report.Refuse(error);
+            return false;
         } else if (error.isEmpty()) {
             ReportMissing(rows[i], report);
         } else {
             ReportUnsaved(rows[i], error, report);
         }
-        if (copied == Copied::Unwritable)
-            return false;
     }
     return true;
 }

@@ -38,7 +38,7 @@ bool ReplaceDocument(const std::function<bool(QIODevice&)>& write, QString* erro
 bool IsInTheWay(const QString& path);
 
 /// Lays the files of the rows down by their numbers. One that is nowhere to be found, cannot be read or is
-/// too large for an archive is left out and reported; false, with the reason, when the folder takes no copy.
+/// too large for an archive is left out and reported; refused, and false, when the folder takes no copy.
 bool CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
                       ReadReport& report);
 

@@ -87,7 +87,7 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     m_lastFileError = report.Text();
     if (!saved)
         m_lastFileError = QCoreApplication::translate("OrvanData", "项目文件没有保存：%1")
-                              .arg(complete ? error : m_lastFileError);
+                              .arg(complete ? error : report.GetRefusal());
     return true;
 }
 
