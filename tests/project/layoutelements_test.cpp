@@ -1,6 +1,7 @@
 #include "common/xmldom.h"
 #include "layout/tile.h"
 #include "layout/tilegroup.h"
+#include "project/layoutdescription.h"
 #include "project/projectdata.h"
 #include "support/wallbuilder.h"
 
@@ -107,78 +108,56 @@ TEST_F(LayoutElementsTest, BackupsAreTakenOnlyWhenThePortSaysItIsOne)
     EXPECT_TRUE(port.IsFlagLock()) << "a locked port that is kept stays untouched";
 }
 
-TEST_F(LayoutElementsTest, GroupTreesKeepTheirNestingAndDropRepeatedIds)
-{
-    CPort port;
-    const QUuid a = MakeWall(port, 2, 1);
-    const QUuid b = MakeWall(port, 2, 1);
-    const QUuid c = MakeWall(port, 2, 1);
-    NestGroups(port, b, {c});
-    NestGroups(port, a, {b});
-    QDomDocument document;
-    QDomElement root = document.createElement(QStringLiteral("Port_1"));
-    project.WriteTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &GroupsOf(port), &root);
-    const QDomElement deepest = root.firstChildElement()
-                                    .firstChildElement(QStringLiteral("TileGroup_1"))
-                                    .firstChildElement(QStringLiteral("TileGroup_1_1"))
-                                    .firstChildElement(QStringLiteral("TileGroup_1_1_1"));
-    EXPECT_EQ(deepest.attribute(QStringLiteral("GroupId")), c.toString());
-
-    CTileGroupSet read;
-    project.ReadTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &tiles, &read, &root);
-    ASSERT_NE(read.GetSubGroupBySubID(c), nullptr);
-    EXPECT_EQ(read.GetSubGroupBySubID(c)->GetParentGroupID(), b);
-
-    QDomElement layout = root.firstChildElement();
-    layout.setAttribute(QStringLiteral("GroupCount"), 2);
-    QDomElement repeated = document.createElement(QStringLiteral("TileGroup_2"));
-    repeated.setAttribute(QStringLiteral("GroupId"), c.toString());
-    layout.appendChild(repeated);
-    project.ReadTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &tiles, &read, &root);
-    EXPECT_EQ(read.GetDirectCount(), 1);
-    read.DeleteAll();
-}
-
-TEST_F(LayoutElementsTest, GroupsDeeperThanTheLimitAreCutBothWays)
+TEST_F(LayoutElementsTest, GroupTreesLoseRepeatedIdsAndWhatLiesTooDeep)
 {
     CTileGroupSet deep;
     CTileGroupSet* level = &deep;
-    for (int depth = 0; depth < 1010; ++depth) {
-        auto* group = new CTileGroup;
-        level->AddGroup(group, true);
-        level = group->GetSubGroupSet();
+    for (int depth = 0; depth < layoutnames::kMaxGroupDepth + 10; ++depth) {
+        level->AddGroup(new CTileGroup, true);
+        level = level->GetDirectGroupByDirIndex(0)->GetSubGroupSet();
     }
+    const CTileGroup* second =
+        deep.GetDirectGroupByDirIndex(0)->GetSubGroupSet()->GetDirectGroupByDirIndex(0);
     QDomDocument document;
     QDomElement root = document.createElement(QStringLiteral("Port_1"));
     project.WriteTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &deep, &root);
+    QDomElement layout = root.firstChildElement();
+    EXPECT_EQ(layout.firstChildElement().firstChildElement().tagName(), QStringLiteral("TileGroup_1_1"));
+    layout.setAttribute(QStringLiteral("GroupCount"), 2);
+    QDomElement repeated = document.createElement(QStringLiteral("TileGroup_2"));
+    repeated.setAttribute(QStringLiteral("GroupId"), second->GetID().toString());
+    layout.appendChild(repeated);
+
     CTileGroupSet read;
     project.ReadTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &tiles, &read, &root);
+    EXPECT_EQ(read.GetDirectCount(), 1);
+    ASSERT_NE(read.GetSubGroupBySubID(second->GetID()), nullptr);
+    EXPECT_EQ(read.GetSubGroupBySubID(second->GetID())->GetParentGroupID(),
+              deep.GetDirectGroupByDirIndex(0)->GetID());
     QList<CTileGroup*> groups;
-    EXPECT_EQ(read.GetGroupListRecursive(groups), 1000);
+    EXPECT_EQ(read.GetGroupListRecursive(groups), layoutnames::kMaxGroupDepth);
     deep.DeleteAll();
     read.DeleteAll();
 }
 
 TEST_F(LayoutElementsTest, SingleSenderKeepsItsIdentity)
 {
-    QDomElement element =
-        Parsed("<SenderLayout ID=\"{c95ad16b-6333-4764-bb20-9ee65602cbb4}\" Name=\"file\" IPAddr=\"5\" "
-               "PortCount=\"8\" "
-               "CanvasSizeWidth=\"640\" CanvasSizeHeight=\"480\" RecentPortIndex=\"160\"/>");
-    CSender target;
-    target.SetNetSenderIP(9);
-    project.ReadSingleSender(QDomDocument(), &element, &target, sender, false, false);
-    EXPECT_EQ(target.GetId(), sender);
-    EXPECT_EQ(target.GetNetSenderIP(), 9u);
-    EXPECT_EQ(target.GetPortCount(), 8);
-    EXPECT_EQ(target.GetRecentPortIndex(), 0);
-    EXPECT_EQ(target.GetSenderName(), QString());
-    project.ReadSingleSender(QDomDocument(), &element, &target, sender, false, true);
-    EXPECT_EQ(target.GetSenderName(), QStringLiteral("file"));
-    EXPECT_EQ(target.GetCanvasSize(), QSize(640, 480));
-
+    CSender source;
+    source.SetSenderName(QStringLiteral("file"));
+    source.SetNetSenderIP(5);
     QDomDocument document;
     QDomElement root = document.createElement(QStringLiteral("SenderLayout"));
-    project.WriteSingleSender(document, &root, &target);
-    EXPECT_FALSE(root.firstChildElement().hasAttribute(QStringLiteral("SenderType")));
+    project.WriteSingleSender(document, &root, &source);
+    QDomElement element = root.firstChildElement();
+    EXPECT_FALSE(element.hasAttribute(QStringLiteral("SenderType")));
+    element.setAttribute(QStringLiteral("RecentPortIndex"), 160);
+    CSender target;
+    target.SetRecentPortIndex(3);
+    for (const bool attributes : {false, true}) {
+        project.ReadSingleSender(document, &element, &target, sender, false, attributes);
+        EXPECT_EQ(target.GetId(), sender);
+        EXPECT_EQ(target.GetNetSenderIP(), 0u);
+        EXPECT_EQ(target.GetRecentPortIndex(), 0);
+        EXPECT_EQ(target.GetSenderName() == QStringLiteral("file"), attributes);
+    }
 }

@@ -272,17 +272,14 @@ TEST_F(ProjectDataTest, GammaOfATypeIsSetOnceAndDeletedAlone)
 {
     const SMD5 a = SMD5::FromString(QString(32, QLatin1Char('a')));
     const SMD5 b = SMD5::FromString(QString(32, QLatin1Char('b')));
-    float gamma = 0;
     project.SetRcvParamGamma(a, 1);
-    EXPECT_FALSE(project.GetRcvParamGamma(a, &gamma)) << "setting adds none";
-    project.AddRcvParamGamma(a, 2);
-    project.AddRcvParamGamma(b, 3);
-    project.AddRcvParamGamma(a, 4);
-    EXPECT_EQ(project.GetRcvParamGammas().size(), 2);
+    EXPECT_FALSE(project.GetRcvParamGamma(a, nullptr)) << "setting adds none";
+    for (const auto& [type, gamma] : {std::pair(a, 2.F), std::pair(b, 3.F), std::pair(a, 4.F)})
+        project.AddRcvParamGamma(type, gamma);
+    float gamma = 0;
     EXPECT_TRUE(project.GetRcvParamGamma(a, &gamma));
     EXPECT_EQ(gamma, 4);
     project.DeleteRcvParamGamma(a);
-    EXPECT_FALSE(project.GetRcvParamGamma(a, nullptr));
-    EXPECT_TRUE(project.GetRcvParamGamma(b, &gamma));
-    EXPECT_EQ(gamma, 3);
+    ASSERT_EQ(project.GetRcvParamGammas().size(), 1);
+    EXPECT_EQ(project.GetRcvParamGammas()[0].gamma, 3);
 }
