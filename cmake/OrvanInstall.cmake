@@ -28,7 +28,8 @@ endif()
 if(NOT ORVANDATA_SANITIZE)
     foreach(phase install headers host pkgconfig)
         add_test(NAME installed_${phase}
-                 COMMAND ${PROJECT_SOURCE_DIR}/cmake/try_installation.sh ${phase} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
+                 COMMAND ${PROJECT_SOURCE_DIR}/cmake/try_installation.sh ${phase} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}
+                         ${CMAKE_GENERATOR} ${CMAKE_MAKE_PROGRAM} ${CMAKE_CXX_COMPILER})
     endforeach()
     set_tests_properties(installed_install PROPERTIES FIXTURES_SETUP installation)
     set_tests_properties(installed_headers installed_host installed_pkgconfig

@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# Uses an installation as another project would: try_installation.sh PHASE SOURCE_DIR BUILD_DIR
+# Uses an installation as another project would:
+#   try_installation.sh PHASE SOURCE_DIR BUILD_DIR GENERATOR MAKE_PROGRAM COMPILER
+# The last three are those of the build itself: no other generator or compiler need be there.
 set -euo pipefail
-phase=$1 source=$2 build=$3
+phase=$1 source=$2 build=$3 generator=$4 make_program=$5 compiler=$6
 stage=$build/installed
 example=$build/example-host
 
@@ -29,11 +31,12 @@ case $phase in
         flags=$(pkg-config --cflags orvandata)
         # shellcheck disable=SC2086  # flags are words
         (cd "$stage/include" && find . -name '*.h' -printf '%P\n') | sort |
-            xargs -P "$(nproc)" -I{} sh -c 'echo "#include <$0>" |
-                g++ -x c++ -std=c++17 -fsyntax-only -Wall -Wextra -Werror "$@" - || exit 255' {} $flags
+            xargs -P "$(nproc)" -I{} sh -c 'header=$1 && shift && echo "#include <$header>" |
+                "$0" -x c++ -std=c++17 -fsyntax-only -Wall -Wextra -Werror "$@" - || exit 255' "$compiler" {} $flags
         ;;
     host)
-        cmake -S "$source/examples/host" -B "$example" -DCMAKE_PREFIX_PATH="$stage" -DCMAKE_BUILD_TYPE=Debug >/dev/null
+        cmake -S "$source/examples/host" -B "$example" -G "$generator" -DCMAKE_MAKE_PROGRAM="$make_program" \
+            -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_PREFIX_PATH="$stage" -DCMAKE_BUILD_TYPE=Debug >/dev/null
         cmake --build "$example"
         run_example "$example/orvandata-host"
         ;;
@@ -41,7 +44,7 @@ case $phase in
         find_pkgconfig
         flags=$(pkg-config --cflags --libs orvandata)
         # shellcheck disable=SC2086
-        g++ -std=c++17 "$source/examples/host/main.cpp" -o "$build/example-pkgconfig" $flags \
+        "$compiler" -std=c++17 "$source/examples/host/main.cpp" -o "$build/example-pkgconfig" $flags \
             -Wl,-rpath,"$(pkg-config --variable=libdir orvandata)"
         run_example "$build/example-pkgconfig"
         ;;

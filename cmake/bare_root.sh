@@ -1,0 +1,63 @@
+#!/usr/bin/env bash
+# Does what the README says in a new Debian root (debootstrap, minbase) with a copy of the committed tree: its
+# commands in their order, and its program. So nothing works only because it happens to be installed here.
+# Needs root, about 4 GB in TMPDIR, and the package sources of this machine. The root is removed at the end.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+refuse() {
+    echo "bare: $*" >&2
+    exit 2
+}
+
+[ "$(id -u)" -eq 0 ] || refuse "run as root"
+git rev-parse -q --verify HEAD >/dev/null || refuse "what is committed is tried, and this is no git repository"
+# Where this machine has the base system of its own release from.
+read -r suite mirror < <(. /etc/os-release && apt-get indextargets --format '$(CODENAME) $(REPO_URI)' 'Created-By: Packages' |
+    awk -v suite="${VERSION_CODENAME:-}" '$1 == suite { print; exit }') ||
+    refuse "apt knows no packages of this machine's release; try apt-get update"
+
+work=$(mktemp -d -t orvan-bare.XXXXXX)
+root=$work/root
+child=
+clean_up() {
+    [ -z "$child" ] || { kill -KILL "$child" && wait "$child"; } 2>/dev/null || true
+    rm -rf --one-file-system "$work"
+}
+trap clean_up EXIT
+trap 'exit 1' HUP INT TERM
+
+# apart COMMAND...: with mounts and processes of its own, which end with it, also when this script is stopped.
+apart() {
+    unshare --mount --pid --fork --kill-child --mount-proc "$@" &
+    child=$!
+    wait "$child"
+    child=
+}
+
+echo "== a bare $suite in $root"
+apart debootstrap --variant=minbase "$suite" "$root" "$mirror" >"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
+cp -a /etc/apt/. "$root/etc/apt/"
+cp -a /usr/share/keyrings/. "$root/usr/share/keyrings/"
+cp -L /etc/resolv.conf /etc/hosts "$root/etc/"
+tree=$root/root/tree
+mkdir "$tree"
+git archive HEAD | tar -x -C "$tree"
+
+# The README's indented lines are commands, its block of C++ is wall.cpp.
+sed -n '/^```cpp/,/^```/p' README.md | sed '/^```/d' >"$tree/wall.cpp"
+{
+    echo 'set -eo pipefail'
+    sed '/^```/,/^```/d' README.md | grep '^    ' | while read -r command; do
+        printf 'echo %q\n%s\n' "== $command" "$command"
+    done
+} >"$tree/readme.sh"
+
+proxies=()
+for name in http_proxy https_proxy no_proxy; do
+    [ -z "${!name:-}" ] || proxies+=("$name=${!name}")
+done
+apart --root="$root" --wd=/root/tree \
+    env -i HOME=/root PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin "${proxies[@]}" \
+    bash readme.sh </dev/null
+echo "bare: every command of the README worked, in $SECONDS s"
