@@ -37,7 +37,8 @@ apart() {
 
 echo "== a bare $suite in $root"
 apart debootstrap --variant=minbase "$suite" "$root" "$mirror" >"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
-cp -a /etc/apt/. "$root/etc/apt/"
+rm -r "$root/etc/apt"
+cp -a /etc/apt "$root/etc/"
 cp -a /usr/share/keyrings/. "$root/usr/share/keyrings/"
 cp -L /etc/resolv.conf /etc/hosts "$root/etc/"
 tree=$root/root/tree
