@@ -29,14 +29,17 @@ bool IsHexadecimal(const QString& text)
     });
 }
 
-/// The digests in a product list; it ends at the first entry that is missing or empty.
-QSet<SMD5> ReadProductList(const QString& path)
+/// The digests in a product list; it ends at the first entry that is missing or empty. False when the list
+/// cannot be read whole.
+bool ReadProductList(const QString& path, QSet<SMD5>& digests)
 {
     const QString noFile = QStringLiteral("NoFile");
-    QSet<SMD5> digests;
     if (CheckIni(path) != IniCheck::Harmless)
-        return digests;
+        return false;
     const QSettings list(path, QSettings::IniFormat);
+    list.allKeys(); // has every section read
+    if (list.status() != QSettings::NoError)
+        return false;
     for (int number = 1; number <= kMaxListedProducts; ++number) {
         const QString key = QStringLiteral("ProductListInfo/Product%1").arg(number);
         const QString text = list.value(key, noFile).toString();
@@ -46,7 +49,7 @@ QSet<SMD5> ReadProductList(const QString& path)
         if (!md5.IsNull() && IsHexadecimal(md5.ToString()))
             digests.insert(md5);
     }
-    return digests;
+    return true;
 }
 
 void DeleteListedProducts(const QString& folder, const QSet<SMD5>& digests)
@@ -106,7 +109,10 @@ void MigrateProductFolder(const QString& oldFolder, const QString& newFolder)
     const QString list = oldFolder + QStringLiteral("ProductList.ini");
     const QFileInfo listInfo(list);
     if (listInfo.isFile() && !listInfo.isSymLink()) {
-        DeleteListedProducts(oldFolder, ReadProductList(list));
+        QSet<SMD5> digests;
+        if (!ReadProductList(list, digests))
+            return; // which files are the user's own is not known
+        DeleteListedProducts(oldFolder, digests);
         QFile::remove(list);
         RemoveEmptySubFolders(oldFolder);
     }

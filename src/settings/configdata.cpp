@@ -1,12 +1,12 @@
 #include "settings/configdata.h"
 
-#include "settings/brokenfile.h"
 #include "settings/configdescription.h"
 #include "settings/configfile.h"
 #include "settings/customizeconfig.h"
 #include "settings/folders.h"
 #include "settings/inifile.h"
 #include "settings/interfacesettings.h"
+#include "settings/settingsfile.h"
 #include "settings/settingslookup.h"
 #include "settings/specifiediplist.h"
 
@@ -36,8 +36,8 @@ bool IsHotkey(int mode, int index)
 } // namespace
 
 CConfigData::CConfigData()
-    : m_specifiedIps(std::make_unique<SpecifiedIpList>()), m_interface(std::make_unique<InterfaceSettings>()),
-      m_customize(std::make_unique<CustomizeConfig>())
+    : m_file(std::make_unique<SettingsFile>()), m_specifiedIps(std::make_unique<SpecifiedIpList>()),
+      m_interface(std::make_unique<InterfaceSettings>()), m_customize(std::make_unique<CustomizeConfig>())
 {
     SetConfigDefaults(&m_items);
 }
@@ -53,13 +53,13 @@ bool CConfigData::SetToDefault()
 
 bool CConfigData::Load(const QString& path)
 {
-    m_path = path;
+    m_file->SetPath(path);
     m_languageFilePath.clear();
     const bool loaded = XmlLoad(path);
     if (!loaded) {
         SetToDefault();
-        if (SetBrokenFileAside(path))
-            Save();
+        m_file->Hold();
+        Save();
     }
     if (m_items.autoSelectLanguage)
         m_items.language = GetSystemLanguage();
@@ -68,7 +68,7 @@ bool CConfigData::Load(const QString& path)
 
 bool CConfigData::Save()
 {
-    const bool saved = XmlSave(m_path);
+    const bool saved = XmlSave(m_file->Path());
     return Save_UI() && saved;
 }
 
@@ -86,7 +86,8 @@ bool CConfigData::XmlSave(const QString& path) const
         for (int i = 0; i < kInterfaceCount; ++i)
             items.readOnly[size_t(i)] = lookup.StoredReadOnly(i);
     }
-    return !path.isEmpty() && WriteConfigFile(path, items);
+    return !path.isEmpty() && (path != m_file->Path() || m_file->MakeWritable())
+           && WriteConfigFile(path, items);
 }
 
 void CConfigData::SetLanguage(ELanguageType language)
@@ -165,8 +166,7 @@ QString CConfigData::GetProjectRecordPath(int index) const
 
 void CConfigData::SetUiStyles(const QList<SUiStyle>& styles)
 {
-    m_items.uiStyles = styles;
-    RepairConfig(&m_items);
+    SetStyles(styles, &m_items);
 }
 
 void CConfigData::SetCurrentUiStyle(int index)

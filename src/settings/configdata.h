@@ -13,10 +13,13 @@
 
 class CustomizeConfig;
 class InterfaceSettings;
+class SettingsFile;
 class SpecifiedIpList;
 
 /// The settings of the application that persist between runs. One object for all, used by the user-interface
-/// thread only. Each file is written where it was loaded from; nothing is written before.
+/// thread only. Each file is written where it was loaded from; before that nothing is written but the print
+/// watermark, by SetToDefault. A file that is there but could not be understood is kept beside as ".bak",
+/// over an older one; while that cannot be done, saving leaves it as it is and is false.
 class ORVANDATA_EXPORT CConfigData
 {
 public:
@@ -28,7 +31,7 @@ public:
     // settings file
     bool SetToDefault(); ///< also writes the print watermark into the product folder; always true
     /// Reads the file and remembers its path. One that is missing, empty or no settings document gives the
-    /// defaults, which are saved at once; what it held is kept beside it as ".bak".
+    /// defaults, which are saved at once.
     bool Load(const QString& path);
     bool Save();                       ///< to the path remembered, the interface settings too
     bool XmlLoad(const QString& path); ///< what the file does not name keeps its value
@@ -56,7 +59,8 @@ public:
     bool IsEnableAttraction() const { return m_items.enableAttraction; }
     void SetEnableAttraction(bool enable) { m_items.enableAttraction = enable; }
     double GetAttractionDis() const { return m_items.attractionDis; } ///< canvas pixels
-    void SetAttractionDis(double distance); ///< ignored unless finite; read back as whole pixels from 8 to 30
+    /// Ignored unless finite. Only whole pixels from 8 to 30 read back from the file; anything else gives 20.
+    void SetAttractionDis(double distance);
     QSize GetCustomerTileSize() const { return QSize(m_items.customerTileWidth, m_items.customerTileHeight); }
     void SetCustomerTileSize(const QSize& size); ///< each side clamped to 1 to 1024
     bool IsSupportMutiTileType() const { return m_items.supportMutiTileType; }
@@ -99,7 +103,7 @@ public:
 
     // styles of the windows
     QList<SUiStyle> GetUiStyles() const { return m_items.uiStyles; }
-    void SetUiStyles(const QList<SUiStyle>& styles); ///< those with a key, 16 at most
+    void SetUiStyles(const QList<SUiStyle>& styles); ///< those with a key, 16 at most; files hold no names
     int GetCurrentUiStyle() const { return m_items.currentUiStyle; }
     void SetCurrentUiStyle(int index); ///< from 0; ignored when out of range
 
@@ -122,22 +126,22 @@ public:
     QStringList GetErrorIPList() const { return m_errorIps; } ///< those outside every local network
 
     // interface settings
-    bool Load_UI(const QString& path); ///< a broken file is kept beside as ".bak"
-    bool Save_UI() const;              ///< nothing to do, and true, before Load_UI
+    bool Load_UI(const QString& path);
+    bool Save_UI() const; ///< nothing to do, and true, before Load_UI
     bool IsEnableRotate() const;
     void SetEnableRotate(bool enable);
     QVariant GetUIValue(const QString& key, const QVariant& standard = QVariant()) const; ///< "Group/Name"
     void SetUIValue(const QString& key, const QVariant& value);
 
     // customisation
-    bool LoadCustomizeConfig(const QString& path); ///< a broken file is kept beside as ".bak"
+    bool LoadCustomizeConfig(const QString& path);
     bool SaveCustomizeConfig() const;
     QJsonValue GetCustomizeValue(const QString& key, const QJsonValue& standard = QJsonValue()) const;
     void SetCustomizeValue(const QString& key, const QJsonValue& value);
 
 private:
     SConfigItems m_items;
-    QString m_path;
+    std::unique_ptr<SettingsFile> m_file;
     QString m_languageFilePath;
     QStringList m_errorIps;
     std::unique_ptr<SpecifiedIpList> m_specifiedIps;

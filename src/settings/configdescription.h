@@ -68,10 +68,9 @@ template <class Fields> void DescribeUiStyles(Fields& f, SConfigItems& r)
     f.Count("UiCount", "UiStyle", r.uiStyles, kDefaultUiStyleCount, kMaxUiStyles);
     f.Item("UiCurrent", r.currentUiStyle, 1);
     for (int i = 0; i < r.uiStyles.size(); ++i) {
-        const bool known = i < kDefaultUiStyleCount;
         f.Begin(Numbered("UiStyle", i + 1).c_str());
-        f.Attribute("Path", r.uiStyles[i].key, QLatin1String(known ? kDefaultUiStyles[i][0] : ""));
-        f.Attribute("Name", r.uiStyles[i].name, QLatin1String(known ? kDefaultUiStyles[i][1] : ""));
+        f.Attribute("Path", r.uiStyles[i].key,
+                    QLatin1String(i < kDefaultUiStyleCount ? kDefaultUiStyles[i][0] : ""));
         f.End();
     }
     f.End();

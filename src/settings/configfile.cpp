@@ -174,16 +174,24 @@ private:
     QVector<QDomElement> m_path;
 };
 
-void RepairStyles(SConfigItems* items)
+/// The name of a style among those named before, else the one it comes with, else its key.
+QString NameOfStyle(const QString& key, const QList<SUiStyle>& named)
+{
+    for (const SUiStyle& style : named)
+        if (style.key == key && !style.name.isEmpty())
+            return style.name;
+    for (const auto& style : kDefaultUiStyles)
+        if (key == QLatin1String(style[0]))
+            return QLatin1String(style[1]);
+    return key;
+}
+
+void RepairStyles(SConfigItems* items, const QList<SUiStyle>& named)
 {
     QList<SUiStyle> styles;
-    for (SUiStyle style : qAsConst(items->uiStyles)) {
-        if (style.key.isEmpty() || styles.size() == kMaxUiStyles)
-            continue;
-        if (style.name.isEmpty())
-            style.name = style.key;
-        styles.append(style);
-    }
+    for (const SUiStyle& style : qAsConst(items->uiStyles))
+        if (!style.key.isEmpty() && styles.size() < kMaxUiStyles)
+            styles.append({style.key, NameOfStyle(style.key, named)});
     items->uiStyles = styles;
     if (items->currentUiStyle < 0 || items->currentUiStyle >= styles.size())
         items->currentUiStyle = styles.size() == 2 ? 1 : 0;
@@ -219,6 +227,7 @@ void SetConfigDefaults(SConfigItems* items)
 {
     ConfigDefaults defaults;
     DescribeConfig(defaults, *items);
+    RepairStyles(items, {});
 }
 
 bool WriteConfigFile(const QString& path, const SConfigItems& items)
@@ -248,13 +257,14 @@ bool ReadConfigFile(const QString& path, SConfigItems* items)
     ConfigReader reader(root.firstChildElement(QLatin1String(kConfigName)));
     DescribeConfig(reader, read);
     RepairHotkeys(*items, &read);
-    RepairConfig(&read);
+    RepairStyles(&read, items->uiStyles);
+    RepairProjectRecords(&read);
     *items = read;
     return true;
 }
 
-void RepairConfig(SConfigItems* items)
+void SetStyles(const QList<SUiStyle>& styles, SConfigItems* items)
 {
-    RepairStyles(items);
-    RepairProjectRecords(items);
+    items->uiStyles = styles;
+    RepairStyles(items, styles);
 }

@@ -13,5 +13,5 @@ bool WriteConfigFile(const QString& path, const SConfigItems& items);
 /// bounds is put right. False, with nothing changed, when the file is no settings document.
 bool ReadConfigFile(const QString& path, SConfigItems* items);
 
-/// Puts right what items say together: styles without a key, an index outside the list, gaps in the records.
-void RepairConfig(SConfigItems* items);
+/// Takes those of the styles that have a key, names those without a name, and keeps the current index inside.
+void SetStyles(const QList<SUiStyle>& styles, SConfigItems* items);

@@ -25,7 +25,7 @@ struct SHotkey
 struct SUiStyle
 {
     QString key;
-    QString name; ///< shown to the user
+    QString name; ///< shown to the user; follows the key, and is not in the file
 };
 
 /// Share of full current of each primary.

@@ -16,6 +16,8 @@
 
 #include <cmath>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -78,14 +80,16 @@ SMD5 HashOf(QFile& file, const QString& name)
     return SMD5::FromString(QString::fromLatin1(hash.result().toHex()));
 }
 
-/// Opens a new file that loses its name at once, so that a crash leaves nothing, or an empty file that the
-/// next call takes. False when the name is somebody else's.
-bool OpenNameless(QFile& file)
+/// Opens a new file in the place of `name` that never takes the name, so that a killed program leaves
+/// nothing. False when the name is somebody else's, or where the file system has no such files.
+bool OpenNameless(QFile& file, const QString& name)
 {
-    const QFileInfo left(file);
-    if (left.isFile() && !left.isSymLink() && left.size() == 0)
-        file.remove();
-    return file.open(QIODevice::ReadWrite | QIODevice::NewOnly) && QFile::remove(file.fileName());
+    const QFileInfo info(name);
+    if (info.exists() || info.isSymLink())
+        return false;
+    const int handle =
+        open(QFile::encodeName(info.path()).constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    return handle >= 0 && file.open(handle, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle);
 }
 
 } // namespace
@@ -210,8 +214,8 @@ SMD5 CConstantData::GetMD5FromFile(const QString& path)
 {
     // A copy is hashed, so that a file that another program is writing is read in one short go.
     QFile source(path);
-    QFile scratch(DocumentsFolder() + QStringLiteral("/tmpfile"));
-    if (!OpenInput(source) || !OpenNameless(scratch))
+    QFile scratch;
+    if (!OpenInput(source) || !OpenNameless(scratch, DocumentsFolder() + QStringLiteral("/tmpfile")))
         return HashOf(source, path);
     if (CopyContent(source, scratch) && scratch.seek(0))
         return HashOf(scratch, path);

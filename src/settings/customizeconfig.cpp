@@ -2,7 +2,6 @@
 
 #include "common/atomicfile.h"
 #include "common/inputfile.h"
-#include "settings/brokenfile.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -15,7 +14,7 @@ constexpr qint64 kMaxFileSize = 1 << 24;
 
 bool CustomizeConfig::Load(const QString& path)
 {
-    m_path = path;
+    m_file.SetPath(path);
     m_values = QJsonObject();
     if (!QFile::exists(path))
         return false;
@@ -24,22 +23,23 @@ bool CustomizeConfig::Load(const QString& path)
     if (ReadInput(path, kMaxFileSize, &content))
         document = QJsonDocument::fromJson(content);
     if (!document.isObject()) {
-        SetBrokenFileAside(path);
+        m_file.Hold();
+        m_file.MakeWritable();
         return false;
     }
     m_values = document.object();
     return true;
 }
 
-bool CustomizeConfig::Save() const
+bool CustomizeConfig::Save()
 {
     const QJsonDocument document(m_values);
     QByteArray content = document.toJson();
     if (content.size() > kMaxFileSize)
         content = document.toJson(QJsonDocument::Compact);
     // Read back, as values may be nested deeper than is read.
-    return !m_path.isEmpty() && content.size() <= kMaxFileSize && QJsonDocument::fromJson(content).isObject()
-           && ReplaceFile(m_path, content);
+    return content.size() <= kMaxFileSize && QJsonDocument::fromJson(content).isObject()
+           && m_file.MakeWritable() && ReplaceFile(m_file.Path(), content);
 }
 
 QJsonValue CustomizeConfig::Value(const QString& key, const QJsonValue& standard) const

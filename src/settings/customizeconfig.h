@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/settingsfile.h"
+
 #include <QJsonObject>
 #include <QString>
 
@@ -9,12 +11,12 @@ class CustomizeConfig
 public:
     /// Starts from the file's values; false when there is none or it is broken and was set aside.
     bool Load(const QString& path);
-    bool Save() const; ///< to the file loaded from; false before
+    bool Save(); ///< to the file loaded from; false before
 
     QJsonValue Value(const QString& key, const QJsonValue& standard) const;
     void SetValue(const QString& key, const QJsonValue& value);
 
 private:
-    QString m_path;
+    SettingsFile m_file;
     QJsonObject m_values;
 };

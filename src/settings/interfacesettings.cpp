@@ -1,6 +1,5 @@
 #include "settings/interfacesettings.h"
 
-#include "settings/brokenfile.h"
 #include "settings/inifile.h"
 
 #include <QFileInfo>
@@ -15,26 +14,25 @@ constexpr const char* kCodec = "UTF-8";
 
 bool InterfaceSettings::Load(const QString& path)
 {
-    m_path = path;
+    m_file.SetPath(path);
     m_values.clear();
     m_enableRotate = kEnableRotateDefault;
     const QFileInfo info(path);
     if (!info.isFile())
         return false;
-    const IniCheck check = CheckIni(path, kCodec);
-    if (check == IniCheck::Unreadable)
-        return false;
-    if (check == IniCheck::Harmful || !ReadIniValues(path, &m_values, kCodec)) {
-        SetBrokenFileAside(path);
+    if (CheckIni(path, kCodec) != IniCheck::Harmless || !ReadIniValues(path, &m_values, kCodec)) {
+        m_file.Hold();
+        m_file.MakeWritable();
         return false;
     }
     m_enableRotate = Value(kEnableRotate, kEnableRotateDefault).toBool();
     return true;
 }
 
-bool InterfaceSettings::Save() const
+bool InterfaceSettings::Save()
 {
-    return m_path.isEmpty() || WriteIniValues(m_path, m_values, kCodec);
+    return m_file.Path().isEmpty()
+           || (m_file.MakeWritable() && WriteIniValues(m_file.Path(), m_values, kCodec));
 }
 
 QVariant InterfaceSettings::Value(const QString& key, const QVariant& standard) const

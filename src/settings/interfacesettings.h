@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/settingsfile.h"
+
 #include <QMap>
 #include <QString>
 #include <QVariant>
@@ -10,7 +12,7 @@ class InterfaceSettings
 public:
     /// Starts from the file's values; false when there is none or it is broken and was set aside.
     bool Load(const QString& path);
-    bool Save() const; ///< to the file loaded from; nothing to do, and true, before
+    bool Save(); ///< to the file loaded from; nothing to do, and true, before
 
     QVariant Value(const QString& key, const QVariant& standard) const; ///< "Group/Name"
     void SetValue(const QString& key, const QVariant& value);
@@ -19,7 +21,7 @@ public:
     void SetEnableRotate(bool enable);
 
 private:
-    QString m_path;
+    SettingsFile m_file;
     QMap<QString, QVariant> m_values;
     bool m_enableRotate = false; ///< also in the values; asked for every cabinet of a wall
 };

@@ -2,9 +2,7 @@
 
 #include "common/atomicfile.h"
 #include "common/inputfile.h"
-#include "settings/brokenfile.h"
 
-#include <QFile>
 #include <QNetworkInterface>
 
 #include <algorithm>
@@ -65,12 +63,13 @@ QVector<Ipv4Network> GetLocalNetworks()
 
 bool SpecifiedIpList::Load(const QString& path)
 {
-    m_path = path;
+    m_file.SetPath(path);
     QByteArray content;
     const bool read = ReadInput(path, kMaxFileSize, &content);
-    m_unread = !read && QFile::exists(path);
-    if (!read)
+    if (!read) {
+        m_file.Hold();
         return false;
+    }
     m_addresses.clear();
     const QStringList lines = QString::fromUtf8(content).split(QLatin1Char('\n'));
     for (const QString& line : lines)
@@ -83,10 +82,7 @@ bool SpecifiedIpList::Save()
     QByteArray content;
     for (const QString& address : m_addresses)
         content += address.toUtf8() + '\n';
-    if (m_path.isEmpty() || (m_unread && !SetBrokenFileAside(m_path)))
-        return false;
-    m_unread = false;
-    return ReplaceFile(m_path, content);
+    return m_file.MakeWritable() && ReplaceFile(m_file.Path(), content);
 }
 
 bool SpecifiedIpList::Add(const QString& address)

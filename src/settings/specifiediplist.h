@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/settingsfile.h"
+
 #include <QStringList>
 #include <QVector>
 
@@ -29,7 +31,6 @@ public:
     QStringList Outside(const QVector<Ipv4Network>& networks) const;
 
 private:
-    QString m_path;
-    bool m_unread = false; ///< there is a file at the path which could not be read
+    SettingsFile m_file;
     QStringList m_addresses;
 };

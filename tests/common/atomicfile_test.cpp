@@ -6,6 +6,13 @@
 #include <QDir>
 #include <QFile>
 #include <QIODevice>
+#include <QThread>
+
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 TEST(AtomicFileTest, FailedWriteKeepsTheOldFileAndLeavesNothingBeside)
 {
@@ -33,6 +40,26 @@ TEST(AtomicFileTest, LinkStaysAndItsTargetIsReplaced)
     EXPECT_TRUE(ReplaceFile(link, QByteArray("new")));
     EXPECT_EQ(ReadFile(target), "new");
     EXPECT_TRUE(QFileInfo(link).isSymLink());
+}
+
+TEST(AtomicFileTest, WaitingForAnotherSaveLeavesNoDescriptorOpen)
+{
+    const auto descriptors = [] {
+        return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System).size();
+    };
+    TestFolder folder;
+    const QString part = folder.Write(QStringLiteral(".a.txt.part"), "of another save");
+    const int before = descriptors();
+    const int other = open(QFile::encodeName(part).constData(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(flock(other, LOCK_EX), 0);
+    std::thread ending([other] {
+        QThread::msleep(100);
+        close(other);
+    });
+    EXPECT_TRUE(ReplaceFile(folder.Path(QStringLiteral("a.txt")), QByteArray("new")));
+    ending.join();
+    EXPECT_EQ(descriptors(), before);
+    EXPECT_FALSE(QFile::exists(part));
 }
 
 TEST(AtomicFileTest, OnlyRegularFilesAreReplaced)

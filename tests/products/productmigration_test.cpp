@@ -85,6 +85,18 @@ TEST_F(ProductMigrationTest, NothingIsOverwrittenAndLinksStay)
     EXPECT_EQ(QDir(outside.Path(QStringLiteral("far"))).entryList(QDir::Files).size(), 1);
 }
 
+TEST_F(ProductMigrationTest, ListThatCannotBeReadWholeStaysAndNothingMoves)
+{
+    const QByteArray product =
+        "[ProductListInfo]\nProduct1=" + DigestOf(Write(old + QStringLiteral("a.rcvp"), "a"));
+    for (const QByteArray& end : {QByteArray("\n").repeated(4 << 20), QByteArray("\nno value\n")}) {
+        Write(old + QStringLiteral("ProductList.ini"), product + end);
+        CProductDirectorySet::UpdateProductDir();
+        EXPECT_EQ(QDir(old).entryList(QDir::Files).size(), 2);
+        EXPECT_TRUE(QDir(root).isEmpty());
+    }
+}
+
 TEST_F(ProductMigrationTest, WithoutAnOlderFolderNothingHappens)
 {
     QDir(old).removeRecursively();

@@ -121,6 +121,19 @@ TEST_F(CrashSafetyTest, FailingCallLeavesTheOldFileAndIsToldOrTheNewOne)
     ExpectNothingLeft();
 }
 
+TEST_F(CrashSafetyTest, CopyThatFailsWhileHashingDoesNotChangeTheDigest)
+{
+    const QString file = scratch.Write(QStringLiteral("a"), QByteArray(300000, 'a'));
+    const SMD5 digest = CConstantData::GetMD5FromFile(file);
+    EXPECT_FALSE(digest.IsNull());
+    for (int failing = 1, calls = 1; failing <= calls; ++failing) {
+        FailCall(failing);
+        EXPECT_EQ(CConstantData::GetMD5FromFile(file), digest) << failing;
+        calls = CountCalls();
+        FailCall(0);
+    }
+}
+
 TEST_F(CrashSafetyTest, TwoProcessesWithOneWorkFolderDoNotMixTheirFiles)
 {
     QProcess savers[2];

@@ -10,6 +10,8 @@
 #include <QLocale>
 #include <QSettings>
 
+#include <functional>
+
 namespace {
 
 const QByteArray kOneItem = "<LedControlConfig><Config><Language>1041</Language><ShowGrid>0</ShowGrid>"
@@ -186,21 +188,44 @@ TEST(ConfigDataTest, InterfaceSettingsKeepWhatTheyDoNotKnow)
     EXPECT_TRUE(ReadFile(path).contains("Title=屏"));
 }
 
-TEST(ConfigDataTest, BrokenInterfaceAndCustomisationFilesAreKeptBeside)
+TEST(ConfigDataTest, BrokenFileIsNotOverwrittenBeforeItIsKeptBeside)
 {
-    TestFolder folder;
     CConfigData config;
-    config.SetEnableRotate(true);
-    const QString ini = folder.Write(QStringLiteral("a.ini"), "[Function]\nEnableRotate\n\x01\x02\n");
-    EXPECT_FALSE(config.Load_UI(ini));
-    EXPECT_FALSE(config.IsEnableRotate());
-    EXPECT_EQ(ReadFile(ini + QStringLiteral(".bak")), "[Function]\nEnableRotate\n\x01\x02\n");
-
-    const QString json = folder.Write(QStringLiteral("a.json"), "{\"Logo\": ");
-    EXPECT_FALSE(config.LoadCustomizeConfig(json));
-    EXPECT_EQ(ReadFile(json + QStringLiteral(".bak")), "{\"Logo\": ");
-    EXPECT_TRUE(config.SaveCustomizeConfig());
-    EXPECT_TRUE(config.LoadCustomizeConfig(json));
+    const struct
+    {
+        const char* name;
+        QByteArray broken;
+        std::function<bool(const QString&)> load;
+        std::function<bool()> save;
+    } files[] = {
+        {"a.xml", "no xml", [&](const QString& path) { return config.Load(path); },
+         [&] { return config.Save(); }},
+        {"a.ini", "[Function]\nEnableRotate\n\x01\x02\n",
+         [&](const QString& path) { return config.Load_UI(path); }, [&] { return config.Save_UI(); }},
+        {"a.json", "{\"Logo\": ", [&](const QString& path) { return config.LoadCustomizeConfig(path); },
+         [&] { return config.SaveCustomizeConfig(); }},
+        {"a.txt", QByteArray((1 << 20) + 1, ' '),
+         [&](const QString& path) { return config.LoadSpecifiedIP(path); },
+         [&] { return config.SaveSpecifiedIP(); }},
+    };
+    for (const auto& file : files) {
+        TestFolder folder;
+        const QString path = folder.Write(QLatin1String(file.name), file.broken);
+        const QString kept = path + QStringLiteral(".bak");
+        QDir().mkpath(kept);
+        config.SetEnableRotate(true);
+        EXPECT_FALSE(file.load(path));
+        EXPECT_EQ(config.IsEnableRotate(), !path.endsWith(QLatin1String("ini")));
+        config.SetEnableRotate(true);
+        EXPECT_FALSE(file.save()) << file.name;
+        EXPECT_FALSE(path.endsWith(QLatin1String("xml")) && config.XmlSave(path));
+        EXPECT_TRUE(ReadFile(path) == file.broken) << file.name;
+        QDir().rmdir(kept);
+        EXPECT_TRUE(file.save());
+        EXPECT_TRUE(file.save()) << "what was written is not set aside";
+        EXPECT_TRUE(ReadFile(kept) == file.broken) << file.name;
+        EXPECT_TRUE(file.load(path));
+    }
 }
 
 TEST(ConfigDataTest, CustomisationKeepsWhatItDoesNotKnow)

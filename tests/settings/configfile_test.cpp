@@ -98,11 +98,12 @@ TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)
     EXPECT_EQ(records.projectRecords[1], QStringLiteral("c"));
 
     const SConfigItems styles = Read("<UiStyleEx><UiCount>2000000000</UiCount><UiCurrent>7</UiCurrent>"
-                                     "<UiStyle1 Path=\"A\" Name=\"Style A\"/><UiStyle2 Path=\"\"/>"
+                                     "<UiStyle1 Path=\"StyleDark\" Name=\"Style A\"/><UiStyle2 Path=\"\"/>"
                                      "<UiStyle3 Path=\"C\"/><UiStyle4 Path=\"D\"/></UiStyleEx>");
     ASSERT_EQ(styles.uiStyles.size(), 3);
-    EXPECT_EQ(styles.uiStyles[0].name, QStringLiteral("Style A"));
+    EXPECT_EQ(styles.uiStyles[0].name, QStringLiteral("Style Dark"));
     EXPECT_EQ(styles.uiStyles[1].name, QStringLiteral("C"));
+    EXPECT_FALSE(Written(styles).contains("Name="));
     EXPECT_EQ(styles.currentUiStyle, 0);
 
     const SConfigItems hotkeys = Read("<HotkeyQT><Item1 Enable=\"true\" HotKeyValue=\"ctrl+shift+q\"/>"

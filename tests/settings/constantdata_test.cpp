@@ -64,14 +64,16 @@ TEST(ConstantDataTest, FilesAreHashedWithAndWithoutTheScratchName)
               QStringLiteral("d41d8cd98f00b204e9800998ecf8427e"));
     EXPECT_FALSE(QFileInfo::exists(scratch));
 
-    QFile other(scratch);
-    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
-    other.write("somebody else's");
-    other.close();
-    EXPECT_EQ(CConstantData::GetMD5FromFile(abc).ToString(),
-              QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
-    EXPECT_TRUE(CConstantData::GetMD5FromFile(folder.Path(QStringLiteral("missing"))).IsNull());
-    EXPECT_EQ(ReadFile(scratch), "somebody else's");
+    for (const QByteArray& others : {QByteArray("somebody else's"), QByteArray()}) {
+        QFile other(scratch);
+        ASSERT_TRUE(other.open(QIODevice::WriteOnly) && other.write(others) == others.size());
+        other.close();
+        EXPECT_EQ(CConstantData::GetMD5FromFile(abc).ToString(),
+                  QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
+        EXPECT_TRUE(CConstantData::GetMD5FromFile(folder.Path(QStringLiteral("missing"))).IsNull());
+        EXPECT_TRUE(other.exists());
+        EXPECT_EQ(ReadFile(scratch), others);
+    }
     QFile::remove(scratch);
 }
 
