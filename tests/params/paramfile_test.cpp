@@ -365,3 +365,13 @@ TEST(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
     }
     EXPECT_GT(imported, 20);
 }
+
+TEST(ParamFileTest, AddressIsFourDecimalOctetsOrOneNumber)
+{
+    EXPECT_EQ(GetIntFromOctString(QStringLiteral("192.168.1.10")), 0xC0A8010AU);
+    EXPECT_EQ(GetIntFromOctString(QStringLiteral(" 010.0.0.09\n")), 0x0A000009U);
+    EXPECT_EQ(GetIntFromOctString(QStringLiteral("4294967295")), 0xFFFFFFFFU);
+    for (const char* text :
+         {"4294967296", "-1", "+1", "1.2.3", "1.2.3.256", "1.2..4", "1.2.3.4.5", "0x10", ""})
+        EXPECT_EQ(GetIntFromOctString(QString::fromLatin1(text)), 0U) << text;
+}
