@@ -15,33 +15,17 @@
 
 namespace {
 
-QString TypeOf(bool)
+template <class T> QString TypeOf(const T&)
 {
-    return QStringLiteral("flag");
-}
-QString TypeOf(int)
-{
-    return QStringLiteral("number");
-}
-QString TypeOf(unsigned)
-{
-    return QStringLiteral("number");
-}
-QString TypeOf(double)
-{
-    return QStringLiteral("fraction");
-}
-QString TypeOf(const QUuid&)
-{
-    return QStringLiteral("id");
-}
-QString TypeOf(const SMD5&)
-{
-    return QStringLiteral("digest");
-}
-QString TypeOf(const QString&)
-{
-    return QStringLiteral("text");
+    if (std::is_same_v<T, bool>)
+        return QStringLiteral("flag");
+    if (std::is_same_v<T, QUuid>)
+        return QStringLiteral("id");
+    if (std::is_same_v<T, SMD5>)
+        return QStringLiteral("digest");
+    if (std::is_floating_point_v<T>)
+        return QStringLiteral("fraction");
+    return std::is_same_v<T, QString> ? QStringLiteral("text") : QStringLiteral("number");
 }
 
 std::string Lines(const QStringList& rows)
