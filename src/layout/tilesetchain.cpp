@@ -154,8 +154,10 @@ bool FollowsWalk(const QList<CTile*>& tiles, const std::vector<Stop>& chain, con
     auto previous = std::make_pair(quint64(0), -1);
     for (const Stop& link : chain) {
         const QPoint centre = tiles[link.position]->GetCenter();
+        if (!walk.Visits(centre))
+            return false;
         const auto stop = std::make_pair(walk.PlaceOf(centre), link.position);
-        if (!walk.Visits(centre) || stop < previous)
+        if (stop < previous)
             return false;
         previous = stop;
     }
