@@ -84,21 +84,18 @@ PlainSender PlainCopy(CSender& sender)
     return copy;
 }
 
-/// What a run is made of.
-struct Parts
+/// The chunks and the records that a run is made of.
+std::pair<QSet<const void*>, QSet<const void*>> PartsOf(const TileRun& run)
 {
-    explicit Parts(const TileRun& run)
-    {
-        for (const auto& chunk : run.GetChunks()) {
-            chunks.insert(chunk.constData());
-            for (const TileRun::Record& record : chunk->tiles)
-                records.insert(record.constData());
-        }
-    }
-
     QSet<const void*> chunks;
     QSet<const void*> records;
-};
+    for (const auto& chunk : run.GetChunks()) {
+        chunks.insert(chunk.constData());
+        for (const TileRun::Record& record : chunk->tiles)
+            records.insert(record.constData());
+    }
+    return {chunks, records};
+}
 
 /// Mostly writes to cabinets; adds, drops and moves them in the list now and then.
 void EditAnyhow(CSender& sender, QRandomGenerator* random)
@@ -294,10 +291,10 @@ TEST_F(ProjectUndoRedoTest, AStepCostsWhatItChanged)
     auto base = LayoutSnapshot::Take(*port.GetPortProject(), {});
     const auto step = [&](int chunks, int records) {
         const auto next = LayoutSnapshot::Take(*port.GetPortProject(), base);
-        const Parts before(base->GetTiles());
-        const Parts after(next->GetTiles());
-        EXPECT_LE((after.chunks - before.chunks).size(), chunks);
-        EXPECT_EQ((after.records - before.records).size(), records);
+        const auto before = PartsOf(base->GetTiles());
+        const auto after = PartsOf(next->GetTiles());
+        EXPECT_LE((after.first - before.first).size(), chunks);
+        EXPECT_EQ((after.second - before.second).size(), records);
         EXPECT_TRUE(next->IsEqual(*port.GetPortProject()));
         base = next;
     };

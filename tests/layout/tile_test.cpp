@@ -1,8 +1,8 @@
 #include "layout/tile.h"
 
 #include "common/interfacedlg.h"
+#include "layout/layouthelpers.h"
 #include "layout/tiledata.h"
-#include "layout/tileplacing.h"
 #include "layout/tileset.h"
 #include "support/wallbuilder.h"
 
@@ -133,18 +133,14 @@ TEST(TileTest, PointerHandedOutStaysTheTilesOwn)
     target = tile;
     record->angle = 45;
     line[3] = 9;
-    EXPECT_EQ(copy, before);
-    EXPECT_EQ(target, before);
-    EXPECT_EQ(tile.GetRotateRecord().angle, 45);
+    EXPECT_TRUE(copy == before && target == before && tile.GetRotateRecord().angle == 45);
 
     const CTile other = TileAt(1, 2, 3, 4);
     tile = other;
-    EXPECT_EQ(tile, other);
-    EXPECT_EQ(&tile.GetRotateRecord(), record);
+    EXPECT_TRUE(tile == other && &tile.GetRotateRecord() == record);
     record->angle = 30;
     line[0] = 7;
-    EXPECT_EQ(tile.GetRotateRecord().angle, 30);
-    EXPECT_EQ(tile.GetMultiRcvsLineCode(0), 7);
+    EXPECT_TRUE(tile.GetRotateRecord().angle == 30 && tile.GetMultiRcvsLineCode(0) == 7);
     EXPECT_EQ(other.GetRotateRecord().angle, 0);
 
     tile.SetTileRotateParam(&copy.GetRotateRecord());

@@ -1,6 +1,7 @@
 #include "layout/tilegroup.h"
 
 #include "common/interfacedlg.h"
+#include "layout/layouthelpers.h"
 #include "layout/tilegroupset.h"
 
 #include <gtest/gtest.h>
@@ -9,16 +10,7 @@ namespace {
 
 constexpr int kView = InterfaceDesign;
 
-/// Knows how many of its kind live.
-class CountedGroup : public CTileGroup
-{
-public:
-    CountedGroup() { ++alive; }
-    ~CountedGroup() override { --alive; }
-    static int alive;
-};
-
-int CountedGroup::alive = 0;
+using CountedGroup = Counted<CTileGroup>;
 
 CTileGroup* AddTo(CTileGroupSet& set, CTileGroup* parent = nullptr)
 {

@@ -1,4 +1,4 @@
-#include "layout/tileplacing.h"
+#include "layout/layouthelpers.h"
 #include "layout/tileset.h"
 #include "support/wallbuilder.h"
 

@@ -1,7 +1,7 @@
 #include "layout/tileset.h"
 
 #include "common/interfacedlg.h"
-#include "layout/tileplacing.h"
+#include "layout/layouthelpers.h"
 #include "support/wallbuilder.h"
 
 #include <gtest/gtest.h>
@@ -13,16 +13,7 @@ namespace {
 
 constexpr int kView = InterfaceDesign;
 
-/// Knows how many of its kind live.
-class CountedTile : public CTile
-{
-public:
-    CountedTile() { ++alive; }
-    ~CountedTile() override { --alive; }
-    static int alive;
-};
-
-int CountedTile::alive = 0;
+using CountedTile = Counted<CTile>;
 
 CTile* Add(CTileSet& set, const QRect& rect)
 {

@@ -1,5 +1,5 @@
 #include "common/canvaslimits.h"
-#include "layout/tileplacing.h"
+#include "layout/layouthelpers.h"
 #include "layout/tileset.h"
 
 #include <gtest/gtest.h>

@@ -2,6 +2,14 @@
 
 #include "layout/tile.h"
 
+/// Knows how many of its kind live.
+template <class Base> struct Counted : Base
+{
+    Counted() { ++alive; }
+    ~Counted() override { --alive; }
+    static inline int alive = 0;
+};
+
 inline void Place(CTile& tile, const QRect& rect)
 {
     tile.SetWidth(rect.width());
