@@ -38,16 +38,6 @@ QString MakeArchive(const TestFolder& folder, const QList<Raw>& entries)
     return path;
 }
 
-QStringList RawNames(const QString& path)
-{
-    QStringList names;
-    zip_t* archive = zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, nullptr);
-    for (zip_int64_t i = 0; i < zip_get_num_entries(archive, 0); ++i)
-        names << QString::fromLatin1(zip_get_name(archive, i, ZIP_FL_ENC_RAW));
-    zip_discard(archive);
-    return names;
-}
-
 /// Overwrites the 4 bytes at an offset behind every local or central header that begins so.
 void Patch(const QString& path, const QByteArray& signature, int offset, const QByteArray& bytes)
 {
@@ -103,6 +93,8 @@ TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
     QFile::setPermissions(folder.Path(QStringLiteral("屏幕B/x.txt")), QFile::ReadOwner | QFile::WriteOwner);
     ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("屏幕B")), path, &error)) << qPrintable(error);
     EXPECT_EQ(ReadFile(path), first);
+    EXPECT_TRUE(first.contains("/\xD7\xD3/\xC4\xA3.txt")) << "GBK where that holds the name";
+    EXPECT_TRUE(first.contains("/\xF0\x9F\x98\x80.txt"));
 
     const QString out = folder.Path(QStringLiteral("out"));
     ASSERT_TRUE(UnpackArchive(path, out, {}, &error)) << qPrintable(error);
@@ -113,17 +105,6 @@ TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
     EXPECT_TRUE(QFileInfo(out + QStringLiteral("/屏幕B/void")).isDir());
     const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
     EXPECT_EQ(QDir(out + QStringLiteral("/屏幕B")).entryList(all).size(), 8);
-}
-
-TEST(ArchiveTest, NamesAreGbkWhereItHoldsThem)
-{
-    TestFolder folder;
-    folder.Write(QStringLiteral("B/模"), "1");
-    folder.Write(QStringLiteral("B/😀"), "1");
-    const QString path = folder.Path(QStringLiteral("a.zip"));
-    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("B")), path));
-    EXPECT_TRUE(RawNames(path).contains(QString::fromLatin1("B/\xC4\xA3")));
-    EXPECT_TRUE(RawNames(path).contains(QString::fromLatin1("B/\xF0\x9F\x98\x80")));
 }
 
 TEST(ArchiveTest, FailedPackingKeepsTheOldArchiveAndAnEmptyFolderIsOne)

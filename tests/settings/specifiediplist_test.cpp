@@ -24,21 +24,6 @@ TEST(SpecifiedIpListTest, OnlyDottedAddressesAreReadOnceAndInOrder)
     EXPECT_EQ(list.Addresses().size(), 2);
 }
 
-TEST(SpecifiedIpListTest, FileThatIsTooLargeIsKeptWhenTheListIsSaved)
-{
-    TestFolder folder;
-    const QByteArray large("10.0.0.1\n" + QByteArray(1 << 20, '#'));
-    const QString path = folder.Write(QStringLiteral("SpecifiedIPs.txt"), large);
-    SpecifiedIpList list;
-    EXPECT_FALSE(list.Load(path));
-    for (const char* address : {"10.0.0.2", "10.0.0.3"}) {
-        list.Add(QLatin1String(address));
-        EXPECT_TRUE(list.Save());
-        EXPECT_EQ(ReadFile(path + QStringLiteral(".bak")), large);
-    }
-    EXPECT_EQ(ReadFile(path), "10.0.0.2\n10.0.0.3\n");
-}
-
 TEST(SpecifiedIpListTest, ListEndsAt1024Addresses)
 {
     SpecifiedIpList list;
