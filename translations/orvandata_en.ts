@@ -12,8 +12,8 @@
         <translation>Document type declarations are not accepted.</translation>
     </message>
     <message>
-        <source>不是有效的XML（第%1行）：</source>
-        <translation>Not valid XML (line %1): </translation>
+        <source>不是有效的XML（第%1行）：%2。</source>
+        <translation>Not valid XML (line %1): %2.</translation>
     </message>
     <message>
         <source>文件无法读取。</source>
@@ -76,12 +76,12 @@
         <translation>groups are nested too deep; deeper ones passed over</translation>
     </message>
     <message>
-        <source>“%1”过多，最多%2个，文件未保存。</source>
-        <translation>There are too many &quot;%1&quot;, %2 at most; the file was not saved.</translation>
+        <source>%1过多，最多%2个，文件未保存。</source>
+        <translation>Too many %1, at most %2; the file was not saved.</translation>
     </message>
     <message>
-        <source>“%1”应有%2个，实有%3个</source>
-        <translation>&quot;%1&quot; should be there %2 times, is there %3 times</translation>
+        <source>%1：文件声明%2个，实有%3个</source>
+        <translation>%1: the file states %2, holds %3</translation>
     </message>
     <message>
         <source>缺少参数文件“%1”</source>
@@ -108,8 +108,8 @@
         <translation>The archive holds no &quot;project/new.prj&quot;.</translation>
     </message>
     <message>
-        <source>此文件需要更新的版本：</source>
-        <translation>This file asks for a newer version: </translation>
+        <source>此文件需要版本%1，本程序尚不支持。</source>
+        <translation>This file needs version %1, which this program does not support yet.</translation>
     </message>
     <message>
         <source>选取</source>
@@ -149,42 +149,42 @@
     </message>
     <message>
         <source>系统缺少GBK编码</source>
-        <translation>the system has no GBK codec</translation>
+        <translation>The system has no GBK codec</translation>
     </message>
     <message>
         <source>不是有效的压缩包: %1</source>
-        <translation>not a valid archive: %1</translation>
+        <translation>Not a valid archive: %1</translation>
     </message>
     <message>
         <source>压缩包内容过大: %1</source>
-        <translation>the archive holds too much: %1</translation>
+        <translation>The archive holds too much: %1</translation>
     </message>
     <message>
         <source>压缩包条目名称无效</source>
-        <translation>the name of an archive entry is not valid</translation>
+        <translation>The name of an archive entry is not valid</translation>
     </message>
     <message>
         <source>压缩包条目无法解压: %1</source>
-        <translation>archive entry could not be unpacked: %1</translation>
+        <translation>Archive entry could not be unpacked: %1</translation>
     </message>
     <message>
         <source>文件夹不存在: %1</source>
-        <translation>folder does not exist: %1</translation>
+        <translation>Folder does not exist: %1</translation>
     </message>
     <message>
-        <source>新建工程</source>
+        <source>新建项目</source>
         <translation>New project</translation>
     </message>
     <message>
-        <source>打开工程</source>
+        <source>打开项目</source>
         <translation>Open project</translation>
     </message>
     <message>
-        <source>保存工程</source>
+        <source>保存项目</source>
         <translation>Save project</translation>
     </message>
     <message>
-        <source>另存工程</source>
+        <source>另存项目</source>
         <translation>Save project as</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Undo</translation>
     </message>
     <message>
-        <source>恢复</source>
+        <source>重做</source>
         <translation>Redo</translation>
     </message>
     <message>
@@ -216,11 +216,11 @@
         <translation>Select all</translation>
     </message>
     <message>
-        <source>组合</source>
+        <source>建立分组</source>
         <translation>Group</translation>
     </message>
     <message>
-        <source>取消组合</source>
+        <source>取消分组</source>
         <translation>Ungroup</translation>
     </message>
     <message>
@@ -248,8 +248,8 @@
         <translation>Show grid</translation>
     </message>
     <message>
-        <source>锁定网口</source>
-        <translation>Lock port</translation>
+        <source>锁定输出口</source>
+        <translation>Lock output port</translation>
     </message>
     <message>
         <source>增加亮度</source>
@@ -272,12 +272,12 @@
         <translation>Normal display</translation>
     </message>
     <message>
-        <source>上一个发送卡</source>
-        <translation>Previous sender</translation>
+        <source>上一个主控</source>
+        <translation>Previous processor</translation>
     </message>
     <message>
-        <source>下一个发送卡</source>
-        <translation>Next sender</translation>
+        <source>下一个主控</source>
+        <translation>Next processor</translation>
     </message>
     <message>
         <source>红色测试</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>无法在项目文件旁创建锁文件。</source>
-        <translation>The lock file beside the project file could not be made.</translation>
+        <translation>The lock file beside the project file could not be created.</translation>
     </message>
     <message>
         <source>项目正在被“%1”（%2，进程%3）编辑。</source>
@@ -376,8 +376,68 @@
         <translation>The project file was not saved: %1</translation>
     </message>
     <message>
-        <source>“%1”过多，最多%2个，文件未读取。</source>
-        <translation>Too many of &quot;%1&quot;, at most %2; the file was not read.</translation>
+        <source>%1过多，最多%2个，文件未读取。</source>
+        <translation>Too many %1, at most %2; the file was not read.</translation>
+    </message>
+    <message>
+        <source>内容不完整</source>
+        <translation>the content is not complete</translation>
+    </message>
+    <message>
+        <source>标签不匹配</source>
+        <translation>tags do not match</translation>
+    </message>
+    <message>
+        <source>属性重复</source>
+        <translation>an attribute stands twice</translation>
+    </message>
+    <message>
+        <source>根元素之后还有内容</source>
+        <translation>something follows the root element</translation>
+    </message>
+    <message>
+        <source>不支持该编码</source>
+        <translation>the encoding is not supported</translation>
+    </message>
+    <message>
+        <source>引用无效</source>
+        <translation>a reference is not valid</translation>
+    </message>
+    <message>
+        <source>内存不足</source>
+        <translation>there is not enough memory</translation>
+    </message>
+    <message>
+        <source>语法错误</source>
+        <translation>syntax error</translation>
+    </message>
+    <message>
+        <source>主控</source>
+        <translation>processors</translation>
+    </message>
+    <message>
+        <source>输出口</source>
+        <translation>output ports</translation>
+    </message>
+    <message>
+        <source>箱体</source>
+        <translation>cabinets</translation>
+    </message>
+    <message>
+        <source>主控分组</source>
+        <translation>processor groups</translation>
+    </message>
+    <message>
+        <source>伽马值</source>
+        <translation>gamma values</translation>
+    </message>
+    <message>
+        <source>参数文件</source>
+        <translation>parameter files</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>groups</translation>
     </message>
     <message>
         <source>无法读取“%1”：%2</source>

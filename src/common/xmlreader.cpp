@@ -114,13 +114,40 @@ void OnDoctype(void* data, const XML_Char*, const XML_Char*, const XML_Char*, in
     static_cast<ParseState*>(data)->Refuse(QT_TRANSLATE_NOOP("OrvanData", "不接受文档类型声明。"));
 }
 
+/// In the user's language, which the parser does not speak.
+const char* ReasonOf(XML_Error error)
+{
+    switch (error) {
+    case XML_ERROR_NO_ELEMENTS:
+    case XML_ERROR_UNCLOSED_TOKEN:
+    case XML_ERROR_PARTIAL_CHAR:
+        return QT_TRANSLATE_NOOP("OrvanData", "内容不完整");
+    case XML_ERROR_TAG_MISMATCH:
+        return QT_TRANSLATE_NOOP("OrvanData", "标签不匹配");
+    case XML_ERROR_DUPLICATE_ATTRIBUTE:
+        return QT_TRANSLATE_NOOP("OrvanData", "属性重复");
+    case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
+        return QT_TRANSLATE_NOOP("OrvanData", "根元素之后还有内容");
+    case XML_ERROR_UNKNOWN_ENCODING:
+    case XML_ERROR_INCORRECT_ENCODING:
+        return QT_TRANSLATE_NOOP("OrvanData", "不支持该编码");
+    case XML_ERROR_UNDEFINED_ENTITY:
+    case XML_ERROR_BAD_CHAR_REF:
+        return QT_TRANSLATE_NOOP("OrvanData", "引用无效");
+    case XML_ERROR_NO_MEMORY:
+        return QT_TRANSLATE_NOOP("OrvanData", "内存不足");
+    default:
+        return QT_TRANSLATE_NOOP("OrvanData", "语法错误");
+    }
+}
+
 QString ParserError(const ParseState& state)
 {
     if (!state.refusal.isEmpty())
         return state.refusal;
-    return Message(QT_TRANSLATE_NOOP("OrvanData", "不是有效的XML（第%1行）："))
-               .arg(XML_GetCurrentLineNumber(state.parser))
-           + QString::fromLatin1(XML_ErrorString(XML_GetErrorCode(state.parser)));
+    return Message(QT_TRANSLATE_NOOP("OrvanData", "不是有效的XML（第%1行）：%2。"))
+        .arg(QString::number(XML_GetCurrentLineNumber(state.parser)),
+             Message(ReasonOf(XML_GetErrorCode(state.parser))));
 }
 
 bool FeedAll(QIODevice& source, ParseState& state, QString* error)

@@ -4,6 +4,7 @@
 #include "layout/tile.h"
 #include "layout/tilegroup.h"
 #include "project/layoutrecords.h"
+#include "project/readreport.h"
 
 #include <QCoreApplication>
 
@@ -106,8 +107,8 @@ QString WhyTooLarge(const QList<const CSender*>& senders)
 
 QString TooMany(const char* child, int most)
 {
-    return QCoreApplication::translate("OrvanData", "“%1”过多，最多%2个，文件未保存。")
-        .arg(QLatin1String(child), QString::number(most));
+    return QCoreApplication::translate("OrvanData", "%1过多，最多%2个，文件未保存。")
+        .arg(ChildrenName(child), QString::number(most));
 }
 
 void WriteSenders(XmlWriter& writer, const QList<CSender*>& senders, const std::function<void(int)>& progress)

@@ -89,9 +89,9 @@ private:
 
     void ReportMissing()
     {
-        m_report.Add(QCoreApplication::translate("OrvanData", "“%1”应有%2个，实有%3个")
-                         .arg(QString::fromStdString(m_prefix).left(64), QString::number(m_count),
-                              QString::number(m_items.size())));
+        m_report.Add(
+            QCoreApplication::translate("OrvanData", "%1：文件声明%2个，实有%3个")
+                .arg(ChildrenName(m_prefix), QString::number(m_count), QString::number(m_items.size())));
     }
 
     std::string m_prefix;

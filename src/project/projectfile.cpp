@@ -217,7 +217,8 @@ bool CProjectData::LoadDocument(
         return FailFile(QCoreApplication::translate("OrvanData", "不是项目文件。"));
     version = reader.GetRefusedVersion();
     if (!version.isNull())
-        return FailFile(QCoreApplication::translate("OrvanData", "此文件需要更新的版本：") + version);
+        return FailFile(
+            QCoreApplication::translate("OrvanData", "此文件需要版本%1，本程序尚不支持。").arg(version));
 
     const QList<SParameterFileInfo> rows = TakeContent(content);
     if (distribute)

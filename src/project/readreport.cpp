@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 namespace {
 
 constexpr int kShownName = 64; ///< characters
@@ -13,10 +15,28 @@ QString Shown(std::string_view name)
 
 } // namespace
 
-QString TooManyToRead(std::string_view name, int most)
+QString ChildrenName(std::string_view prefix)
 {
-    return QCoreApplication::translate("OrvanData", "“%1”过多，最多%2个，文件未读取。")
-        .arg(Shown(name), QString::number(most));
+    static const std::pair<std::string_view, const char*> names[] = {
+        {"Sender_", QT_TRANSLATE_NOOP("OrvanData", "主控")},
+        {"Port_", QT_TRANSLATE_NOOP("OrvanData", "输出口")},
+        {"Tile_", QT_TRANSLATE_NOOP("OrvanData", "箱体")},
+        {"TileGroup", QT_TRANSLATE_NOOP("OrvanData", "分组")},
+        {"SenderGroup_", QT_TRANSLATE_NOOP("OrvanData", "主控分组")},
+        {"Gamma_", QT_TRANSLATE_NOOP("OrvanData", "伽马值")},
+        {"File", QT_TRANSLATE_NOOP("OrvanData", "参数文件")},
+    };
+    for (const auto& [start, name] : names) {
+        if (prefix.substr(0, start.size()) == start)
+            return QCoreApplication::translate("OrvanData", name);
+    }
+    return Shown(prefix);
+}
+
+QString TooManyToRead(std::string_view prefix, int most)
+{
+    return QCoreApplication::translate("OrvanData", "%1过多，最多%2个，文件未读取。")
+        .arg(ChildrenName(prefix), QString::number(most));
 }
 
 void ReadReport::Refuse(const QString& why)

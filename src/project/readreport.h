@@ -5,8 +5,11 @@
 
 #include <string_view>
 
-/// Tells the user that a file holds more children of this name than there may be.
-QString TooManyToRead(std::string_view name, int most);
+/// What numbered children are to the user, by the prefix of their names: "箱体" for "Tile_".
+QString ChildrenName(std::string_view prefix);
+
+/// Tells the user that a file holds more children of this prefix than there may be.
+QString TooManyToRead(std::string_view prefix, int most);
 
 /// What a reader passed over: a few lines for the user, never more than kMaxLines of a hostile file. Or why
 /// it refuses the file, of which nothing is taken then.

@@ -207,6 +207,7 @@ TEST_F(LayoutCheckTest, StoredReceiversAreComparedWithTheWiringInTheOrderOfTheCa
         return Faults(options).filter(QStringLiteral("receiver-mismatch"));
     };
     EXPECT_EQ(check(text), QStringList());
+    EXPECT_EQ(check(QByteArray(text).replace('\0', "&#x00;")), QStringList());
     // Sender 1, port 2: the second cabinet, behind one of two receiving cards.
     const int tile = text.indexOf("<Tile_2 ", text.indexOf("<Port_2 "));
     const int value = text.indexOf("FirstRcvIndex=\"2\"", tile);

@@ -25,11 +25,7 @@ bool OpenProject(const QString& file)
         return true;
     }
     progress.End();
-    if (!version.isEmpty())
-        Fail(StatusFile, file,
-             QStringLiteral("asks for version %1, which this program does not know yet").arg(version));
-    else
-        Fail(StatusFile, file, GetProjectData()->GetLastFileError());
+    Fail(StatusFile, file, GetProjectData()->GetLastFileError());
     return false;
 }
 

@@ -63,9 +63,7 @@ QString WhyNotBuildable(const NewProject& wanted)
     if (wanted.ports < 1 || wanted.ports > kMaxPorts)
         return QStringLiteral("a sender has 1 to %1 ports").arg(kMaxPorts);
     if (wanted.ports > wanted.grid.width())
-        return QStringLiteral("%1 columns cannot be shared by %2 ports")
-            .arg(wanted.grid.width())
-            .arg(wanted.ports);
+        return QStringLiteral("more ports (%1) than columns (%2)").arg(wanted.ports).arg(wanted.grid.width());
     if (wanted.order != NewProject::kNotNumbered && (wanted.order < 0 || wanted.order >= kOrders))
         return QStringLiteral("the order of numbering is 0 to %1").arg(kOrders - 1);
     return {};

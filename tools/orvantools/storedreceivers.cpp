@@ -3,10 +3,13 @@
 #include <OrvanData/orvandata.h>
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTextCodec>
 #include <QXmlStreamReader>
 
 #include <iterator>
+#include <memory>
 
 namespace OrvanTools {
 
@@ -43,11 +46,22 @@ bool StoredReceivers::ReadDocument(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
+    // What is looked for is ASCII, whatever else the bytes mean.
+    const bool isWide = file.peek(2) == "\xFF\xFE" || file.peek(2) == "\xFE\xFF";
+    const std::unique_ptr<QTextDecoder> decoder(
+        QTextCodec::codecForName(isWide ? "UTF-16" : "ISO-8859-1")->makeDecoder());
+    // Digests end with a NUL character, in whatever form, which no XML reader takes; nor do they take
+    // controls.
+    static const QRegularExpression refused(
+        QStringLiteral("&#x?0+;|[\\x{0}-\\x{8}\\x{B}\\x{C}\\x{E}-\\x{1F}]"));
     bool hasRoot = false;
     QXmlStreamReader xml;
+    QString text; // no reference is cut in two where a tag ends
     while (!file.atEnd()) {
-        // Digests end with a NUL character, which no XML reader takes.
-        xml.addData(file.read(kChunk).replace('\0', QByteArray()));
+        text += decoder->toUnicode(file.read(kChunk));
+        const int end = file.atEnd() ? text.size() : text.lastIndexOf(QLatin1Char('>')) + 1;
+        xml.addData(text.left(end).remove(refused));
+        text.remove(0, end);
         while (!xml.atEnd() && xml.readNext() != QXmlStreamReader::Invalid) {
             if (xml.isStartElement())
                 TakeElement(xml);

@@ -137,8 +137,10 @@ QString Figures(const WallPicture& picture, const QSize& canvas)
     if (cabinets == 0)
         parts.append(Tr("no cabinets"));
     else
-        parts.append({Tr("wall ") + SizeText(picture.bound.size().toSize()), Tr("%1 cabinets").arg(cabinets),
-                      Tr("%1 receivers").arg(receivers), Tr("%1 pixels").arg(pixels)});
+        parts.append({Tr("wall ") + SizeText(picture.bound.size().toSize()),
+                      Tr(cabinets == 1 ? "%1 cabinet" : "%1 cabinets").arg(cabinets),
+                      Tr(receivers == 1 ? "%1 receiver" : "%1 receivers").arg(receivers),
+                      Tr(pixels == 1 ? "%1 pixel" : "%1 pixels").arg(pixels)});
     return parts.join(QStringLiteral("  ·  "));
 }
 
