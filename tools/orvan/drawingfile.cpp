@@ -29,6 +29,19 @@ std::optional<DrawingFormat> FormatOf(const QString& file)
     return {};
 }
 
+/// A full disk takes a part first, and tells why it takes no more when asked again, without a buffer between.
+bool WriteAll(QIODevice& output, const QByteArray& bytes)
+{
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const qint64 taken = output.write(bytes.constData() + done, bytes.size() - done);
+        if (taken <= 0)
+            return false;
+        done += taken;
+    }
+    return true;
+}
+
 } // namespace
 
 bool IsDrawingName(const QString& file)
@@ -48,7 +61,7 @@ int WriteDrawing(const QString& file, int sender, int width)
         return Fail(StatusFile, file, QStringLiteral("cannot be drawn"));
     const SignalsHeld held; // what is written beside the file is gone or renamed afterwards
     QSaveFile output(file);
-    if (!output.open(QIODevice::WriteOnly) || output.write(drawing.data()) != drawing.size()
+    if (!output.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !WriteAll(output, drawing.data())
         || !output.commit())
         return Fail(StatusFile, file, output.errorString());
     return StatusDone;

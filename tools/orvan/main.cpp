@@ -11,8 +11,10 @@
 
 #include <clocale>
 #include <cstring>
+#include <fcntl.h>
 #include <langinfo.h>
 #include <memory>
+#include <unistd.h>
 
 namespace {
 
@@ -27,6 +29,16 @@ void UseUtf8WithoutLocale()
     std::setlocale(LC_ALL, "");
     if (std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
         QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+/// Where the shell closed a standard stream, a file opened later would get its place, and what is printed.
+void KeepStandardStreams()
+{
+    int file = 0;
+    do {
+        file = open("/dev/null", O_RDONLY);
+    } while (file >= 0 && file <= STDERR_FILENO);
+    close(file);
 }
 
 /// What the frameworks below have to grumble is no concern of whoever reads this program's errors.
@@ -149,6 +161,7 @@ int Dispatch(const Command& command, const QStringList& arguments)
 
 int main(int argc, char** argv)
 {
+    KeepStandardStreams();
     qInstallMessageHandler(DropFrameworkWarnings);
     UseUtf8WithoutLocale();
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))

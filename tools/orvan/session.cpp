@@ -12,6 +12,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <cerrno>
+
 namespace {
 
 QString DocumentsLocation()
@@ -69,7 +71,8 @@ bool Session::LeadTo(const QString& documents, QString* why)
     const QByteArray line = "XDG_DOCUMENTS_DIR=\"" + QFile::encodeName(documents) + "\"\n";
     if (!QDir().mkpath(settings) || !QDir().mkpath(scratch) || !file.open(QIODevice::WriteOnly)
         || file.write(line) != line.size() || !file.flush()) {
-        *why = QStringLiteral("no room for temporary files");
+        *why = m_private.Path("") + QStringLiteral(": ")
+               + (file.error() == QFileDevice::NoError ? qt_error_string(errno) : file.errorString());
         return false;
     }
     file.close();
