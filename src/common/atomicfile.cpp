@@ -37,6 +37,13 @@ QString Resolved(const QString& path)
     return info.isSymLink() ? info.symLinkTarget() : info.absoluteFilePath();
 }
 
+/// Where the new content of a file is written.
+QByteArray PartPath(const QByteArray& target)
+{
+    const int name = target.lastIndexOf('/') + 1;
+    return target.left(name) + '.' + target.mid(name).left(kMaxTargetNameBytes) + ".part";
+}
+
 /// Whether an open file is the one at its path, without what an interrupted save left in it. Removes one that
 /// is ours, by its lock, but is not fit for use.
 bool IsFresh(int file, const char* path)
@@ -119,7 +126,7 @@ class NewFile
 public:
     explicit NewFile(const QString& target)
         : m_target(QFile::encodeName(target)), m_folder(m_target.left(m_target.lastIndexOf('/') + 1)),
-          m_path(m_folder + '.' + m_target.mid(m_folder.size()).left(kMaxTargetNameBytes) + ".part")
+          m_path(PartPath(m_target))
     {}
 
     ~NewFile()
@@ -237,4 +244,10 @@ bool ReplaceFile(const QString& path, const QByteArray& content, QString* error)
 bool ReplaceWorkFile(const QString& path, const std::function<bool(QIODevice&)>& write, QString* error)
 {
     return Replace(QFileInfo(path).absoluteFilePath(), false, write, error);
+}
+
+bool IsReplacementPending(const QString& path)
+{
+    struct stat part = {};
+    return lstat(PartPath(QFile::encodeName(QFileInfo(path).absoluteFilePath())).constData(), &part) == 0;
 }

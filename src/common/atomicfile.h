@@ -19,3 +19,7 @@ bool ReplaceFile(const QString& path, const QByteArray& content, QString* error 
 /// followed.
 bool ReplaceWorkFile(const QString& path, const std::function<bool(QIODevice&)>& write,
                      QString* error = nullptr);
+
+/// Whether a replacement of the file at `path` is under way or was killed before its end; the next one
+/// removes what a killed one left.
+bool IsReplacementPending(const QString& path);

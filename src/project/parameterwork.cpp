@@ -219,7 +219,11 @@ QString LibraryFile(const CProductDirectorySet* products, const SMD5& type)
 bool Store(const QString& source, const QString& name, const SMD5& type, QString* error)
 {
     const QString target = PathOf(name);
-    return HoldsType(target, type) || Replace(source, target, error);
+    if (!HoldsType(target, type))
+        return Replace(source, target, error);
+    if (IsReplacementPending(target))
+        Replace(target, target, nullptr); // only for what a killed program left beside it
+    return true;
 }
 
 bool IsInTheWay(const QString& path)
