@@ -364,6 +364,10 @@
         <translation>The text of &quot;%1&quot; is longer than %2 MiB; the file was not saved.</translation>
     </message>
     <message>
+        <source>参数文件“%1”无法读取：%2</source>
+        <translation>parameter file &quot;%1&quot; cannot be read: %2</translation>
+    </message>
+    <message>
         <source>参数文件“%1”无法保存：%2</source>
         <translation>parameter file &quot;%1&quot; cannot be saved: %2</translation>
     </message>

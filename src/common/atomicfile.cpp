@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QIODevice>
 #include <QThread>
+#include <QUuid>
 
 #include <cerrno>
 #include <cstdio>
@@ -19,9 +20,10 @@
 
 namespace {
 
-constexpr qint64 kPatience = 30000;      ///< milliseconds to wait for another save of the same file
-constexpr unsigned long kPause = 10;     ///< milliseconds between two looks
-constexpr int kMaxTargetNameBytes = 200; ///< leaves room for what is put around it
+constexpr qint64 kPatience = 30000;               ///< milliseconds to wait for another save of the same file
+constexpr unsigned long kPause = 10;              ///< milliseconds between two looks
+constexpr int kMaxTargetNameBytes = 200;          ///< leaves room for what is put around it
+constexpr char kDescriptors[] = "/proc/self/fd/"; ///< where an open file without a name has one
 
 QString Tr(const char* text)
 {
@@ -35,13 +37,6 @@ QString Resolved(const QString& path)
     if (info.exists())
         return info.canonicalFilePath();
     return info.isSymLink() ? info.symLinkTarget() : info.absoluteFilePath();
-}
-
-/// Where the new content of a file is written.
-QByteArray PartPath(const QByteArray& target)
-{
-    const int name = target.lastIndexOf('/') + 1;
-    return target.left(name) + '.' + target.mid(name).left(kMaxTargetNameBytes) + ".part";
 }
 
 /// Whether an open file is the one at its path, without what an interrupted save left in it. Removes one that
@@ -90,6 +85,7 @@ public:
         return QIODevice::seek(position) && (lseek(m_file, position, SEEK_SET) == position || Fail());
     }
 
+    int Handle() const { return m_file; }
     bool Flush() { return m_error == 0 && (fsync(m_file) == 0 || Fail()); }
     int Error() const { return m_error; } ///< as errno, 0: none
 
@@ -119,14 +115,12 @@ private:
     int m_error = 0;
 };
 
-/// The new file beside a target. It has one name for each target and is locked while it is written, so what
-/// an interrupted save left is found and removed by the next one, and another program's is waited for.
+/// The new file beside a target.
 class NewFile
 {
 public:
     explicit NewFile(const QString& target)
-        : m_target(QFile::encodeName(target)), m_folder(m_target.left(m_target.lastIndexOf('/') + 1)),
-          m_path(PartPath(m_target))
+        : m_target(QFile::encodeName(target)), m_folder(m_target.left(m_target.lastIndexOf('/') + 1))
     {}
 
     ~NewFile()
@@ -135,8 +129,11 @@ public:
             unlink(m_path.constData());
     }
 
-    bool Open()
+    /// Under one name for each target and locked while it is written, so what an interrupted save left is
+    /// found and removed by the next one, and another program's is waited for.
+    bool OpenInTurn()
     {
+        m_path = m_folder + '.' + m_target.mid(m_folder.size()).left(kMaxTargetNameBytes) + ".part";
         QElapsedTimer waited;
         waited.start();
         do {
@@ -160,10 +157,26 @@ public:
         return false;
     }
 
+    /// Without a name, so that nothing is left of an interrupted one; with a fresh name where the file system
+    /// has no such files.
+    bool OpenUnseen()
+    {
+        int file = -1;
+        if (access(kDescriptors, X_OK) == 0)
+            file = open(m_folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
+        if (file < 0) {
+            m_path = FreshPath();
+            file = open(m_path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        }
+        return file < 0 ? FailWithErrno() : Take(file);
+    }
+
     bool Commit(bool flush)
     {
         if (m_device.Error() != 0 || (flush && !m_device.Flush()))
             return false;
+        if (m_path.isEmpty() && !GiveName())
+            return FailWithErrno();
         m_renamed = rename(m_path.constData(), m_target.constData()) == 0;
         if (!m_renamed)
             return FailWithErrno();
@@ -178,6 +191,18 @@ public:
     QString Error() const { return m_device.Error() != 0 ? qt_error_string(m_device.Error()) : m_error; }
 
 private:
+    QByteArray FreshPath() const
+    {
+        return m_folder + '.' + QUuid::createUuid().toByteArray(QUuid::WithoutBraces) + ".part";
+    }
+
+    bool GiveName()
+    {
+        const QByteArray unnamed = kDescriptors + QByteArray::number(m_device.Handle());
+        m_path = FreshPath();
+        return linkat(AT_FDCWD, unnamed.constData(), AT_FDCWD, m_path.constData(), AT_SYMLINK_FOLLOW) == 0;
+    }
+
     bool Take(int file)
     {
         struct stat replaced = {};
@@ -206,7 +231,7 @@ private:
 
     QByteArray m_target;
     QByteArray m_folder;
-    QByteArray m_path;
+    QByteArray m_path; ///< empty while it has no name
     NewFileDevice m_device;
     QString m_error;
     bool m_renamed = false;
@@ -217,7 +242,7 @@ bool Replace(const QString& target, bool flush, const std::function<bool(QIODevi
     if (error)
         error->clear();
     NewFile file(target);
-    if (file.Open() && write(file.Device()) && file.Commit(flush))
+    if ((flush ? file.OpenInTurn() : file.OpenUnseen()) && write(file.Device()) && file.Commit(flush))
         return true;
     const QString system = file.Error();
     if (error && (error->isEmpty() || !system.isEmpty()))
@@ -244,10 +269,4 @@ bool ReplaceFile(const QString& path, const QByteArray& content, QString* error)
 bool ReplaceWorkFile(const QString& path, const std::function<bool(QIODevice&)>& write, QString* error)
 {
     return Replace(QFileInfo(path).absoluteFilePath(), false, write, error);
-}
-
-bool IsReplacementPending(const QString& path)
-{
-    struct stat part = {};
-    return lstat(PartPath(QFile::encodeName(QFileInfo(path).absoluteFilePath())).constData(), &part) == 0;
 }

@@ -16,10 +16,7 @@ bool ReplaceFile(const QString& path, const std::function<bool(QIODevice&)>& wri
 bool ReplaceFile(const QString& path, const QByteArray& content, QString* error = nullptr);
 
 /// The same for a file that can be made again: the disk is not waited for, and a link is replaced, not
-/// followed.
+/// followed. The new file has no name, or one that no other file has, until it is whole: the folder may hold
+/// files of any name. Of two writers at a time the last one counts.
 bool ReplaceWorkFile(const QString& path, const std::function<bool(QIODevice&)>& write,
                      QString* error = nullptr);
-
-/// Whether a replacement of the file at `path` is under way or was killed before its end; the next one
-/// removes what a killed one left.
-bool IsReplacementPending(const QString& path);

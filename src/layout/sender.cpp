@@ -193,6 +193,7 @@ void CSender::SetOffset(const QSize& offset)
 void CSender::OffsetValid()
 {
     const QRect bound = GetBound();
+    // QRect::isEmpty() also takes a bound whose far edge wrapped around; empty is only last = first - 1.
     const auto isEmpty = [](int first, int last) { return quint32(first) - quint32(last) == 1; };
     if (isEmpty(bound.left(), bound.right()) || isEmpty(bound.top(), bound.bottom()))
         return;

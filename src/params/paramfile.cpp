@@ -94,10 +94,10 @@ int WriteElement(XmlWriter& writer, const QDomElement& element)
     return count;
 }
 
-/// A tree keeps no order of attributes, so the root is written by hand. Fails with `tooLarge` when no reader
+/// A tree keeps no order of attributes, so the root is written by hand. Fails with `refusal` when no reader
 /// would take the file.
 bool WriteFile(QIODevice& file, const Family& family, bool matchByIp, int count,
-               const QDomElement& processors, QString* tooLarge)
+               const QDomElement& processors, QString* refusal)
 {
     constexpr int rootNodes = 6; ///< at most: the root and its attributes
     StreamXmlWriter writer(file, family.encoding);
@@ -112,9 +112,9 @@ bool WriteFile(QIODevice& file, const Family& family, bool matchByIp, int count,
          element = element.nextSiblingElement())
         nodes += WriteElement(writer, element);
     writer.EndElement();
-    return writer.Flush()
-           && ((nodes <= kMaxTreeNodes && file.size() <= kMaxXmlBytes)
-               || Fail(tooLarge, QCoreApplication::translate("OrvanData", "文件过大。")));
+    if (nodes > kMaxTreeNodes)
+        return Fail(refusal, QCoreApplication::translate("OrvanData", "文件过大。"));
+    return writer.Flush() || Fail(refusal, writer.GetRefusal());
 }
 
 quint32 Export(const Family& family, ParamsLookup& lookup, const QString& path, const QUuid& id)
@@ -135,14 +135,14 @@ quint32 Export(const Family& family, ParamsLookup& lookup, const QString& path, 
 
     const bool matchByIp = lookup.Prepared().matchByIp;
     QString error;
-    QString tooLarge;
+    QString refusal;
     const bool saved = ReplaceFile(
         path,
         [&](QIODevice& file) {
-            return WriteFile(file, family, matchByIp, chosen.size(), processors, &tooLarge);
+            return WriteFile(file, family, matchByIp, chosen.size(), processors, &refusal);
         },
         &error);
-    lookup.SetFileError(saved ? QString() : tooLarge.isEmpty() ? error : tooLarge);
+    lookup.SetFileError(saved ? QString() : refusal.isEmpty() ? error : refusal);
     return saved ? kDone : kFailed;
 }
 

@@ -77,37 +77,53 @@ bool WriteFile(const QString& path, const std::function<void(XmlWriter&)>& write
     return written || refusal.isEmpty() ? written : Fail(&error, refusal);
 }
 
-/// Gives the groups whose ids are used elsewhere fresh ones, kept in `renewed` by the old ones: a group may
-/// lie on several ports.
-void RenewGroupIds(CTileGroupSet& level, const QSet<QUuid>& used, QHash<QUuid, QUuid>& renewed)
+/// Ids that are used elsewhere, and the fresh ones for those of them that are met: one for each, as a group
+/// may lie on several ports.
+struct GroupIds
 {
-    QList<CTileGroup*> groups;
-    level.GetGroupListRecursive(groups);
-    for (CTileGroup* group : groups) {
-        if (!used.contains(group->GetID()))
-            continue;
-        QUuid& id = renewed[group->GetID()];
-        if (id.isNull())
-            id = QUuid::createUuid();
-        group->SetID(id);
-    }
+    QSet<QUuid> used;
+    QHash<QUuid, QUuid> renewed;
+};
+
+/// Whether the id has to change, and what to.
+bool Renew(const QUuid& id, GroupIds& ids, QUuid* fresh)
+{
+    if (id.isNull() || !ids.used.contains(id))
+        return false;
+    QUuid& renewed = ids.renewed[id];
+    if (renewed.isNull())
+        renewed = QUuid::createUuid();
+    *fresh = renewed;
+    return true;
 }
 
-void RenewGroupsOfTiles(CTileSet& tiles, const QHash<QUuid, QUuid>& renewed)
+QList<CTileGroup*> GroupsOf(const CPort& port)
 {
-    for (int i = 0; i < tiles.GetCount(); ++i) {
-        const auto found = renewed.constFind(tiles.GetTile(i)->GetGroupId());
-        if (found != renewed.constEnd())
-            tiles.GetTile(i)->SetGroupId(*found);
-    }
+    QList<CTileGroup*> groups;
+    port.GetPortProject()->GetTileGroupSet()->GetGroupListRecursive(groups);
+    return groups;
+}
+
+/// Also those of cabinets: the group itself may lie on another port, or nowhere.
+void RenewGroupIds(const CPort& port, GroupIds& ids)
+{
+    QUuid fresh;
+    for (CTileGroup* group : GroupsOf(port))
+        if (Renew(group->GetID(), ids, &fresh))
+            group->SetID(fresh);
+    const CTileSet& tiles = *port.GetPortProject()->GetTileSet();
+    for (int i = 0; i < tiles.GetCount(); ++i)
+        if (Renew(tiles.GetTile(i)->GetGroupId(), ids, &fresh))
+            tiles.GetTile(i)->SetGroupId(fresh);
 }
 
 void AddGroupIds(const CPort& port, QSet<QUuid>& ids)
 {
-    QList<CTileGroup*> groups;
-    port.GetPortProject()->GetTileGroupSet()->GetGroupListRecursive(groups);
-    for (const CTileGroup* group : qAsConst(groups))
+    for (const CTileGroup* group : GroupsOf(port))
         ids.insert(group->GetID());
+    const CTileSet& tiles = *port.GetPortProject()->GetTileSet();
+    for (int i = 0; i < tiles.GetCount(); ++i)
+        ids.insert(tiles.GetTile(i)->GetGroupId());
 }
 
 } // namespace
@@ -213,14 +229,11 @@ bool CProjectData::ImportPort(const QString& path)
 
 void CProjectData::RenewGroupIdsOf(const QList<CPort*>& ports) const
 {
-    QSet<QUuid> used;
+    GroupIds ids;
     for (CSender* sender : m_senders)
         for (int i = 0; i < kMaxPorts; ++i)
             if (!ports.contains(sender->GetPort(i)))
-                AddGroupIds(*sender->GetPort(i), used);
-    QHash<QUuid, QUuid> renewed;
+                AddGroupIds(*sender->GetPort(i), ids.used);
     for (CPort* port : ports)
-        RenewGroupIds(*port->GetPortProject()->GetTileGroupSet(), used, renewed);
-    for (CPort* port : ports)
-        RenewGroupsOfTiles(*port->GetPortProject()->GetTileSet(), renewed);
+        RenewGroupIds(*port, ids);
 }

@@ -117,8 +117,8 @@ std::unique_ptr<CTile> MakeTile(const TileRecord& record, const QUuid& senderId,
     auto tile = std::make_unique<CTile>();
     tile->SetSenderId(senderId.isNull() ? record.senderId : senderId);
     tile->SetPortIndex(portIndex == -1 ? record.portIndex : portIndex);
-    if (!record.type
-             .IsNull()) // without a type the flags stay those of a new cabinet unless the file says them
+    // Without a type the flags stay those of a new cabinet unless the file says them.
+    if (!record.type.IsNull())
         tile->SetType(record.type);
     tile->SetGroupId(record.groupId);
     PlaceTile(record, *tile);

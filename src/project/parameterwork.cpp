@@ -37,10 +37,9 @@ bool IsParameterFile(const QString& name)
 /// Whether packing and unpacking put something of that name into the project folder.
 bool IsOurs(const QString& name)
 {
-    // What an unpacking that was killed left of one.
-    const bool isPart = name.startsWith(QLatin1Char('.')) && name.endsWith(QLatin1String(".part"));
-    const QString whole = isPart ? name.mid(1).chopped(5) : name;
-    return whole == kDocument || IsParameterFile(whole);
+    // What a copying or unpacking that was killed left.
+    static const QRegularExpression leftovers(QStringLiteral("\\A(qt_temp\\.\\w{6}|\\..+\\.part)\\z"));
+    return name == kDocument || IsParameterFile(name) || leftovers.match(name).hasMatch();
 }
 
 void Remove(const QFileInfo& entry)
@@ -117,8 +116,8 @@ Copied CopyAnew(const QString& source, const QString& target, qint64 most, QStri
 }
 
 /// Copies the row's file to where it is packed: the project's own, or the library's when that is not of the
-/// row's type. The copy is looked at: another program may replace the original. `error` stays empty when
-/// there is no file.
+/// row's type and the library's can be had. The copy is looked at: another program may replace the original.
+/// `error` stays empty when there is no file.
 Copied CopyForPacking(const SParameterFileInfo& row, const CProductDirectorySet* products,
                       const QString& target, qint64 most, QString* error)
 {
@@ -131,7 +130,9 @@ Copied CopyForPacking(const SParameterFileInfo& row, const CProductDirectorySet*
     if (copied == Copied::Unwritable || !hasLibrary || (copied == Copied::Yes && HoldsType(target, row.type)))
         return copied;
     QFile::remove(target);
-    return CopyAnew(library, target, most, error);
+    const Copied fromLibrary = CopyAnew(library, target, most, error);
+    const bool takeOwn = copied == Copied::Yes && fromLibrary == Copied::Unreadable;
+    return takeOwn ? CopyAnew(own, target, most, error) : fromLibrary;
 }
 
 /// A product is told by its digest: the library keeps the file it has, and never loses one to another's name.
@@ -141,7 +142,7 @@ bool OfferToLibrary(const QString& source, const SParameterFileInfo& row, QSet<S
     if (known.contains(digest))
         return true;
     const QString target = CProductDirectorySet::GetRootDir() + row.name + QStringLiteral(".rcvbp");
-    if (IsThere(target) ? CConstantData::GetMD5FromFile(target) != digest : !QFile::copy(source, target))
+    if (IsThere(target) ? CConstantData::GetMD5FromFile(target) != digest : !Replace(source, target, nullptr))
         return false;
     known.insert(digest);
     return true;
@@ -163,6 +164,11 @@ QSet<SMD5> DigestsInFolder(CProductDirectorySet& products)
 void ReportMissing(const SParameterFileInfo& row, ReadReport& report)
 {
     report.Add(QCoreApplication::translate("OrvanData", "缺少参数文件“%1”").arg(row.name));
+}
+
+void ReportUnread(const SParameterFileInfo& row, const QString& why, ReadReport& report)
+{
+    report.Add(QCoreApplication::translate("OrvanData", "参数文件“%1”无法读取：%2").arg(row.name, why));
 }
 
 void ReportUnsaved(const SParameterFileInfo& row, const QString& why, ReadReport& report)
@@ -219,11 +225,7 @@ QString LibraryFile(const CProductDirectorySet* products, const SMD5& type)
 bool Store(const QString& source, const QString& name, const SMD5& type, QString* error)
 {
     const QString target = PathOf(name);
-    if (!HoldsType(target, type))
-        return Replace(source, target, error);
-    if (IsReplacementPending(target))
-        Replace(target, target, nullptr); // only for what a killed program left beside it
-    return true;
+    return HoldsType(target, type) || Replace(source, target, error);
 }
 
 bool IsInTheWay(const QString& path)
@@ -314,7 +316,7 @@ void DistributeAfterLoading(const QString& archive, const QList<SParameterFileIn
         const QString source = NumberedPath(i);
         QString why = damaged.value(kEntryFolder + NumberedName(i));
         if (!why.isEmpty()) {
-            ReportUnsaved(rows[i], why, report);
+            ReportUnread(rows[i], why, report);
             continue;
         }
         if (!QFileInfo(source).isFile()) {

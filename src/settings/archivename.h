@@ -28,6 +28,5 @@ public:
 
 private:
     zip* m_archive;
-    QSet<QByteArray>
-        m_withNul; ///< as libzip gives them: a NUL is a blank there, as if it had always been one
+    QSet<QByteArray> m_withNul; ///< as libzip gives them, with a blank for each NUL
 };

@@ -3,8 +3,7 @@
 #include <QString>
 
 /// Where settings were loaded from and are saved to. What could not be understood there is moved to the name
-/// with
-/// ".bak" behind, over an older one, before anything is written in its place.
+/// with ".bak" behind, over an older one, before anything is written in its place.
 class SettingsFile
 {
 public:

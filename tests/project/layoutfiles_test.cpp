@@ -65,6 +65,11 @@ TEST_F(LayoutFilesTest, GroupIdsUsedElsewhereAreRenewedOverTheWholeSender)
     MakeWall(*target->GetPort(1), 1, 1);
     TilesOf(*target->GetPort(1)).GetTile(0)->SetGroupId(inner); // the group itself lies on the first port
     const QString path = folder.Path(QStringLiteral("a.xml"));
+    target->SetRecentPortIndex(1);
+    ASSERT_TRUE(project.ExportPort(path));
+    target->SetRecentPortIndex(2);
+    ASSERT_TRUE(project.ImportPort(path));
+    EXPECT_EQ(TilesOf(*target->GetPort(2)).GetTile(0)->GetPortIndex(), 2);
     ASSERT_TRUE(project.ExportSender(path, target->GetId()));
     CSender* other = project.GetSender(0);
     ASSERT_TRUE(project.ImportSender(path, other->GetId(), false, false));
@@ -78,16 +83,6 @@ TEST_F(LayoutFilesTest, GroupIdsUsedElsewhereAreRenewedOverTheWholeSender)
     EXPECT_EQ(tiles.GetCount(), 5);
     EXPECT_TRUE(target->GetAllTileSetInGroup(tiles, outer));
     EXPECT_EQ(tiles.GetCount(), 5);
-}
-
-TEST_F(LayoutFilesTest, PortFileGoesToTheCurrentSendersRecentPort)
-{
-    target->SetRecentPortIndex(2);
-    ASSERT_TRUE(project.ImportPort(SamplePath("port-layout.xml")));
-    const CPort& port = *target->GetPort(2);
-    ASSERT_EQ(port.GetPortProject()->GetTileSet()->GetCount(), 5);
-    EXPECT_EQ(port.GetPortIndex(), 2);
-    EXPECT_EQ(port.GetPortProject()->GetTileSet()->GetTile(0)->GetPortIndex(), 2);
 }
 
 TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)

@@ -131,6 +131,13 @@ TEST_F(ProjectFileTest, ParameterFilesTravelWithTheProjectIntoTheLibrary)
     EXPECT_EQ(project.GetLastFileError(), QString());
     ASSERT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("unpacked"))));
     EXPECT_EQ(ReadFile(folder.Path(QStringLiteral("unpacked/project/0.rcvbp"))), first);
+
+    Put(parameterwork::PathOf(QStringLiteral("箱体A128")), "own, edited");
+    const QString known = CProductDirectorySet::GetRootDir() + QStringLiteral("箱体A128.rcvbp");
+    ASSERT_TRUE(QFile::remove(known) && QDir().mkpath(known)); // cannot be read
+    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
+    ASSERT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("unpacked"))));
+    EXPECT_EQ(ReadFile(folder.Path(QStringLiteral("unpacked/project/0.rcvbp"))), "own, edited");
 }
 
 TEST_F(ProjectFileTest, FilesInTheWorkAndProductFoldersCountAsTheyAre)
@@ -160,7 +167,7 @@ TEST_F(ProjectFileTest, ParameterFileThatIsDamagedOrTooLargeCostsItselfAlone)
     const int content = archive.indexOf("project/0.rcvbp") + 40;
     archive[content] = static_cast<char>(~archive[content]);
     ASSERT_TRUE(Load(folder.Write(QStringLiteral("damaged.prj"), archive)));
-    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("project/0.rcvbp")));
+    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("无法读取")));
     ASSERT_EQ(project.GetParameterFiles().size(), 2);
     EXPECT_FALSE(QFile::exists(parameterwork::PathOf(project.GetParameterFiles()[0].name)));
     EXPECT_EQ(ReadFile(parameterwork::PathOf(project.GetParameterFiles()[1].name)).size(), 1104);
@@ -336,6 +343,7 @@ TEST_F(ProjectFileTest, OtherFilesInAnArchiveDoNotComeIntoTheNextOne)
     ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("project")), odd));
     ASSERT_TRUE(Load(odd));
     EXPECT_EQ(project.GetLastFileError(), QString());
+    Put(parameterwork::ProjectFolder() + QStringLiteral("qt_temp.AbCdEf"), "of a killed program");
     ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
     EXPECT_EQ(ReadFile(path), saved);
 }

@@ -77,7 +77,7 @@ TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
     // Plain, Chinese, outside GBK, outside the basic plane, and GBK bytes that happen to be valid UTF-8.
     const QStringList names = {QStringLiteral("x.txt"),        QString::fromUtf8("箱体 1.rcvbp"),
                                QString::fromUtf8("ģ ñ.txt"),   QString::fromUtf8("😀.txt"),
-                               QString::fromUtf8("子/模.txt"), QStringLiteral(".hidden")};
+                               QString::fromUtf8("子/模.txt"), QStringLiteral(".x.txt.part")};
     for (const QString& name : names)
         folder.Write(QStringLiteral("屏幕B/") + name, name.toUtf8().repeated(100));
     folder.Write(QStringLiteral("屏幕B/empty"), QByteArray());
