@@ -74,7 +74,7 @@ TEST(OverlapFinderTest, FindsWhatComparingEveryPairFinds)
             const auto place = [&random] { return double(random() % 3000) - 500; };
             const TileShape rect =
                 Rect(place(), place(), 1 + random() % static_cast<unsigned>(size), 1 + random() % 60);
-            shapes.push_back(i % 5 == 0 ? Turned(rect, random() % 180) : rect);
+            shapes.push_back(round % 2 == 0 && i % 5 == 0 ? Turned(rect, random() % 180) : rect);
         }
         const OverlapFinder finder(shapes);
         for (size_t a = 0; a < shapes.size(); ++a) {

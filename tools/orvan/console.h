@@ -29,6 +29,7 @@ public:
 private:
     bool m_empty = true;
 };
+
 bool FlushOutput(); ///< false when standard output did not take all
 
 QSize ParseSize(const QString& text);               ///< 1920x1080; an invalid size for any other text

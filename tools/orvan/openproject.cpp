@@ -32,7 +32,10 @@ bool OpenProject(const QString& file)
 bool SaveProject(const QString& file)
 {
     ProgressLine progress(QStringLiteral("writing ") + file);
-    const SignalsHeld held; // what is written beside the file is gone or renamed afterwards
+    // What is written beside the file is gone or renamed afterwards. A signal has to wait as well while
+    // another program has the work folder of the documents or writes the same file, which the library gives
+    // up after half a minute each.
+    const SignalsHeld held;
     const bool saved =
         GetProjectData()->SaveProjectToFile(QFileInfo(file).absoluteFilePath(), progress.Bar());
     progress.End();

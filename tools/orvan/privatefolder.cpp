@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 
 #include <fcntl.h>
@@ -55,13 +56,29 @@ void EndBySignals()
     }
 }
 
-/// The lock tells a folder in use from one of a killed run, and ours from any other of that name.
-int Lock(const QByteArray& folder, int flags)
+/// An open file with a lock on it, or -1 and errno.
+int Lock(const QByteArray& path, int flags)
 {
-    const int file = open((folder + kLockName).constData(), O_RDWR | O_NOFOLLOW | O_CLOEXEC | flags, 0600);
+    const int file = open(path.constData(), O_RDWR | O_NOFOLLOW | O_CLOEXEC | flags, 0600);
     if (file < 0 || flock(file, LOCK_EX | LOCK_NB) == 0)
         return file;
+    const int why = errno;
     close(file);
+    errno = why;
+    return -1;
+}
+
+/// The lock tells a folder in use from one of a killed run, and ours from any other of that name. It gets its
+/// name when it is locked, so that no other run can take the folder for an abandoned one before.
+int LockNew(const QByteArray& folder)
+{
+    const QByteArray fresh = folder + "/new.lock";
+    const int lock = Lock(fresh, O_CREAT | O_EXCL);
+    if (lock < 0 || rename(fresh.constData(), (folder + kLockName).constData()) == 0)
+        return lock;
+    const int why = errno;
+    close(lock);
+    errno = why;
     return -1;
 }
 
@@ -71,7 +88,8 @@ void RemoveAbandoned()
         QDir(QDir::tempPath())
             .entryInfoList({QLatin1String(kName) + QStringLiteral("??????")}, QDir::Dirs | QDir::NoSymLinks);
     for (const QFileInfo& folder : folders) {
-        const int lock = folder.ownerId() == geteuid() ? Lock(QFile::encodeName(folder.filePath()), 0) : -1;
+        const bool own = folder.ownerId() == geteuid();
+        const int lock = own ? Lock(QFile::encodeName(folder.filePath()) + kLockName, 0) : -1;
         if (lock < 0)
             continue;
         QDir(folder.filePath()).removeRecursively();
@@ -98,7 +116,9 @@ PrivateFolder::PrivateFolder()
         return;
     }
     EndBySignals();
-    m_lock = Lock(g_folder, O_CREAT);
+    m_lock = LockNew(g_folder);
+    if (m_lock < 0)
+        m_error = QFile::decodeName(g_folder) + QStringLiteral(": ") + qt_error_string(errno);
 }
 
 PrivateFolder::~PrivateFolder()

@@ -55,6 +55,7 @@ struct CheckOptions
 void CheckProject(const CProjectData& project, const CheckOptions& options,
                   const std::function<void(const Fault&)>& found);
 
-QList<Fault> CheckProject(const CProjectData& project, const CheckOptions& options); ///< the same, as a list
+/// The same as a list, for a window that shows them all.
+QList<Fault> CheckProject(const CProjectData& project, const CheckOptions& options);
 
 } // namespace OrvanTools

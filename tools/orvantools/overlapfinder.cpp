@@ -1,5 +1,7 @@
 #include "orvantools/overlapfinder.h"
 
+#include "orvantools/overlapsweep.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -50,6 +52,14 @@ OverlapFinder::OverlapFinder(const std::vector<TileShape>& shapes)
     }
     std::stable_sort(order.begin(), order.end(),
                      [](const auto& a, const auto& b) { return a.first > b.first; });
+    std::vector<int> upright;
+    for (const auto& [side, shape] : order) {
+        if (!m_shapes[static_cast<size_t>(shape)].IsTurned())
+            upright.push_back(shape);
+    }
+    SweepOverlaps(m_bounds, upright, m_partners);
+    if (upright.size() == order.size())
+        return;
     for (const auto& [side, shape] : order)
         Add(shape, side);
 }
@@ -57,34 +67,50 @@ OverlapFinder::OverlapFinder(const std::vector<TileShape>& shapes)
 void OverlapFinder::Add(int shape, int side)
 {
     const auto index = static_cast<size_t>(shape);
+    const bool turned = m_shapes[index].IsTurned();
     Grid& own = m_grids[side];
     for (auto& [cellSide, grid] : m_grids) {
         VisitCells(m_bounds[index], cellSide, [&, &cells = grid](qint64 place) {
             const auto cell = cells.find(place);
-            if (cell != cells.end())
-                CompareWithin(cell->second, shape);
+            if (cell == cells.end())
+                return;
+            CompareWithin(cell->second.turned, shape);
+            if (turned)
+                CompareWithin(cell->second.upright, shape);
         });
     }
     VisitCells(m_bounds[index], side, [&](qint64 place) {
         Cell& cell = own[place];
-        (m_partners[index] != kNone ? cell.overlapping : cell.alone).push_back(shape);
+        Shapes& shapes = turned ? cell.turned : cell.upright;
+        if (m_partners[index] == kNone)
+            shapes.alone.push_back(shape);
+        else
+            AddOverlapping(shapes, shape);
     });
 }
 
-void OverlapFinder::CompareWithin(Cell& cell, int shape)
+void OverlapFinder::AddOverlapping(Shapes& shapes, int shape) const
+{
+    const auto corners = [this](int of) { return m_shapes[static_cast<size_t>(of)].corners; };
+    // Stacked cabinets are stored one after another.
+    if (shapes.overlapping.empty() || corners(shapes.overlapping.back()) != corners(shape))
+        shapes.overlapping.push_back(shape);
+}
+
+void OverlapFinder::CompareWithin(Shapes& others, int shape)
 {
     size_t kept = 0;
-    for (const int other : cell.alone) {
+    for (const int other : others.alone) {
         const bool overlaps = m_partners[static_cast<size_t>(other)] != kNone || Compare(shape, other);
         if (overlaps)
-            cell.overlapping.push_back(other);
+            AddOverlapping(others, other);
         else
-            cell.alone[kept++] = other;
+            others.alone[kept++] = other;
     }
-    cell.alone.resize(kept);
+    others.alone.resize(kept);
     // The latest first: stacked cabinets are stored one after another.
-    for (size_t i = cell.overlapping.size(); i > 0 && m_partners[static_cast<size_t>(shape)] == kNone; --i)
-        Compare(shape, cell.overlapping[i - 1]);
+    for (size_t i = others.overlapping.size(); i > 0 && m_partners[static_cast<size_t>(shape)] == kNone; --i)
+        Compare(shape, others.overlapping[i - 1]);
 }
 
 bool OverlapFinder::Compare(int a, int b)

@@ -8,10 +8,11 @@
 
 namespace OrvanTools {
 
-/// Finds which shapes overlap another one. The canvas is cut into cells, for each size of shapes into others,
-/// so that a shape covers few cells; from the largest to the smallest each is compared with those of its
-/// cells. Shapes already known to overlap are kept apart, and of the others only so many fit into a cell.
-/// Shapes without area, and what is larger than any cabinet, overlap nothing.
+/// Finds which shapes overlap another one. Those that are not turned are swept. When some are turned, the
+/// canvas is cut into cells, for each size of shapes into others, so that a shape covers few cells; from the
+/// largest to the smallest each is compared with the turned ones of its cells, and a turned one with all.
+/// Shapes already known to overlap are kept apart, equal ones in a row once, and of the others only so many
+/// fit into a cell. Shapes without area, and what is larger than any cabinet, overlap nothing.
 class OverlapFinder
 {
 public:
@@ -22,16 +23,23 @@ public:
     int GetPartner(size_t shape) const { return m_partners[shape]; } ///< one that it overlaps, or kNone
 
 private:
-    struct Cell
+    struct Shapes
     {
         std::vector<int> alone;
         std::vector<int> overlapping;
     };
 
+    struct Cell
+    {
+        Shapes upright;
+        Shapes turned;
+    };
+
     using Grid = std::unordered_map<qint64, Cell>;
 
     void Add(int shape, int side);
-    void CompareWithin(Cell& cell, int shape);
+    void CompareWithin(Shapes& others, int shape);
+    void AddOverlapping(Shapes& shapes, int shape) const;
     bool Compare(int a, int b);
 
     const std::vector<TileShape>& m_shapes;

@@ -6,10 +6,12 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTextCodec>
+#include <QTextDecoder>
 #include <QXmlStreamReader>
 
 #include <iterator>
 #include <memory>
+#include <utility>
 
 namespace OrvanTools {
 
@@ -22,6 +24,75 @@ int NumberBehind(const QStringRef& name, const char* prefix)
 {
     const QLatin1String start(prefix);
     return name.startsWith(start) ? name.mid(start.size()).toInt() : 0;
+}
+
+/// Of UTF-16 or UTF-8 with a byte order mark; else what is looked for is ASCII, whatever the other bytes
+/// mean.
+QTextCodec* CodecOf(const QByteArray& start)
+{
+    return QTextCodec::codecForUtfText(start, QTextCodec::codecForName("ISO-8859-1"));
+}
+
+/// Takes the tags out of a document. Text, comments, instructions and CDATA sections, which may be as long as
+/// the file, are passed over: the XML reader would begin with them anew for each piece that it gets.
+class TagPicker
+{
+public:
+    QString Take(const QString& text); ///< the tags that end in the next piece
+
+private:
+    void TakeOfTag(QChar c);
+    void PassOver(QChar c);
+
+    QString m_tags;
+    QString m_tag;      ///< the beginning of one; empty: between tags
+    QChar m_quote;      ///< that ends the attribute's value; null: in none
+    QChar m_mark;       ///< that stands before the `>` of what is passed over; null: nothing is
+    int m_marks = 0;    ///< how many of it have to stand there
+    int m_marksNow = 0; ///< how many did so far
+};
+
+QString TagPicker::Take(const QString& text)
+{
+    m_tags.resize(0);
+    for (const QChar c : text) {
+        if (!m_mark.isNull())
+            PassOver(c);
+        else if (!m_tag.isEmpty() || c == QLatin1Char('<'))
+            TakeOfTag(c);
+    }
+    return m_tags;
+}
+
+void TagPicker::TakeOfTag(QChar c)
+{
+    m_tag += c;
+    if (!m_quote.isNull()) {
+        if (c == m_quote)
+            m_quote = QChar();
+    } else if (c == QLatin1Char('"') || c == QLatin1Char('\'')) {
+        m_quote = c;
+    } else if (c == QLatin1Char('>')) {
+        m_tags += m_tag;
+        m_tag.resize(0);
+    } else {
+        const std::pair<const char*, char> asides[] = {{"<?", '?'}, {"<!--", '-'}, {"<![CDATA[", ']'}};
+        for (const auto& [begin, mark] : asides) {
+            if (m_tag != QLatin1String(begin))
+                continue;
+            m_mark = QLatin1Char(mark);
+            m_marks = mark == '?' ? 1 : 2;
+            m_marksNow = 0;
+            m_tag.resize(0);
+        }
+    }
+}
+
+void TagPicker::PassOver(QChar c)
+{
+    if (c == QLatin1Char('>') && m_marksNow >= m_marks)
+        m_mark = QChar();
+    m_marksNow = c == m_mark ? m_marksNow + 1 : 0;
 }
 
 } // namespace
@@ -46,22 +117,16 @@ bool StoredReceivers::ReadDocument(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    // What is looked for is ASCII, whatever else the bytes mean.
-    const bool isWide = file.peek(2) == "\xFF\xFE" || file.peek(2) == "\xFE\xFF";
-    const std::unique_ptr<QTextDecoder> decoder(
-        QTextCodec::codecForName(isWide ? "UTF-16" : "ISO-8859-1")->makeDecoder());
+    const std::unique_ptr<QTextDecoder> decoder(CodecOf(file.peek(4))->makeDecoder());
     // Digests end with a NUL character, in whatever form, which no XML reader takes; nor do they take
     // controls.
     static const QRegularExpression refused(
         QStringLiteral("&#x?0+;|[\\x{0}-\\x{8}\\x{B}\\x{C}\\x{E}-\\x{1F}]"));
     bool hasRoot = false;
+    TagPicker tags;
     QXmlStreamReader xml;
-    QString text; // no reference is cut in two where a tag ends
     while (!file.atEnd()) {
-        text += decoder->toUnicode(file.read(kChunk));
-        const int end = file.atEnd() ? text.size() : text.lastIndexOf(QLatin1Char('>')) + 1;
-        xml.addData(text.left(end).remove(refused));
-        text.remove(0, end);
+        xml.addData(tags.Take(decoder->toUnicode(file.read(kChunk))).remove(refused));
         while (!xml.atEnd() && xml.readNext() != QXmlStreamReader::Invalid) {
             if (xml.isStartElement())
                 TakeElement(xml);
