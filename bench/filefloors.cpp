@@ -1,5 +1,6 @@
 #include "filefloors.h"
 
+#include <pugixml.hpp>
 #include <zip.h>
 
 #include <QByteArray>
@@ -123,6 +124,23 @@ std::vector<FloorTile> LoadFloor(const QString& path)
             && reader.name().startsWith(QLatin1String("Tile_")))
             tiles.push_back(Convert(reader.attributes()));
     return tiles;
+}
+
+double LoadTreeFloor(const QString& path)
+{
+    QByteArray bytes = Unpacked(path);
+    pugi::xml_document tree;
+    tree.load_buffer_inplace(bytes.data(), static_cast<size_t>(bytes.size()));
+    double sum = 0;
+    for (pugi::xml_node node = tree.first_child(); node;) {
+        for (const pugi::xml_attribute& attribute : node.attributes())
+            sum += attribute.as_double();
+        pugi::xml_node next = node.first_child();
+        for (; !next && node; node = node.parent())
+            next = node.next_sibling();
+        node = next;
+    }
+    return sum;
 }
 
 void SaveFloor(const QString& path, const std::vector<FloorTile>& tiles)

@@ -18,6 +18,10 @@ struct FloorTile
 /// structures.
 std::vector<FloorTile> LoadFloor(const QString& path);
 
+/// A quicker way that takes ten times the memory: unpack, build a tree in place, read every attribute as a
+/// number. The sum of these keeps the compiler from leaving it out.
+double LoadTreeFloor(const QString& path);
+
 /// What any saver must do: every attribute into one buffer, packed at level 6 and flushed to the disk.
 void SaveFloor(const QString& path, const std::vector<FloorTile>& tiles);
 

@@ -16,6 +16,18 @@
         <translation>Not valid XML (line %1): %2.</translation>
     </message>
     <message>
+        <source>不支持文件的编码。</source>
+        <translation>The encoding of the file is not supported.</translation>
+    </message>
+    <message>
+        <source>文件含有与其编码不符的字符。</source>
+        <translation>The file holds characters that are not of its encoding.</translation>
+    </message>
+    <message>
+        <source>标记过长。</source>
+        <translation>A tag is too long.</translation>
+    </message>
+    <message>
         <source>文件无法读取。</source>
         <translation>The file could not be read.</translation>
     </message>
@@ -398,10 +410,6 @@
     <message>
         <source>根元素之后还有内容</source>
         <translation>something follows the root element</translation>
-    </message>
-    <message>
-        <source>不支持该编码</source>
-        <translation>the encoding is not supported</translation>
     </message>
     <message>
         <source>引用无效</source>

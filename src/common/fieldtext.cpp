@@ -78,6 +78,11 @@ void Append(std::string& out, unsigned int value)
     AppendNumber(out, value);
 }
 
+void Append(std::string& out, unsigned char value)
+{
+    Append(out, int(value));
+}
+
 void Append(std::string& out, bool value)
 {
     out.push_back(value ? '1' : '0');
@@ -129,6 +134,11 @@ void Read(std::string_view text, int& value)
 void Read(std::string_view text, unsigned int& value)
 {
     value = NumberOr0<unsigned int>(text);
+}
+
+void Read(std::string_view text, unsigned char& value)
+{
+    value = static_cast<unsigned char>(NumberOr0<int>(text));
 }
 
 void Read(std::string_view text, bool& value)

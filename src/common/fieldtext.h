@@ -15,6 +15,7 @@ namespace fieldtext {
 
 void Append(std::string& out, int value);
 void Append(std::string& out, unsigned int value);
+void Append(std::string& out, unsigned char value);
 void Append(std::string& out, bool value);   ///< "1" or "0"
 void Append(std::string& out, double value); ///< as QString::number(value, 'g', 6) gives it
 void Append(std::string& out, float value);
@@ -25,8 +26,9 @@ void Append(std::string& out, const QString& value);
 
 void Read(std::string_view text, int& value);
 void Read(std::string_view text, unsigned int& value);
-void Read(std::string_view text, bool& value);   ///< true for any number but 0
-void Read(std::string_view text, double& value); ///< unchanged for a number that is not finite
+void Read(std::string_view text, unsigned char& value); ///< the number modulo 256
+void Read(std::string_view text, bool& value);          ///< true for any number but 0
+void Read(std::string_view text, double& value);        ///< unchanged for a number that is not finite
 void Read(std::string_view text, float& value);
 void Read(std::string_view text, QUuid& value);
 void Read(std::string_view text, SMD5& value); ///< unchanged unless the text has 32 or 33 ASCII characters

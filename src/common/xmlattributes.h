@@ -3,6 +3,7 @@
 #include "common/fieldtext.h"
 
 #include <cstring>
+#include <optional>
 #include <string_view>
 
 /// The attributes of one element in document order, UTF-8, borrowed from a parser for the length of a call.
@@ -10,44 +11,47 @@
 class XmlAttributes
 {
 public:
-    /// [ref] Names and values in turn, closed by a null pointer.
-    explicit XmlAttributes(const char* const* pairs) : m_pairs(pairs), m_next(pairs) {}
+    /// [ref] Five pointers each: name, prefix (null for none), namespace, begin and end of the value. This is
+    /// how libxml2 hands them out; nothing is copied.
+    XmlAttributes(const unsigned char* const* fives, int count)
+        : m_first(fives), m_end(fives + kPointers * count), m_next(fives)
+    {}
 
-    int GetCount() const
-    {
-        int count = 0;
-        for (const char* const* at = m_pairs; *at; at += 2)
-            ++count;
-        return count;
-    }
+    static constexpr int kPointers = 5;
 
-    /// The value, null when there is no such attribute.
-    const char* Find(const char* name)
+    int GetCount() const { return static_cast<int>((m_end - m_first) / kPointers); }
+
+    /// The value, nothing when there is no such attribute.
+    std::optional<std::string_view> Find(const char* name)
     {
-        for (const char* const* at = m_next; *at; at += 2)
-            if (IsNamed(*at, name))
+        for (auto at = m_next; at != m_end; at += kPointers)
+            if (IsNamed(at, name))
                 return Take(at);
-        for (const char* const* at = m_pairs; at != m_next; at += 2)
-            if (IsNamed(*at, name))
+        for (auto at = m_first; at != m_next; at += kPointers)
+            if (IsNamed(at, name))
                 return Take(at);
-        return nullptr;
+        return std::nullopt;
     }
 
 private:
-    /// The first character tells most names apart without a call.
-    static bool IsNamed(const char* attribute, const char* name)
+    static const char* Text(const unsigned char* text) { return reinterpret_cast<const char*>(text); }
+
+    /// The first character tells most names apart without a call. Names with a prefix are nobody's.
+    static bool IsNamed(const unsigned char* const* attribute, const char* name)
     {
-        return *attribute == *name && std::strcmp(attribute, name) == 0;
+        const char* own = Text(attribute[0]);
+        return *own == *name && !attribute[1] && std::strcmp(own, name) == 0;
     }
 
-    const char* Take(const char* const* at)
+    std::string_view Take(const unsigned char* const* at)
     {
-        m_next = at + 2;
-        return at[1];
+        m_next = at + kPointers;
+        return {Text(at[3]), static_cast<size_t>(at[4] - at[3])};
     }
 
-    const char* const* m_pairs;
-    const char* const* m_next;
+    const unsigned char* const* m_first;
+    const unsigned char* const* m_end;
+    const unsigned char* const* m_next;
 };
 
 /// How a field of a record takes part in its file; both ways unless its description says otherwise.
@@ -69,9 +73,8 @@ public:
     {
         if (use == FieldUse::NeverRead)
             return;
-        const char* text = m_attributes.Find(name);
-        if (text)
-            fieldtext::Read(text, value);
+        if (const auto text = m_attributes.Find(name))
+            fieldtext::Read(*text, value);
         else if (use != FieldUse::IfPresent)
             value = T();
     }

@@ -1,5 +1,8 @@
 #include "common/xmlcleaner.h"
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 bool IsControl(char c)
@@ -7,16 +10,29 @@ bool IsControl(char c)
     return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
 }
 
+/// Which bytes pass without a closer look, by their value: every byte of every file is asked for.
+const std::array<bool, 256>& PlainBytes()
+{
+    static const std::array<bool, 256> plain = [] {
+        std::array<bool, 256> table = {};
+        for (int c = 0; c < 256; ++c)
+            table[static_cast<size_t>(c)] = c != '&' && !IsControl(static_cast<char>(c));
+        return table;
+    }();
+    return plain;
+}
+
 } // namespace
 
 void XmlCleaner::Take(const char* bytes, qint64 count, QByteArray& clean)
 {
+    const std::array<bool, 256>& plain = PlainBytes();
     const char* const end = bytes + count;
     while (bytes != end) {
         if (m_part == Part::None) {
             const char* const begin = bytes;
-            while (bytes != end && *bytes != '&' && !IsControl(*bytes))
-                ++bytes;
+            bytes =
+                std::find_if_not(bytes, end, [&](char c) { return plain[static_cast<unsigned char>(c)]; });
             clean.append(begin, static_cast<int>(bytes - begin));
             if (bytes == end)
                 return;

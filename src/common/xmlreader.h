@@ -14,6 +14,9 @@ constexpr int kMaxXmlDepth = 1024;
 constexpr qint64 kMaxXmlBytes = qint64(256) * 1024 * 1024;
 constexpr int kMaxXmlText = 16 << 20;  ///< bytes of an attribute, or of the text in an element
 constexpr int kMaxXmlAttributes = 256; ///< of one element
+/// Bytes of one tag, comment or instruction: the longest text, each of its characters a reference, and a
+/// little.
+constexpr qint64 kMaxXmlMarkup = qint64(6) * kMaxXmlText + 64 * 1024;
 
 /// Takes one element of a document as it is read. Handlers belong to whoever made them; a reader of many
 /// equal elements hands out the same one again and again.

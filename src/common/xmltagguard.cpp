@@ -4,10 +4,9 @@
 
 #include <cstring>
 
-bool XmlTagGuard::Accepts(const QByteArray& bytes)
+bool XmlTagGuard::Accepts(const char* at, qint64 count)
 {
-    const char* at = bytes.constData();
-    const char* const end = at + bytes.size();
+    const char* const end = at + count;
     while (at != end) {
         if (m_place == Place::Text || m_place == Place::Value) {
             const char sought = m_place == Place::Text ? '<' : m_quote;
@@ -35,7 +34,12 @@ void XmlTagGuard::LookAt(char c)
             BeginAside("?>");
         break;
     case Place::Declaring:
-        BeginAside(c == '-' ? "-->" : c == '[' ? "]]>" : ">");
+        m_place = Place::Commenting;
+        if (c != '-')
+            BeginAside(c == '[' ? "]]>" : ">");
+        break;
+    case Place::Commenting: // the second dash, which is none of those that end the comment
+        BeginAside("-->");
         break;
     case Place::Tag:
         if (c == '>')

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QByteArray>
+#include <QtGlobal>
 
-/// Looks at the bytes of a UTF-8 document before a parser does, for a tag of more attributes than are taken:
-/// parsers hold a tag whole and compare its attributes with one another before they tell of it.
+/// Looks at bytes of a UTF-8 document before a parser does, from the beginning of a tag, a comment or the
+/// like on, for a tag of more attributes than are taken: parsers hold a tag whole and compare its attributes
+/// with one another before they tell of it.
 class XmlTagGuard
 {
 public:
-    bool Accepts(const QByteArray& bytes); ///< the next bytes; false at the first such tag
+    bool Accepts(const char* bytes, qint64 count); ///< the next ones; false at the first such tag
 
 private:
     enum class Place
@@ -15,6 +16,7 @@ private:
         Text,
         Opening,
         Declaring,
+        Commenting,
         Tag,
         Value,
         Aside

@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int kLowestStoredPlace = -131072;
 constexpr double kNoAngle = 0.0001; ///< degrees, up to it nothing counts as turned
 
 /// The selection bit of each view; 0 for a view without selection.
@@ -35,11 +34,6 @@ int OnCanvas(int value, int canvas, int size)
     if (value < 0)
         return 0;
     return value < canvas ? value : SaturatedInt(qint64(canvas) - size);
-}
-
-int StoredOnCanvas(int value, int canvas, int size)
-{
-    return value < 0 && value >= kLowestStoredPlace ? value : OnCanvas(value, canvas, size);
 }
 
 const CTileSet* SetOfOwnPort(const TileData& data)
@@ -151,12 +145,6 @@ void CTile::Offset(int dx, int dy)
     data.rotate.leftTopX += dx;
     data.rotate.leftTopY += dy;
     ChangeJournal::Append(this);
-}
-
-void CTile::RestorePosition(int x, int y)
-{
-    StorePlace(&TileData::x, StoredOnCanvas(x, kMaxCanvasWidth, GetWidth()));
-    StorePlace(&TileData::y, StoredOnCanvas(y, kMaxCanvasHeight, GetHeight()));
 }
 
 QPoint CTile::GetCenter() const
@@ -353,12 +341,6 @@ void CTile::SetMultiRcvsLine(const unsigned char* line)
     const auto count = static_cast<size_t>(qMin(GetMultiRcvsCount(), kMaxReceiversInTile));
     if (line && count > 0 && std::memcmp(m_data->line, line, count) != 0)
         std::memmove(Write().line, line, count);
-}
-
-void CTile::RestoreMultiRcvsLine(const unsigned char* line)
-{
-    if (line && std::memcmp(m_data->line, line, sizeof m_data->line) != 0)
-        std::memmove(Write().line, line, sizeof m_data->line);
 }
 
 unsigned char* CTile::GetMultiRcvsLine()

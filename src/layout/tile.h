@@ -45,11 +45,8 @@ public:
     QSize GetSize() const;
     QPoint GetPosition() const;
     void Offset(int dx, int dy); ///< unclamped; the rotation record moves along
-    /// Puts a stored cabinet back: as SetX and SetY do, but down to -131072 a negative place stays, because
-    /// the offset of a sender makes it legal.
-    void RestorePosition(int x, int y);
-    QPoint GetCenter() const; ///< of the turned corners when rotated, else by integer division
-    QRect GetBound() const;   ///< bounding box, of the turned corners when rotated
+    QPoint GetCenter() const;    ///< of the turned corners when rotated, else by integer division
+    QRect GetBound() const;      ///< bounding box, of the turned corners when rotated
     void
     GetRotateArea(CPointEx<double>* corners) const; ///< four: left-top, right-top, right-bottom, left-bottom
 
@@ -87,10 +84,9 @@ public:
     void SetMultiRcvsSize(const QSize& size); ///< receiving cards across and down
     QSize GetMultiRcvsSize() const;
     int GetMultiRcvsCount() const; ///< 0 when the size is negative or its product does not fit
-    void SetMultiRcvsLine(const unsigned char* line);     ///< as many bytes as there are cards, at most ten
-    void RestoreMultiRcvsLine(const unsigned char* line); ///< all ten bytes, as a file stores them
-    unsigned char* GetMultiRcvsLine();                    ///< [ref] ten bytes, valid while the tile lives
-    unsigned char GetMultiRcvsLineCode(int index) const;  ///< 0 outside 0 to 9
+    void SetMultiRcvsLine(const unsigned char* line);    ///< as many bytes as there are cards, at most ten
+    unsigned char* GetMultiRcvsLine();                   ///< [ref] ten bytes, valid while the tile lives
+    unsigned char GetMultiRcvsLineCode(int index) const; ///< 0 outside 0 to 9
     /// Canvas pixels; the null rectangle out of range, so for every card of an empty size.
     QRect GetMultiRcvRect(int index);
     /// The same, relative to the cabinet. Only the upper end of the range is tested: with a negative index an

@@ -26,10 +26,10 @@ constexpr char kGroupCount[] = "GroupCount";
 constexpr char kGroup[] = "TileGroup";
 constexpr int kMaxGroupDepth = 1000;
 
-// What a file may hold, so that a hostile one does not fill the memory. Of cabinets and groups that is more
-// than a document of the size that is read has room for, as long as they say where they are.
+// What a file may hold, so that a hostile one does not fill the memory. Of cabinets and groups that is about
+// what a document of the largest size has room for once it is written again.
 constexpr int kMaxSenders = 1024;
-constexpr int kMaxTilesOfFile = static_cast<int>(kMaxXmlBytes / 128);
+constexpr int kMaxTilesOfFile = static_cast<int>(kMaxXmlBytes / 512);
 constexpr int kMaxGroupsOfFile = static_cast<int>(kMaxXmlBytes / 256);
 
 // Bytes that each takes at least when it is written.
@@ -144,27 +144,6 @@ template <class Fields, class Record> void DescribeRotation(Fields& f, Record& r
     f.Field("RotateHeight", r.height);
 }
 
-struct TileRecord
-{
-    QUuid senderId;
-    int portIndex = -1;
-    int connectionIndex = -1;
-    int beginRcvCnnt = -1;
-    SMD5 type;
-    QUuid groupId;
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-    int multi = -1; ///< the three flags: 0, 1, or -1 where the file has none
-    int fixedLine = -1;
-    int multiWidth = 1;
-    int multiHeight = 1;
-    int ordered = -1;
-    int line[kMaxReceiversInTile] = {};
-    SRotateParam rotate;
-};
-
 template <class Fields, class Record> void DescribeTile(Fields& f, Record& r)
 {
     f.Field("SenderId", r.senderId);
@@ -181,11 +160,11 @@ template <class Fields, class Record> void DescribeTile(Fields& f, Record& r)
     f.Field("Width", r.width);
     f.Field("Height", r.height);
     // A file without these says nothing; the product type decides.
-    f.Field("IsMultiCabinet", r.multi, FieldUse::IfPresent);
-    f.Field("IsMultiFixed", r.fixedLine, FieldUse::IfPresent);
-    f.Field("MultiRcvSizeX", r.multiWidth);
-    f.Field("MultiRcvSizeY", r.multiHeight);
-    f.Field("MultiOrdered", r.ordered, FieldUse::IfPresent);
+    f.Field("IsMultiCabinet", r.saysMulti, FieldUse::IfPresent);
+    f.Field("IsMultiFixed", r.saysFixed, FieldUse::IfPresent);
+    f.Field("MultiRcvSizeX", r.receiversAcross);
+    f.Field("MultiRcvSizeY", r.receiversDown);
+    f.Field("MultiOrdered", r.saysOrdered, FieldUse::IfPresent);
     static constexpr const char* kLine[kMaxReceiversInTile] = {
         "MultiLine_0", "MultiLine_1", "MultiLine_2", "MultiLine_3", "MultiLine_4",
         "MultiLine_5", "MultiLine_6", "MultiLine_7", "MultiLine_8", "MultiLine_9"};
@@ -204,10 +183,4 @@ template <class Fields, class Record> void DescribeGroup(Fields& f, Record& r)
 {
     f.Field("GroupId", r.id);
     DescribeRotation(f, r.rotate);
-}
-
-/// Whether a rotation that a file gives only by its angle counts as one.
-inline bool IsRotationAngle(double degrees)
-{
-    return degrees > 0.0001 || degrees < -0.0001;
 }

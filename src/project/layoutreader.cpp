@@ -1,10 +1,8 @@
 #include "project/layoutreader.h"
 
-#include "common/saturated.h"
 #include "layout/sender.h"
 
 #include <QCoreApplication>
-#include <QHash>
 
 #include <algorithm>
 #include <set>
@@ -19,37 +17,6 @@ int ReadCount(XmlAttributes& attributes, const char* name)
     int count = 0;
     AttributeReader(attributes).Field(name, count);
     return count;
-}
-
-/// Begin receiver connections follow from the finished wiring: cabinets may be stored in any order, and each
-/// takes its predecessor's as CTile::SetConnectionIndex would, so they are derived along the chain.
-void DeriveBeginReceivers(const CTileSet& tiles)
-{
-    std::vector<CTile*> chain;
-    QHash<int, const CTile*> first; // of the tiles with an index, in list order
-    first.reserve(tiles.GetCount());
-    for (int i = 0; i < tiles.GetCount(); ++i) {
-        CTile* tile = tiles.GetTile(i);
-        if (!tile->HasSetConnectIndex())
-            continue;
-        chain.push_back(tile);
-        if (!first.contains(tile->GetConnectionIndex()))
-            first.insert(tile->GetConnectionIndex(), tile);
-    }
-
-    const auto before = [](const CTile* a, const CTile* b) {
-        return a->GetConnectionIndex() < b->GetConnectionIndex();
-    };
-    if (!std::is_sorted(chain.begin(), chain.end(), before))
-        std::stable_sort(chain.begin(), chain.end(), before);
-    for (CTile* tile : chain) {
-        const int index = tile->GetConnectionIndex();
-        if (index == 0)
-            tile->SetBeginRcvCnnt(0);
-        else if (const CTile* previous = first.value(index - 1))
-            tile->SetBeginRcvCnnt(
-                SaturatedInt(qint64(previous->GetMultiRcvsCount()) + previous->GetBeginRcvCnnt()));
-    }
 }
 
 /// Drops each group whose id stands earlier in the tree, with all below it.
@@ -102,10 +69,14 @@ XmlHandler* TileSetReader::Child(std::string_view name)
 
 void TileSetReader::TileReader::Begin(XmlAttributes& attributes)
 {
-    TileRecord record;
+    StoredTile tile;
     AttributeReader fields(attributes);
-    DescribeTile(fields, record);
-    m_set.m_tiles.Add(MakeTile(record, m_set.m_senderId, m_set.m_portIndex));
+    DescribeTile(fields, tile);
+    if (!m_set.m_senderId.isNull())
+        tile.senderId = m_set.m_senderId;
+    if (m_set.m_portIndex != -1)
+        tile.portIndex = m_set.m_portIndex;
+    m_set.m_tiles.Add(m_maker.Make(tile));
 }
 
 void TileSetReader::End()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/xmlreader.h"
+#include "layout/storedtile.h"
 #include "layout/tile.h"
 #include "layout/tilegroup.h"
 #include "project/layoutrecords.h"
@@ -47,6 +48,7 @@ private:
 
     private:
         TileSetReader& m_set;
+        StoredTileMaker m_maker;
     };
 
     ReadReport& m_report;

@@ -1,62 +1,8 @@
 #include "project/layoutrecords.h"
 
 #include "layout/sender.h"
-#include "layout/tile.h"
 #include "layout/tilegroup.h"
 #include "settings/constantdata.h"
-
-#include <algorithm>
-
-namespace {
-
-void PlaceTile(const TileRecord& record, CTile& tile)
-{
-    tile.SetWidth(record.width);
-    tile.SetHeight(record.height);
-    tile.RestorePosition(record.x, record.y);
-}
-
-void WireTile(const TileRecord& record, CTile& tile)
-{
-    if (record.multi >= 0)
-        tile.SetBeMultiRcvsTile(record.multi != 0);
-    if (record.fixedLine >= 0)
-        tile.SetBeMultiFixedLine(record.fixedLine != 0);
-    if (record.ordered >= 0)
-        tile.SetMultiRcvsOrdered(record.ordered != 0);
-    if (record.multiWidth > 0 && record.multiHeight > 0)
-        tile.SetMultiRcvsSize(QSize(record.multiWidth, record.multiHeight));
-    unsigned char line[kMaxReceiversInTile];
-    std::transform(std::begin(record.line), std::end(record.line), line,
-                   [](int code) { return static_cast<unsigned char>(code); });
-    tile.RestoreMultiRcvsLine(line);
-}
-
-} // namespace
-
-TileRecord RecordOf(const CTile& tile)
-{
-    TileRecord record;
-    record.senderId = tile.GetSenderId();
-    record.portIndex = tile.GetPortIndex();
-    record.connectionIndex = tile.GetConnectionIndex();
-    record.beginRcvCnnt = tile.GetBeginRcvCnnt();
-    record.type = tile.GetType();
-    record.groupId = tile.GetGroupId();
-    record.x = tile.GetX();
-    record.y = tile.GetY();
-    record.width = tile.GetWidth();
-    record.height = tile.GetHeight();
-    record.multi = tile.IsMultiRcvTile();
-    record.fixedLine = tile.IsMultiFixedLine();
-    record.multiWidth = tile.GetMultiRcvsSize().width();
-    record.multiHeight = tile.GetMultiRcvsSize().height();
-    record.ordered = tile.IsMultiRcvsOrdered();
-    for (int i = 0; i < kMaxReceiversInTile; ++i)
-        record.line[i] = tile.GetMultiRcvsLineCode(i);
-    record.rotate = tile.GetRotateRecord();
-    return record;
-}
 
 GroupRecord RecordOf(const CTileGroup& group)
 {
@@ -110,25 +56,6 @@ SenderRecord RecordOf(const CSender& sender)
     record.rcvOffsetY = sender.GetMonitorRcvOffsetPt().y();
     record.ip = static_cast<unsigned int>(sender.GetNetSenderIP());
     return record;
-}
-
-std::unique_ptr<CTile> MakeTile(const TileRecord& record, const QUuid& senderId, int portIndex)
-{
-    auto tile = std::make_unique<CTile>();
-    tile->SetSenderId(senderId.isNull() ? record.senderId : senderId);
-    tile->SetPortIndex(portIndex == -1 ? record.portIndex : portIndex);
-    // Without a type the flags stay those of a new cabinet unless the file says them.
-    if (!record.type.IsNull())
-        tile->SetType(record.type);
-    tile->SetGroupId(record.groupId);
-    PlaceTile(record, *tile);
-    WireTile(record, *tile);
-    SRotateParam rotate = record.rotate;
-    rotate.rotated = IsRotationAngle(rotate.angle);
-    tile->SetTileRotateParam(&rotate);
-    CTileSet alone; // the predecessor may not have been read yet, so none is looked for
-    tile->SetConnectionIndex(record.connectionIndex, &alone);
-    return tile;
 }
 
 void ApplyRecord(const PortRecord& record, const QUuid& senderId, int portIndex, CPort& port)

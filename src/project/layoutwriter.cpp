@@ -1,6 +1,7 @@
 #include "project/layoutwriter.h"
 
 #include "layout/sender.h"
+#include "layout/storedtile.h"
 #include "layout/tile.h"
 #include "layout/tilegroup.h"
 #include "project/layoutrecords.h"
@@ -26,7 +27,7 @@ void WriteTiles(XmlWriter& writer, std::string_view name, const CTileSet& tiles)
     fields.Field(kTileCount, tiles.GetCount());
     for (int i = 0; i < tiles.GetCount(); ++i) {
         writer.BeginElement(Numbered(kTile, i + 1));
-        const TileRecord record = RecordOf(*tiles.GetTile(i));
+        const StoredTile record = MakeStored(*tiles.GetTile(i));
         DescribeTile(fields, record);
         writer.EndElement();
     }

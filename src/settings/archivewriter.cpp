@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr zip_uint32_t kCompressionLevel = 6;
+constexpr zip_uint32_t kCompressionLevel = 3;
 constexpr zip_uint16_t kDosDate = (1 << 5) | 1; // 1 January 1980; one stamp for all, so that bytes repeat
 constexpr zip_uint32_t kFileMode = (S_IFREG | 0644u) << 16;
 constexpr zip_uint32_t kFolderMode = (S_IFDIR | 0755u) << 16;

@@ -14,8 +14,8 @@ class Recorder : public XmlHandler
 public:
     void Begin(XmlAttributes& attributes) override
     {
-        const char* a = attributes.Find("a");
-        log += a ? "(" + std::string(a) : "(";
+        const auto a = attributes.Find("a");
+        log += "(" + std::string(a.value_or(""));
     }
     XmlHandler* Child(std::string_view name) override
     {
@@ -91,6 +91,23 @@ TEST(XmlReaderTest, OnlyValuesInATagCountAsItsAttributes)
         Parsed("<r>" + other + "</r>", true);
         Parsed("<r>" + other + "<b" + many + "/></r>", false);
     }
+}
+
+TEST(XmlReaderTest, EncodingIsThatOfTheMarkAndTheDeclaration)
+{
+    const QString text = QStringLiteral("<?xml version='1.0' encoding='UTF-16'?><r a='屏\U0001F600'/>");
+    QByteArray little(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
+    QByteArray big = little;
+    for (int i = 0; i < little.size(); ++i)
+        big[i] = little.at(i ^ 1);
+    for (const QByteArray& bytes : {little, big, "\xFF\xFE" + little, "\xFE\xFF" + big})
+        EXPECT_EQ(Parsed(bytes, true), "r(屏\U0001F600)");
+    EXPECT_EQ(Parsed("\xEF\xBB\xBF<r a='屏'/>", true), "r(屏)");
+    EXPECT_EQ(Parsed("<?xml version='1.0' encoding='iso-8859-1'?><r a='\xE4'/>", true), "r(ä)");
+    const QByteArray declared = "<?xml version='1.0' encoding='%'?><r a='\xE4'/>";
+    for (const char* name : {"UTF-8", "US-ASCII", "UTF-16", "GBK"})
+        Parsed(QByteArray(declared).replace('%', name), false);
+    Parsed(little.left(little.size() - 8) + little.right(6), false); // half a pair
 }
 
 TEST(XmlReaderTest, DeepNestingDoctypeAndBrokenFilesAreRefused)

@@ -1,5 +1,6 @@
 #include "common/xmldom.h"
 #include "common/xmlreader.h"
+#include "layout/storedtile.h"
 #include "params/sharedblocks.h"
 #include "project/layoutdescription.h"
 #include "project/projectdescription.h"
@@ -102,7 +103,7 @@ TEST(DocumentTablesTest, AttributesAndDeviationsAreThoseOfTheDescriptions)
         DescribeSender(l, r);
     });
     expect("Port_n", PortRecord(), [](auto& l, auto& r) { DescribePort(l, r); });
-    expect("Tile_n", TileRecord(), [](auto& l, auto& r) { DescribeTile(l, r); });
+    expect("Tile_n", StoredTile(), [](auto& l, auto& r) { DescribeTile(l, r); });
     expect("TileGroup_n", GroupRecord(), [](auto& l, auto& r) {
         DescribeGroup(l, r);
         l.Field(layoutnames::kGroupCount, 0);

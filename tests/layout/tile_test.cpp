@@ -1,3 +1,4 @@
+#include "layout/storedtile.h"
 #include "layout/tile.h"
 
 #include "common/interfacedlg.h"
@@ -52,8 +53,11 @@ TEST(TileTest, PlaceIsClampedToTheCanvasByThePresentSize)
         EXPECT_EQ(tile.SetY(wanted), y == wanted) << wanted;
         EXPECT_EQ(tile.GetPosition(), QPoint(x, y)) << wanted;
     }
-    tile.RestorePosition(-131072, -131073);
-    EXPECT_EQ(tile.GetPosition(), QPoint(-131072, 0)) << "a sender's offset makes some places legal";
+    StoredTile stored;
+    stored.x = -131072;
+    stored.y = -131073;
+    EXPECT_EQ(StoredTileMaker().Make(stored)->GetPosition(), QPoint(-131072, 0))
+        << "a sender's offset makes some places legal";
     tile.SetWidth(2000);
     tile.SetHeight(-3);
     EXPECT_EQ(tile.GetSize(), QSize(1024, -3));

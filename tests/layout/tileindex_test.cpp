@@ -38,7 +38,7 @@ public:
             [&] { tile->SetWidth(Number(-5, 300)); },
             [&] { tile->SetHeight(Number(0, 3) == 0 ? 0 : Number(1, 1100)); },
             [&] { tile->Offset(Number(-9000, 9000), Number(0, 5) == 0 ? 2000000000 : 64); },
-            [&] { tile->RestorePosition(Number(-400, 3000), Number(-400, 3000)); },
+            [&] { tile->Offset(Number(-400, 400), Number(-400, 400)); },
             [&] { tile->SetTileRotateParam(&(m_record = Record(*tile))); },
             [&] { m_records.emplace_back(tile, tile->GetTileRotateParam()); },
             [&] { WriteThroughPointer(); },
