@@ -59,7 +59,7 @@ bool IsFresh(int file, const char* path)
 class NewFileDevice : public QIODevice
 {
 public:
-    ~NewFileDevice() override { close(); }
+    ~NewFileDevice() override { NewFileDevice::close(); }
 
     void Open(int file)
     {

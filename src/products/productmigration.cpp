@@ -37,7 +37,7 @@ bool ReadProductList(const QString& path, QSet<SMD5>& digests)
     if (CheckIni(path) != IniCheck::Harmless)
         return false;
     const QSettings list(path, QSettings::IniFormat);
-    list.allKeys(); // has every section read
+    static_cast<void>(list.allKeys()); // has every section read
     if (list.status() != QSettings::NoError)
         return false;
     for (int number = 1; number <= kMaxListedProducts; ++number) {
