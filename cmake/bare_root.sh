@@ -31,8 +31,10 @@ trap 'exit 1' HUP INT TERM
 apart() {
     unshare --mount --pid --fork --kill-child --mount-proc "$@" &
     child=$!
-    wait "$child"
+    local status=0
+    wait "$child" || status=$?
     child=
+    return "$status"
 }
 
 echo "== a bare $suite in $root"
