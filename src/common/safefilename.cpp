@@ -2,8 +2,6 @@
 
 namespace {
 
-constexpr int kMaxBytes = 120;
-
 bool IsForbidden(QChar c)
 {
     return c.category() == QChar::Other_Control || QStringLiteral("/\\:*?\"<>|").contains(c);
@@ -11,8 +9,9 @@ bool IsForbidden(QChar c)
 
 QString CutToBytes(QString text)
 {
-    text.truncate(kMaxBytes + 1); // of a huge text no more than this is counted; half a character goes below
-    while (text.toUtf8().size() > kMaxBytes)
+    text.truncate(kMaxFileNameBytes
+                  + 1); // of a huge text no more than this is counted; half a character goes below
+    while (text.toUtf8().size() > kMaxFileNameBytes)
         text.chop(text.at(text.size() - 1).isLowSurrogate() ? 2 : 1);
     return text;
 }

@@ -4,9 +4,11 @@
 #include <QSet>
 #include <QString>
 
+constexpr int kMaxFileNameBytes = 120;
+
 /// A text made safe as one component of a path: no separators, controls or characters that some file system
-/// refuses (they become "_"), no leading dots, no trailing dots or blanks, at most 120 bytes of UTF-8;
-/// `fallback` for a text of which nothing is left.
+/// refuses (they become "_"), no leading dots, no trailing dots or blanks, at most kMaxFileNameBytes of
+/// UTF-8; `fallback` for a text of which nothing is left.
 QString SafeFileName(const QString& text, const QString& fallback);
 
 /// Names that are unlike each other, in either case.

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr size_t kBufferSize = size_t(256) * 1024;
+constexpr qint64 kMaxTag = kMaxXmlMarkup - 64 * 1024; ///< readers count the blanks before a tag too
 
 /// Line ends and tabs are written as references: a parser would turn them into blanks inside an attribute.
 const char* Reference(char c)
@@ -79,14 +80,19 @@ void StreamXmlWriter::BeginElement(std::string_view name)
     m_open.emplace_back(name);
     m_tagOpen = true;
     m_hasText = false;
+    m_tagBegin = m_written + static_cast<qint64>(m_buffer.size());
 }
 
 void StreamXmlWriter::Attribute(const char* name, std::string_view text)
 {
     m_buffer.append(" ").append(name).append("=\"");
-    if (IsWithinLimit(text, name))
+    if (text.size() <= kMaxXmlText)
         AppendEscaped(m_buffer, text);
+    else
+        Refuse(m_open.back() + '/' + name, kMaxXmlText);
     m_buffer.push_back('"');
+    if (m_written + static_cast<qint64>(m_buffer.size()) - m_tagBegin > kMaxTag)
+        Refuse(m_open.back(), kMaxTag);
 }
 
 void StreamXmlWriter::Text(std::string_view text)
@@ -95,21 +101,17 @@ void StreamXmlWriter::Text(std::string_view text)
         m_buffer.push_back('>');
     m_tagOpen = false;
     m_hasText = true;
-    if (IsWithinLimit(text, nullptr))
+    if (text.size() <= kMaxXmlText)
         AppendEscaped(m_buffer, text);
+    else
+        Refuse(m_open.back(), kMaxXmlText);
 }
 
-bool StreamXmlWriter::IsWithinLimit(std::string_view text, const char* attribute)
+void StreamXmlWriter::Refuse(const std::string& name, qint64 limit)
 {
-    if (text.size() <= kMaxXmlText)
-        return true;
-    QString name = FromUtf8(m_open.back());
-    if (attribute)
-        name += QLatin1Char('/') + QString::fromUtf8(attribute);
     if (m_refusal.isEmpty())
         m_refusal = QCoreApplication::translate("OrvanData", "“%1”的文字超过%2 MiB，文件未保存。")
-                        .arg(name, QString::number(kMaxXmlText >> 20));
-    return false;
+                        .arg(FromUtf8(name), QString::number(limit >> 20));
 }
 
 void StreamXmlWriter::EndElement()

@@ -40,7 +40,7 @@ public:
 private:
     void StartLine();
     void FlushWhenLarge();
-    bool IsWithinLimit(std::string_view text, const char* attribute); ///< `attribute`: null for a content
+    void Refuse(const std::string& name, qint64 limit);
 
     QIODevice& m_device;
     std::string m_buffer;
@@ -48,7 +48,8 @@ private:
     bool m_tagOpen = false;
     bool m_hasText = false;
     bool m_failed = false;
-    qint64 m_written = 0;
+    qint64 m_written = 0;  ///< bytes given to the device
+    qint64 m_tagBegin = 0; ///< where in the document the attributes of the open tag begin
     QString m_refusal;
 };
 

@@ -6,12 +6,6 @@
 #include <QFile>
 #include <QJsonDocument>
 
-namespace {
-
-constexpr qint64 kMaxFileSize = 1 << 24;
-
-} // namespace
-
 bool CustomizeConfig::Load(const QString& path)
 {
     m_file.SetPath(path);
@@ -20,7 +14,7 @@ bool CustomizeConfig::Load(const QString& path)
         return false;
     QByteArray content;
     QJsonDocument document;
-    if (ReadInput(path, kMaxFileSize, &content))
+    if (ReadInput(path, kMaxJsonBytes, &content))
         document = QJsonDocument::fromJson(content);
     if (!document.isObject()) {
         m_file.Hold();
@@ -35,10 +29,10 @@ bool CustomizeConfig::Save()
 {
     const QJsonDocument document(m_values);
     QByteArray content = document.toJson();
-    if (content.size() > kMaxFileSize)
+    if (content.size() > kMaxJsonBytes)
         content = document.toJson(QJsonDocument::Compact);
     // Read back, as values may be nested deeper than is read.
-    return content.size() <= kMaxFileSize && QJsonDocument::fromJson(content).isObject()
+    return content.size() <= kMaxJsonBytes && QJsonDocument::fromJson(content).isObject()
            && m_file.MakeWritable() && ReplaceFile(m_file.Path(), content);
 }
 

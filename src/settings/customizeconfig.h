@@ -5,6 +5,8 @@
 #include <QJsonObject>
 #include <QString>
 
+constexpr qint64 kMaxJsonBytes = 1 << 24;
+
 /// What a vendor's edition of the host changes, in a JSON file. Members that nobody asks for are kept.
 class CustomizeConfig
 {

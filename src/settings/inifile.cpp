@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr qint64 kMaxFileSize = 1 << 22; ///< keys cost a hundred times their size
-
 void SetCodec(QSettings& file, const char* codec)
 {
     if (codec)
@@ -89,7 +87,7 @@ IniCheck CheckIni(const QString& path, const char* codec)
         return IniCheck::Harmless;
     if (!OpenInput(file))
         return IniCheck::Unreadable;
-    if (file.size() > kMaxFileSize)
+    if (file.size() > kMaxIniBytes)
         return IniCheck::Harmful;
     return MayHoldHarmfulTypes(file.readAll(), codec != nullptr) ? IniCheck::Harmful : IniCheck::Harmless;
 }

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QVariant>
 
+constexpr qint64 kMaxIniBytes = 1 << 22; ///< keys cost a hundred times their size
+
 enum class IniCheck
 {
     Harmless, ///< or there is no file
@@ -12,7 +14,7 @@ enum class IniCheck
 
 /// Whether QSettings may read a file: it rebuilds values of any type that a file names, and some of them end
 /// the program. Only plain values, geometry, URLs, colours, key sequences, dates and times are let through,
-/// and 4 MiB. `codec`: as QSettings is given it, "UTF-8" or none.
+/// and kMaxIniBytes. `codec`: as QSettings is given it, "UTF-8" or none.
 IniCheck CheckIni(const QString& path, const char* codec = nullptr);
 
 /// Reads all values that have a name, once CheckIni let the file through; a file that is not there has none.

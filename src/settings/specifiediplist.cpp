@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr int kMaxAddresses = 1024;
-constexpr qint64 kMaxFileSize = 1 << 20;
 constexpr int kOctets = 4;
 
 bool ParseOctet(const QString& text, quint32* octet)
@@ -65,7 +63,7 @@ bool SpecifiedIpList::Load(const QString& path)
 {
     m_file.SetPath(path);
     QByteArray content;
-    const bool read = ReadInput(path, kMaxFileSize, &content);
+    const bool read = ReadInput(path, kMaxIpListBytes, &content);
     if (!read) {
         m_file.Hold();
         return false;
@@ -88,7 +86,7 @@ bool SpecifiedIpList::Save()
 bool SpecifiedIpList::Add(const QString& address)
 {
     quint32 number = 0;
-    if (m_addresses.size() >= kMaxAddresses || !ParseAddress(address, &number))
+    if (m_addresses.size() >= kMaxSpecifiedIps || !ParseAddress(address, &number))
         return false;
     const QString dotted = QHostAddress(number).toString();
     if (m_addresses.contains(dotted))

@@ -5,6 +5,9 @@
 #include <QStringList>
 #include <QVector>
 
+constexpr int kMaxSpecifiedIps = 1024;
+constexpr qint64 kMaxIpListBytes = 1 << 20;
+
 /// An IPv4 network, both numbers in host byte order.
 struct Ipv4Network
 {

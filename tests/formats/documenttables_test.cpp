@@ -1,3 +1,4 @@
+#include "common/safefilename.h"
 #include "common/xmldom.h"
 #include "common/xmlreader.h"
 #include "layout/storedtile.h"
@@ -6,6 +7,10 @@
 #include "project/projectdescription.h"
 #include "project/projectelements.h"
 #include "settings/archive.h"
+#include "settings/configfile.h"
+#include "settings/customizeconfig.h"
+#include "settings/inifile.h"
+#include "settings/specifiediplist.h"
 #include "support/testfolder.h"
 
 #include <gtest/gtest.h>
@@ -118,6 +123,30 @@ TEST(DocumentTablesTest, AttributesAndDeviationsAreThoseOfTheDescriptions)
     EXPECT_EQ(Table(QStringLiteral("Deviations in parameter files"), 3), f.TakeDeviations());
 }
 
+TEST(DocumentTablesTest, SettingsAndTheirDefaultsAreThoseOfANewInstallation)
+{
+    TestFolder folder;
+    SConfigItems items;
+    SetConfigDefaults(&items);
+    ASSERT_TRUE(WriteConfigFile(folder.Path(QStringLiteral("c.xml")), items));
+    QDomDocument written;
+    ASSERT_TRUE(ParseXmlDom(ReadFile(folder.Path(QStringLiteral("c.xml"))), written, nullptr));
+    QDomElement item = written.documentElement().firstChildElement().firstChildElement();
+    const QString table = QString::fromStdString(Table(QStringLiteral("Settings file"), 3));
+    static const QRegularExpression further(QStringLiteral("ProjectRecord[2-5]")); // share a row
+    for (const QString& row : table.split(QLatin1Char('\n'))) {
+        EXPECT_EQ(row.section(QLatin1Char('`'), 1, 1), item.tagName()) << qPrintable(row);
+        const bool ofMachine = item.tagName() == QLatin1String("Language");
+        if (item.firstChildElement().isNull() && !item.text().isEmpty() && !ofMachine) {
+            EXPECT_EQ(row.section(QLatin1Char(' '), -1), item.text()) << qPrintable(row);
+        }
+        do
+            item = item.nextSiblingElement();
+        while (further.match(item.tagName()).hasMatch());
+    }
+    EXPECT_TRUE(item.isNull());
+}
+
 TEST(DocumentTablesTest, LimitsAreThoseOfTheCode)
 {
     const auto row = [](const char* what, qint64 limit, const char* unit = "") {
@@ -137,17 +166,25 @@ TEST(DocumentTablesTest, LimitsAreThoseOfTheCode)
           row("XML file of parameters settings", kMaxTreeNodes, " elements"),
           row("attributes of an element", kMaxXmlAttributes),
           mebibytes("one attribute the text in one element", kMaxXmlText),
-          row("nesting of elements", kMaxXmlDepth), row("senders of a project", layoutnames::kMaxSenders),
-          row("cabinets of a port", kMaxTilesOfPort), row("cabinets of a file", layoutnames::kMaxTilesOfFile),
+          row("nesting of elements", kMaxXmlDepth),
+          row("senders of a project", layoutnames::kMaxSenders),
+          row("cabinets of a port", kMaxTilesOfPort),
+          row("cabinets of a file", layoutnames::kMaxTilesOfFile),
           row("\ngroups of cabinets of a file", layoutnames::kMaxGroupsOfFile),
           row("sender groups gamma values parameter files of a file", kMaxListRecords),
           row("\nnesting of groups", layoutnames::kMaxGroupDepth),
           row("entries of an archive", kMaxArchiveEntries),
           mebibytes("one entry unpacked", kMaxArchiveEntrySize),
-          row("an archive unpacked", kMaxArchiveTotalSize >> 30, " GiB"), portCounts,
+          row("an archive unpacked", kMaxArchiveTotalSize >> 30, " GiB"),
+          portCounts,
           row("\ncabinet", kMaxCabinetSize, " × 1024 pixels"),
           row("canvas", kMaxCanvasWidth, " × ") + QString::number(kMaxCanvasHeight),
-          row("receiving cards of a cabinet with an order of its own", kMaxReceiversInTile)})
+          row("receiving cards of a cabinet with an order of its own", kMaxReceiversInTile),
+          mebibytes("INI file", kMaxIniBytes),
+          mebibytes("JSON file", kMaxJsonBytes),
+          mebibytes("list of addresses", kMaxIpListBytes)
+              + QStringLiteral(" %1 addresses").arg(kMaxSpecifiedIps),
+          row("name that becomes a file name", kMaxFileNameBytes, " bytes")})
         EXPECT_TRUE(limits.contains(QRegularExpression(limit + QStringLiteral("(?!\\d)"))))
             << limit.toStdString() << "\nis not in:" << limits.toStdString();
 }

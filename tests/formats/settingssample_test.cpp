@@ -52,3 +52,38 @@ TEST(SettingsSampleTest, FileIsReadByTheValueAndWrittenByTheByte)
     ASSERT_TRUE(WriteConfigFile(path, defaults));
     EXPECT_EQ(NamesWithoutOwnValue(sample, ReadFile(path), QRegularExpression(QStringLiteral("^$a"))), "");
 }
+
+TEST(SettingsSampleTest, FilesBesideItAreReadByTheValueAndWrittenByTheByte)
+{
+    TestFolder folder;
+    const auto copy = [&folder](const char* name) {
+        return folder.Write(QLatin1String(name), FullSample(name));
+    };
+    const QString ui = copy("SystemConfigUI.ini");
+    const QString edition = copy("CustomizeConfig.json");
+    const QString addresses = copy("SpecifiedIPs.txt");
+    CConfigData c;
+    EXPECT_TRUE(c.Save_UI());
+    EXPECT_FALSE(c.SaveCustomizeConfig());
+    ASSERT_TRUE(c.Load_UI(ui));
+    ASSERT_TRUE(c.LoadCustomizeConfig(edition));
+    ASSERT_TRUE(c.LoadSpecifiedIP(addresses));
+    EXPECT_EQ(Row(c.IsEnableRotate(), c.GetUIValue(QStringLiteral("Window/Title")).toString(),
+                  c.GetUIValue(QStringLiteral("Window/State")).toByteArray() == QByteArray("\0\xff", 2)),
+              "1|屏 “A”|1|");
+    EXPECT_EQ(Row(c.GetCustomizeValue(QStringLiteral("Logo")).toInt(),
+                  c.GetCustomizeValue(QStringLiteral("Missing"), 3).toInt(),
+                  c.GetCustomizeValue(QStringLiteral("Pages"))[QStringLiteral("深")][1].toString()),
+              "2|3|b|");
+    EXPECT_EQ(c.GetSpecifiedIPList().join(QLatin1Char(' ')).toStdString(), "192.0.2.9 10.1.2.3 203.0.113.1");
+
+    c.SetEnableRotate(false);
+    c.SetCustomizeValue(QStringLiteral("Logo"), 5);
+    ASSERT_TRUE(c.Save_UI() && c.SaveCustomizeConfig() && c.SaveSpecifiedIP());
+    EXPECT_EQ(FirstDifference(ReadFile(ui), FullSample("SystemConfigUI.ini").replace("Rotate=1", "Rotate=0")),
+              "");
+    EXPECT_EQ(FirstDifference(ReadFile(edition),
+                              FullSample("CustomizeConfig.json").replace("\"Logo\": 2", "\"Logo\": 5")),
+              "");
+    EXPECT_EQ(FirstDifference(ReadFile(addresses), FullSample("SpecifiedIPs.txt")), "");
+}

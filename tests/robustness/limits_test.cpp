@@ -244,6 +244,14 @@ TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
     EXPECT_FALSE(writer.Flush());
     EXPECT_EQ(writer.GetRefusal(), DocumentTooLarge());
 
+    StreamXmlWriter longTag(nowhere);
+    longTag.BeginElement("Sender_7");
+    for (const char* name : {"a", "b", "c", "d", "e", "f"}) {
+        EXPECT_EQ(longTag.GetRefusal(), QString());
+        longTag.Attribute(name, text);
+    }
+    EXPECT_TRUE(longTag.GetRefusal().contains(QStringLiteral("Sender_7")));
+
     CSender* sender = project.NewSender();
     SInputVideoColorCurveParam curve;
     for (QList<QPointF>& points : curve.points)

@@ -169,25 +169,6 @@ TEST(ConfigDataTest, HotkeyIsRefusedWhenItsKeyIsUnknownOrTaken)
     EXPECT_EQ(config.GetHotkey(1, 4).hotkey, undo.hotkey);
 }
 
-TEST(ConfigDataTest, InterfaceSettingsKeepWhatTheyDoNotKnow)
-{
-    TestFolder folder;
-    const QString path =
-        folder.Write(QStringLiteral("SystemConfigUI.ini"), "[Function]\nEnableRotate=1\n[Other]\nTitle=屏\n");
-    CConfigData config;
-    EXPECT_TRUE(config.Save_UI());
-    ASSERT_TRUE(config.Load_UI(path));
-    EXPECT_TRUE(config.IsEnableRotate());
-    config.SetEnableRotate(false);
-    ASSERT_TRUE(config.Save_UI());
-
-    CConfigData again;
-    ASSERT_TRUE(again.Load_UI(path));
-    EXPECT_FALSE(again.IsEnableRotate());
-    EXPECT_EQ(again.GetUIValue(QStringLiteral("Other/Title")).toString(), QStringLiteral("屏"));
-    EXPECT_TRUE(ReadFile(path).contains("Title=屏"));
-}
-
 TEST(ConfigDataTest, BrokenFileIsNotOverwrittenBeforeItIsKeptBeside)
 {
     CConfigData config;
@@ -226,21 +207,4 @@ TEST(ConfigDataTest, BrokenFileIsNotOverwrittenBeforeItIsKeptBeside)
         EXPECT_TRUE(ReadFile(kept) == file.broken) << file.name;
         EXPECT_TRUE(file.load(path));
     }
-}
-
-TEST(ConfigDataTest, CustomisationKeepsWhatItDoesNotKnow)
-{
-    TestFolder folder;
-    const QString path = folder.Write(QStringLiteral("a.json"), "{\"Other\": {\"深\": [1, 2]}, \"Logo\": 1}");
-    CConfigData config;
-    EXPECT_FALSE(config.SaveCustomizeConfig());
-    ASSERT_TRUE(config.LoadCustomizeConfig(path));
-    config.SetCustomizeValue(QStringLiteral("Logo"), 2);
-    ASSERT_TRUE(config.SaveCustomizeConfig());
-    CConfigData again;
-    ASSERT_TRUE(again.LoadCustomizeConfig(path));
-    EXPECT_EQ(again.GetCustomizeValue(QStringLiteral("Logo")).toInt(), 2);
-    EXPECT_EQ(again.GetCustomizeValue(QStringLiteral("Other")),
-              config.GetCustomizeValue(QStringLiteral("Other")));
-    EXPECT_EQ(again.GetCustomizeValue(QStringLiteral("Missing"), 3).toInt(), 3);
 }

@@ -4,17 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QDomDocument>
-
 namespace {
-
-QDomElement ConfigOf(const QByteArray& content)
-{
-    QDomDocument document;
-    EXPECT_TRUE(document.setContent(content));
-    EXPECT_EQ(document.documentElement().tagName(), QStringLiteral("LedControlConfig"));
-    return document.documentElement().firstChildElement(QStringLiteral("Config"));
-}
 
 QByteArray Wrapped(const QByteArray& items)
 {
@@ -44,23 +34,6 @@ QByteArray Written(const SConfigItems& items)
 }
 
 } // namespace
-
-TEST(ConfigFileTest, DefaultsAreThoseOfANewInstallation)
-{
-    const QDomElement config = ConfigOf(Written(Defaults()));
-    QStringList flat;
-    for (QDomElement e = config.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
-        flat << e.tagName() + QLatin1Char(' ') + (e.firstChildElement().isNull() ? e.text() : QString());
-    flat.removeAt(1); // the language is the machine's
-    EXPECT_EQ(flat.join(QLatin1Char(',')).toStdString(),
-              "AutoSelectLanguage 0,ShowGrid 1,ShowTileSort 0,SoftEdgeSheet 0,SetEdgePixel 0,DisTime 10,"
-              "EnableAttraction 1,AttractionDis 20,EnableFahrenheit 0,EnableGamutRGB 1,"
-              "EnableGamutAutoCalculate 0,OpenBackupProject 1,SendAfterModify 0,SupportMutiTileType 1,"
-              "ShowPowerSupply 0,DeviceInformationLayoutSize 4000,BeaconNoBorder 1,DetectStrategy 0,"
-              "CustomerTileSize ,ReadOnlyModeState ,CurrenGain ,ProjectRecord1 ,ProjectRecord2 ,"
-              "ProjectRecord3 ,ProjectRecord4 ,ProjectRecord5 ,BrightTableInfo ,VisableAutoBrightAdjust 0,"
-              "UiStyleEx ,HotkeyQT ");
-}
 
 TEST(ConfigFileTest, ValuesOutOfBoundsArePutRight)
 {
