@@ -4,9 +4,14 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <csignal>
+
 // Every path that the library derives from the user's folders leads into a folder of the test run's own.
 int main(int argc, char** argv)
 {
+    // A shell that runs the tests in the background, or under nohup, hands down signals that are ignored.
+    for (const int signal : {SIGINT, SIGHUP})
+        std::signal(signal, SIG_DFL);
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QTemporaryDir home(QDir::tempPath() + QStringLiteral("/orvan-home 屏XXXXXX"));
