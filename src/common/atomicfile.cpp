@@ -1,8 +1,8 @@
 #include "common/atomicfile.h"
 
 #include "common/fileproblem.h"
+#include "common/texts.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -24,11 +24,6 @@ constexpr qint64 kPatience = 30000;               ///< milliseconds to wait for 
 constexpr unsigned long kPause = 10;              ///< milliseconds between two looks
 constexpr int kMaxTargetNameBytes = 200;          ///< leaves room for what is put around it
 constexpr char kDescriptors[] = "/proc/self/fd/"; ///< where an open file without a name has one
-
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("OrvanData", text);
-}
 
 /// The file that a link leads to, and any other path as it is.
 QString Resolved(const QString& path)
@@ -153,7 +148,7 @@ public:
             if (busy)
                 QThread::msleep(kPause);
         } while (waited.elapsed() < kPatience);
-        m_error = Tr(QT_TRANSLATE_NOOP("OrvanData", "另一个程序正在写入该文件。"));
+        m_error = Texts::tr("另一个程序正在写入该文件。");
         return false;
     }
 

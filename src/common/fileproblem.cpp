@@ -1,6 +1,7 @@
 #include "common/fileproblem.h"
 
-#include <QCoreApplication>
+#include "common/texts.h"
+
 #include <QFile>
 #include <QTemporaryFile>
 
@@ -8,25 +9,24 @@
 
 QString CannotRead(const QString& path, const QString& reason)
 {
-    return QCoreApplication::translate("OrvanData", "无法读取“%1”：%2").arg(path, reason);
+    return Texts::tr("无法读取“%1”：%2").arg(path, reason);
 }
 
 QString CannotWrite(const QString& path, const QString& reason)
 {
     if (reason.isEmpty())
-        return QCoreApplication::translate("OrvanData", "无法写入“%1”。").arg(path);
-    return QCoreApplication::translate("OrvanData", "无法写入“%1”：%2").arg(path, reason);
+        return Texts::tr("无法写入“%1”。").arg(path);
+    return Texts::tr("无法写入“%1”：%2").arg(path, reason);
 }
 
 QString CannotMakeFolder(const QString& path, int error)
 {
-    return QCoreApplication::translate("OrvanData", "无法创建文件夹“%1”：%2")
-        .arg(path, qt_error_string(error));
+    return Texts::tr("无法创建文件夹“%1”：%2").arg(path, qt_error_string(error));
 }
 
 QString NotRegular(const QString& path)
 {
-    return QCoreApplication::translate("OrvanData", "“%1”不是普通文件。").arg(path);
+    return Texts::tr("“%1”不是普通文件。").arg(path);
 }
 
 bool MakeFolder(const QString& path, QString* error)

@@ -1,8 +1,8 @@
 #include "common/inputfile.h"
 
 #include "common/fileproblem.h"
+#include "common/texts.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -20,7 +20,7 @@ bool ReadInput(const QString& path, qint64 most, QByteArray* content, QString* e
     if (!OpenInput(file, error))
         return false;
     if (file.size() > most)
-        return Fail(error, QCoreApplication::translate("OrvanData", "文件过大。"));
+        return Fail(error, Texts::tr("文件过大。"));
     *content = file.read(file.size());
     return file.error() == QFileDevice::NoError || Fail(error, CannotRead(path, file.errorString()));
 }

@@ -1,10 +1,10 @@
 #include "common/xmldom.h"
 
 #include "common/inputfile.h"
+#include "common/texts.h"
 #include "common/xmlreader.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 
 namespace {
 
@@ -37,7 +37,7 @@ bool ParseXmlDom(const QByteArray& content, QDomDocument& document, QString* err
         return false;
     if (nodes.count > kMaxTreeNodes) {
         if (error)
-            *error = QCoreApplication::translate("OrvanData", "文件中的元素过多。");
+            *error = Texts::tr("文件中的元素过多。");
         return false;
     }
     buffer.close();

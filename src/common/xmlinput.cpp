@@ -1,8 +1,8 @@
 #include "common/xmlinput.h"
 
+#include "common/texts.h"
 #include "common/xmlreader.h"
 
-#include <QCoreApplication>
 #include <QIODevice>
 #include <QRegularExpression>
 #include <QTextCodec>
@@ -39,7 +39,7 @@ XmlInput::~XmlInput() = default;
 
 bool XmlInput::Fail(const char* why)
 {
-    m_error = QCoreApplication::translate("OrvanData", why);
+    m_error = Texts::tr(why);
     m_text.clear();
     return false;
 }

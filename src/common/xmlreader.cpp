@@ -1,10 +1,10 @@
 #include "common/xmlreader.h"
 
+#include "common/texts.h"
 #include "common/xmlinput.h"
 #include "common/xmltagguard.h"
 
 #include <QByteArray>
-#include <QCoreApplication>
 #include <QDomElement>
 
 #include <algorithm>
@@ -20,11 +20,6 @@ constexpr qint64 kMaxChunk = 16 << 20;
 constexpr int kMaxNames = 1024;
 constexpr const char* kTooManyAttributes = QT_TRANSLATE_NOOP("OrvanData", "元素的属性过多。");
 constexpr const char* kTextTooLong = QT_TRANSLATE_NOOP("OrvanData", "文字过长。");
-
-QString Message(const char* text)
-{
-    return QCoreApplication::translate("OrvanData", text);
-}
 
 struct ParserDeleter
 {
@@ -52,7 +47,7 @@ struct ParseState
 
     void Refuse(const char* why)
     {
-        refusal = Message(why);
+        refusal = Texts::tr(why);
         xmlStopParser(parser);
     }
 
@@ -208,8 +203,8 @@ QString ParserError(const ParseState& state)
 {
     if (!state.refusal.isEmpty())
         return state.refusal;
-    return Message(QT_TRANSLATE_NOOP("OrvanData", "不是有效的XML（第%1行）：%2。"))
-        .arg(QString::number(state.errorLine), Message(ReasonOf(state)));
+    return Texts::tr("不是有效的XML（第%1行）：%2。")
+        .arg(QString::number(state.errorLine), Texts::tr(ReasonOf(state)));
 }
 
 /// The parser keeps each name once in a table of limited width, which numbered elements would make ever
@@ -236,7 +231,7 @@ QString Feed(const QByteArray& bytes, bool last, ParseState& state)
     if (!state.refusal.isEmpty() || state.parser->wellFormed == 0)
         return ParserError(state);
     if (state.fed - state.heard > kMaxXmlMarkup)
-        return Message(QT_TRANSLATE_NOOP("OrvanData", "标记过长。"));
+        return Texts::tr("标记过长。");
     RenewNames(state);
     return state.open.front()->GetRefusal();
 }
@@ -261,7 +256,7 @@ bool FeedAll(QIODevice& source, ParseState& state, QString* error)
         const QByteArray& bytes = input.Read(std::clamp(state.fed - state.heard, kChunk, kMaxChunk));
         *error = input.GetError();
         if (error->isEmpty() && HoldsTooManyAttributes(state, bytes))
-            *error = Message(kTooManyAttributes);
+            *error = Texts::tr(kTooManyAttributes);
         if (error->isEmpty())
             *error = Feed(bytes, input.AtEnd(), state);
     } while (error->isEmpty() && !input.AtEnd());

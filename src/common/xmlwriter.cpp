@@ -1,8 +1,8 @@
 #include "common/xmlwriter.h"
 
+#include "common/texts.h"
 #include "common/xmlreader.h"
 
-#include <QCoreApplication>
 #include <QIODevice>
 
 namespace {
@@ -55,7 +55,7 @@ QString FromUtf8(std::string_view text)
 
 QString DocumentTooLarge()
 {
-    return QCoreApplication::translate("OrvanData", "内容超过%1 MiB，文件未保存。").arg(kMaxXmlBytes >> 20);
+    return Texts::tr("内容超过%1 MiB，文件未保存。").arg(kMaxXmlBytes >> 20);
 }
 
 StreamXmlWriter::StreamXmlWriter(QIODevice& device, std::string_view encodingName) : m_device(device)
@@ -110,8 +110,8 @@ void StreamXmlWriter::Text(std::string_view text)
 void StreamXmlWriter::Refuse(const std::string& name, qint64 limit)
 {
     if (m_refusal.isEmpty())
-        m_refusal = QCoreApplication::translate("OrvanData", "“%1”的文字超过%2 MiB，文件未保存。")
-                        .arg(FromUtf8(name), QString::number(limit >> 20));
+        m_refusal =
+            Texts::tr("“%1”的文字超过%2 MiB，文件未保存。").arg(FromUtf8(name), QString::number(limit >> 20));
 }
 
 void StreamXmlWriter::EndElement()

@@ -1,9 +1,9 @@
 #include "params/paramcontents.h"
 
+#include "common/texts.h"
 #include "common/xmldom.h"
 #include "params/elementnames.h"
 
-#include <QCoreApplication>
 #include <QDomDocument>
 #include <QHash>
 #include <QJsonArray>
@@ -44,7 +44,7 @@ QJsonObject ParamFileContents(const QString& path, QString* error)
     if (root.tagName() != QLatin1String(kProcessorFileRoot)
         && root.tagName() != QLatin1String(kSenderFileRoot)) {
         if (error)
-            *error = QCoreApplication::translate("OrvanData", "不是参数文件。");
+            *error = Texts::tr("不是参数文件。");
         return {};
     }
     QJsonObject object;

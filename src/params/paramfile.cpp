@@ -2,6 +2,7 @@
 
 #include "common/atomicfile.h"
 #include "common/failure.h"
+#include "common/texts.h"
 #include "common/xmldom.h"
 #include "common/xmlreader.h"
 #include "common/xmlwriter.h"
@@ -14,7 +15,6 @@
 #include "params/processorelement.h"
 #include "params/senderelement.h"
 
-#include <QCoreApplication>
 #include <QDomDocument>
 #include <QHash>
 #include <QVector>
@@ -71,7 +71,7 @@ QList<int> ChosenSenders(const ParamsLookup& lookup, const QUuid& id)
 
 quint32 NoSender(ParamsLookup& lookup)
 {
-    lookup.SetFileError(QCoreApplication::translate("OrvanData", "找不到主控。"));
+    lookup.SetFileError(Texts::tr("找不到主控。"));
     return kFailed;
 }
 
@@ -113,7 +113,7 @@ bool WriteFile(QIODevice& file, const Family& family, bool matchByIp, int count,
         nodes += WriteElement(writer, element);
     writer.EndElement();
     if (nodes > kMaxTreeNodes)
-        return Fail(refusal, QCoreApplication::translate("OrvanData", "文件过大。"));
+        return Fail(refusal, Texts::tr("文件过大。"));
     return writer.Flush() || Fail(refusal, writer.GetRefusal());
 }
 
@@ -156,7 +156,7 @@ QDomElement LoadRoot(const Family& family, ParamsLookup& lookup, const QString& 
     }
     const QDomElement root = document.documentElement();
     if (root.tagName() != QLatin1String(family.root)) {
-        lookup.SetFileError(QCoreApplication::translate("OrvanData", "不是该类型的参数文件。"));
+        lookup.SetFileError(Texts::tr("不是该类型的参数文件。"));
         return {};
     }
     lookup.SetFileError(QString());
@@ -213,7 +213,7 @@ void TellUnmatched(ParamsLookup& lookup, const QList<int>& senders)
     QString list = numbers.join(QLatin1Char(','));
     if (senders.size() >= kNamedProcessors)
         list += QStringLiteral("...");
-    Tell(lookup, QCoreApplication::translate("OrvanData", "主控%1未找到对应IP的主控参数。").arg(list));
+    Tell(lookup, Texts::tr("主控%1未找到对应IP的主控参数。").arg(list));
 }
 
 quint32 ImportByIp(const Family& family, ParamsLookup& lookup, QDomDocument& document, int count,
@@ -247,12 +247,12 @@ quint32 ImportMulti(const Family& family, ParamsLookup& lookup, const QString& p
 
     const bool matchByIp = root.attribute(QLatin1String(kSpecifyIp)).toInt() != 0;
     if (matchByIp != lookup.Prepared().matchByIp) {
-        Tell(lookup, QCoreApplication::translate("OrvanData", "不可导入，无法匹配对应IP的主控参数。"));
+        Tell(lookup, Texts::tr("不可导入，无法匹配对应IP的主控参数。"));
         return kFailed;
     }
     const int count = root.attribute(QLatin1String(kProcessorCount)).toInt();
     if (count < 1) {
-        lookup.SetFileError(QCoreApplication::translate("OrvanData", "文件中没有主控参数。"));
+        lookup.SetFileError(Texts::tr("文件中没有主控参数。"));
         return kFailed;
     }
 

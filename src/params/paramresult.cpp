@@ -1,15 +1,15 @@
 #include "params/paramresult.h"
 
-#include <QCoreApplication>
+#include "common/texts.h"
 
 namespace params {
 
 QString ImportResultText(quint32 result)
 {
     if (result == kTypeDiffers)
-        return QCoreApplication::translate("OrvanData", "导入失败，无法导入不同类型主控的参数。");
+        return Texts::tr("导入失败，无法导入不同类型主控的参数。");
     if (result == kImportFailed)
-        return QCoreApplication::translate("OrvanData", "导入失败。");
+        return Texts::tr("导入失败。");
     return {};
 }
 

@@ -2,6 +2,7 @@
 #include "common/atomicfile.h"
 #include "common/failure.h"
 #include "common/inputfile.h"
+#include "common/texts.h"
 #include "common/xmlwriter.h"
 #include "layout/sender.h"
 #include "layout/tile.h"
@@ -10,7 +11,6 @@
 #include "project/projectdata.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QHash>
 #include <QSet>
 
@@ -57,7 +57,7 @@ bool ReadElement(const QByteArray& content, std::initializer_list<std::string_vi
     if (!ParseXml(source, document, &error))
         return false;
     if (!document.WasFound())
-        error = QCoreApplication::translate("OrvanData", "不是这种布局文件。");
+        error = Texts::tr("不是这种布局文件。");
     return document.WasFound();
 }
 
@@ -133,7 +133,7 @@ bool CProjectData::ExportSender(const QString& path, const QUuid& senderId)
     m_lastFileError.clear();
     const CSender* sender = GetSender(GetScIndexByID(senderId));
     if (!sender)
-        return FailFile(QCoreApplication::translate("OrvanData", "没有这个主控。"));
+        return FailFile(Texts::tr("没有这个主控。"));
     const QString tooLarge = WhyTooLarge(QList<const CSender*>{sender});
     if (!tooLarge.isEmpty())
         return FailFile(tooLarge);
@@ -153,7 +153,7 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
     m_lastFileError.clear();
     CSender* sender = GetSender(GetScIndexByID(senderId));
     if (!sender || sender->GetPortCount() < 1)
-        return FailFile(QCoreApplication::translate("OrvanData", "没有这个主控。"));
+        return FailFile(Texts::tr("没有这个主控。"));
 
     // Parsed once to see that it can be read whole, and only then into the sender. The file may change
     // meanwhile, so its content is kept.
@@ -193,7 +193,7 @@ bool CProjectData::ExportPort(const QString& path)
     const CSender* sender = GetCurrentSender();
     const CPort* port = sender ? sender->GetPort(sender->GetRecentPortIndex()) : nullptr;
     if (!port)
-        return FailFile(QCoreApplication::translate("OrvanData", "没有这个输出口。"));
+        return FailFile(Texts::tr("没有这个输出口。"));
     const QString tooLarge = WhyTooLarge(QList<const CPort*>{port});
     if (!tooLarge.isEmpty())
         return FailFile(tooLarge);
@@ -207,7 +207,7 @@ bool CProjectData::ImportPort(const QString& path)
     CSender* sender = GetCurrentSender();
     CPort* port = sender ? sender->GetPort(sender->GetRecentPortIndex()) : nullptr;
     if (!port)
-        return FailFile(QCoreApplication::translate("OrvanData", "没有这个输出口。"));
+        return FailFile(Texts::tr("没有这个输出口。"));
 
     const int index = sender->GetRecentPortIndex();
     QByteArray content;

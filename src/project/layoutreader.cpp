@@ -1,8 +1,7 @@
 #include "project/layoutreader.h"
 
+#include "common/texts.h"
 #include "layout/sender.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <set>
@@ -26,8 +25,7 @@ void DropRepeatedGroups(CTileGroupSet& groups, std::set<QUuid>& seen, ReadReport
     for (int i = 0; i < groups.GetDirectCount(); ++i) {
         CTileGroup* group = groups.GetDirectGroupByDirIndex(i);
         if (seen.count(group->GetID()) > 0) {
-            report.Add(
-                QCoreApplication::translate("OrvanData", "跳过重复的分组%1").arg(group->GetID().toString()));
+            report.Add(Texts::tr("跳过重复的分组%1").arg(group->GetID().toString()));
             GroupTreeDeleter()(group);
             continue;
         }
@@ -126,7 +124,7 @@ XmlHandler* GroupLevelReader::Child(std::string_view name)
     if (!m_children->Expect(name))
         return nullptr;
     if (m_depth >= kMaxGroupDepth) {
-        m_report.Add(QCoreApplication::translate("OrvanData", "分组嵌套过深，更深的分组被跳过"));
+        m_report.Add(Texts::tr("分组嵌套过深，更深的分组被跳过"));
         return nullptr;
     }
     if (m_left == 0) {

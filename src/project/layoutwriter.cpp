@@ -1,13 +1,12 @@
 #include "project/layoutwriter.h"
 
+#include "common/texts.h"
 #include "layout/sender.h"
 #include "layout/storedtile.h"
 #include "layout/tile.h"
 #include "layout/tilegroup.h"
 #include "project/layoutrecords.h"
 #include "project/readreport.h"
-
-#include <QCoreApplication>
 
 using namespace layoutnames;
 
@@ -108,8 +107,7 @@ QString WhyTooLarge(const QList<const CSender*>& senders)
 
 QString TooMany(const char* child, int most)
 {
-    return QCoreApplication::translate("OrvanData", "%1过多，最多%2个，文件未保存。")
-        .arg(ChildrenName(child), QString::number(most));
+    return Texts::tr("%1过多，最多%2个，文件未保存。").arg(ChildrenName(child), QString::number(most));
 }
 
 void WriteSenders(XmlWriter& writer, const QList<CSender*>& senders, const std::function<void(int)>& progress)

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "common/texts.h"
 #include "common/xmlreader.h"
 #include "project/readreport.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -90,7 +90,7 @@ private:
     void ReportMissing()
     {
         m_report.Add(
-            QCoreApplication::translate("OrvanData", "%1：文件声明%2个，实有%3个")
+            Texts::tr("%1：文件声明%2个，实有%3个")
                 .arg(ChildrenName(m_prefix), QString::number(m_count), QString::number(m_items.size())));
     }
 

@@ -3,12 +3,12 @@
 #include "common/atomicfile.h"
 #include "common/fileproblem.h"
 #include "common/inputfile.h"
+#include "common/texts.h"
 #include "products/productdirectoryset.h"
 #include "project/readreport.h"
 #include "settings/archive.h"
 #include "settings/constantdata.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -103,7 +103,7 @@ Copied CopyAnew(const QString& source, const QString& target, qint64 most, QStri
     if (!OpenInput(from, error))
         return Copied::Unreadable;
     if (from.size() > most) {
-        *error = QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(source);
+        *error = Texts::tr("压缩包内容过大: %1").arg(source);
         return Copied::Unreadable;
     }
     QFile to(target);
@@ -163,17 +163,17 @@ QSet<SMD5> DigestsInFolder(CProductDirectorySet& products)
 
 void ReportMissing(const SParameterFileInfo& row, ReadReport& report)
 {
-    report.Add(QCoreApplication::translate("OrvanData", "缺少参数文件“%1”").arg(row.name));
+    report.Add(Texts::tr("缺少参数文件“%1”").arg(row.name));
 }
 
 void ReportUnread(const SParameterFileInfo& row, const QString& why, ReadReport& report)
 {
-    report.Add(QCoreApplication::translate("OrvanData", "参数文件“%1”无法读取：%2").arg(row.name, why));
+    report.Add(Texts::tr("参数文件“%1”无法读取：%2").arg(row.name, why));
 }
 
 void ReportUnsaved(const SParameterFileInfo& row, const QString& why, ReadReport& report)
 {
-    report.Add(QCoreApplication::translate("OrvanData", "参数文件“%1”无法保存：%2").arg(row.name, why));
+    report.Add(Texts::tr("参数文件“%1”无法保存：%2").arg(row.name, why));
 }
 
 /// Unpacks what it can; why the others are not there, by the names of their entries.
@@ -302,8 +302,7 @@ bool UnpackDocument(const QString& archive, QString* error)
 {
     const auto isDocument = [](const QString& name) { return name == kEntryFolder + kDocument; };
     return UnpackArchive(archive, CConstantData::GetProjectParamFileTemp(), isDocument, error)
-           && (QFile::exists(DocumentPath())
-               || Fail(error, QCoreApplication::translate("OrvanData", "压缩包里没有“project/new.prj”。")));
+           && (QFile::exists(DocumentPath()) || Fail(error, Texts::tr("压缩包里没有“project/new.prj”。")));
 }
 
 void DistributeAfterLoading(const QString& archive, const QList<SParameterFileInfo>& rows,
@@ -328,8 +327,7 @@ void DistributeAfterLoading(const QString& archive, const QList<SParameterFileIn
         if (!Store(source, rows[i].name, rows[i].type, &why))
             ReportUnsaved(rows[i], why, report);
         if (products && !OfferToLibrary(source, rows[i], known))
-            report.Add(
-                QCoreApplication::translate("OrvanData", "参数文件“%1”无法放入产品库").arg(rows[i].name));
+            report.Add(Texts::tr("参数文件“%1”无法放入产品库").arg(rows[i].name));
     }
     if (known.size() > knownBefore)
         products->LoadProductInfo();

@@ -1,6 +1,7 @@
 // The project file: saving to an archive, loading from an archive or a bare document.
 #include "common/fileproblem.h"
 #include "common/inputfile.h"
+#include "common/texts.h"
 #include "common/xmlwriter.h"
 #include "layout/sender.h"
 #include "layout/tile.h"
@@ -14,7 +15,6 @@
 
 #include "customprogressbar.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -64,11 +64,10 @@ bool CProjectData::TakeWorkFolder(QLockFile& lock, const QString& archive)
 {
     if (!LockWorkFolder(lock))
         return FailFile(lock.error() == QLockFile::LockFailedError
-                            ? QCoreApplication::translate("OrvanData", "另一个程序正在使用项目工作文件夹。")
+                            ? Texts::tr("另一个程序正在使用项目工作文件夹。")
                             : WhyNotWritable(QFileInfo(parameterwork::LockPath()).path()));
     return !parameterwork::IsInTheWay(archive)
-           || FailFile(
-               QCoreApplication::translate("OrvanData", "项目文件不能是项目工作文件夹里的临时文件。"));
+           || FailFile(Texts::tr("项目文件不能是项目工作文件夹里的临时文件。"));
 }
 
 bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* progress)
@@ -86,8 +85,7 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     const bool saved = complete && parameterwork::Pack(path, &error);
     m_lastFileError = report.Text();
     if (!saved)
-        m_lastFileError = QCoreApplication::translate("OrvanData", "项目文件没有保存：%1")
-                              .arg(complete ? error : report.GetRefusal());
+        m_lastFileError = Texts::tr("项目文件没有保存：%1").arg(complete ? error : report.GetRefusal());
     return true;
 }
 
@@ -164,7 +162,7 @@ bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustom
 {
     m_lastFileError.clear();
     if (!path)
-        return FailFile(QCoreApplication::translate("OrvanData", "没有给出文件。"));
+        return FailFile(Texts::tr("没有给出文件。"));
     const QString name = QFile::decodeName(path);
     QFile file(name);
     if (!OpenInput(file, &m_lastFileError))
@@ -179,7 +177,7 @@ bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustom
     else if (start == "<?")
         loaded = LoadDocument(name, version, progress, {});
     else
-        return FailFile(QCoreApplication::translate("OrvanData", "不是项目文件。"));
+        return FailFile(Texts::tr("不是项目文件。"));
     if (!version.isNull())
         error = version;
     return loaded;
@@ -214,11 +212,10 @@ bool CProjectData::LoadDocument(
     if (!ParseXml(file, reader, &error))
         return FailFile(error);
     if (!reader.HasRoot())
-        return FailFile(QCoreApplication::translate("OrvanData", "不是项目文件。"));
+        return FailFile(Texts::tr("不是项目文件。"));
     version = reader.GetRefusedVersion();
     if (!version.isNull())
-        return FailFile(
-            QCoreApplication::translate("OrvanData", "此文件需要版本%1，本程序尚不支持。").arg(version));
+        return FailFile(Texts::tr("此文件需要版本%1，本程序尚不支持。").arg(version));
 
     const QList<SParameterFileInfo> rows = TakeContent(content);
     if (distribute)

@@ -1,8 +1,8 @@
 #include "project/projectlock.h"
 
 #include "common/fileproblem.h"
+#include "common/texts.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QLockFile>
@@ -25,9 +25,8 @@ QString Reason(const QLockFile& lock, const QString& path)
     QString host;
     QString program;
     if (!lock.getLockInfo(&process, &host, &program))
-        return QCoreApplication::translate("OrvanData", "无法在项目文件旁创建锁文件。");
-    return QCoreApplication::translate("OrvanData", "项目正在被“%1”（%2，进程%3）编辑。")
-        .arg(program, host, QString::number(process));
+        return Texts::tr("无法在项目文件旁创建锁文件。");
+    return Texts::tr("项目正在被“%1”（%2，进程%3）编辑。").arg(program, host, QString::number(process));
 }
 
 /// Whether a program was killed before it could write its name into the lock file.

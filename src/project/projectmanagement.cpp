@@ -1,9 +1,9 @@
 #include "project/projectmanagement.h"
 
 #include "common/safefilename.h"
+#include "common/texts.h"
 #include "project/projectdata.h"
 
-#include <QCoreApplication>
 #include <QFileDialog>
 #include <QProgressDialog>
 
@@ -62,8 +62,8 @@ void CProjectManagement::SetNeedSave(bool needSave)
 
 bool CProjectManagement::SaveMutiProject(QProgressDialog* dialog)
 {
-    QString folder = QFileDialog::getExistingDirectory(
-        nullptr, QCoreApplication::translate("OrvanData", "选取"), QString(), QFileDialog::ShowDirsOnly);
+    QString folder =
+        QFileDialog::getExistingDirectory(nullptr, Texts::tr("选取"), QString(), QFileDialog::ShowDirsOnly);
     if (folder.isEmpty())
         return false;
     if (!folder.endsWith(QLatin1Char('/')))

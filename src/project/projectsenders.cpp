@@ -1,4 +1,5 @@
 // The senders of a project: order, names, deletion, backups between them, selection.
+#include "common/texts.h"
 #include "layout/projectundoredo.h"
 #include "layout/sender.h"
 #include "layout/tile.h"
@@ -8,7 +9,6 @@
 
 #include "custommessagebox.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QSet>
 
@@ -131,11 +131,11 @@ QString CProjectData::GetPortDescription(int sender, int port) const
 {
     if (!GetSender(sender) || port < 0 || port >= kMaxPorts)
         return {};
-    QString text = QCoreApplication::translate("OrvanData", "主控 %1").arg(sender + 1);
+    QString text = Texts::tr("主控 %1").arg(sender + 1);
     const QString name = GetShowSenderName(sender, true);
     if (!name.isEmpty())
         text += QStringLiteral("(%1)").arg(name);
-    return text + QCoreApplication::translate("OrvanData", ",输出口 %1 ").arg(port + 1);
+    return text + Texts::tr(",输出口 %1 ").arg(port + 1);
 }
 
 void CProjectData::DeleteSender(const QUuid& id)
@@ -176,19 +176,16 @@ bool CProjectData::DeleteSenderBefore(int index, bool ask, QWidget* parent)
         return false;
     int other = -1;
     if (IsSenderBackupDest(index, &other)) {
-        CCustomMessageBox::information(
-            parent, QCoreApplication::translate("OrvanData", "选择主控为备份主控，请先取消备份。"));
+        CCustomMessageBox::information(parent, Texts::tr("选择主控为备份主控，请先取消备份。"));
         return false;
     }
     if (IsSenderBackupSource(index, &other)) {
-        CCustomMessageBox::information(
-            parent, QCoreApplication::translate("OrvanData", "选择的主控存在备份主控，请先取消备份。"));
+        CCustomMessageBox::information(parent, Texts::tr("选择的主控存在备份主控，请先取消备份。"));
         return false;
     }
     if (HasLockedPort(*sender))
-        return Confirms(parent, QCoreApplication::translate(
-                                    "OrvanData", "主控存在输出口被锁住，您确定要删除选择的主控吗？"));
-    return !ask || Confirms(parent, QCoreApplication::translate("OrvanData", "您确定要删除选择的主控吗？"));
+        return Confirms(parent, Texts::tr("主控存在输出口被锁住，您确定要删除选择的主控吗？"));
+    return !ask || Confirms(parent, Texts::tr("您确定要删除选择的主控吗？"));
 }
 
 bool CProjectData::DeleteSender(int index, bool ask, bool keepImages, bool selectPrevious, QWidget* parent)

@@ -1,6 +1,6 @@
 #include "project/readreport.h"
 
-#include <QCoreApplication>
+#include "common/texts.h"
 
 #include <utility>
 
@@ -28,15 +28,14 @@ QString ChildrenName(std::string_view prefix)
     };
     for (const auto& [start, name] : names) {
         if (prefix.substr(0, start.size()) == start)
-            return QCoreApplication::translate("OrvanData", name);
+            return Texts::tr(name);
     }
     return Shown(prefix);
 }
 
 QString TooManyToRead(std::string_view prefix, int most)
 {
-    return QCoreApplication::translate("OrvanData", "%1过多，最多%2个，文件未读取。")
-        .arg(ChildrenName(prefix), QString::number(most));
+    return Texts::tr("%1过多，最多%2个，文件未读取。").arg(ChildrenName(prefix), QString::number(most));
 }
 
 void ReadReport::Refuse(const QString& why)
@@ -59,13 +58,13 @@ void ReadReport::AddElement(std::string_view name)
         ++m_more;
         return;
     }
-    Add(QCoreApplication::translate("OrvanData", "跳过元素“%1”").arg(Shown(name)));
+    Add(Texts::tr("跳过元素“%1”").arg(Shown(name)));
 }
 
 QString ReadReport::Text() const
 {
     QString text = m_lines.join(QStringLiteral("; "));
     if (m_more > 0)
-        text += QStringLiteral("; ") + QCoreApplication::translate("OrvanData", "另有%1处").arg(m_more);
+        text += QStringLiteral("; ") + Texts::tr("另有%1处").arg(m_more);
     return text;
 }

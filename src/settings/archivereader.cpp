@@ -3,10 +3,10 @@
 #include "common/atomicfile.h"
 #include "common/fileproblem.h"
 #include "common/inputfile.h"
+#include "common/texts.h"
 #include "settings/archivename.h"
 #include "settings/folders.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -45,12 +45,12 @@ bool IsReadable(const zip_stat_t& stat)
 
 QString TooLarge(const QString& name)
 {
-    return QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(name);
+    return Texts::tr("压缩包内容过大: %1").arg(name);
 }
 
 QString NotUnpacked(const QString& name)
 {
-    return QCoreApplication::translate("OrvanData", "压缩包条目无法解压: %1").arg(name);
+    return Texts::tr("压缩包条目无法解压: %1").arg(name);
 }
 
 /// Copies the declared number of bytes. Asking for one more makes the end, and with it the checksum, tested.
@@ -113,9 +113,8 @@ std::unique_ptr<zip_t, Discard> Open(const QString& path, QString* error)
     zip_t* archive =
         file.size() == 0 ? nullptr : zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, &code);
     if (!archive)
-        Fail(error, code == ZIP_ER_READ
-                        ? CannotRead(path, qt_error_string(errno))
-                        : QCoreApplication::translate("OrvanData", "不是有效的压缩包: %1").arg(path));
+        Fail(error, code == ZIP_ER_READ ? CannotRead(path, qt_error_string(errno))
+                                        : Texts::tr("不是有效的压缩包: %1").arg(path));
     return std::unique_ptr<zip_t, Discard>(archive);
 }
 
@@ -127,7 +126,7 @@ bool UnpackArchive(const QString& zipPath, const QString& folder,
                    const std::function<void(const QString& name, const QString& why)>& leftOut)
 {
     if (!HasArchiveCodec())
-        return Fail(error, QCoreApplication::translate("OrvanData", "系统缺少GBK编码"));
+        return Fail(error, Texts::tr("系统缺少GBK编码"));
     const std::unique_ptr<zip_t, Discard> archive = Open(zipPath, error);
     if (!archive || !MakeFolder(folder, error))
         return false;
@@ -142,7 +141,7 @@ bool UnpackArchive(const QString& zipPath, const QString& folder,
     for (zip_uint64_t i = 0; i < static_cast<zip_uint64_t>(count); ++i) {
         const QString name = names.Get(i);
         if (name.isEmpty())
-            return Fail(error, QCoreApplication::translate("OrvanData", "压缩包条目名称无效"));
+            return Fail(error, Texts::tr("压缩包条目名称无效"));
         if (wanted && !wanted(name))
             continue;
         QString why;

@@ -2,9 +2,9 @@
 
 #include "common/atomicfile.h"
 #include "common/fileproblem.h"
+#include "common/texts.h"
 #include "settings/archivename.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -64,7 +64,7 @@ private:
         m_left -= child.isDir() || name == m_limits.apart ? 0 : child.size();
         if (m_entries.size() == kMaxArchiveEntries || m_left < 0
             || (!child.isDir() && child.size() > kMaxArchiveEntrySize))
-            return Fail(error, QCoreApplication::translate("OrvanData", "压缩包内容过大: %1").arg(name));
+            return Fail(error, Texts::tr("压缩包内容过大: %1").arg(name));
         m_entries.append({name, child.isDir() ? QString() : child.filePath()});
         return !child.isDir() || Walk(child.filePath(), name, error);
     }
@@ -189,9 +189,9 @@ bool PackFolder(const QString& folder, const QString& zipPath, QString* error, c
 {
     const QString root = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
     if (folder.isEmpty() || zipPath.isEmpty() || !QFileInfo(root).isDir())
-        return Fail(error, QCoreApplication::translate("OrvanData", "文件夹不存在: %1").arg(folder));
+        return Fail(error, Texts::tr("文件夹不存在: %1").arg(folder));
     if (!HasArchiveCodec())
-        return Fail(error, QCoreApplication::translate("OrvanData", "系统缺少GBK编码"));
+        return Fail(error, Texts::tr("系统缺少GBK编码"));
     const int separator = zipPath.lastIndexOf(QLatin1Char('/'));
     const QString parent = zipPath.left(separator + 1);
     if (!parent.isEmpty() && !MakeFolder(parent, error))

@@ -1,6 +1,7 @@
 #include "settings/hotkeys.h"
 
-#include <QCoreApplication>
+#include "common/texts.h"
+
 #include <QKeySequence>
 
 namespace {
@@ -66,7 +67,7 @@ SHotkey GetDefaultHotkey(int mode, int index)
 {
     const Default& standard = kDefaults[mode][index];
     return {true, QLatin1String(standard.operation), QLatin1String(standard.hotkey),
-            QCoreApplication::translate("OrvanData", standard.description)};
+            Texts::tr(standard.description)};
 }
 
 bool NormalizeHotkey(QString* hotkey)
