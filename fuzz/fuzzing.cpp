@@ -1,44 +1,22 @@
 #include "fuzzing.h"
 
 #include "frame/lednimbradata.h"
+#include "support/privatehome.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <cstdio>
 #include <cstdlib>
 
 namespace {
 
-/// The folders of a run. Every input writes files, so a temporary folder in memory helps.
-class Home
+const PrivateHome& Home()
 {
-public:
-    Home() : m_folder(QDir::tempPath() + QStringLiteral("/orvan-fuzz XXXXXX"))
-    {
-        const QByteArray path = m_folder.path().toUtf8();
-        qputenv("HOME", path);
-        qputenv("XDG_CONFIG_HOME", path + "/config");
-        qputenv("XDG_DATA_HOME", path + "/data");
-        qputenv("XDG_CACHE_HOME", path + "/cache");
-        qputenv("TMPDIR", path + "/tmp");
-        QDir().mkpath(m_folder.path() + QStringLiteral("/tmp"));
-        QDir().mkpath(m_folder.path() + QStringLiteral("/Documents"));
-    }
-
-    QString Path() const { return m_folder.path() + QLatin1Char('/'); }
-
-private:
-    QTemporaryDir m_folder;
-};
-
-Home& TheHome()
-{
-    static Home home;
+    static const PrivateHome home; // every input writes files, so a temporary folder in memory helps
     return home;
 }
 
@@ -52,8 +30,7 @@ void Empty(const QString& folder)
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
-    qputenv("LC_ALL", "C.UTF-8");
-    TheHome();
+    Home();
     // Without a display: the messages of the library go nowhere, and no platform plugin leaks.
     static QCoreApplication application(*argc, *argv);
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
@@ -69,7 +46,7 @@ QString FreshFolder()
     static QString folder;
     if (!folder.isEmpty())
         QDir(folder).removeRecursively();
-    folder = TheHome().Path() + QStringLiteral("input%1/").arg(++round);
+    folder = Home().Path() + QStringLiteral("/input%1/").arg(++round);
     QDir().mkpath(folder);
     Empty(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     return folder;

@@ -33,23 +33,6 @@ TEST(CheckCommandTest, ABareDocumentLacksItsParameterFilesUnlessTheLibraryHasThe
     EXPECT_EQ(kinds(RunOrvan(with + check)), Args({"unnumbered"}));
 }
 
-TEST(CheckCommandTest, TheReceiverNumbersOfAnArchiveAreLookedAt)
-{
-    TestFolder folder;
-    const QString wall = folder.Path(Arg("wall.prj"));
-    ASSERT_EQ(RunOrvan({Arg("new"), wall, Arg("--order"), Arg("0")}).status, 0);
-    OrvanRun run = RunOrvan({Arg("check"), wall});
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.output, QByteArray("0 faults\n"));
-    QByteArray text = ReadFile(SamplePath("small-wall.xml"));
-    text.replace("FirstRcvIndex=\"20\"", "FirstRcvIndex=\"19\"");
-    run = RunOrvan({Arg("check"), folder.Write(Arg("wall.xml"), text), Arg("--json")});
-    const QJsonArray faults = run.Json()[Arg("faults")].toArray();
-    ASSERT_GE(faults.size(), 2);
-    EXPECT_EQ(faults[1].toObject()[Arg("kind")].toString(), Arg("receiver-mismatch"));
-    EXPECT_EQ(faults[1].toObject()[Arg("cabinet")].toInt(), 5);
-}
-
 TEST(CheckCommandTest, PortPixelsCanBeSet)
 {
     const QString wall = SamplePath("small-wall.prj");

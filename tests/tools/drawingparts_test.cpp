@@ -3,10 +3,7 @@
 #include <orvantools/edgelines.h>
 #include <orvantools/groupoutlines.h>
 #include <orvantools/labelplacer.h>
-#include <orvantools/palette.h>
 #include <orvantools/wallpicture.h>
-
-#include <QImage>
 
 #include <algorithm>
 #include <random>
@@ -73,32 +70,6 @@ TEST(LabelPlacerTest, NoTwoPlacesGivenOverlap)
             ++refused;
     }
     EXPECT_GT(refused, 0);
-}
-
-TEST(PaletteTest, AreasKeepTheirColourAndOthersComeClose)
-{
-    QImage image(400, 300, QImage::Format_RGB32);
-    const QRgb areas[] = {qRgb(204, 94, 16), qRgb(62, 163, 72), qRgb(255, 255, 255), qRgb(84, 3, 192)};
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const bool speckled = y >= 200; // far more colours than a palette has
-            image.setPixel(x, y, speckled ? qRgb(x % 256, y, (x * 7 + y * 3) % 256) : areas[x / 100]);
-        }
-    }
-    const QImage reduced = ReducedToPalette(image);
-    EXPECT_LE(reduced.colorCount(), 256);
-    int worst = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb before = image.pixel(x, y);
-            const QRgb after = reduced.pixel(x, y);
-            ASSERT_TRUE(y >= 200 || after == before) << x << " " << y;
-            worst =
-                std::max({worst, std::abs(qRed(before) - qRed(after)),
-                          std::abs(qGreen(before) - qGreen(after)), std::abs(qBlue(before) - qBlue(after))});
-        }
-    }
-    EXPECT_LT(worst, 80);
 }
 
 class WallPictureTest : public ToolsTest

@@ -162,15 +162,6 @@ TEST_F(LayoutCheckTest, BackupPortsAreJudgedByTheirSourceAndNotByWhatTheyStore)
     EXPECT_EQ(Faults(), List({"backup-loop 1 3 0", "backup-loop 1 4 0"}));
 }
 
-TEST_F(LayoutCheckTest, APortCarriesSoManyPixelsAndNoMore)
-{
-    Build(QSize(5, 8), 1); // 40 cabinets of 128 x 128
-    CheckOptions options;
-    EXPECT_EQ(Faults(options), QStringList());
-    options.portPixels = 655359;
-    EXPECT_EQ(Faults(options), List({"port-overload 1 1 0"}));
-}
-
 TEST_F(LayoutCheckTest, FaultsAreListedByKindAndThenByPlace)
 {
     Build(QSize(4, 1), 2);

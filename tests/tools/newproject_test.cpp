@@ -26,17 +26,6 @@ TEST_F(NewProjectTest, ColumnsAreSharedOutTheFirstStripsBeingTheWiderOnes)
     EXPECT_EQ(Project().GetSender(0)->GetPortCount(), 160);
 }
 
-TEST_F(NewProjectTest, EachPortIsNumberedForItself)
-{
-    Build(QSize(6, 3), 2, AutoNumberColumnsBottomRight);
-    for (int port : {0, 1}) {
-        EXPECT_EQ(Tiles(port).GetConnectionType(), AutoNumberColumnsBottomRight);
-        EXPECT_EQ(Tiles(port).GetRcvCount(), 9);
-    }
-    Build(QSize(6, 3), 2, NewProject::kNotNumbered);
-    EXPECT_FALSE(Tiles(0).HasNumberedTiles());
-}
-
 TEST_F(NewProjectTest, WhatCannotBeBuiltLeavesTheDocumentAlone)
 {
     Build(QSize(3, 3), 1);

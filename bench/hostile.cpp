@@ -1,5 +1,5 @@
 // Reads hostile files of a given size, each in a process of its own, and tells what that cost:
-//   robustness_hostile [MEGABYTES] [CASE...]    50 by default, and all cases
+//   bench_hostile [MEGABYTES] [CASE...]    50 by default, and all cases
 // Ends with 1 when one took longer than 5 seconds or more than 1 GiB.
 #include "frame/lednimbradata.h"
 #include "frame/runtimedata.h"
@@ -7,12 +7,13 @@
 #include "project/projectdata.h"
 #include "settings/configdata.h"
 #include "settings/constantdata.h"
-#include "support/testfolder.h"
+#include "support/privatehome.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <functional>
@@ -121,8 +122,8 @@ struct Entry
 
 QByteArray Archive(const std::vector<Entry>& entries)
 {
-    TestFolder folder;
-    const QString path = folder.Path(QStringLiteral("a.zip"));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.zip"));
     zip_t* archive = zip_open(QFile::encodeName(path).constData(), ZIP_CREATE, nullptr);
     for (const Entry& entry : entries) {
         zip_source_t* source = zip_source_buffer(archive, entry.content.constData(),
@@ -131,7 +132,8 @@ QByteArray Archive(const std::vector<Entry>& entries)
         zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE, 1);
     }
     zip_close(archive);
-    return ReadFile(path);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QByteArray ManyEntries(int count, const std::function<QByteArray(int)>& name)
@@ -373,6 +375,7 @@ void Make(const Case& hostile, const QString& path, qint64 size)
 /// Reads the file and tells how it went.
 void Read(const Case& hostile, const QString& path)
 {
+    const PrivateHome home;
     LedNimbraData_Init();
     QElapsedTimer timer;
     timer.start();
@@ -409,10 +412,8 @@ rusage Run(const char* part, const char* name, const QString& path, qint64 size,
 
 bool Measure(const Case& hostile, qint64 size)
 {
-    TestFolder home;
-    qputenv("HOME", QFile::encodeName(home.Path()));
-    qputenv("TMPDIR", QFile::encodeName(home.Path()));
-    const QString path = home.Path(QStringLiteral("hostile"));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("hostile"));
     bool good = true;
     Run("--make", hostile.name, path, size, &good);
     QElapsedTimer timer;
