@@ -18,7 +18,8 @@
 namespace {
 
 constexpr int kUsualKills = 40;
-constexpr int kLongestLife = 120; ///< milliseconds; all documents were saved several times by then
+constexpr int kAllOthers = 1 << 20; ///< calls after the first that fails
+constexpr int kLongestLife = 120;   ///< milliseconds; all documents were saved several times by then
 
 int Kills()
 {
@@ -105,18 +106,20 @@ TEST_F(CrashSafetyTest, FailingCallLeavesTheOldFileAndIsToldOrTheNewOne)
 {
     for (int document = 0; document < kDocuments; ++document) {
         SaveAll(1);
-        int calls = 1;
-        for (int failing = 1; failing <= calls + 1; ++failing) {
-            ASSERT_TRUE(SaveVersion(Document(document), folder, 1));
-            FailCall(failing);
-            const bool saved = SaveVersion(Document(document), folder, 2);
-            calls = CountCalls();
-            FailCall(0);
-            const int version = VersionOf(Document(document), folder);
-            EXPECT_EQ(version, saved ? 2 : qMax(version, 1)) << document << ", call " << failing;
+        for (const int more : {0, kAllOthers}) {
+            int calls = 1;
+            for (int failing = 1; failing <= calls + 1; ++failing) {
+                ASSERT_TRUE(SaveVersion(Document(document), folder, 1));
+                FailCalls(failing, failing + more);
+                const bool saved = SaveVersion(Document(document), folder, 2);
+                calls = CountCalls();
+                FailCalls(0, -1);
+                const int version = VersionOf(Document(document), folder);
+                EXPECT_EQ(version, saved ? 2 : qMax(version, 1)) << document << ", call " << failing;
+            }
+            EXPECT_EQ(VersionOf(Document(document), folder), 2) << document << ", no call failed";
+            EXPECT_GE(calls, 4) << document << ": open, write, flush, rename";
         }
-        EXPECT_EQ(VersionOf(Document(document), folder), 2) << document << ", no call failed";
-        EXPECT_GE(calls, 4) << document << ": open, write, flush, rename";
     }
     ExpectNothingLeft();
 }
@@ -127,10 +130,10 @@ TEST_F(CrashSafetyTest, CopyThatFailsWhileHashingDoesNotChangeTheDigest)
     const SMD5 digest = CConstantData::GetMD5FromFile(file);
     EXPECT_FALSE(digest.IsNull());
     for (int failing = 1, calls = 1; failing <= calls; ++failing) {
-        FailCall(failing);
+        FailCalls(failing, failing);
         EXPECT_EQ(CConstantData::GetMD5FromFile(file), digest) << failing;
         calls = CountCalls();
-        FailCall(0);
+        FailCalls(0, -1);
     }
 }
 

@@ -11,12 +11,13 @@
 
 namespace {
 
-int g_fail = 0;
+int g_first = 0;
+int g_last = -1;
 int g_count = 0;
 
 bool Fails(int error = ENOSPC)
 {
-    if (++g_count != g_fail)
+    if (++g_count < g_first || g_count > g_last)
         return false;
     errno = error;
     return true;
@@ -40,9 +41,10 @@ mode_t ModeOf(int flags, va_list arguments)
 
 } // namespace
 
-void FailCall(int n)
+void FailCalls(int first, int last)
 {
-    g_fail = n;
+    g_first = first;
+    g_last = last;
     g_count = 0;
 }
 
