@@ -2,7 +2,7 @@
 
 #include "common/export.h"
 #include "common/interfacedlg.h"
-#include "params/paramslookup.h"
+#include "params/impexpprepareinfo.h"
 
 #include <QUuid>
 

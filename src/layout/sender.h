@@ -3,7 +3,7 @@
 #include "common/canvaslimits.h"
 #include "common/export.h"
 #include "layout/port.h"
-#include "params/records/senderparams.h"
+#include "records/senderparams.h"
 
 #include <QList>
 #include <QPoint>

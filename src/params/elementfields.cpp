@@ -1,6 +1,6 @@
 #include "params/elementfields.h"
 
-#include "params/records/colorparams.h"
+#include "records/colorparams.h"
 
 #include <cstring>
 

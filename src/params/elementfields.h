@@ -2,7 +2,7 @@
 
 #include "common/fieldtext.h"
 #include "common/xmlattributes.h"
-#include "params/records/outputparams.h"
+#include "records/outputparams.h"
 
 #include <QDomDocument>
 #include <QDomElement>

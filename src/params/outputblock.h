@@ -1,6 +1,6 @@
 #pragma once
 
-#include "params/records/exactcolorparam.h"
+#include "records/exactcolorparam.h"
 
 class CSender;
 class QDomDocument;

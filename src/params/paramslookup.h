@@ -1,17 +1,11 @@
 #pragma once
 
-#include <QList>
+#include "params/impexpprepareinfo.h"
+
 #include <QString>
 
 class CSender;
 class QUuid;
-
-/// The choice of processors that the user made for an export or import.
-struct SImpExpPrepareInfo
-{
-    bool matchByIp = false; ///< processors of a file are found by their address, else by position
-    QList<int> senders;     ///< indices in project order
-};
 
 /// What the import and export of parameter files ask of the project and the runtime state above.
 class ParamsLookup

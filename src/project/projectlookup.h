@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/seam.h"
-#include "params/paramslookup.h"
+#include "params/impexpprepareinfo.h"
 
 #include <QUuid>
 

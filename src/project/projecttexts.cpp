@@ -1,7 +1,7 @@
 // Texts that stand for lists in a project file, and other small conversions.
 #include "monitor/monitordata.h"
 #include "params/paramfile.h"
-#include "params/records/exactcolorparam.h"
+#include "records/exactcolorparam.h"
 #include "project/projectdata.h"
 #include "project/projectlookup.h"
 

@@ -1,4 +1,4 @@
-#include "params/records/senderparams.h"
+#include "records/senderparams.h"
 
 #include "recordwalkers.h"
 

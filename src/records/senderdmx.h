@@ -1,6 +1,6 @@
 #pragma once
 
-#include "params/records/recordwalk.h"
+#include "records/recordwalk.h"
 
 /// Remote control over Art-Net: the address, and the DMX channel and range of each value that it drives.
 struct SenderDMX : WalkedRecord<SenderDMX>

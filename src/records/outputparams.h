@@ -1,6 +1,6 @@
 #pragma once
 
-#include "params/records/recordwalk.h"
+#include "records/recordwalk.h"
 
 #include <array>
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "params/records/colorparams.h"
-#include "params/records/displayparams.h"
-#include "params/records/exactcolorparam.h"
-#include "params/records/inputsources.h"
-#include "params/records/inputvideoparam.h"
-#include "params/records/outputparams.h"
-#include "params/records/sender3d.h"
-#include "params/records/senderdmx.h"
-#include "params/records/syncparams.h"
+#include "records/colorparams.h"
+#include "records/displayparams.h"
+#include "records/exactcolorparam.h"
+#include "records/inputsources.h"
+#include "records/inputvideoparam.h"
+#include "records/outputparams.h"
+#include "records/sender3d.h"
+#include "records/senderdmx.h"
+#include "records/syncparams.h"
 
 #include <QColor>
 #include <QSharedData>

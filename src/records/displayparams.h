@@ -1,6 +1,6 @@
 #pragma once
 
-#include "params/records/recordwalk.h"
+#include "records/recordwalk.h"
 
 // Codes of the device; any value passes through unchanged.
 enum EHDRStatus : int

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "params/records/recordwalk.h"
+#include "records/recordwalk.h"
 
 /// One video input of an input card. Ranges are the device's; the values pass through unchanged.
 struct SInputVideoParam : WalkedRecord<SInputVideoParam>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/export.h"
-#include "params/records/senderparamdata.h"
+#include "records/senderparamdata.h"
 
 #include <QSharedDataPointer>
 
