@@ -4,20 +4,14 @@
 #include "common/failure.h"
 #include "common/texts.h"
 #include "common/xmldom.h"
-#include "common/xmlreader.h"
-#include "common/xmlwriter.h"
-#include "custommessagebox.h"
 #include "layout/sender.h"
-#include "params/elementfields.h"
 #include "params/elementnames.h"
-#include "params/paramresult.h"
-#include "params/paramslookup.h"
-#include "params/processorelement.h"
-#include "params/senderelement.h"
+#include "params/elementreader.h"
+#include "params/elementwriter.h"
 
 #include <QDomDocument>
 #include <QHash>
-#include <QVector>
+#include <QStringList>
 
 namespace params {
 
@@ -29,299 +23,176 @@ constexpr const char* kSpecifyIp = "bSpecifyIP";
 constexpr const char* kProcessorCount = "ProcessorCount";
 constexpr int kNamedProcessors = 4; ///< in the message about addresses that no processor of a file has
 
-/// What tells the two families apart.
-struct Family
+/// The elements below the root, of which one without children has a text, be it empty. Counts them.
+class ParamStream : public StreamXmlWriter
 {
-    const char* root;
-    const char* encoding; ///< as the declaration names it
-    QVector<const char*> zeroAttributes;
-    quint32 (*write)(QDomDocument&, QDomElement*, const CSender*);
-    quint32 (*read)(QDomDocument&, const QDomElement*, CSender*);
-    quint32 (*importSingle)(ParamsLookup&, const QString&, const QUuid&);
+public:
+    using StreamXmlWriter::StreamXmlWriter;
+
+    void BeginElement(std::string_view name) override
+    {
+        StreamXmlWriter::BeginElement(name);
+        m_empty = m_elements++ > 0;
+    }
+    void Text(std::string_view text) override
+    {
+        StreamXmlWriter::Text(text);
+        m_empty = false;
+    }
+    void EndElement() override
+    {
+        if (m_empty)
+            Text({});
+        StreamXmlWriter::EndElement();
+    }
+    int GetElements() const { return m_elements; }
+
+private:
+    int m_elements = 0;
+    bool m_empty = false;
 };
 
-const Family& SenderFamily()
+/// Fails with `refusal` when no reader would take the file.
+bool WriteFile(QIODevice& file, const Family& family, const QVector<Target>& targets, bool matchByIp,
+               QString* refusal)
 {
-    static const Family family{kSenderFileRoot,       "utf-8",          {}, WriteSingleSenderParam,
-                               ReadSingleSenderParam, ImportSenderParam};
-    return family;
-}
-
-const Family& ProcessorFamily()
-{
-    static const Family family{kProcessorFileRoot,
-                               "UTF-8",
-                               {"ParamFileMainVersion", "DeviceReserveFlag"},
-                               WriteSingleProcessorParam,
-                               ReadSingleProcessorParam,
-                               ImportProcessorParam};
-    return family;
-}
-
-QString ProcessorName(int number)
-{
-    return QLatin1String(kProcessor) + QString::number(number);
-}
-
-/// The senders meant by an id, or by the choice for a null one.
-QList<int> ChosenSenders(const ParamsLookup& lookup, const QUuid& id)
-{
-    return id.isNull() ? lookup.Prepared().senders : QList<int>{lookup.SenderIndex(id)};
-}
-
-quint32 NoSender(ParamsLookup& lookup)
-{
-    lookup.SetFileError(Texts::tr("找不到主控。"));
-    return kFailed;
-}
-
-std::string Utf8(const QString& text)
-{
-    return text.toStdString();
-}
-
-/// An element of ours: children or one text, no attributes. Returns how many elements it is.
-int WriteElement(XmlWriter& writer, const QDomElement& element)
-{
-    int count = 1;
-    writer.BeginElement(Utf8(element.tagName()));
-    QDomElement child = element.firstChildElement();
-    if (child.isNull())
-        writer.Text(Utf8(element.text()));
-    for (; !child.isNull(); child = child.nextSiblingElement())
-        count += WriteElement(writer, child);
-    writer.EndElement();
-    return count;
-}
-
-/// A tree keeps no order of attributes, so the root is written by hand. Fails with `refusal` when no reader
-/// would take the file.
-bool WriteFile(QIODevice& file, const Family& family, bool matchByIp, int count,
-               const QDomElement& processors, QString* refusal)
-{
-    constexpr int rootNodes = 6; ///< at most: the root and its attributes
-    StreamXmlWriter writer(file, family.encoding);
-    writer.BeginElement(family.root);
+    constexpr int rootAttributes = 5; ///< at most
+    ParamStream stream(file, family.encoding);
+    stream.BeginElement(family.root);
     for (const char* attribute : family.zeroAttributes)
-        writer.Attribute(attribute, "0");
-    writer.Attribute(kCheckValue, "1");
-    writer.Attribute(kSpecifyIp, matchByIp ? "1" : "0");
-    writer.Attribute(kProcessorCount, std::to_string(count));
-    int nodes = rootNodes;
-    for (QDomElement element = processors.firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement())
-        nodes += WriteElement(writer, element);
-    writer.EndElement();
-    if (nodes > kMaxTreeNodes)
+        if (attribute)
+            stream.Attribute(attribute, "0");
+    stream.Attribute(kCheckValue, "1");
+    stream.Attribute(kSpecifyIp, matchByIp ? "1" : "0");
+    stream.Attribute(kProcessorCount, std::to_string(targets.size()));
+    ElementWriter writer(stream);
+    for (int i = 0; i < targets.size(); ++i)
+        if (targets[i].sender)
+            writer.Group(FieldName(kProcessor) + (i + 1), [&] { family.write(writer, *targets[i].sender); });
+    stream.EndElement();
+    if (stream.GetElements() + rootAttributes > kMaxTreeNodes)
         return Fail(refusal, Texts::tr("文件过大。"));
-    return writer.Flush() || Fail(refusal, writer.GetRefusal());
+    return stream.Flush() || Fail(refusal, stream.GetRefusal());
 }
 
-quint32 Export(const Family& family, ParamsLookup& lookup, const QString& path, const QUuid& id)
+/// False, with the reason, when the file cannot be read or is of the other family.
+bool Load(const Family& family, const QString& path, QDomDocument& document, QString* why)
 {
-    const QList<int> chosen = ChosenSenders(lookup, id);
-    if (!id.isNull() && !lookup.Sender(chosen.first()))
-        return NoSender(lookup);
-    QDomDocument document;
-    QDomElement processors = document.createElement(QLatin1String(family.root));
-    for (int i = 0; i < chosen.size(); ++i) {
-        const CSender* sender = lookup.Sender(chosen[i]);
-        if (!sender)
-            continue;
-        QDomElement element = document.createElement(ProcessorName(i + 1));
-        processors.appendChild(element);
-        family.write(document, &element, sender);
-    }
-
-    const bool matchByIp = lookup.Prepared().matchByIp;
-    QString error;
-    QString refusal;
-    const bool saved = ReplaceFile(
-        path,
-        [&](QIODevice& file) {
-            return WriteFile(file, family, matchByIp, chosen.size(), processors, &refusal);
-        },
-        &error);
-    lookup.SetFileError(saved ? QString() : refusal.isEmpty() ? error : refusal);
-    return saved ? kDone : kFailed;
+    if (!LoadXmlDom(path, document, why))
+        return false;
+    return document.documentElement().tagName() == QLatin1String(family.root)
+           || Fail(why, Texts::tr("不是该类型的参数文件。"));
 }
 
-/// Null, with the reason told, when the file cannot be read or is of the other family.
-QDomElement LoadRoot(const Family& family, ParamsLookup& lookup, const QString& path, QDomDocument& document)
+Outcome ReadSingle(const Family& family, const QDomDocument& document, CSender* sender)
 {
-    QString error;
-    if (!LoadXmlDom(path, document, &error)) {
-        lookup.SetFileError(error);
-        return {};
-    }
-    const QDomElement root = document.documentElement();
-    if (root.tagName() != QLatin1String(family.root)) {
-        lookup.SetFileError(Texts::tr("不是该类型的参数文件。"));
-        return {};
-    }
-    lookup.SetFileError(QString());
-    return root;
+    if (!sender)
+        return NoSender();
+    ElementReader reader(document.documentElement());
+    Outcome outcome;
+    reader.OwnOrGroup(FieldName(kProcessor) + 1, [&] { outcome = family.readAlone(reader, *sender); });
+    return outcome;
 }
 
-/// Without addresses: the chosen senders take the processors of the file in order.
-quint32 ImportByPosition(const Family& family, QDomDocument& document, const QVector<CSender*>& senders)
+/// The sender takes the processor of that number.
+quint32 ReadNumbered(const Family& family, ElementReader& reader, int number, CSender& sender)
 {
-    const ElementReader root(document.documentElement());
-    for (int i = 0; i < senders.size(); ++i) {
-        const QDomElement element = root.Child(ProcessorName(i + 1));
-        const quint32 result = family.read(document, &element, senders[i]);
-        if (result != kDone)
-            return result;
-    }
-    return kDone;
-}
-
-/// The processors of a file by address, the first of equal ones. Address 0 stands for none.
-QHash<quint32, QDomElement> ProcessorsByIp(const QDomElement& root, int count)
-{
-    QHash<quint32, QDomElement> processors;
-    const auto elements = ElementReader(root).NumberedChildren(QLatin1String(kProcessor), 1, count);
-    for (const auto& numbered : elements) {
-        const QString text = numbered.second.firstChildElement(QLatin1String(kNetIp)).text();
-        const quint32 ip = GetIntFromOctString(text);
-        if (ip != 0 && !processors.contains(ip))
-            processors.insert(ip, numbered.second);
-    }
-    return processors;
-}
-
-/// Tells the user, and whoever asks for the reason later.
-void Tell(ParamsLookup& lookup, const QString& text)
-{
-    lookup.SetFileError(text);
-    CCustomMessageBox::information(nullptr, text);
-}
-
-quint32 Told(ParamsLookup& lookup, quint32 result)
-{
-    const QString text = ImportResultText(result);
-    if (!text.isEmpty())
-        Tell(lookup, text);
+    quint32 result = kImportFailed;
+    reader.Group(FieldName(kProcessor) + number, [&] { result = family.read(reader, sender); });
     return result;
 }
 
-void TellUnmatched(ParamsLookup& lookup, const QList<int>& senders)
+Outcome ReadByPosition(const Family& family, ElementReader& reader, const QVector<Target>& targets)
 {
-    QStringList numbers;
-    for (int index : senders.mid(0, kNamedProcessors))
-        numbers.append(QString::number(index + 1));
-    QString list = numbers.join(QLatin1Char(','));
-    if (senders.size() >= kNamedProcessors)
-        list += QStringLiteral("...");
-    Tell(lookup, Texts::tr("主控%1未找到对应IP的主控参数。").arg(list));
+    for (int i = 0; i < targets.size(); ++i) {
+        const quint32 result = ReadNumbered(family, reader, i + 1, *targets[i].sender);
+        if (result != kDone)
+            return Told(result);
+    }
+    return {};
 }
 
-quint32 ImportByIp(const Family& family, ParamsLookup& lookup, QDomDocument& document, int count,
-                   const QList<int>& chosen, const QVector<CSender*>& senders)
+/// The numbers of a file's processors by address, the first of equal ones. Address 0 stands for none.
+QHash<quint32, int> NumbersByIp(ElementReader& reader, int count)
 {
-    const QHash<quint32, QDomElement> processors = ProcessorsByIp(document.documentElement(), count);
-    QList<int> unmatched;
-    for (int i = 0; i < senders.size(); ++i) {
-        const auto found = processors.constFind(static_cast<quint32>(senders[i]->GetNetSenderIP()));
-        if (found == processors.constEnd()) {
-            unmatched.append(chosen[i]);
+    QHash<quint32, int> numbers;
+    reader.EachNumbered(kProcessor, 1, count, [&](int number) {
+        const quint32 ip = GetIntFromOctString(reader.Value<QString>(kNetIp));
+        if (ip != 0 && !numbers.contains(ip))
+            numbers.insert(ip, number);
+    });
+    return numbers;
+}
+
+Outcome ReadByIp(const Family& family, ElementReader& reader, int count, const QVector<Target>& targets)
+{
+    const QHash<quint32, int> numbers = NumbersByIp(reader, count);
+    QStringList unmatched; ///< as the user counts senders
+    for (const Target& target : targets) {
+        const int number = numbers.value(static_cast<quint32>(target.sender->GetNetSenderIP()));
+        if (number == 0) {
+            unmatched.append(QString::number(target.index + 1));
             continue;
         }
-        const quint32 result = family.read(document, &*found, senders[i]);
+        const quint32 result = ReadNumbered(family, reader, number, *target.sender);
         if (result != kDone)
-            return result;
+            return Told(result);
     }
-    if (!unmatched.isEmpty())
-        TellUnmatched(lookup, unmatched);
-    return unmatched.size() == senders.size() && !senders.isEmpty() ? kFailed : kDone;
-}
-
-quint32 ImportMulti(const Family& family, ParamsLookup& lookup, const QString& path, const QUuid& id)
-{
-    QDomDocument document;
-    const QDomElement root = LoadRoot(family, lookup, path, document);
-    if (root.isNull())
-        return kFailed;
-    if (!root.hasAttribute(QLatin1String(kCheckValue)))
-        return family.importSingle(lookup, path, id);
-
-    const bool matchByIp = root.attribute(QLatin1String(kSpecifyIp)).toInt() != 0;
-    if (matchByIp != lookup.Prepared().matchByIp) {
-        Tell(lookup, Texts::tr("不可导入，无法匹配对应IP的主控参数。"));
-        return kFailed;
-    }
-    const int count = root.attribute(QLatin1String(kProcessorCount)).toInt();
-    if (count < 1) {
-        lookup.SetFileError(Texts::tr("文件中没有主控参数。"));
-        return kFailed;
-    }
-
-    const QList<int> chosen = ChosenSenders(lookup, id);
-    QVector<CSender*> senders;
-    for (int index : chosen) {
-        senders.append(lookup.Sender(index));
-        if (!senders.last())
-            return NoSender(lookup);
-    }
-    const quint32 result = matchByIp ? ImportByIp(family, lookup, document, count, chosen, senders)
-                                     : ImportByPosition(family, document, senders);
-    return Told(lookup, result);
-}
-
-/// The processor of a file of one sender.
-QDomElement SingleProcessor(const QDomElement& root)
-{
-    const QDomElement element = root.firstChildElement(ProcessorName(1));
-    return element.isNull() ? root : element;
+    if (unmatched.isEmpty())
+        return {};
+    const QString list = unmatched.mid(0, kNamedProcessors).join(QLatin1Char(','))
+                         + QLatin1String(unmatched.size() >= kNamedProcessors ? "..." : "");
+    return Told(unmatched.size() == targets.size() ? kFailed : kDone,
+                Texts::tr("主控%1未找到对应IP的主控参数。").arg(list));
 }
 
 } // namespace
 
-quint32 ExportMutiSenderParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
+Outcome NoSender()
 {
-    return Export(SenderFamily(), lookup, path, id);
+    return {kFailed, Texts::tr("找不到主控。")};
 }
 
-quint32 ExportMutiProcessorParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
+Outcome Export(const Family& family, const QVector<Target>& targets, bool matchByIp, const QString& path)
 {
-    return Export(ProcessorFamily(), lookup, path, id);
+    QString error;
+    QString refusal;
+    const bool saved = ReplaceFile(
+        path, [&](QIODevice& file) { return WriteFile(file, family, targets, matchByIp, &refusal); }, &error);
+    return saved ? Outcome() : Outcome{kFailed, refusal.isEmpty() ? error : refusal};
 }
 
-quint32 ImportMutiSenderParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
+Outcome Import(const Family& family, const QVector<Target>& targets, CSender* single, bool matchByIp,
+               const QString& path)
 {
-    return ImportMulti(SenderFamily(), lookup, path, id);
-}
-
-quint32 ImportMutiProcessorParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
-{
-    return ImportMulti(ProcessorFamily(), lookup, path, id);
-}
-
-quint32 ImportSenderParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
-{
-    CSender* sender = lookup.Sender(lookup.SenderIndex(id));
-    if (!sender)
-        return NoSender(lookup);
     QDomDocument document;
-    const QDomElement root = LoadRoot(SenderFamily(), lookup, path, document);
-    if (root.isNull())
-        return kFailed;
-    const QDomElement element = SingleProcessor(root);
-    return Told(lookup, ReadSingleSenderParam(document, &element, sender));
+    QString why;
+    if (!Load(family, path, document, &why))
+        return {kFailed, why};
+    const QDomElement root = document.documentElement();
+    if (!root.hasAttribute(QLatin1String(kCheckValue)))
+        return ReadSingle(family, document, single);
+    if (matchByIp != (root.attribute(QLatin1String(kSpecifyIp)).toInt() != 0))
+        return Told(kFailed, Texts::tr("不可导入，无法匹配对应IP的主控参数。"));
+    const int count = root.attribute(QLatin1String(kProcessorCount)).toInt();
+    if (count < 1)
+        return {kFailed, Texts::tr("文件中没有主控参数。")};
+    for (const Target& target : targets)
+        if (!target.sender)
+            return NoSender();
+    ElementReader reader(root);
+    return matchByIp ? ReadByIp(family, reader, count, targets) : ReadByPosition(family, reader, targets);
 }
 
-quint32 ImportProcessorParam(ParamsLookup& lookup, const QString& path, const QUuid& id)
+Outcome ImportSingle(const Family& family, CSender* sender, const QString& path)
 {
-    CSender* sender = lookup.Sender(lookup.SenderIndex(id));
     if (!sender)
-        return NoSender(lookup);
+        return NoSender();
     QDomDocument document;
-    const QDomElement root = LoadRoot(ProcessorFamily(), lookup, path, document);
-    if (root.isNull())
-        return kFailed;
-    // As a result the basic block knows only done and failed; the reason is in the message.
-    const quint32 result = ImportProcessorBlocks(document, SingleProcessor(root), sender);
-    return Told(lookup, result) == kDone ? kDone : kFailed;
+    QString why;
+    if (!Load(family, path, document, &why))
+        return {kFailed, why};
+    return ReadSingle(family, document, sender);
 }
 
 quint32 GetIntFromOctString(const QString& text)

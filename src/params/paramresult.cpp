@@ -1,16 +1,23 @@
 #include "params/paramresult.h"
 
 #include "common/texts.h"
+#include "custommessagebox.h"
 
 namespace params {
 
-QString ImportResultText(quint32 result)
+Outcome Told(quint32 code)
 {
-    if (result == kTypeDiffers)
-        return Texts::tr("导入失败，无法导入不同类型主控的参数。");
-    if (result == kImportFailed)
-        return Texts::tr("导入失败。");
-    return {};
+    if (code == kTypeDiffers)
+        return Told(code, Texts::tr("导入失败，无法导入不同类型主控的参数。"));
+    if (code == kImportFailed)
+        return Told(code, Texts::tr("导入失败。"));
+    return {code, {}};
+}
+
+Outcome Told(quint32 code, const QString& why)
+{
+    CCustomMessageBox::information(nullptr, why);
+    return {code, why};
 }
 
 } // namespace params

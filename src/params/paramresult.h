@@ -10,7 +10,14 @@ constexpr quint32 kFailed = 0x80004005;
 constexpr quint32 kTypeDiffers = 0xE0830003;  ///< the file is of another processor type than the sender
 constexpr quint32 kImportFailed = 0xE0830013; ///< the file does not hold what the sender takes
 
-/// Why an import ended, for the user; empty for results that the user need not be told.
-QString ImportResultText(quint32 result);
+struct Outcome
+{
+    quint32 code = kDone;
+    QString why; ///< for the user; a code of success may have a reason too
+};
+
+/// The user is told in a message box what the code means, unless he need not be.
+Outcome Told(quint32 code);
+Outcome Told(quint32 code, const QString& why);
 
 } // namespace params

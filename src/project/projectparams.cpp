@@ -1,210 +1,256 @@
 // Parameter files and their blocks: the members that hosts know, over the functions of the params room.
 #include "params/colorblocks.h"
 #include "params/deviceblocks.h"
-#include "params/inputblock.h"
-#include "params/outputblock.h"
+#include "params/inputblocks.h"
+#include "params/outputblocks.h"
 #include "params/paramfile.h"
-#include "params/paramslookup.h"
-#include "params/processorelement.h"
-#include "params/senderelement.h"
 #include "project/projectdata.h"
 #include "project/projectlookup.h"
 
+using namespace params;
+
 namespace {
 
-/// Lets the parameter files see a project's senders and the choice that the user prepared.
-class ProjectParams : public ParamsLookup
+/// Writes a block below an element. kFailed, with nothing written, for a null sender or element.
+template <class Block>
+quint32 Save(QDomDocument& document, QDomElement* element, const CSender* sender, const Block& block,
+             bool perSource = true)
 {
-public:
-    ProjectParams(const CProjectData& project, QString& fileError)
-        : m_project(project), m_fileError(fileError)
-    {
-        m_fileError.clear();
-    }
+    if (!sender || !element)
+        return kFailed;
+    DomXmlWriter dom(document, *element);
+    ElementWriter writer(dom, perSource);
+    block(writer, *sender);
+    return kDone;
+}
 
-    CSender* Sender(int index) const override { return m_project.GetSender(index); }
-    int SenderIndex(const QUuid& id) const override { return m_project.GetScIndexByID(id); }
-    SImpExpPrepareInfo Prepared() const override { return GetProjectLookup()->ImpExpPrepareInfo(); }
-    void SetFileError(const QString& reason) override { m_fileError = reason; }
+/// Reads a block from an element; `ofNull` for a null sender or element. A block may give a result.
+template <class Block>
+quint32 Load(const QDomElement* element, CSender* sender, const Block& block, quint32 ofNull = kFailed,
+             bool perSource = true)
+{
+    if (!sender || !element)
+        return ofNull;
+    ElementReader reader(*element, perSource);
+    if constexpr (std::is_void_v<decltype(block(reader, *sender))>)
+        block(reader, *sender);
+    else
+        return block(reader, *sender);
+    return kDone;
+}
 
-private:
-    const CProjectData& m_project;
-    QString& m_fileError;
-};
+const QDomElement* NotNull(const QDomElement* element)
+{
+    return element && !element->isNull() ? element : nullptr;
+}
+
+/// The senders meant by an id, or by the choice for a null one.
+QVector<Target> Targets(const CProjectData& project, const QUuid& id)
+{
+    const QList<int> chosen = id.isNull() ? GetProjectLookup()->ImpExpPrepareInfo().senders
+                                          : QList<int>{project.GetScIndexByID(id)};
+    QVector<Target> targets;
+    for (const int index : chosen)
+        targets.append({index, project.GetSender(index)});
+    return targets;
+}
+
+bool MatchByIp()
+{
+    return GetProjectLookup()->ImpExpPrepareInfo().matchByIp;
+}
+
+CSender* SenderOf(const CProjectData& project, const QUuid& id)
+{
+    return project.GetSender(project.GetScIndexByID(id));
+}
+
+Outcome ExportMulti(const Family& family, const CProjectData& project, const QString& path, const QUuid& id)
+{
+    if (!id.isNull() && !SenderOf(project, id))
+        return NoSender();
+    return Export(family, Targets(project, id), MatchByIp(), path);
+}
+
+Outcome ImportMulti(const Family& family, const CProjectData& project, const QString& path, const QUuid& id)
+{
+    return Import(family, Targets(project, id), SenderOf(project, id), MatchByIp(), path);
+}
+
+/// Keeps the reason of an outcome.
+quint32 Code(const Outcome& outcome, QString& fileError)
+{
+    fileError = outcome.why;
+    return outcome.code;
+}
 
 } // namespace
 
 quint32 CProjectData::ExportMutiSenderParam(const QString& path, const QUuid& id)
 {
-    ProjectParams lookup(*this, m_lastFileError);
-    return params::ExportMutiSenderParam(lookup, path, id);
+    return Code(ExportMulti(kSenderFamily, *this, path, id), m_lastFileError);
 }
 
 quint32 CProjectData::ExportMutiProcessorParam(const QString& path, const QUuid& id)
 {
-    ProjectParams lookup(*this, m_lastFileError);
-    return params::ExportMutiProcessorParam(lookup, path, id);
+    return Code(ExportMulti(kProcessorFamily, *this, path, id), m_lastFileError);
 }
 
 quint32 CProjectData::ImportSenderParam(const QString& path, const QUuid& id)
 {
-    ProjectParams lookup(*this, m_lastFileError);
-    return params::ImportSenderParam(lookup, path, id);
+    return Code(ImportSingle(kSenderFamily, SenderOf(*this, id), path), m_lastFileError);
 }
 
 quint32 CProjectData::ImportProcessorParam(const QString& path, const QUuid& id)
 {
-    ProjectParams lookup(*this, m_lastFileError);
-    return params::ImportProcessorParam(lookup, path, id);
+    return Code(ImportSingle(kProcessorFamily, SenderOf(*this, id), path), m_lastFileError);
 }
 
 quint32 CProjectData::ImportMutiSenderParam(const QString& path, const QUuid& id)
 {
-    ProjectParams lookup(*this, m_lastFileError);
-    return params::ImportMutiSenderParam(lookup, path, id);
+    return Code(ImportMulti(kSenderFamily, *this, path, id), m_lastFileError);
 }
 
 quint32 CProjectData::ImportMutiProcessorParam(const QString& path, const QUuid& id)
 {
-    ProjectParams lookup(*this, m_lastFileError);
-    return params::ImportMutiProcessorParam(lookup, path, id);
+    return Code(ImportMulti(kProcessorFamily, *this, path, id), m_lastFileError);
 }
 
 quint32 CProjectData::SaveBasicInfoParam(QDomDocument& document, CSender* sender, QDomElement* element)
 {
-    return params::SaveBasicInfoParam(document, sender, element);
+    return Save(document, element, sender, WriteBasicInfo);
 }
 
-quint32 CProjectData::LoadBasicInfoParam(QDomDocument& document, QDomElement* element, CSender* sender)
+quint32 CProjectData::LoadBasicInfoParam(QDomDocument&, QDomElement* element, CSender* sender)
 {
-    return params::LoadBasicInfoParam(document, element, sender);
+    const quint32 result =
+        Load(element, sender, [](auto& f, auto& s) { return CheckType(f, kDeviceType, s); });
+    return Told(result).code == kDone ? kDone : kFailed;
 }
 
 quint32 CProjectData::SaveDeviceSetParam(QDomDocument& document, QDomElement* element, CSender* sender)
 {
-    return params::SaveDeviceSetParam(document, element, sender);
+    return Save(document, element, sender, DescribeDeviceSet<ElementWriter>);
 }
 
-quint32 CProjectData::LoadDeviceSetParam(QDomDocument& document, QDomElement* element, CSender* sender)
+quint32 CProjectData::LoadDeviceSetParam(QDomDocument&, QDomElement* element, CSender* sender)
 {
-    return params::LoadDeviceSetParam(document, element, sender);
+    return Load(element, sender, DescribeDeviceSet<ElementReader>);
 }
 
 quint32 CProjectData::SaveMultiParam(QDomDocument& document, QDomElement* element, CSender* sender)
 {
-    return params::SaveMultiParam(document, element, sender);
+    return Save(document, element, sender, DescribeMulti<ElementWriter>);
 }
 
-quint32 CProjectData::LoadMultiParam(QDomDocument& document, QDomElement& element, CSender* sender)
+quint32 CProjectData::LoadMultiParam(QDomDocument&, QDomElement& element, CSender* sender)
 {
-    return params::LoadMultiParam(document, element, sender);
+    return Load(NotNull(&element), sender, DescribeMulti<ElementReader>);
 }
 
 quint32 CProjectData::Save3DParam(QDomDocument& document, QDomElement* element, CSender* sender)
 {
-    return params::Save3DParam(document, element, sender);
+    return Save(document, element, sender, Describe3D<ElementWriter>);
 }
 
-quint32 CProjectData::Load3DParam(QDomDocument& document, QDomElement& element, CSender* sender)
+quint32 CProjectData::Load3DParam(QDomDocument&, QDomElement& element, CSender* sender)
 {
-    return params::Load3DParam(document, element, sender);
+    return Load(NotNull(&element), sender, Describe3D<ElementReader>);
 }
 
 quint32 CProjectData::SaveInputParam(QDomDocument& document, QDomElement* element, CSender* sender)
 {
-    return params::SaveInputParam(document, element, sender);
+    if (sender && sender->Params().inputVideos.isEmpty())
+        return kFailed;
+    return Save(document, element, sender, DescribeInputs<ElementWriter>);
 }
 
-quint32 CProjectData::LoadInputParam(QDomDocument& document, QDomElement* element, CSender* sender)
+quint32 CProjectData::LoadInputParam(QDomDocument&, QDomElement* element, CSender* sender)
 {
-    return params::LoadInputParam(document, element, sender);
+    constexpr quint32 ofNull = 1; // callers know it so
+    return Load(element, sender, DescribeInputs<ElementReader>, ofNull);
 }
 
 quint32 CProjectData::SaveOutputParam(QDomDocument& document, CSender* sender, QDomElement* element)
 {
-    return params::SaveOutputParam(document, sender, element);
+    return Save(document, element, sender, DescribeOutput<ElementWriter>);
 }
 
-quint32 CProjectData::LoadOutputParam(QDomDocument& document, QDomElement* element, CSender* sender)
+quint32 CProjectData::LoadOutputParam(QDomDocument&, QDomElement* element, CSender* sender)
 {
-    return params::LoadOutputParam(document, element, sender);
+    return Load(element, sender, DescribeOutput<ElementReader>);
 }
 
-quint32 CProjectData::LoadVideoOutParam(QDomDocument& document, QDomElement* element, CSender* sender)
+quint32 CProjectData::LoadVideoOutParam(QDomDocument&, QDomElement* element, CSender* sender)
 {
-    return params::LoadVideoOutParam(document, element, sender);
+    return Load(element, sender, DescribePorts<ElementReader>);
 }
 
 quint32 CProjectData::SaveOneGroupParam(QDomDocument& document, QDomElement* element, int group,
                                         CSender* sender)
 {
-    return params::SaveOneGroupParam(document, element, group, sender);
+    return Save(document, element, sender, [group](auto& f, auto& s) { DescribeOutputGroup(f, group, s); });
 }
 
-quint32 CProjectData::LoadOneGroupParam(QDomDocument& document, QDomElement* element, int group,
-                                        CSender* sender)
+quint32 CProjectData::LoadOneGroupParam(QDomDocument&, QDomElement* element, int group, CSender* sender)
 {
-    return params::LoadOneGroupParam(document, element, group, sender);
+    return Load(element, sender, [group](auto& f, auto& s) { DescribeOutputGroup(f, group, s); });
 }
 
-quint32 CProjectData::LoadOutputSpiltLineParam(QDomDocument& document, QDomElement* element, int group,
-                                               CSender* sender)
+quint32 CProjectData::LoadOutputSpiltLineParam(QDomDocument&, QDomElement* element, int, CSender* sender)
 {
-    return params::LoadOutputSpiltLineParam(document, element, group, sender);
+    return Load(element, sender, DescribeCuttingLines<ElementReader>);
 }
 
-quint32 CProjectData::LoadOutputColorBrightParam(QDomDocument& document, QDomElement* element, int group,
-                                                 CSender* sender)
+quint32 CProjectData::LoadOutputColorBrightParam(QDomDocument&, QDomElement* element, int, CSender* sender)
 {
-    return params::LoadOutputColorBrightParam(document, element, group, sender);
+    return Load(element, sender, DescribeColorBright<ElementReader>);
 }
 
-quint32 CProjectData::LoadOutputExactColorParam(QDomDocument& document, QDomElement* element, int group,
-                                                CSender* sender)
+quint32 CProjectData::LoadOutputExactColorParam(QDomDocument&, QDomElement* element, int, CSender* sender)
 {
-    return params::LoadOutputExactColorParam(document, element, group, sender);
+    return Load(element, sender, DescribeExactColor<ElementReader>);
 }
 
 quint32 CProjectData::SaveColorCubeParam(QDomDocument& document, QDomElement* element, CSender* sender,
                                          bool perSource)
 {
-    return params::SaveColorCubeParam(document, element, sender, perSource);
+    return Save(document, element, sender, DescribeColorCubes<ElementWriter>, perSource);
 }
 
-quint32 CProjectData::LoadColorCubeParam(QDomDocument& document, QDomElement& element, CSender* sender,
-                                         bool perSource)
+quint32 CProjectData::LoadColorCubeParam(QDomDocument&, QDomElement& element, CSender* sender, bool perSource)
 {
-    return params::LoadColorCubeParam(document, element, sender, perSource);
+    return Load(NotNull(&element), sender, DescribeColorCubes<ElementReader>, kFailed, perSource);
 }
 
 quint32 CProjectData::SaveColorCurveParam(QDomDocument& document, QDomElement* element, CSender* sender,
                                           bool perSource)
 {
-    return params::SaveColorCurveParam(document, element, sender, perSource);
+    return Save(document, element, sender, DescribeColorCurves<ElementWriter>, perSource);
 }
 
-quint32 CProjectData::LoadColorCurveParam(QDomDocument& document, QDomElement& element, CSender* sender,
+quint32 CProjectData::LoadColorCurveParam(QDomDocument&, QDomElement& element, CSender* sender,
                                           bool perSource)
 {
-    return params::LoadColorCurveParam(document, element, sender, perSource);
+    return Load(NotNull(&element), sender, DescribeColorCurves<ElementReader>, kFailed, perSource);
 }
 
 quint32 CProjectData::WriteSingleSenderParam(QDomDocument document, QDomElement* element, CSender* sender)
 {
-    return params::WriteSingleSenderParam(document, element, sender);
+    return Save(document, element, sender, kSenderFamily.write);
 }
 
-quint32 CProjectData::ReadSingleSenderParam(QDomDocument& document, QDomElement* element, CSender* sender)
+quint32 CProjectData::ReadSingleSenderParam(QDomDocument&, QDomElement* element, CSender* sender)
 {
-    return params::ReadSingleSenderParam(document, element, sender);
+    return Load(NotNull(element), sender, kSenderFamily.read, kImportFailed);
 }
 
 quint32 CProjectData::WriteSingleProcessorParam(QDomDocument& document, QDomElement* element, CSender* sender)
 {
-    return params::WriteSingleProcessorParam(document, element, sender);
+    return Save(document, element, sender, kProcessorFamily.write);
 }
 
-quint32 CProjectData::ReadSingleProcessorParam(QDomDocument document, QDomElement* element, CSender* sender)
+quint32 CProjectData::ReadSingleProcessorParam(QDomDocument, QDomElement* element, CSender* sender)
 {
-    return params::ReadSingleProcessorParam(document, element, sender);
+    return Load(NotNull(element), sender, kProcessorFamily.read, kImportFailed);
 }

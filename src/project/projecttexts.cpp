@@ -1,9 +1,10 @@
 // Texts that stand for lists in a project file, and other small conversions.
 #include "monitor/monitordata.h"
+#include "params/elementnames.h"
 #include "params/paramfile.h"
-#include "records/exactcolorparam.h"
 #include "project/projectdata.h"
 #include "project/projectlookup.h"
+#include "records/exactcolorparam.h"
 
 #include <QStringList>
 
@@ -65,7 +66,7 @@ void CProjectData::SetVideoInfoFromString(SSenderSetting& setting, const QString
 
 QString CProjectData::GetColorStr(int channel)
 {
-    return params::GetColorStr(channel);
+    return channel < kColorPrimaries ? QLatin1String(params::kPrimaryNames[qMax(channel, 0)]) : QString();
 }
 
 quint32 CProjectData::GetIntFromOctString(const QString& text)

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "records/recordwalk.h"
+#include "records/comparedrecord.h"
 
 #include <QList>
 #include <QPointF>
+#include <QString>
 #include <QVector>
 
 #include <array>
@@ -12,22 +13,14 @@ constexpr int kColorCubeCoefs = 42;
 constexpr int kMaxCurvePoints = 4096; ///< of a channel, as far as files are believed
 
 /// The colour cube of one input, which a card slot and a source index name together.
-struct SInputVideoColorCubeParam : WalkedRecord<SInputVideoColorCubeParam>
+struct SInputVideoColorCubeParam : ComparedRecord<SInputVideoColorCubeParam>
 {
     qint32 slotNum = 0;
     qint32 sourceIndex = 0;
     bool enable = false;
     std::array<float, kColorCubeCoefs> coefs{};
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
-    {
-        f.Field("SlotNum", r.slotNum...);
-        if (f.WithSource()) {
-            f.Field("SourceIndex", r.sourceIndex...);
-            f.Field("ColorCubeEnable", r.enable...);
-        }
-        f.Numbered("ColorParam", 0, r.coefs...);
-    }
+    auto Values() const { return std::tie(slotNum, sourceIndex, enable, coefs); }
 };
 
 enum EColorCurveChannel : int
@@ -41,7 +34,7 @@ enum EColorCurveChannel : int
 constexpr int kColorCurveChannels = 4;
 
 /// The colour curves of one input. The lock is not in files.
-struct SInputVideoColorCurveParam : WalkedRecord<SInputVideoColorCurveParam>
+struct SInputVideoColorCurveParam : ComparedRecord<SInputVideoColorCurveParam>
 {
     qint32 slotNum = 0;
     qint32 sourceIndex = 0;
@@ -49,23 +42,11 @@ struct SInputVideoColorCurveParam : WalkedRecord<SInputVideoColorCurveParam>
     bool lock = false;
     std::array<QList<QPointF>, kColorCurveChannels> points; ///< by EColorCurveChannel
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
-    {
-        f.Field("SlotNum", r.slotNum...);
-        if (f.WithSource()) {
-            f.Field("SourceIndex", r.sourceIndex...);
-            f.Field("ColorCurveEnable", r.enable...);
-        }
-        f.Unnamed(r.lock...);
-        f.Points("Red", r.points[ColorCurveRed]...);
-        f.Points("Green", r.points[ColorCurveGreen]...);
-        f.Points("Blue", r.points[ColorCurveBlue]...);
-        f.Points("Luminance", r.points[ColorCurveLuminance]...);
-    }
+    auto Values() const { return std::tie(slotNum, sourceIndex, enable, lock, points); }
 };
 
 /// The three-dimensional look-up table of one input; not in files.
-struct SInputVideo3DLUTParam : WalkedRecord<SInputVideo3DLUTParam>
+struct SInputVideo3DLUTParam : ComparedRecord<SInputVideo3DLUTParam>
 {
     qint32 slotNum = 0;
     qint32 sourceIndex = 0;
@@ -75,14 +56,8 @@ struct SInputVideo3DLUTParam : WalkedRecord<SInputVideo3DLUTParam>
     float strength = 0;
     QVector<float> table;
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
+    auto Values() const
     {
-        f.Unnamed(r.slotNum...);
-        f.Unnamed(r.sourceIndex...);
-        f.Unnamed(r.enable...);
-        f.Unnamed(r.fileName...);
-        f.Unnamed(r.fileTitle...);
-        f.Unnamed(r.strength...);
-        f.Unnamed(r.table...);
+        return std::tie(slotNum, sourceIndex, enable, fileName, fileTitle, strength, table);
     }
 };

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "records/recordwalk.h"
+#include "records/comparedrecord.h"
+
+#include <QtGlobal>
 
 // Codes of the device; any value passes through unchanged.
 enum EHDRStatus : int
@@ -19,7 +21,7 @@ enum ETrasSpaceMode : int
 };
 
 /// Picture adjustment.
-struct SPictureParam : WalkedRecord<SPictureParam>
+struct SPictureParam : ComparedRecord<SPictureParam>
 {
     int brightness = 0;
     int colorTemp = 0;
@@ -29,46 +31,32 @@ struct SPictureParam : WalkedRecord<SPictureParam>
     int contrast = 0;
     float fadeTime = 0; ///< seconds
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
+    auto Values() const
     {
-        f.Unnamed(r.brightness...);
-        f.Unnamed(r.colorTemp...);
-        f.Unnamed(r.hue...);
-        f.Unnamed(r.saturation...);
-        f.Unnamed(r.brightComp...);
-        f.Unnamed(r.contrast...);
-        f.Unnamed(r.fadeTime...);
+        return std::tie(brightness, colorTemp, hue, saturation, brightComp, contrast, fadeTime);
     }
 };
 
 /// Dynamic (peak) brightness.
-struct SSenderPeakBrightness : WalkedRecord<SSenderPeakBrightness>
+struct SSenderPeakBrightness : ComparedRecord<SSenderPeakBrightness>
 {
     bool enable = false;
     qint32 sharpen = 0;
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
-    {
-        f.Unnamed(r.enable...);
-        f.Unnamed(r.sharpen...);
-    }
+    auto Values() const { return std::tie(enable, sharpen); }
 };
 
 /// What sender parameter files hold of HDR beside the state, the colour space and the exact colours.
-struct SHDRSetInfo : WalkedRecord<SHDRSetInfo>
+struct SHDRSetInfo : ComparedRecord<SHDRSetInfo>
 {
     qint32 known = 0;
     qint32 ledBrightness = 0;
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
-    {
-        f.Unnamed(r.known...);
-        f.Unnamed(r.ledBrightness...);
-    }
+    auto Values() const { return std::tie(known, ledBrightness); }
 };
 
 /// Which optional features a processor has.
-struct SSupportOptionsInfo : WalkedRecord<SSupportOptionsInfo>
+struct SSupportOptionsInfo : ComparedRecord<SSupportOptionsInfo>
 {
     bool portGroupBrightness = false; ///< the only one that a file depends on
     bool videoAbnormalCloseOut = false;
@@ -88,24 +76,10 @@ struct SSupportOptionsInfo : WalkedRecord<SSupportOptionsInfo>
     bool videoOutputMode = false;
     bool hotBackup = false;
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
+    auto Values() const
     {
-        f.Unnamed(r.portGroupBrightness...);
-        f.Unnamed(r.videoAbnormalCloseOut...);
-        f.Unnamed(r.inputAudio...);
-        f.Unnamed(r.colorCube...);
-        f.Unnamed(r.colorCurve...);
-        f.Unnamed(r.multiFrequency...);
-        f.Unnamed(r.output3D...);
-        f.Unnamed(r.vSyncMulti...);
-        f.Unnamed(r.betterGray...);
-        f.Unnamed(r.vSyncDelay...);
-        f.Unnamed(r.virtualPixel...);
-        f.Unnamed(r.peakBrightness...);
-        f.Unnamed(r.blackoutFade...);
-        f.Unnamed(r.deviceMode...);
-        f.Unnamed(r.fiberMode...);
-        f.Unnamed(r.videoOutputMode...);
-        f.Unnamed(r.hotBackup...);
+        return std::tie(portGroupBrightness, videoAbnormalCloseOut, inputAudio, colorCube, colorCurve,
+                        multiFrequency, output3D, vSyncMulti, betterGray, vSyncDelay, virtualPixel,
+                        peakBrightness, blackoutFade, deviceMode, fiberMode, videoOutputMode, hotBackup);
     }
 };

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "records/recordwalk.h"
+#include "records/comparedrecord.h"
+
+#include <QString>
 
 /// One video input of an input card. Ranges are the device's; the values pass through unchanged.
-struct SInputVideoParam : WalkedRecord<SInputVideoParam>
+struct SInputVideoParam : ComparedRecord<SInputVideoParam>
 {
     qint32 cardSlot = -1;         ///< -1: unset
     qint32 videoIndexOnCard = -1; ///< -1: unset
@@ -53,87 +55,13 @@ struct SInputVideoParam : WalkedRecord<SInputVideoParam>
     qint32 balanceDe = 0;
     qint32 balanceVod = 0;
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
+    auto Values() const
     {
-        WalkSignal(f, r...);
-        WalkBrightColor(f, r...);
-        WalkEdid(f, r...);
-        f.Group("BalanceParam", [&] {
-            f.Field("balance_bst", r.balanceBst...);
-            f.Field("balance_de", r.balanceDe...);
-            f.Field("balance_vod", r.balanceVod...);
-        });
-    }
-
-private:
-    // Each part of an input repeats the slot and the index, so that it can be read alone.
-    template <class Fields, class... Records> static void WalkSignal(Fields& f, Records&... r)
-    {
-        f.Group("inputVideoSignalParamXmlRoot", [&] {
-            f.Key("inputVideoSignalVideoCardSlot", r.cardSlot...);
-            f.Key("inputVideoSignalVideoIndexOnCard", r.videoIndexOnCard...);
-            f.Field("inputVideoSignalSourceType", r.sourceType...);
-            f.Field("inputVideoSignalbNoDelay", r.noDelay...);
-            f.Field("inputVideoSignalbGrayExpand", r.grayExpand...);
-        });
-        f.Group("inputVideoCropParamXmlRoot", [&] {
-            f.Key("inputVideoCropVideoCardSlot", r.cardSlot...);
-            f.Key("inputVideoCropVideoIndexOnCard", r.videoIndexOnCard...);
-            f.Field("inputVideoCropEnableFlag", r.cropEnable...);
-            f.Field("inputVideoCropX", r.cropX...);
-            f.Field("inputVideoCropY", r.cropY...);
-            f.Field("inputVideoCropWidth", r.cropWidth...);
-            f.Field("inputVideoCropHeigth", r.cropHeight...);
-        });
-        f.Group("inputVideoRenameParamXmlRoot", [&] {
-            f.Key("inputVideoRenameVideoCardSlot", r.cardSlot...);
-            f.Key("inputVideoRenameVideoIndexOnCard", r.videoIndexOnCard...);
-            f.Field("inputVideoRenameName", r.name...);
-        });
-    }
-
-    template <class Fields, class... Records> static void WalkBrightColor(Fields& f, Records&... r)
-    {
-        f.Group("inputVideoBrightColorParamXmlRoot", [&] {
-            f.Key("inputVideoBrightColorVideoCardSlot", r.cardSlot...);
-            f.Key("inputVideoBrightColorVideoIndexOnCard", r.videoIndexOnCard...);
-            f.Field("inputVideoBrightColorBrightness", r.brightness...);
-            f.Field("inputVideoBrightColorContrast", r.contrast...);
-            f.Field("inputVideoBrightColorBrightnessCompensation", r.brightnessCompensation...);
-            f.Field("inputVideoBrightColorHue", r.hue...);
-            f.Field("inputVideoBrightColorSaturation", r.saturation...);
-            f.Field("inputVideoBrightColorEnable", r.brightColorEnable...);
-            f.Field("inputVideoBrightColorColorTemperature", r.colorTemperature...);
-            f.Field("inputVideoBrightColorRed", r.red...);
-            f.Field("inputVideoBrightColorGreen", r.green...);
-            f.Field("inputVideoBrightColorBlue", r.blue...);
-        });
-    }
-
-    template <class Fields, class... Records> static void WalkEdid(Fields& f, Records&... r)
-    {
-        f.Group("inputVideoEdidParamXmlRoot", [&] {
-            f.Key("inputVideoEdidParamVideoCardSlot", r.cardSlot...);
-            f.Key("inputVideoEdidParamVideoIndexOnCard", r.videoIndexOnCard...);
-            f.Field("inputVideoEdidWidth", r.edidWidth...);
-            f.Field("inputVideoEdidHeight", r.edidHeight...);
-            f.Field("inputVideoEdidRate", r.edidRate...);
-            f.Field("inputVideoEdidColorDepth", r.colorDepth...);
-            f.Field("inputVideoEdidStandard", r.standard...);
-            f.Field("inputVideoEdidEdidLen", r.edidLength...);
-            f.Field("inputVideoEdidBExtenMode", r.extendedMode...);
-            f.Field("inputVideoEdidEdidType", r.edidType...);
-            f.Field("inputVideoEdidHFrontPorch", r.hFrontPorch...);
-            f.Field("inputVideoEdidVFrontPorch", r.vFrontPorch...);
-            f.Field("inputVideoEdidHSyncWidth", r.hSyncWidth...);
-            f.Field("inputVideoEdidVSyncWidth", r.vSyncWidth...);
-            f.Field("inputVideoEdidHsyncPol", r.hSyncPolarity...);
-            f.Field("inputVideoEdidVsyncPol", r.vSyncPolarity...);
-            f.Field("inputVideoEdidHBackPorch", r.hBackPorch...);
-            f.Field("inputVideoEdidVBackPorch", r.vBackPorch...);
-            f.Field("inputVideoEdidHTotal", r.hTotal...);
-            f.Field("inputVideoEdidVTotal", r.vTotal...);
-            f.Field("inputVideoEdidPixelFreq", r.pixelFrequency...);
-        });
+        return std::tie(cardSlot, videoIndexOnCard, sourceType, name, grayExpand, noDelay, cropEnable, cropX,
+                        cropY, cropWidth, cropHeight, edidRate, edidWidth, edidHeight, edidLength, colorDepth,
+                        standard, extendedMode, edidType, hFrontPorch, vFrontPorch, hSyncWidth, vSyncWidth,
+                        hSyncPolarity, vSyncPolarity, hBackPorch, vBackPorch, hTotal, vTotal, pixelFrequency,
+                        brightness, brightColorEnable, colorTemperature, red, green, blue, hue, saturation,
+                        brightnessCompensation, contrast, balanceBst, balanceDe, balanceVod);
     }
 };

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "records/recordwalk.h"
+#include "records/comparedrecord.h"
+
+#include <QtGlobal>
 
 #include <array>
 
@@ -8,9 +10,9 @@ constexpr int kRightEyeNumbers = 8;
 constexpr int kLayerSignalPairs = 4;
 
 /// Stereoscopic output: how the right eye follows the left one, and which inputs each layer shows to them.
-struct Sender3D : WalkedRecord<Sender3D>
+struct Sender3D : ComparedRecord<Sender3D>
 {
-    struct signal : WalkedRecord<signal>
+    struct signal : ComparedRecord<signal>
     {
         qint32 slotNum = 0;
         qint32 boardType = 0;
@@ -19,14 +21,9 @@ struct Sender3D : WalkedRecord<Sender3D>
         qint32 sourceType = 0;
         qint32 sourceTypeIndex = 0;
 
-        template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
+        auto Values() const
         {
-            f.Field("slotNum", r.slotNum...);
-            f.Field("boardType", r.boardType...);
-            f.Field("boardIndex", r.boardIndex...);
-            f.Field("sourceIndex", r.sourceIndex...);
-            f.Field("sourceType", r.sourceType...);
-            f.Field("sourecTypeIndex", r.sourceTypeIndex...);
+            return std::tie(slotNum, boardType, boardIndex, sourceIndex, sourceType, sourceTypeIndex);
         }
     };
 
@@ -40,21 +37,9 @@ struct Sender3D : WalkedRecord<Sender3D>
     std::array<signal, kLayerSignalPairs> leftSignals;
     std::array<signal, kLayerSignalPairs> rightSignals;
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
+    auto Values() const
     {
-        f.Field("Set3DEnable", r.enable...);
-        f.Negated("Set3DbRightFirt", r.leftEyeFirst...);
-        f.Field("Set3DDelayTime", r.delayTime...);
-        f.Field("Set3DMode", r.mode...);
-        f.Group("Set3DRightEyeOffset", [&] {
-            f.Field("OffsetHX", r.offsetX...);
-            f.Field("OffsetVY", r.offsetY...);
-            f.Numbered("RightNumber", 1, r.rightNumbers...);
-        });
-        for (int i = 0; i < kLayerSignalPairs; ++i) {
-            const auto pair = static_cast<size_t>(i);
-            f.Record(FieldName("layerLeftSignal") + i, r.leftSignals[pair]...);
-            f.Record(FieldName("layerRightSignal") + i, r.rightSignals[pair]...);
-        }
+        return std::tie(enable, leftEyeFirst, delayTime, mode, offsetX, offsetY, rightNumbers, leftSignals,
+                        rightSignals);
     }
 };

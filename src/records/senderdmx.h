@@ -1,34 +1,27 @@
 #pragma once
 
-#include "records/recordwalk.h"
+#include "records/comparedrecord.h"
+
+#include <QtGlobal>
 
 /// Remote control over Art-Net: the address, and the DMX channel and range of each value that it drives.
-struct SenderDMX : WalkedRecord<SenderDMX>
+struct SenderDMX : ComparedRecord<SenderDMX>
 {
-    struct Channel : WalkedRecord<Channel>
+    struct Channel : ComparedRecord<Channel>
     {
         qint32 channel = 0;
         qint32 max = 0;
         qint32 min = 0;
 
-        template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
-        {
-            f.Unnamed(r.channel...);
-            f.Unnamed(r.max...);
-            f.Unnamed(r.min...);
-        }
+        auto Values() const { return std::tie(channel, max, min); }
     };
 
-    struct Switch : WalkedRecord<Switch>
+    struct Switch : ComparedRecord<Switch>
     {
         bool enable = false;
         qint32 channel = 0;
 
-        template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
-        {
-            f.Unnamed(r.enable...);
-            f.Unnamed(r.channel...);
-        }
+        auto Values() const { return std::tie(enable, channel); }
     };
 
     qint32 artNetAddress = 0;
@@ -48,49 +41,9 @@ struct SenderDMX : WalkedRecord<SenderDMX>
     Switch saturation;
     Switch contrast;
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
+    auto Values() const
     {
-        f.Field("ArtNetAddress", r.artNetAddress...);
-        f.Field("NetAddress", r.netAddress...);
-        f.Field("SubNetAddress", r.subNetAddress...);
-        f.Field("Universe", r.universe...);
-        f.Group("Bright", [&] {
-            f.Field("BrightEnable", r.brightEnable...);
-            WalkChannel(f, "BrightChannel", "BrightMax", "BrightMin", r.bright...);
-        });
-        f.Group("QColor", [&] {
-            f.Field("RGBEnable", r.rgbEnable...);
-            WalkChannel(f, "RChannel", "RMax", "RMin", r.red...);
-            WalkChannel(f, "GChannel", "GMax", "GMin", r.green...);
-            WalkChannel(f, "BChannel", "BMax", "BMin", r.blue...);
-        });
-        f.Group("ColorTemperature", [&] {
-            f.Field("ColorTempEnable", r.colorTempEnable...);
-            WalkChannel(f, "ColorTempChannel", "ColorTempMax", "ColorTempMin", r.colorTemp...);
-        });
-        WalkSwitch(f, "TestMode", "TestModeEnable", "TestModeChannel", r.testMode...);
-        WalkSwitch(f, "Hue", "HueEnable", "HueChannel", r.hue...);
-        // The last name is what files in the field have.
-        WalkSwitch(f, "Saturation", "SaturationEnable", "HueChanSaturationChannelnel", r.saturation...);
-        WalkSwitch(f, "Contrast", "ContrastEnable", "ContrastChannel", r.contrast...);
-    }
-
-private:
-    template <class Fields, class... Channels>
-    static void WalkChannel(Fields& f, const char* channel, const char* max, const char* min, Channels&... c)
-    {
-        f.Field(channel, c.channel...);
-        f.Field(max, c.max...);
-        f.Field(min, c.min...);
-    }
-
-    template <class Fields, class... Switches>
-    static void WalkSwitch(Fields& f, const char* group, const char* enable, const char* channel,
-                           Switches&... s)
-    {
-        f.Group(group, [&] {
-            f.Field(enable, s.enable...);
-            f.Field(channel, s.channel...);
-        });
+        return std::tie(artNetAddress, netAddress, subNetAddress, universe, brightEnable, bright, rgbEnable,
+                        red, green, blue, colorTempEnable, colorTemp, testMode, hue, saturation, contrast);
     }
 };

@@ -16,7 +16,7 @@
 constexpr int kPictureInFirstRecord = 4; ///< the device class with picture values of its own
 
 /// The values behind a CSenderParams, shared by its copies until one of them is changed.
-struct SenderParamData : QSharedData, WalkedRecord<SenderParamData>
+struct SenderParamData : QSharedData, ComparedRecord<SenderParamData>
 {
     int deviceClass = 0;
     int processorType = 0;
@@ -115,107 +115,20 @@ struct SenderParamData : QSharedData, WalkedRecord<SenderParamData>
     }
     SPictureParam& Picture() { return deviceClass == kPictureInFirstRecord ? firstPicture : picture; }
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
+    auto Values() const
     {
-        WalkPictureAndSync(f, r...);
-        WalkInputs(f, r...);
-        WalkOutputs(f, r...);
-        WalkColor(f, r...);
-    }
-
-private:
-    template <class Fields, class... Records> static void WalkPictureAndSync(Fields& f, Records&... r)
-    {
-        f.Unnamed(r.deviceClass...);
-        f.Unnamed(r.processorType...);
-        f.Unnamed(r.exportConfig...);
-        f.Unnamed(r.freezed...);
-        f.Unnamed(r.support...);
-        f.Unnamed(r.firstPicture...);
-        f.Unnamed(r.picture...);
-        f.Unnamed(r.blackoutFadeTime...);
-        f.Unnamed(r.blackout...);
-        f.Unnamed(r.picAdjEnable...);
-        f.Unnamed(r.adjByColorTemp...);
-        f.Unnamed(r.betterGray...);
-        f.Unnamed(r.curColorRgb...);
-        f.Unnamed(r.curTestModel...);
-        f.Unnamed(r.peakBrightness...);
-        f.Unnamed(r.vSync...);
-        f.Unnamed(r.vSyncFreq...);
-        f.Unnamed(r.vSyncDelay...);
-        f.Unnamed(r.vSyncMultiFreq...);
-        f.Unnamed(r.vSyncMultiWay...);
-        f.Unnamed(r.vSyncMultiFlag...);
-        f.Unnamed(r.syncSource...);
-        f.Unnamed(r.syncLockSource...);
-        f.Unnamed(r.multi...);
-        f.Unnamed(r.stereo...);
-    }
-
-    template <class Fields, class... Records> static void WalkInputs(Fields& f, Records&... r)
-    {
-        f.Unnamed(r.inputVideos...);
-        f.Unnamed(r.videoInfos...);
-        f.Unnamed(r.inputClips...);
-        f.Unnamed(r.inputEdids...);
-        f.Unnamed(r.inputJoints...);
-        f.Unnamed(r.balanced...);
-        f.Unnamed(r.hotBackup...);
-        f.Unnamed(r.inputAudio...);
-        f.Unnamed(r.inputAudioV...);
-        f.Unnamed(r.inputVolume...);
-        f.Unnamed(r.inputRange...);
-        f.Unnamed(r.videoSelect...);
-        f.Unnamed(r.selVideoSourceIndex...);
-        f.Unnamed(r.selSubBoardIndex...);
-        f.Unnamed(r.selSubBoardType...);
-        f.Unnamed(r.signalAbnormal...);
-    }
-
-    template <class Fields, class... Records> static void WalkOutputs(Fields& f, Records&... r)
-    {
-        f.Unnamed(r.layers...);
-        f.Unnamed(r.cuttingLines...);
-        f.Unnamed(r.portGroups...);
-        f.Unnamed(r.netPorts...);
-        f.Unnamed(r.netPortConfig...);
-        f.Unnamed(r.originalCanvasWidth...);
-        f.Unnamed(r.originalCanvasHeight...);
-        f.Unnamed(r.signalFreq...);
-        f.Unnamed(r.colorDepth...);
-        f.Unnamed(r.deviceMode...);
-        f.Unnamed(r.videoOutputMode...);
-        f.Unnamed(r.virtualPixStatus...);
-        f.Unnamed(r.virtualPixRouting...);
-        f.Unnamed(r.virtualPixRowOffset...);
-        f.Unnamed(r.virtualPixColOffset...);
-        f.Unnamed(r.lowLatency...);
-        f.Unnamed(r.zeroLatency...);
-        f.Unnamed(r.lowLatencyBoard...);
-        f.Unnamed(r.fiberOut...);
-        f.Unnamed(r.fiberMode...);
-        f.Unnamed(r.uh5Change...);
-        f.Unnamed(r.dmx...);
-    }
-
-    template <class Fields, class... Records> static void WalkColor(Fields& f, Records&... r)
-    {
-        f.Unnamed(r.exactColor...);
-        f.Unnamed(r.hdrEnable...);
-        f.Unnamed(r.hdrStatus...);
-        f.Unnamed(r.hdrDynamicCali...);
-        f.Unnamed(r.colorSpaceTransMode...);
-        f.Unnamed(r.hdrSet...);
-        f.Unnamed(r.cubeEnable...);
-        f.Unnamed(r.cubeAllSignal...);
-        f.Unnamed(r.cubeGamma...);
-        f.Unnamed(r.cubes...);
-        f.Unnamed(r.processorCube...);
-        f.Unnamed(r.curveEnable...);
-        f.Unnamed(r.curveAllSignal...);
-        f.Unnamed(r.curves...);
-        f.Unnamed(r.processorCurve...);
-        f.Unnamed(r.luts...);
+        return std::tie(deviceClass, processorType, exportConfig, freezed, support, firstPicture, picture,
+                        blackoutFadeTime, blackout, picAdjEnable, adjByColorTemp, betterGray, curColorRgb,
+                        curTestModel, peakBrightness, vSync, vSyncFreq, vSyncDelay, vSyncMultiFreq,
+                        vSyncMultiWay, vSyncMultiFlag, syncSource, syncLockSource, multi, stereo, inputVideos,
+                        videoInfos, inputClips, inputEdids, inputJoints, balanced, hotBackup, inputAudio,
+                        inputAudioV, inputVolume, inputRange, videoSelect, selVideoSourceIndex,
+                        selSubBoardIndex, selSubBoardType, signalAbnormal, layers, cuttingLines, portGroups,
+                        netPorts, netPortConfig, originalCanvasWidth, originalCanvasHeight, signalFreq,
+                        colorDepth, deviceMode, videoOutputMode, virtualPixStatus, virtualPixRouting,
+                        virtualPixRowOffset, virtualPixColOffset, lowLatency, zeroLatency, lowLatencyBoard,
+                        fiberOut, fiberMode, uh5Change, dmx, exactColor, hdrEnable, hdrStatus, hdrDynamicCali,
+                        colorSpaceTransMode, hdrSet, cubeEnable, cubeAllSignal, cubeGamma, cubes,
+                        processorCube, curveEnable, curveAllSignal, curves, processorCurve, luts);
     }
 };

@@ -10,12 +10,22 @@ const QSharedDataPointer<SenderParamData>& DefaultData()
     return defaults;
 }
 
-template <class Entry> const Entry* Find(const QList<Entry>& entries, int slot, int source)
+template <class Entry> bool Find(const QList<Entry>& entries, int slot, int source, Entry& found)
 {
-    const auto found = std::find_if(entries.begin(), entries.end(), [=](const Entry& entry) {
-        return entry.slotNum == slot && entry.sourceIndex == source;
-    });
-    return found == entries.end() ? nullptr : &*found;
+    for (const Entry& entry : entries)
+        if (entry.slotNum == slot && entry.sourceIndex == source) {
+            found = entry;
+            return true;
+        }
+    return false;
+}
+
+/// As it was made when there is none.
+template <class Entry> Entry Found(const QList<Entry>& entries, int slot, int source)
+{
+    Entry found;
+    Find(entries, slot, source, found);
+    return found;
 }
 
 template <class Entry> Entry& FindOrAdd(QList<Entry>& entries, int slot, int source)
@@ -86,11 +96,7 @@ void CSenderParams::SetLayerInfo(const SLayerWndParam* layers)
 
 bool CSenderParams::GetColorCubeParam(SInputVideoColorCubeParam& cube, int slot, int source) const
 {
-    const SInputVideoColorCubeParam* found = Find(m_data->cubes, slot, source);
-    if (!found)
-        return false;
-    cube = *found;
-    return true;
+    return Find(m_data->cubes, slot, source, cube);
 }
 
 void CSenderParams::SetColorCubeParam(const SInputVideoColorCubeParam& cube)
@@ -100,10 +106,7 @@ void CSenderParams::SetColorCubeParam(const SInputVideoColorCubeParam& cube)
 
 bool CSenderParams::GetColorCubeEnable(int slot, int source) const
 {
-    if (IsWholeSender(slot, source))
-        return m_data->cubeEnable;
-    const SInputVideoColorCubeParam* found = Find(m_data->cubes, slot, source);
-    return found && found->enable;
+    return IsWholeSender(slot, source) ? m_data->cubeEnable : Found(m_data->cubes, slot, source).enable;
 }
 
 void CSenderParams::SetColorCubeEnable(bool enable, int slot, int source)
@@ -116,11 +119,7 @@ void CSenderParams::SetColorCubeEnable(bool enable, int slot, int source)
 
 bool CSenderParams::GetColorCurveParam(SInputVideoColorCurveParam& curve, int slot, int source) const
 {
-    const SInputVideoColorCurveParam* found = Find(m_data->curves, slot, source);
-    if (!found)
-        return false;
-    curve = *found;
-    return true;
+    return Find(m_data->curves, slot, source, curve);
 }
 
 void CSenderParams::SetColorCurveParam(const SInputVideoColorCurveParam& curve)
@@ -130,10 +129,7 @@ void CSenderParams::SetColorCurveParam(const SInputVideoColorCurveParam& curve)
 
 bool CSenderParams::GetColorCurveEnable(int slot, int source) const
 {
-    if (IsWholeSender(slot, source))
-        return m_data->curveEnable;
-    const SInputVideoColorCurveParam* found = Find(m_data->curves, slot, source);
-    return found && found->enable;
+    return IsWholeSender(slot, source) ? m_data->curveEnable : Found(m_data->curves, slot, source).enable;
 }
 
 void CSenderParams::SetColorCurveEnable(bool enable, int slot, int source)
@@ -146,8 +142,7 @@ void CSenderParams::SetColorCurveEnable(bool enable, int slot, int source)
 
 bool CSenderParams::GetColorCurveLock(int slot, int source) const
 {
-    const SInputVideoColorCurveParam* found = Find(m_data->curves, slot, source);
-    return found && found->lock;
+    return Found(m_data->curves, slot, source).lock;
 }
 
 void CSenderParams::SetColorCurveLock(bool lock, int slot, int source)
@@ -158,10 +153,10 @@ void CSenderParams::SetColorCurveLock(bool lock, int slot, int source)
 bool CSenderParams::GetColorCurveAdjPoint(int channel, QList<QPointF>& points, int slot, int source) const
 {
     points.clear();
-    const SInputVideoColorCurveParam* found = Find(m_data->curves, slot, source);
-    if (!found || !IsCurveChannel(channel))
+    SInputVideoColorCurveParam curve;
+    if (!IsCurveChannel(channel) || !Find(m_data->curves, slot, source, curve))
         return false;
-    points = found->points[static_cast<size_t>(channel)];
+    points = curve.points[static_cast<size_t>(channel)];
     return true;
 }
 
@@ -173,8 +168,7 @@ void CSenderParams::SetColorCurveAdjPoint(int channel, const QList<QPointF>& poi
 
 SInputVideo3DLUTParam CSenderParams::Get3DLUTData(int slot, int source) const
 {
-    const SInputVideo3DLUTParam* found = Find(m_data->luts, slot, source);
-    return found ? *found : SInputVideo3DLUTParam();
+    return Found(m_data->luts, slot, source);
 }
 
 void CSenderParams::Set3DLUTData(const SInputVideo3DLUTParam& lut)
@@ -182,24 +176,9 @@ void CSenderParams::Set3DLUTData(const SInputVideo3DLUTParam& lut)
     FindOrAdd(m_data->luts, lut.slotNum, lut.sourceIndex) = lut;
 }
 
-void CSenderParams::Reset3DLUTData()
-{
-    m_data->luts.clear();
-}
-
-bool CSenderParams::Get3DLUTEnable(int slot, int source) const
-{
-    return Get3DLUTData(slot, source).enable;
-}
-
 void CSenderParams::Set3DLUTEnable(bool enable, int slot, int source)
 {
     FindOrAdd(m_data->luts, slot, source).enable = enable;
-}
-
-QString CSenderParams::Get3DLUTFileName(int slot, int source) const
-{
-    return Get3DLUTData(slot, source).fileName;
 }
 
 void CSenderParams::Set3DLUTFileName(const QString& name, int slot, int source)
@@ -207,19 +186,9 @@ void CSenderParams::Set3DLUTFileName(const QString& name, int slot, int source)
     FindOrAdd(m_data->luts, slot, source).fileName = name;
 }
 
-QString CSenderParams::Get3DLUTFileTitle(int slot, int source) const
-{
-    return Get3DLUTData(slot, source).fileTitle;
-}
-
 void CSenderParams::Set3DLUTFileTitle(const QString& title, int slot, int source)
 {
     FindOrAdd(m_data->luts, slot, source).fileTitle = title;
-}
-
-float CSenderParams::Get3DLUTStrength(int slot, int source) const
-{
-    return Get3DLUTData(slot, source).strength;
 }
 
 void CSenderParams::Set3DLutStrength(float strength, int slot, int source)

@@ -197,11 +197,9 @@ public:
     // colour cubes by card slot and source index; (0, 0) names the enable of the whole sender
     QList<SInputVideoColorCubeParam> GetColorCubeParams() const { return m_data->cubes; }
     void SetColorCubeParams(const QList<SInputVideoColorCubeParam>& value) { m_data->cubes = value; }
-    bool GetColorCubeParam(SInputVideoColorCubeParam& cube, int slot,
-                           int source) const; ///< false: no such cube
-    void
-    SetColorCubeParam(const SInputVideoColorCubeParam& cube); ///< replaces the cube of its input or adds it
-    bool GetColorCubeEnable(int slot, int source) const;      ///< false without a cube
+    bool GetColorCubeParam(SInputVideoColorCubeParam& cube, int slot, int source) const; ///< false: none
+    void SetColorCubeParam(const SInputVideoColorCubeParam& cube); ///< replaces its input's, or adds it
+    bool GetColorCubeEnable(int slot, int source) const;           ///< false without a cube
     void SetColorCubeEnable(bool enable, int slot, int source);
     bool GetColorCubeIsAllSignal() const { return m_data->cubeAllSignal; }
     void SetColorCubeIsAllSignal(bool value) { m_data->cubeAllSignal = value; }
@@ -233,14 +231,14 @@ public:
     // look-up tables by card slot and source index; setting a value of an input without one adds it
     SInputVideo3DLUTParam Get3DLUTData(int slot, int source) const; ///< an empty one when absent
     void Set3DLUTData(const SInputVideo3DLUTParam& lut);
-    void Reset3DLUTData(); ///< no table is left
-    bool Get3DLUTEnable(int slot, int source) const;
+    void Reset3DLUTData() { m_data->luts.clear(); }
+    bool Get3DLUTEnable(int slot, int source) const { return Get3DLUTData(slot, source).enable; }
     void Set3DLUTEnable(bool enable, int slot, int source);
-    QString Get3DLUTFileName(int slot, int source) const;
+    QString Get3DLUTFileName(int slot, int source) const { return Get3DLUTData(slot, source).fileName; }
     void Set3DLUTFileName(const QString& name, int slot, int source);
-    QString Get3DLUTFileTitle(int slot, int source) const;
+    QString Get3DLUTFileTitle(int slot, int source) const { return Get3DLUTData(slot, source).fileTitle; }
     void Set3DLUTFileTitle(const QString& title, int slot, int source);
-    float Get3DLUTStrength(int slot, int source) const;
+    float Get3DLUTStrength(int slot, int source) const { return Get3DLUTData(slot, source).strength; }
     void Set3DLutStrength(float strength, int slot, int source);
 
     // all values at once, for readers and writers

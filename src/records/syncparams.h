@@ -1,11 +1,13 @@
 #pragma once
 
-#include "records/recordwalk.h"
+#include "records/comparedrecord.h"
+
+#include <QtGlobal>
 
 #include <array>
 
 /// Synchronisation of a processor: the configured sync input, and the one in force when it was read.
-struct SVSyncParam : WalkedRecord<SVSyncParam>
+struct SVSyncParam : ComparedRecord<SVSyncParam>
 {
     qint32 syncSource = 0;
     qint32 syncPhase = 0;
@@ -24,29 +26,16 @@ struct SVSyncParam : WalkedRecord<SVSyncParam>
     qint32 curGenlockState = 0;
     qint32 curGenlockFreq = 0;
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
+    auto Values() const
     {
-        f.Field("DeviceSetParamsVSyncSource", r.syncSource...);
-        f.Field("DeviceSetParamsVSyncPhase", r.syncPhase...);
-        f.Field("DeviceSetParamsTimeInterval", r.timeInterval...);
-        f.Field("DeviceSetParamsBoardType", r.boardType...);
-        f.Field("DeviceSetParamsBoardIndex", r.boardIndex...);
-        f.Field("DeviceSetParamsSourceType", r.sourceType...);
-        f.Field("DeviceSetParamsSlotNum", r.slotNum...);
-        f.Field("DeviceSetParamsSourceIndex", r.sourceIndex...);
-        f.Field("DeviceSetParamsCurBoardType", r.curBoardType...);
-        f.Field("DeviceSetParamsCurBoardIndex", r.curBoardIndex...);
-        f.Field("DeviceSetParamsCurSourceType", r.curSourceType...);
-        f.Field("DeviceSetParamsCurSlotNum", r.curSlotNum...);
-        f.Field("DeviceSetParamsCurSourceIndex", r.curSourceIndex...);
-        f.Field("DeviceSetParamsCurVSyncFreq", r.curVSyncFreq...);
-        f.Field("DeviceSetParamsCurGenlockState", r.curGenlockState...);
-        f.Field("DeviceSetParamsCurGenlockFreq", r.curGenlockFreq...);
+        return std::tie(syncSource, syncPhase, timeInterval, boardType, boardIndex, sourceType, slotNum,
+                        sourceIndex, curBoardType, curBoardIndex, curSourceType, curSlotNum, curSourceIndex,
+                        curVSyncFreq, curGenlockState, curGenlockFreq);
     }
 };
 
 /// One frame of a frame multiplex.
-struct SFrameRemapping : WalkedRecord<SFrameRemapping>
+struct SFrameRemapping : ComparedRecord<SFrameRemapping>
 {
     quint8 frameNum = 0;
     quint8 frameSetting = 0;
@@ -56,22 +45,13 @@ struct SFrameRemapping : WalkedRecord<SFrameRemapping>
     quint16 xLabel = 0;
     quint16 yLabel = 0;
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
-    {
-        f.Field("DeviceSetParamsFrameNum", r.frameNum...);
-        f.Field("DeviceSetParamsFrameSetting", r.frameSetting...);
-        f.Field("DeviceSetParamsFrameRlabel", r.rLabel...);
-        f.Field("DeviceSetParamsFrameGlabel", r.gLabel...);
-        f.Field("DeviceSetParamsFrameBlabel", r.bLabel...);
-        f.Field("DeviceSetParamsFrameXlabel", r.xLabel...);
-        f.Field("DeviceSetParamsFrameYlabel", r.yLabel...);
-    }
+    auto Values() const { return std::tie(frameNum, frameSetting, rLabel, gLabel, bLabel, xLabel, yLabel); }
 };
 
 constexpr int kFrameRemappings = 10;
 
 /// Frequency and frame multiplexing. All ten frames are kept, whatever the frame count says.
-struct SFrequencyFrameMultiParam : WalkedRecord<SFrequencyFrameMultiParam>
+struct SFrequencyFrameMultiParam : ComparedRecord<SFrequencyFrameMultiParam>
 {
     quint8 frequencyFlag = 0;
     quint8 frequencySetting = 0;
@@ -80,13 +60,8 @@ struct SFrequencyFrameMultiParam : WalkedRecord<SFrequencyFrameMultiParam>
     quint8 frameCount = 0;
     std::array<SFrameRemapping, kFrameRemappings> frames;
 
-    template <class Fields, class... Records> static void Walk(Fields& f, Records&... r)
+    auto Values() const
     {
-        f.Field("DeviceSetParamsFrequencyFlag", r.frequencyFlag...);
-        f.Field("DeviceSetParamsFrequencySetting", r.frequencySetting...);
-        f.Field("DeviceSetParamsFrequencyCount", r.frequencyCount...);
-        f.Field("DeviceSetParamsFrameFlag", r.frameFlag...);
-        f.Field("DeviceSetParamsFrameCount", r.frameCount...);
-        f.Numbered("DeviceSetParamsFrameData", 0, r.frames...);
+        return std::tie(frequencyFlag, frequencySetting, frequencyCount, frameFlag, frameCount, frames);
     }
 };

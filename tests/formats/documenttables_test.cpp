@@ -2,7 +2,7 @@
 #include "common/xmldom.h"
 #include "common/xmlreader.h"
 #include "layout/storedtile.h"
-#include "params/sharedblocks.h"
+#include "params/deviceblocks.h"
 #include "project/layoutdescription.h"
 #include "project/projectdescription.h"
 #include "project/projectelements.h"

@@ -1,19 +1,15 @@
 #include "common/xmldom.h"
 #include "layout/sender.h"
-#include "params/colorblocks.h"
-#include "params/deviceblocks.h"
-#include "params/elementfields.h"
-#include "params/inputblock.h"
-#include "params/outputblock.h"
 #include "params/paramresult.h"
-#include "params/processorelement.h"
-#include "params/senderelement.h"
+#include "params/paramtext.h"
+#include "project/projectdata.h"
 
 #include "messagerecorder.h"
 
 #include <gtest/gtest.h>
 
 using namespace params;
+using Project = CProjectData;
 
 namespace {
 
@@ -57,7 +53,7 @@ TEST(ParamBlocksTest, BasicBlockChecksTheTypeAloneAndTellsTheUser)
     };
     for (const Case& c : cases) {
         Block block(c.content);
-        EXPECT_EQ(LoadBasicInfoParam(block.document, &block.root, &sender), c.result)
+        EXPECT_EQ(Project::LoadBasicInfoParam(block.document, &block.root, &sender), c.result)
             << c.content.constData();
         EXPECT_EQ(messages.Take(), c.messages);
     }
@@ -71,7 +67,7 @@ TEST(ParamBlocksTest, NumbersWiderThanTheirFieldAreTakenModuloItsWidth)
                 "<DeviceSetParamsFrameData9><DeviceSetParamsFrameYlabel>65537</DeviceSetParamsFrameYlabel>"
                 "<DeviceSetParamsFrameXlabel>4294967296</DeviceSetParamsFrameXlabel>"
                 "<DeviceSetParamsFrameRlabel>0x10</DeviceSetParamsFrameRlabel></DeviceSetParamsFrameData9>");
-    ASSERT_EQ(LoadMultiParam(block.document, block.root, &sender), kDone);
+    ASSERT_EQ(Project::LoadMultiParam(block.document, block.root, &sender), kDone);
     EXPECT_EQ(sender.GetFrequencyFlag(), 2);
     EXPECT_EQ(sender.GetFrameCount(), 255);
     SFrameRemapping frame;
@@ -81,14 +77,14 @@ TEST(ParamBlocksTest, NumbersWiderThanTheirFieldAreTakenModuloItsWidth)
     EXPECT_EQ(frame.rLabel, 0);
 
     Block delay("<Set3DEnable>7</Set3DEnable><Set3DDelayTime>4294967297</Set3DDelayTime>");
-    ASSERT_EQ(Load3DParam(delay.document, delay.root, &sender), kDone);
+    ASSERT_EQ(Project::Load3DParam(delay.document, delay.root, &sender), kDone);
     EXPECT_TRUE(sender.Get3DEnable());
     EXPECT_EQ(sender.Get3D().delayTime, 1U);
 
     Block fade("<outputOtherParamXmlRoot><outputOtherParamFadeTime>nan</outputOtherParamFadeTime>"
                "</outputOtherParamXmlRoot>");
     sender.SetFadeTime(3);
-    ASSERT_EQ(LoadOneGroupParam(fade.document, &fade.root, 0, &sender), kDone);
+    ASSERT_EQ(Project::LoadOneGroupParam(fade.document, &fade.root, 0, &sender), kDone);
     EXPECT_EQ(sender.GetFadeTime(), 0);
 }
 
@@ -102,40 +98,40 @@ TEST(ParamBlocksTest, EachNullArgumentFailsAndWritesNothing)
     // Of two arguments that must be there one is null in turn.
     for (CSender* s : {static_cast<CSender*>(nullptr), &sender}) {
         QDomElement* e = s ? nullptr : &block.root;
-        const QDomElement null = e ? *e : QDomElement();
-        const quint32 results[] = {SaveBasicInfoParam(document, s, e),
-                                   LoadBasicInfoParam(document, e, s),
-                                   SaveDeviceSetParam(document, e, s),
-                                   LoadDeviceSetParam(document, e, s),
-                                   SaveMultiParam(document, e, s),
-                                   LoadMultiParam(document, null, s),
-                                   Save3DParam(document, e, s),
-                                   Load3DParam(document, null, s),
-                                   SaveInputParam(document, e, s),
-                                   SaveOutputParam(document, s, e),
-                                   LoadOutputParam(document, e, s),
-                                   LoadVideoOutParam(document, e, s),
-                                   SaveOneGroupParam(document, e, 0, s),
-                                   LoadOneGroupParam(document, e, 0, s),
-                                   LoadOutputSpiltLineParam(document, e, 0, s),
-                                   LoadOutputColorBrightParam(document, e, 0, s),
-                                   LoadOutputExactColorParam(document, e, 0, s),
-                                   SaveColorCubeParam(document, e, s, true),
-                                   LoadColorCubeParam(document, null, s, true),
-                                   SaveColorCurveParam(document, e, s, true),
-                                   LoadColorCurveParam(document, null, s, true),
-                                   WriteSingleSenderParam(document, e, s),
-                                   WriteSingleProcessorParam(document, e, s)};
+        QDomElement null = e ? *e : QDomElement();
+        const quint32 results[] = {Project::SaveBasicInfoParam(document, s, e),
+                                   Project::LoadBasicInfoParam(document, e, s),
+                                   Project::SaveDeviceSetParam(document, e, s),
+                                   Project::LoadDeviceSetParam(document, e, s),
+                                   Project::SaveMultiParam(document, e, s),
+                                   Project::LoadMultiParam(document, null, s),
+                                   Project::Save3DParam(document, e, s),
+                                   Project::Load3DParam(document, null, s),
+                                   Project::SaveInputParam(document, e, s),
+                                   Project::SaveOutputParam(document, s, e),
+                                   Project::LoadOutputParam(document, e, s),
+                                   Project::LoadVideoOutParam(document, e, s),
+                                   Project::SaveOneGroupParam(document, e, 0, s),
+                                   Project::LoadOneGroupParam(document, e, 0, s),
+                                   Project::LoadOutputSpiltLineParam(document, e, 0, s),
+                                   Project::LoadOutputColorBrightParam(document, e, 0, s),
+                                   Project::LoadOutputExactColorParam(document, e, 0, s),
+                                   Project::SaveColorCubeParam(document, e, s, true),
+                                   Project::LoadColorCubeParam(document, null, s, true),
+                                   Project::SaveColorCurveParam(document, e, s, true),
+                                   Project::LoadColorCurveParam(document, null, s, true),
+                                   Project::WriteSingleSenderParam(document, e, s),
+                                   Project::WriteSingleProcessorParam(document, e, s)};
         for (const quint32& result : results)
             EXPECT_EQ(result, kFailed) << (&result - results) << (s ? " element" : " sender");
-        EXPECT_EQ(LoadInputParam(document, e, s), 1U);
-        EXPECT_EQ(ReadSingleSenderParam(document, e, s), kImportFailed);
-        EXPECT_EQ(ReadSingleProcessorParam(document, e, s), kImportFailed);
+        EXPECT_EQ(Project::LoadInputParam(document, e, s), 1U);
+        EXPECT_EQ(Project::ReadSingleSenderParam(document, e, s), kImportFailed);
+        EXPECT_EQ(Project::ReadSingleProcessorParam(document, e, s), kImportFailed);
     }
     EXPECT_EQ(block.Text(), before);
     sender.SetInputVideoInfo({});
-    EXPECT_EQ(SaveInputParam(document, &block.root, &sender), kFailed) << "no inputs";
-    ASSERT_EQ(WriteSingleProcessorParam(document, &block.root, &sender), kDone);
+    EXPECT_EQ(Project::SaveInputParam(document, &block.root, &sender), kFailed) << "no inputs";
+    ASSERT_EQ(Project::WriteSingleProcessorParam(document, &block.root, &sender), kDone);
     EXPECT_TRUE(block.root.firstChildElement(QStringLiteral("inputParamXmlRoot")).firstChild().isNull());
     EXPECT_TRUE(block.At("OutputParamsXmlRoot/OutPortGroupAdjBrightParamXmlRoot").isNull())
         << "no such feature";
@@ -155,12 +151,12 @@ TEST(ParamBlocksTest, InputsAreWrittenByCardAndReadBackWhereTheyAre)
     }
     sender.SetInputVideoInfo(videos);
     Block block;
-    ASSERT_EQ(SaveInputParam(block.document, &block.root, &sender), kDone);
+    ASSERT_EQ(Project::SaveInputParam(block.document, &block.root, &sender), kDone);
     CSender target;
-    ASSERT_EQ(LoadInputParam(block.document, &block.root, &target), kDone);
+    ASSERT_EQ(Project::LoadInputParam(block.document, &block.root, &target), kDone);
     EXPECT_EQ(target.GetInputVideoInfo(), (QList<SInputVideoParam>{videos[1], videos[0], videos[2]}));
     Block nothing;
-    ASSERT_EQ(LoadInputParam(nothing.document, &nothing.root, &target), kDone);
+    ASSERT_EQ(Project::LoadInputParam(nothing.document, &nothing.root, &target), kDone);
     EXPECT_TRUE(target.GetInputVideoInfo().isEmpty());
 }
 
@@ -178,7 +174,7 @@ TEST(ParamBlocksTest, InputsThatAreAbsentOrIncompleteAreReadAsFarAsTheyGo)
                 "</inputVideoSignalParamXmlRoot></inputBoardOneVideoParmXmlRootBase2>"
                 "<inputBoardOneVideoParmXmlRootBase02/>"
                 "</inputBoardOneCardParmXmlRootBase3>");
-    ASSERT_EQ(LoadInputParam(block.document, &block.root, &sender), kDone);
+    ASSERT_EQ(Project::LoadInputParam(block.document, &block.root, &sender), kDone);
     const QList<SInputVideoParam> videos = sender.GetInputVideoInfo();
     ASSERT_EQ(videos.size(), 2);
     EXPECT_EQ(videos[0].cardSlot, 4);
@@ -200,7 +196,7 @@ TEST(ParamBlocksTest, LayersAreWrittenWithoutGapsAndReadIntoFreeEntries)
     layers[5].width = 100;
     sender.SetLayerInfo(layers.data());
     Block block;
-    ASSERT_EQ(SaveOneGroupParam(block.document, &block.root, 0, &sender), kDone);
+    ASSERT_EQ(Project::SaveOneGroupParam(block.document, &block.root, 0, &sender), kDone);
     EXPECT_EQ(block.At("outputLayerParamRoot0/outputLayerCount").text(), QStringLiteral("2"));
     EXPECT_EQ(block.At("outputLayerParamRoot0/outputLayerParamRootBase2/outputLayerHeight").text(),
               QStringLiteral("7"));
@@ -210,13 +206,13 @@ TEST(ParamBlocksTest, LayersAreWrittenWithoutGapsAndReadIntoFreeEntries)
     sender.SetLayerInfo(layers.data());
     QDomElement root = block.root.firstChildElement(QStringLiteral("outputLayerParamRoot0"));
     root.setTagName(QStringLiteral("outputLayerParamRoot1"));
-    ASSERT_EQ(LoadOneGroupParam(block.document, &block.root, 1, &sender), kDone);
+    ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 1, &sender), kDone);
     sender.GetLayerInfo(layers.data());
     EXPECT_EQ(layers[0].height, 3);
     EXPECT_EQ(layers[1].height, 50);
     EXPECT_EQ(layers[2].height, 7);
     root.setTagName(QStringLiteral("outputLayerParamRoot0"));
-    ASSERT_EQ(LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
+    ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
     sender.GetLayerInfo(layers.data());
     EXPECT_EQ(layers[1].height, 7);
     EXPECT_TRUE(layers[2].IsEmpty());
@@ -234,7 +230,7 @@ TEST(ParamBlocksTest, MoreLayersThanTheTableHoldsAreCut)
     }
     Block block(content + "</outputLayerParamRoot0>");
     CSender sender;
-    ASSERT_EQ(LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
+    ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
     EXPECT_EQ(sender.Params().layers.back().layerIndex, 64);
 }
 
@@ -246,7 +242,7 @@ TEST(ParamBlocksTest, SplitLinesBeyondTheRecordAreNeitherWrittenNorRead)
     lines.horizontalCount = 33;
     sender.SetCuttingLineInfo(lines);
     Block block;
-    ASSERT_EQ(SaveOneGroupParam(block.document, &block.root, 0, &sender), kDone);
+    ASSERT_EQ(Project::SaveOneGroupParam(block.document, &block.root, 0, &sender), kDone);
     EXPECT_TRUE(block.At("outputSpiltLineParamRoot").firstChild().isNull());
 
     lines.horizontalCount = 1;
@@ -255,7 +251,7 @@ TEST(ParamBlocksTest, SplitLinesBeyondTheRecordAreNeitherWrittenNorRead)
     for (const char* count : {"33", "-1", "2147483647"}) {
         Block hostile("<outputSpiltLineParamRoot><outputSpiltLineVLineCount>" + QByteArray(count)
                       + "</outputSpiltLineVLineCount></outputSpiltLineParamRoot>");
-        EXPECT_EQ(LoadOutputSpiltLineParam(hostile.document, &hostile.root, 0, &sender), kDone);
+        EXPECT_EQ(Project::LoadOutputSpiltLineParam(hostile.document, &hostile.root, 0, &sender), kDone);
         EXPECT_EQ(sender.GetCuttingLineInfo(), lines) << count;
     }
 }
@@ -270,7 +266,7 @@ TEST(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
     groups.groupCount = 2;
     sender.SetPortGroupInfo(groups);
     Block block;
-    ASSERT_EQ(SaveOutputParam(block.document, &sender, &block.root), kDone);
+    ASSERT_EQ(Project::SaveOutputParam(block.document, &sender, &block.root), kDone);
     const QString base = QStringLiteral("OutPortGroupAdjBrightParamXmlRoot/OutPortGroupAdjBrightGroupIndex");
     EXPECT_EQ(block.At(qPrintable(base + QStringLiteral("0/OutPortGroupAdjBrightGroupName"))).text(),
               QStringLiteral("Group 1"));
@@ -285,7 +281,7 @@ TEST(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
                + QByteArray(" 02").repeated(40)
                + "</OutPortGroupAdjBrightGroupPortFlag></OutPortGroupAdjBrightGroupIndex7>"
                  "</OutPortGroupAdjBrightParamXmlRoot>");
-    ASSERT_EQ(LoadOutputParam(read.document, &read.root, &sender), kDone);
+    ASSERT_EQ(Project::LoadOutputParam(read.document, &read.root, &sender), kDone);
     groups = sender.GetPortGroupInfo();
     EXPECT_EQ(groups.groupCount, 8);
     EXPECT_EQ(QByteArray(groups.groups[7].name.data()), longName.left(63));
@@ -309,7 +305,7 @@ TEST(ParamBlocksTest, HotBackupIsReadFromEitherPlaceAlsoWithoutACountOrAnId)
              {values, "<OtherParam><AdvancedParam>" + values + "</AdvancedParam></OtherParam>"}) {
             sender.SetHotBackupInfo(SInputVideoHotBackup());
             Block block("<SenderType>0</SenderType>" + content);
-            ASSERT_EQ(ReadSingleProcessorParam(block.document, &block.root, &sender), kDone);
+            ASSERT_EQ(Project::ReadSingleProcessorParam(block.document, &block.root, &sender), kDone);
             const SInputVideoHotBackup backup = sender.GetHotBackupInfo();
             EXPECT_TRUE(backup.enable) << content.constData();
             ASSERT_EQ(backup.pairs.size(), values == enable ? 0 : 2) << content.constData();
@@ -335,7 +331,7 @@ TEST(ParamBlocksTest, LedLuminancesAreReadUnderOneNameOrNumbered)
     }
     Block block(content + "</outputExactColorParmXmlRoot>");
     CSender sender;
-    ASSERT_EQ(LoadOutputExactColorParam(block.document, &block.root, 0, &sender), kDone);
+    ASSERT_EQ(Project::LoadOutputExactColorParam(block.document, &block.root, 0, &sender), kDone);
     const SExactColorParam::LedLuminance expected{1, 2, 3};
     EXPECT_EQ(sender.GetExactColorInfo().afterLedLuminance[0], expected);
     EXPECT_EQ(sender.GetExactColorInfo().afterLedLuminance[2], expected);
@@ -347,12 +343,12 @@ TEST(ParamBlocksTest, ColorEntriesWithoutSourceStandForTheirSlot)
     sender.SetColorCubeEnable(true, 2, 5);
     sender.SetColorCurveEnable(true, 2, 5);
     Block block;
-    SaveColorCubeParam(block.document, &block.root, &sender, false);
-    SaveColorCurveParam(block.document, &block.root, &sender, false);
+    Project::SaveColorCubeParam(block.document, &block.root, &sender, false);
+    Project::SaveColorCurveParam(block.document, &block.root, &sender, false);
     EXPECT_TRUE(block.At("ColorCubeParamRoot/ColorCubeBoard0/SourceIndex").isNull());
     CSender target;
-    ASSERT_EQ(LoadColorCubeParam(block.document, block.root, &target, true), kDone);
-    ASSERT_EQ(LoadColorCurveParam(block.document, block.root, &target, true), kDone);
+    ASSERT_EQ(Project::LoadColorCubeParam(block.document, block.root, &target, true), kDone);
+    ASSERT_EQ(Project::LoadColorCurveParam(block.document, block.root, &target, true), kDone);
     ASSERT_EQ(target.GetColorCubeParams().size(), 1);
     EXPECT_EQ(target.GetColorCubeParams()[0].sourceIndex, 0);
     EXPECT_FALSE(target.GetColorCubeParams()[0].enable);
@@ -367,7 +363,7 @@ TEST(ParamBlocksTest, CurvePointsAreBelievedAsFarAsTheFileHoldsThem)
                 "</ColorCurveBoard0>"
                 "</ColorCurveParamRoot>");
     CSender sender;
-    ASSERT_EQ(LoadColorCurveParam(block.document, block.root, &sender, true), kDone);
+    ASSERT_EQ(Project::LoadColorCurveParam(block.document, block.root, &sender, true), kDone);
     QList<QPointF> points;
     ASSERT_TRUE(sender.GetColorCurveAdjPoint(ColorCurveRed, points, 1, 0));
     EXPECT_EQ(points, (QList<QPointF>{QPointF(0.5, 0), QPointF(1, 0), QPointF(0, 3)}))

@@ -3,7 +3,8 @@
 #include "params/paramcontents.h"
 #include "params/paramfile.h"
 #include "params/paramresult.h"
-#include "params/paramslookup.h"
+#include "project/projectdata.h"
+#include "project/projectlookup.h"
 
 #include "messagerecorder.h"
 #include "support/testfolder.h"
@@ -15,9 +16,7 @@
 #include <QJsonDocument>
 
 #include <iterator>
-#include <memory>
 #include <random>
-#include <vector>
 
 using namespace params;
 
@@ -27,63 +26,62 @@ const QString kImportFailedText = QStringLiteral("导入失败。");
 const QString kTypeDiffersText = QStringLiteral("导入失败，无法导入不同类型主控的参数。");
 const QString kIpModeText = QStringLiteral("不可导入，无法匹配对应IP的主控参数。");
 
-/// Senders of type 17, all chosen.
-class TestProject : public ParamsLookup
+using Transfer = quint32 (CProjectData::*)(const QString&, const QUuid&);
+
+/// A project of senders of type 17, all chosen.
+class TestProject : private ProjectLookup
 {
 public:
     explicit TestProject(int count)
     {
         for (int i = 0; i < count; ++i) {
-            senders.push_back(std::make_unique<CSender>());
-            senders.back()->SetProcessorType(17);
-            senders.back()->SetSignalFreq(50 + i);
-            senders.back()->SetNetSenderIP(0x0A000001U + static_cast<unsigned>(i));
+            CSender& sender = *m_project.NewSender();
+            sender.SetProcessorType(17);
+            sender.SetSignalFreq(50 + i);
+            sender.SetNetSenderIP(0x0A000001U + static_cast<unsigned>(i));
             prepared.senders.append(i);
         }
     }
 
-    CSender* Sender(int index) const override
+    quint32 Do(Transfer transfer, const QString& path, const QUuid& id = QUuid())
     {
-        return index >= 0 && index < static_cast<int>(senders.size())
-                   ? senders[static_cast<size_t>(index)].get()
-                   : nullptr;
+        SetProjectLookup(this);
+        const quint32 result = (m_project.*transfer)(path, id);
+        SetProjectLookup(nullptr);
+        return result;
     }
-    int SenderIndex(const QUuid& id) const override
-    {
-        for (size_t i = 0; i < senders.size(); ++i)
-            if (senders[i]->GetId() == id)
-                return static_cast<int>(i);
-        return -1;
-    }
-    SImpExpPrepareInfo Prepared() const override { return prepared; }
-    void SetFileError(const QString& reason) override { error = reason; }
-
+    CSender& Sender(int index) { return *m_project.GetSender(index); }
+    QString Error() const { return m_project.GetLastFileError(); }
     QList<int> SignalFreqs() const
     {
         QList<int> frequencies;
-        for (const auto& sender : senders)
+        for (const CSender* sender : m_project.GetSenders())
             frequencies.append(sender->GetSignalFreq());
         return frequencies;
     }
 
-    std::vector<std::unique_ptr<CSender>> senders;
     SImpExpPrepareInfo prepared;
-    QString error;
+
+private:
+    SImpExpPrepareInfo ImpExpPrepareInfo() const override { return prepared; }
+
+    CProjectData m_project;
 };
 
-using Export = quint32 (*)(ParamsLookup&, const QString&, const QUuid&);
+constexpr Transfer kExportSender = &CProjectData::ExportMutiSenderParam;
+constexpr Transfer kImportSender = &CProjectData::ImportMutiSenderParam;
+constexpr Transfer kExportProcessor = &CProjectData::ExportMutiProcessorParam;
+constexpr Transfer kImportProcessor = &CProjectData::ImportMutiProcessorParam;
 
 struct FamilyCase
 {
     const char* name;
-    Export exportFile;
-    Export importFile;
+    Transfer exportFile;
+    Transfer importFile;
 };
 
-const FamilyCase kFamilies[] = {
-    {"SenderParams", ExportMutiSenderParam, ImportMutiSenderParam},
-    {"DeviceParams", ExportMutiProcessorParam, ImportMutiProcessorParam},
-};
+const FamilyCase kFamilies[] = {{"SenderParams", kExportSender, kImportSender},
+                                {"DeviceParams", kExportProcessor, kImportProcessor}};
 
 QJsonObject Contents(const QString& path)
 {
@@ -126,7 +124,7 @@ TEST(ParamFileTest, RootSaysWhatTheFileHolds)
     project.prepared.senders = {2, 9, 0};
     for (const FamilyCase& family : kFamilies) {
         const QString path = folder.Path(QString::fromLatin1(family.name));
-        ASSERT_EQ(family.exportFile(project, path, QUuid()), kDone);
+        ASSERT_EQ(project.Do(family.exportFile, path), kDone);
         QJsonObject contents = Contents(path);
         EXPECT_EQ(contents[QStringLiteral("ProcessorCount")].toString(), QStringLiteral("3"));
         EXPECT_TRUE(contents.contains(QStringLiteral("Processor_1")));
@@ -134,7 +132,7 @@ TEST(ParamFileTest, RootSaysWhatTheFileHolds)
         EXPECT_TRUE(contents.contains(QStringLiteral("Processor_3")));
 
         project.prepared.matchByIp = true;
-        ASSERT_EQ(family.exportFile(project, path, project.senders[1]->GetId()), kDone);
+        ASSERT_EQ(project.Do(family.exportFile, path, project.Sender(1).GetId()), kDone);
         project.prepared.matchByIp = false;
         contents = Contents(path);
         EXPECT_EQ(contents[QStringLiteral("bSpecifyIP")].toString(), QStringLiteral("1"));
@@ -143,9 +141,9 @@ TEST(ParamFileTest, RootSaysWhatTheFileHolds)
                   QStringLiteral("167772162"));
 
         const QByteArray before = ReadFile(path);
-        EXPECT_EQ(family.exportFile(project, path, QUuid::createUuid()), kFailed);
+        EXPECT_EQ(project.Do(family.exportFile, path, QUuid::createUuid()), kFailed);
         EXPECT_EQ(ReadFile(path), before);
-        EXPECT_FALSE(project.error.isEmpty());
+        EXPECT_FALSE(project.Error().isEmpty());
     }
 }
 
@@ -156,24 +154,24 @@ TEST(ParamFileTest, SendersTakeProcessorsByPositionOfTheChoice)
     for (const FamilyCase& family : kFamilies) {
         TestProject source(2);
         const QString path = folder.Path(QString::fromLatin1(family.name));
-        ASSERT_EQ(family.exportFile(source, path, QUuid()), kDone);
+        ASSERT_EQ(source.Do(family.exportFile, path), kDone);
 
         TestProject target(3);
         target.prepared.senders = {2, 0};
-        EXPECT_EQ(family.importFile(target, path, QUuid()), kDone);
+        EXPECT_EQ(target.Do(family.importFile, path), kDone);
         EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 51, 50}));
-        EXPECT_NE(target.senders[2]->GetId(), source.senders[0]->GetId());
-        EXPECT_EQ(target.senders[2]->GetNetSenderIP(), 0x0A000003U) << "an address never comes from a file";
-        EXPECT_EQ(family.importFile(target, path, target.senders[1]->GetId()), kDone);
+        EXPECT_NE(target.Sender(2).GetId(), source.Sender(0).GetId());
+        EXPECT_EQ(target.Sender(2).GetNetSenderIP(), 0x0A000003U) << "an address never comes from a file";
+        EXPECT_EQ(target.Do(family.importFile, path, target.Sender(1).GetId()), kDone);
         EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 50, 50}));
         EXPECT_TRUE(messages.Take().isEmpty());
 
         target.prepared.senders = {0, 1, 2};
-        EXPECT_EQ(family.importFile(target, path, QUuid()), kImportFailed) << "no third processor";
+        EXPECT_EQ(target.Do(family.importFile, path), kImportFailed) << "no third processor";
         EXPECT_EQ(messages.Take(), QStringList{kImportFailedText});
         target.prepared.senders = {0, 3};
-        EXPECT_EQ(family.importFile(target, path, QUuid()), kFailed) << "no such sender";
-        EXPECT_EQ(family.importFile(target, path, QUuid::createUuid()), kFailed);
+        EXPECT_EQ(target.Do(family.importFile, path), kFailed) << "no such sender";
+        EXPECT_EQ(target.Do(family.importFile, path, QUuid::createUuid()), kFailed);
         EXPECT_TRUE(messages.Take().isEmpty());
     }
 }
@@ -184,19 +182,19 @@ TEST(ParamFileTest, OtherOrMissingTypeChangesNothingAndIsToldOnce)
     MessageRecorder messages;
     for (const FamilyCase& family : kFamilies) {
         TestProject source(2);
-        source.senders[1]->SetProcessorType(18);
+        source.Sender(1).SetProcessorType(18);
         const QString path = folder.Path(QString::fromLatin1(family.name));
-        ASSERT_EQ(family.exportFile(source, path, QUuid()), kDone);
+        ASSERT_EQ(source.Do(family.exportFile, path), kDone);
         TestProject target(2);
-        target.senders[1]->SetSignalFreq(99);
-        EXPECT_EQ(family.importFile(target, path, QUuid()), kTypeDiffers);
+        target.Sender(1).SetSignalFreq(99);
+        EXPECT_EQ(target.Do(family.importFile, path), kTypeDiffers);
         EXPECT_EQ(target.SignalFreqs(), (QList<int>{50, 99}));
         EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
 
         Replace(path, "SenderType>", "AType>");
         if (ReadFile(path).contains("DeviceType"))
             Replace(path, "DeviceType>", "BType>");
-        EXPECT_EQ(family.importFile(target, path, QUuid()), kImportFailed);
+        EXPECT_EQ(target.Do(family.importFile, path), kImportFailed);
         EXPECT_EQ(messages.Take(), QStringList{kImportFailedText});
     }
 }
@@ -207,11 +205,11 @@ TEST(ParamFileTest, ProcessorWithoutSenderTypeIsComparedByItsBasicBlock)
     MessageRecorder messages;
     TestProject project(1);
     const QString path = folder.Path(QStringLiteral("a.xml"));
-    ASSERT_EQ(ExportMutiProcessorParam(project, path, QUuid()), kDone);
+    ASSERT_EQ(project.Do(kExportProcessor, path), kDone);
     Replace(path, "SenderType>", "AType>");
-    EXPECT_EQ(ImportMutiProcessorParam(project, path, QUuid()), kDone);
+    EXPECT_EQ(project.Do(kImportProcessor, path), kDone);
     Replace(path, "<DeviceType>17<", "<DeviceType>18<");
-    EXPECT_EQ(ImportMutiProcessorParam(project, path, QUuid()), kTypeDiffers);
+    EXPECT_EQ(project.Do(kImportProcessor, path), kTypeDiffers);
     EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
 }
 
@@ -222,22 +220,22 @@ TEST(ParamFileTest, SendersTakeProcessorsOfTheirAddress)
     for (const FamilyCase& family : kFamilies) {
         TestProject source(4);
         source.prepared.matchByIp = true;
-        source.senders[2]->SetNetSenderIP(0x0A000002);
-        source.senders[3]->SetNetSenderIP(0);
+        source.Sender(2).SetNetSenderIP(0x0A000002);
+        source.Sender(3).SetNetSenderIP(0);
         const QString path = folder.Path(QString::fromLatin1(family.name));
-        ASSERT_EQ(family.exportFile(source, path, QUuid()), kDone);
+        ASSERT_EQ(source.Do(family.exportFile, path), kDone);
         Replace(path, "<NetIP>167772161<", "<NetIP> 10.000.00.1 <");
 
         TestProject target(3);
-        EXPECT_EQ(family.importFile(target, path, QUuid()), kFailed);
+        EXPECT_EQ(target.Do(family.importFile, path), kFailed);
         EXPECT_EQ(messages.Take(), QStringList{kIpModeText});
 
         target.prepared.matchByIp = true;
-        target.senders[0]->SetNetSenderIP(0x0A000002);
-        target.senders[1]->SetNetSenderIP(0x0A000001);
-        target.senders[2]->SetNetSenderIP(0);
-        target.senders[2]->SetSignalFreq(99);
-        EXPECT_EQ(family.importFile(target, path, QUuid()), kDone);
+        target.Sender(0).SetNetSenderIP(0x0A000002);
+        target.Sender(1).SetNetSenderIP(0x0A000001);
+        target.Sender(2).SetNetSenderIP(0);
+        target.Sender(2).SetSignalFreq(99);
+        EXPECT_EQ(target.Do(family.importFile, path), kDone);
         EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 50, 99}));
         EXPECT_EQ(messages.Take(), QStringList{QStringLiteral("主控3未找到对应IP的主控参数。")});
     }
@@ -250,12 +248,12 @@ TEST(ParamFileTest, FourSendersWithoutTheirAddressAreNamedAtMost)
     TestProject source(1);
     source.prepared.matchByIp = true;
     const QString path = folder.Path(QStringLiteral("a.xml"));
-    ASSERT_EQ(ExportMutiSenderParam(source, path, QUuid()), kDone);
+    ASSERT_EQ(source.Do(kExportSender, path), kDone);
     const char* expected[] = {"", "2", "2,3", "2,3,4", "2,3,4,5...", "2,3,4,5..."};
     for (int unmatched = 1; unmatched <= 5; ++unmatched) {
         TestProject target(unmatched + 1);
         target.prepared.matchByIp = true;
-        EXPECT_EQ(ImportMutiSenderParam(target, path, QUuid()), kDone);
+        EXPECT_EQ(target.Do(kImportSender, path), kDone);
         EXPECT_EQ(
             messages.Take(),
             QStringList{
@@ -268,16 +266,16 @@ TEST(ParamFileTest, FileWithoutMarkIsOneOfASingleSender)
     TestFolder folder;
     MessageRecorder messages;
     TestProject project(2);
-    CSender& second = *project.senders[1];
+    CSender& second = project.Sender(1);
     const QString path = folder.Write(
         QStringLiteral("a.xml"), "<SenderParams><SenderType>17</SenderType><OtherParam><AdvancedParam>"
                                  "<SignalFreq>144</SignalFreq></AdvancedParam></OtherParam></SenderParams>");
-    EXPECT_EQ(ImportMutiSenderParam(project, path, second.GetId()), kDone);
+    EXPECT_EQ(project.Do(kImportSender, path, second.GetId()), kDone);
     EXPECT_EQ(project.SignalFreqs(), (QList<int>{50, 144}));
     second.SetProcessorType(18);
-    EXPECT_EQ(ImportMutiSenderParam(project, path, second.GetId()), kTypeDiffers);
+    EXPECT_EQ(project.Do(kImportSender, path, second.GetId()), kTypeDiffers);
     EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
-    EXPECT_EQ(ImportMutiSenderParam(project, path, QUuid()), kFailed);
+    EXPECT_EQ(project.Do(kImportSender, path), kFailed);
 
     // Of a single processor only the blocks in front of one that does not fit are taken.
     const QString processor = folder.Write(
@@ -286,15 +284,15 @@ TEST(ParamFileTest, FileWithoutMarkIsOneOfASingleSender)
         "</DeviceOtherParamVideoAbnormalColseOut></DeviceOtherParamsXmlRoot><basicInfoParamsXmlRoot/>"
         "<DeviceSetParamsXmlRoot><DeviceSetParamsVSyncSource>3</DeviceSetParamsVSyncSource>"
         "</DeviceSetParamsXmlRoot></DeviceParams>");
-    EXPECT_EQ(ImportMutiProcessorParam(project, processor, second.GetId()), kFailed);
+    EXPECT_EQ(project.Do(kImportProcessor, processor, second.GetId()), kFailed);
     EXPECT_EQ(messages.Take(), QStringList{kImportFailedText});
     EXPECT_TRUE(second.IsSignalAbnormal());
     EXPECT_EQ(second.GetVSyncInfo().syncSource, 0);
     Replace(processor, "<basicInfoParamsXmlRoot/>",
             "<basicInfoParamsXmlRoot><DeviceType>17</DeviceType></basicInfoParamsXmlRoot>");
-    EXPECT_EQ(ImportMutiProcessorParam(project, processor, second.GetId()), kFailed);
+    EXPECT_EQ(project.Do(kImportProcessor, processor, second.GetId()), kFailed);
     EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
-    EXPECT_EQ(project.error, kTypeDiffersText);
+    EXPECT_EQ(project.Error(), kTypeDiffersText);
 }
 
 TEST(ParamFileTest, DamagedFilesFailWithTheirReason)
@@ -309,18 +307,17 @@ TEST(ParamFileTest, DamagedFilesFailWithTheirReason)
         folder.Write(QStringLiteral("empty.xml"), QByteArray()),
         folder.Write(QStringLiteral("other.xml"), "<SystemConfig CheckValue='1' ProcessorCount='1'/>"),
     };
-    const CSenderParams before = *project.senders[0];
+    const CSenderParams before = project.Sender(0);
     for (const QString& path : paths) {
-        project.error.clear();
-        EXPECT_EQ(ImportMutiProcessorParam(project, path, QUuid()), kFailed) << qPrintable(path);
-        EXPECT_FALSE(project.error.isEmpty()) << qPrintable(path);
-        EXPECT_EQ(ImportSenderParam(project, path, project.senders[0]->GetId()), kFailed);
+        EXPECT_EQ(project.Do(kImportProcessor, path), kFailed) << qPrintable(path);
+        EXPECT_FALSE(project.Error().isEmpty()) << qPrintable(path);
+        EXPECT_EQ(project.Do(&CProjectData::ImportSenderParam, path, project.Sender(0).GetId()), kFailed);
     }
     const QString none = folder.Write(QStringLiteral("none.xml"),
                                       "<DeviceParams CheckValue='1' bSpecifyIP='0' ProcessorCount='0'/>");
-    EXPECT_EQ(ImportMutiProcessorParam(project, none, QUuid()), kFailed);
+    EXPECT_EQ(project.Do(kImportProcessor, none), kFailed);
     EXPECT_TRUE(messages.Take().isEmpty());
-    EXPECT_TRUE(*project.senders[0] == before);
+    EXPECT_TRUE(project.Sender(0) == before);
 }
 
 TEST(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
@@ -348,18 +345,18 @@ TEST(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
         }
         TestProject project(1);
         const QString damaged = folder.Write(QStringLiteral("damaged.xml"), document.toByteArray());
-        const quint32 result = ImportMutiProcessorParam(project, damaged, QUuid());
+        const quint32 result = project.Do(kImportProcessor, damaged);
         EXPECT_TRUE(result == kDone || result == kTypeDiffers || result == kImportFailed) << result;
         imported += result == kDone;
 
         TestProject again(1);
         for (const FamilyCase& family : kFamilies) {
             const QString path = folder.Path(QStringLiteral("a.xml"));
-            ASSERT_EQ(family.exportFile(project, path, QUuid()), kDone);
-            ASSERT_EQ(family.importFile(again, path, QUuid()), kDone);
+            ASSERT_EQ(project.Do(family.exportFile, path), kDone);
+            ASSERT_EQ(again.Do(family.importFile, path), kDone);
             const QByteArray first = ReadFile(path);
-            again.senders[0]->SetId(project.senders[0]->GetId());
-            ASSERT_EQ(family.exportFile(again, path, QUuid()), kDone);
+            again.Sender(0).SetId(project.Sender(0).GetId());
+            ASSERT_EQ(again.Do(family.exportFile, path), kDone);
             EXPECT_EQ(ReadFile(path), first) << "round " << round;
         }
     }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "params/elementfields.h"
+#include "params/fieldname.h"
+#include "params/paramtext.h"
 
 #include <QColor>
 #include <QList>
@@ -8,106 +9,78 @@
 #include <QVector>
 
 #include <array>
-#include <map>
 #include <string>
-#include <type_traits>
+#include <tuple>
 
-template <class T> constexpr bool kIsRecord = std::is_base_of_v<WalkedRecord<T>, T>;
-
-/// Answers the calls of a record's walk and gives every field to `Self::Visit`.
-template <class Self> class RecordVisitor
+/// The values of a record in the order in which it declares them, which no name in a file decides; "-" stands
+/// for a record inside that is as it was made.
+class ValuesInOrder
 {
 public:
-    template <class T> void Field(const FieldName&, T& v) { self().Visit(v); }
-    template <class T> void Key(const FieldName&, T& v) { self().Visit(v); }
-    template <class T> void Negated(const FieldName&, T& v) { self().Visit(v); }
-    template <class T> void Record(const FieldName&, T& v) { self().Visit(v); }
-    template <class T> void Points(const FieldName&, T& v) { self().Visit(v); }
-    template <class T> void Repeated(const FieldName&, int, T& v) { self().Visit(v); }
-    template <class T> void Numbered(const FieldName&, int, T& v) { self().Visit(v); }
-    template <class T> void Unnamed(T& v) { self().Visit(v); }
-    template <class Body> void Group(const FieldName&, const Body& body) { body(); }
-    void Limit(int) {}
-    bool WithSource() const { return true; }
-
-private:
-    Self& self() { return static_cast<Self&>(*this); }
-};
-
-/// The values of a record in the order in which it declares them, which no walk and no name of a file
-/// decides;
-/// "-" stands for a record inside that is as it was made.
-class ValuesInOrder : public RecordVisitor<ValuesInOrder>
-{
-public:
-    template <class R> static std::string Of(R& record, const char* separator)
+    template <class R> static std::string Of(const R& record, const char* separator)
     {
-        ValuesInOrder values;
-        R::Walk(values, record);
         std::string text;
-        for (const auto& value : values.m_texts)
-            text += (text.empty() ? "" : separator) + value.second;
+        const auto add = [&](const auto& value) { text += (text.empty() ? "" : separator) + Text(value); };
+        std::apply([&](const auto&... values) { (add(values), ...); }, record.Values());
         return text;
     }
 
-    template <class T> void Visit(T& value) { m_texts[&value] = Text(value); }
-
 private:
-    static std::string Text(PortGroupName& name) { return name.data(); }
-    static std::string Text(QColor& color) { return color.name().toStdString(); }
-    static std::string Text(QPointF& point) { return Text(point.rx()) + ',' + Text(point.ry()); }
-    template <class T, size_t n> static std::string Text(std::array<T, n>& values) { return All(values); }
-    template <class T> static std::string Text(QList<T>& values) { return '[' + All(values) + ']'; }
-    template <class T> static std::string Text(QVector<T>& values) { return '[' + All(values) + ']'; }
-    template <class T> static std::string Text(T& value)
+    static std::string Text(const PortGroupName& name) { return name.data(); }
+    static std::string Text(const QColor& color) { return color.name().toStdString(); }
+    static std::string Text(const QPointF& point) { return Text(point.x()) + ',' + Text(point.y()); }
+    template <class T, size_t n> static std::string Text(const std::array<T, n>& values)
     {
-        if constexpr (kIsRecord<T>)
+        return All(values);
+    }
+    template <class T> static std::string Text(const QList<T>& values) { return '[' + All(values) + ']'; }
+    template <class T> static std::string Text(const QVector<T>& values) { return '[' + All(values) + ']'; }
+    template <class T> static std::string Text(const T& value)
+    {
+        if constexpr (params::kIsRecord<T>)
             return value == T() ? "-" : Of(value, " ");
         else
-            return paramtext::ToText(value).toStdString();
+            return paramtext::ToText(value);
     }
-    template <class List> static std::string All(List& values)
+    template <class List> static std::string All(const List& values)
     {
         std::string text;
-        for (auto& value : values)
+        for (const auto& value : values)
             text += (text.empty() ? "" : " ") + Text(value);
         return text;
     }
-
-    std::map<const void*, std::string> m_texts; ///< by address; a key is walked in several places
 };
 
-/// Finds the bytes of a record that its walk does not reach and that alignment does not explain: a field that
+/// Finds the bytes of a record that its values do not reach and that alignment does not explain: a field that
 /// was forgotten. Records inside are looked through on their own.
-class CoverBytes : public RecordVisitor<CoverBytes>
+class CoverBytes
 {
 public:
-    template <class R> static int Uncovered(R& record, size_t base = 0)
+    template <class R> static int Uncovered(const R& record, size_t base = 0)
     {
         CoverBytes cover;
         cover.m_start = reinterpret_cast<const char*>(&record);
         cover.m_fieldOf = QVector<int>(static_cast<int>(sizeof(R)), 0);
         for (size_t i = 0; i < base; ++i)
             cover.m_fieldOf[static_cast<int>(i)] = 1;
-        R::Walk(cover, record);
+        std::apply([&](const auto&... values) { (cover.Visit(values), ...); }, record.Values());
         return cover.m_nested + cover.CountGaps(alignof(R));
     }
 
-    template <class T> void Visit(T& value)
+private:
+    template <class T> void Visit(const T& value)
     {
-        if constexpr (kIsRecord<T>)
+        if constexpr (params::kIsRecord<T>)
             m_nested += Uncovered(value);
         const auto offset = reinterpret_cast<const char*>(&value) - m_start;
         for (size_t i = 0; i < sizeof(T); ++i)
             m_fieldOf[static_cast<int>(offset) + static_cast<int>(i)] = static_cast<int>(alignof(T));
     }
-    template <class T, size_t n> void Visit(std::array<T, n>& values)
+    template <class T, size_t n> void Visit(const std::array<T, n>& values)
     {
-        for (T& value : values)
+        for (const T& value : values)
             Visit(value);
     }
-
-private:
     int CountGaps(size_t recordAlignment) const
     {
         int uncovered = 0;
