@@ -48,28 +48,18 @@ template <class F> void Describe(F& f, Ref<F, SInputVideoColorCurveParam> r)
     DescribePoints(f, "Luminance", r.points[ColorCurveLuminance]);
 }
 
-template <class F> void DescribeColorCubes(F& f, Ref<F, CSender> sender)
+template <class F, class Data> void DescribeColorCubes(F& f, Data& data)
 {
-    f.OwnOrGroup(kColorCubeRoot, [&] {
-        auto& data = sender.Params();
-        f.Field("ColorCubeEnable", data.cubeEnable);
-        f.Field("ToAllSignal", data.cubeAllSignal);
-        f.Counted("BoardCount", "ColorCubeBoard", 0, data.cubes);
-    });
+    f.Field("ColorCubeEnable", data.cubeEnable);
+    f.Field("ToAllSignal", data.cubeAllSignal);
+    f.Counted("BoardCount", "ColorCubeBoard", 0, data.cubes);
 }
 
-template <class F> void DescribeColorCurves(F& f, Ref<F, CSender> sender)
+template <class F, class Data> void DescribeColorCurves(F& f, Data& data)
 {
-    const auto describe = [&] {
-        auto& data = sender.Params();
-        f.Field(kColorCurveEnable, data.curveEnable);
-        f.Field("ToAllSignal", data.curveAllSignal);
-        f.Counted(kColorCurveCount, "ColorCurveBoard", 0, data.curves);
-    };
-    if constexpr (F::kReads)
-        f.OwnOrGroup(kColorCurveRoot, describe);
-    else
-        describe();
+    f.Field(kColorCurveEnable, data.curveEnable);
+    f.Field("ToAllSignal", data.curveAllSignal);
+    f.Counted(kColorCurveCount, "ColorCurveBoard", 0, data.curves);
 }
 
 } // namespace params

@@ -102,16 +102,6 @@ template <class F> void DescribeDeviceSet(F& f, Ref<F, CSender> sender)
     Describe(f, sender.Params().vSync);
 }
 
-template <class F> void DescribeMulti(F& f, Ref<F, CSender> sender)
-{
-    f.OwnOrGroup(kMultiRoot, [&] { f.Whole(sender.Params().multi); });
-}
-
-template <class F> void Describe3D(F& f, Ref<F, CSender> sender)
-{
-    f.OwnOrGroup(k3DRoot, [&] { f.Whole(sender.Params().stereo); });
-}
-
 /// The common rows of "AdvancedParam". Those from "VSyncMutiFreq" on depend on features of the processor, so
 /// a file may lack them.
 template <class Fields, class Data> void DescribeAdvanced(Fields& f, Data& data)

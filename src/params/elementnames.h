@@ -3,9 +3,6 @@
 /// Names of elements that more than one block or file knows.
 namespace params {
 
-constexpr const char* kSenderFileRoot = "SenderParams";
-constexpr const char* kProcessorFileRoot = "DeviceParams";
-
 constexpr const char* kSenderType = "SenderType";
 constexpr const char* kDeviceClass = "DeviceClass";
 constexpr const char* kNetIp = "NetIP";

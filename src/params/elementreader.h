@@ -9,13 +9,11 @@
 #include <QList>
 #include <QVector>
 
-#include <algorithm>
-#include <array>
-
 namespace params {
 
-/// Finds elements by name; of equal names the first one. An absent value reads as 0 unless it may be absent,
-/// an absent group keeps its fields as they are. Counts are believed as far as there are elements.
+/// Answers the calls of ElementWriter by reading. Finds elements by name; of equal names the first one. An
+/// absent value reads as 0 unless it may be absent, an absent group keeps its fields as they are. Counts are
+/// believed as far as there are elements.
 class ElementReader
 {
 public:
@@ -52,7 +50,6 @@ public:
         if (!child.isNull())
             Inside(child, body);
     }
-    /// The element is the group, or has it.
     template <class Body> void OwnOrGroup(const FieldName& name, const Body& body)
     {
         Has(name) ? Group(name, body) : body();

@@ -6,9 +6,6 @@
 
 #include <QList>
 
-#include <algorithm>
-#include <array>
-
 namespace params {
 
 /// Writes the values of a description as elements with one text each.
@@ -23,6 +20,7 @@ public:
         : m_writer(writer), m_withSource(withSource)
     {}
     bool WithSource() const { return m_withSource; }
+    bool Has(const FieldName&) const { return true; }
 
     template <class T> void Field(const FieldName& name, const T& value, FieldUse = FieldUse::Both)
     {
@@ -38,7 +36,8 @@ public:
         body();
         m_writer.EndElement();
     }
-    template <class Body> void OwnOrGroup(const FieldName& name, const Body& body) { Group(name, body); }
+    /// Values that stand here, though readers take them from a group of that name too.
+    template <class Body> void OwnOrGroup(const FieldName&, const Body& body) { body(); }
     template <class R> void Whole(const R& record) { Describe(*this, record); }
     template <class R> void Record(const FieldName& name, const R& record)
     {

@@ -25,9 +25,9 @@ private:
 };
 
 /// Parameter files keep values in the texts of elements. A record, or a part of a sender, is described once,
-/// by
+/// in
 ///     template <class F> void Describe(F& f, Ref<F, Record> record)
-/// which hands its values in file order to an ElementWriter or an ElementReader. Both answer the same calls.
+/// which hands its values in file order to an ElementWriter or an ElementReader.
 namespace params {
 
 /// How F takes a T: to write it, or to read into it.

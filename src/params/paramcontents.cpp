@@ -1,8 +1,9 @@
 #include "params/paramcontents.h"
 
+#include "common/failure.h"
 #include "common/texts.h"
 #include "common/xmldom.h"
-#include "params/elementnames.h"
+#include "params/paramfile.h"
 
 #include <QDomDocument>
 #include <QHash>
@@ -41,10 +42,9 @@ QJsonObject ParamFileContents(const QString& path, QString* error)
     if (!LoadXmlDom(path, document, error))
         return {};
     const QDomElement root = document.documentElement();
-    if (root.tagName() != QLatin1String(kProcessorFileRoot)
-        && root.tagName() != QLatin1String(kSenderFileRoot)) {
-        if (error)
-            *error = Texts::tr("不是参数文件。");
+    if (root.tagName() != QLatin1String(kProcessorFamily.root)
+        && root.tagName() != QLatin1String(kSenderFamily.root)) {
+        Fail(error, Texts::tr("不是参数文件。"));
         return {};
     }
     QJsonObject object;

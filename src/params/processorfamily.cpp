@@ -69,23 +69,32 @@ void ReadBlock(const QString& root, ElementReader& reader, CSender& sender)
             block.describe(reader, sender);
 }
 
-/// Hot backup stands in the processor; of the places where it is read, too, that one wins.
-void ReadHotBackup(ElementReader& reader, SenderParamData& data)
+template <class F, class Data> void DescribeHotBackup(F& f, Data& data)
 {
-    if (reader.Has(kHotBackupEnable) || reader.Has(kHotBackupCount))
-        reader.Whole(data.hotBackup);
+    if (f.Has(kHotBackupEnable) || f.Has(kHotBackupCount))
+        f.Whole(data.hotBackup);
 }
 
-template <class F, class Data> void DescribeOther(F& f, Data& data)
+/// What depends on features of the processor.
+template <class F, class Data> void DescribeOptionalRows(F& f, Data& data)
 {
+    DescribeAudio(f, data);
+    f.Group(kColorCubeRoot, [&] { DescribeColorCubes(f, data); });
+    f.OwnOrGroup(kColorCurveRoot, [&] {
+        if (f.Has(kColorCurveEnable) || f.Has(kColorCurveCount))
+            DescribeColorCurves(f, data);
+    });
+    f.Record(kMultiRoot, data.multi);
+    f.Record(k3DRoot, data.stereo);
     f.Group(kOtherRoot, [&] {
         f.Group(kAdvancedRoot, [&] {
             DescribeAdvanced(f, data);
             DescribeProcessorAdvanced(f, data);
             if constexpr (F::kReads)
-                ReadHotBackup(f, data);
+                DescribeHotBackup(f, data); // the one below wins
         });
     });
+    DescribeHotBackup(f, data);
 }
 
 void Write(ElementWriter& writer, const CSender& sender)
@@ -102,28 +111,7 @@ void Write(ElementWriter& writer, const CSender& sender)
     SenderParamData shown = sender.Params();
     shown.vSyncFreq = sender.GetVSyncFreq();
     shown.blackoutFadeTime = sender.GetBlackoutFadeTime();
-    DescribeAudio(writer, shown);
-    DescribeColorCubes(writer, sender);
-    DescribeColorCurves(writer, sender);
-    DescribeMulti(writer, sender);
-    Describe3D(writer, sender);
-    DescribeOther(writer, shown);
-    Describe(writer, shown.hotBackup);
-}
-
-/// What depends on features of the processor.
-void ReadOptionalRows(ElementReader& reader, CSender& sender)
-{
-    DescribeAudio(reader, sender.Params());
-    reader.Group(kColorCubeRoot, [&] { DescribeColorCubes(reader, sender); });
-    reader.OwnOrGroup(kColorCurveRoot, [&] {
-        if (reader.Has(kColorCurveEnable) || reader.Has(kColorCurveCount))
-            DescribeColorCurves(reader, sender);
-    });
-    reader.Group(kMultiRoot, [&] { DescribeMulti(reader, sender); });
-    reader.Group(k3DRoot, [&] { Describe3D(reader, sender); });
-    DescribeOther(reader, sender.Params());
-    ReadHotBackup(reader, sender.Params());
+    DescribeOptionalRows(writer, shown);
 }
 
 /// The type of the element, else that of its basic block; when both are there both have to fit.
@@ -143,7 +131,7 @@ quint32 Read(ElementReader& reader, CSender& sender)
     if (result != kDone)
         return result;
     reader.EachChild([&](const QString& name) { ReadBlock(name, reader, sender); });
-    ReadOptionalRows(reader, sender);
+    DescribeOptionalRows(reader, sender.Params());
     return kDone;
 }
 
@@ -164,7 +152,7 @@ Outcome ReadAlone(ElementReader& reader, CSender& sender)
 
 } // namespace
 
-const Family kProcessorFamily{
-    kProcessorFileRoot, "UTF-8", {"ParamFileMainVersion", "DeviceReserveFlag"}, Write, Read, ReadAlone};
+const Family kProcessorFamily{"DeviceParams", "UTF-8", {"ParamFileMainVersion", "DeviceReserveFlag"},
+                              Write,          Read,    ReadAlone};
 
 } // namespace params

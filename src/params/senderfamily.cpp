@@ -255,6 +255,6 @@ Outcome ReadAlone(ElementReader& reader, CSender& sender)
 
 } // namespace
 
-const Family kSenderFamily{kSenderFileRoot, "utf-8", {}, Write, Read, ReadAlone};
+const Family kSenderFamily{"SenderParams", "utf-8", {}, Write, Read, ReadAlone};
 
 } // namespace params

@@ -140,22 +140,24 @@ quint32 CProjectData::LoadDeviceSetParam(QDomDocument&, QDomElement* element, CS
 
 quint32 CProjectData::SaveMultiParam(QDomDocument& document, QDomElement* element, CSender* sender)
 {
-    return Save(document, element, sender, DescribeMulti<ElementWriter>);
+    return Save(document, element, sender, [](auto& f, auto& s) { f.Record(kMultiRoot, s.Params().multi); });
 }
 
 quint32 CProjectData::LoadMultiParam(QDomDocument&, QDomElement& element, CSender* sender)
 {
-    return Load(NotNull(&element), sender, DescribeMulti<ElementReader>);
+    return Load(NotNull(&element), sender,
+                [](auto& f, auto& s) { f.OwnOrGroup(kMultiRoot, [&] { f.Whole(s.Params().multi); }); });
 }
 
 quint32 CProjectData::Save3DParam(QDomDocument& document, QDomElement* element, CSender* sender)
 {
-    return Save(document, element, sender, Describe3D<ElementWriter>);
+    return Save(document, element, sender, [](auto& f, auto& s) { f.Record(k3DRoot, s.Params().stereo); });
 }
 
 quint32 CProjectData::Load3DParam(QDomDocument&, QDomElement& element, CSender* sender)
 {
-    return Load(NotNull(&element), sender, Describe3D<ElementReader>);
+    return Load(NotNull(&element), sender,
+                [](auto& f, auto& s) { f.OwnOrGroup(k3DRoot, [&] { f.Whole(s.Params().stereo); }); });
 }
 
 quint32 CProjectData::SaveInputParam(QDomDocument& document, QDomElement* element, CSender* sender)
@@ -215,24 +217,34 @@ quint32 CProjectData::LoadOutputExactColorParam(QDomDocument&, QDomElement* elem
 quint32 CProjectData::SaveColorCubeParam(QDomDocument& document, QDomElement* element, CSender* sender,
                                          bool perSource)
 {
-    return Save(document, element, sender, DescribeColorCubes<ElementWriter>, perSource);
+    return Save(
+        document, element, sender,
+        [](auto& f, auto& s) { f.Group(kColorCubeRoot, [&] { DescribeColorCubes(f, s.Params()); }); },
+        perSource);
 }
 
 quint32 CProjectData::LoadColorCubeParam(QDomDocument&, QDomElement& element, CSender* sender, bool perSource)
 {
-    return Load(NotNull(&element), sender, DescribeColorCubes<ElementReader>, kFailed, perSource);
+    return Load(
+        NotNull(&element), sender,
+        [](auto& f, auto& s) { f.OwnOrGroup(kColorCubeRoot, [&] { DescribeColorCubes(f, s.Params()); }); },
+        kFailed, perSource);
 }
 
 quint32 CProjectData::SaveColorCurveParam(QDomDocument& document, QDomElement* element, CSender* sender,
                                           bool perSource)
 {
-    return Save(document, element, sender, DescribeColorCurves<ElementWriter>, perSource);
+    return Save(
+        document, element, sender, [](auto& f, auto& s) { DescribeColorCurves(f, s.Params()); }, perSource);
 }
 
 quint32 CProjectData::LoadColorCurveParam(QDomDocument&, QDomElement& element, CSender* sender,
                                           bool perSource)
 {
-    return Load(NotNull(&element), sender, DescribeColorCurves<ElementReader>, kFailed, perSource);
+    return Load(
+        NotNull(&element), sender,
+        [](auto& f, auto& s) { f.OwnOrGroup(kColorCurveRoot, [&] { DescribeColorCurves(f, s.Params()); }); },
+        kFailed, perSource);
 }
 
 quint32 CProjectData::WriteSingleSenderParam(QDomDocument document, QDomElement* element, CSender* sender)
