@@ -23,7 +23,7 @@ constexpr const char* kSpecifyIp = "bSpecifyIP";
 constexpr const char* kProcessorCount = "ProcessorCount";
 constexpr int kNamedProcessors = 4; ///< in the message about addresses that no processor of a file has
 
-/// The elements below the root, of which one without children has a text, be it empty. Counts them.
+/// Counts the elements. One without content is written with two tags, but for the root.
 class ParamStream : public StreamXmlWriter
 {
 public:
