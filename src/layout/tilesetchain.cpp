@@ -4,11 +4,10 @@
 #include "layout/tileset.h"
 
 #include <QMutexLocker>
-#include <QSet>
 
 #include <algorithm>
-#include <array>
 #include <limits>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -32,73 +31,29 @@ void SetPlace(CTile* tile, int index, int begin)
         tile->SetBeginRcvCnnt(begin);
 }
 
-/// Has the memory fetched that a walk along the list comes to next: a large wall outgrows the caches, and
-/// each cabinet is two blocks on the heap. A call of it would be dropped as one without effect.
-[[gnu::always_inline]] inline void FetchAhead(const QList<CTile*>& tiles, int at)
-{
-    constexpr int ahead = 8;
-    if (at + 2 * ahead >= tiles.size())
-        return;
-    __builtin_prefetch(tiles.at(at + 2 * ahead));
-    __builtin_prefetch(tiles.at(at + ahead)->GetData());
-}
-
 /// An entry of a tile list with its place in some order.
 struct Stop
 {
     quint64 place;
-    int position;      ///< in the list
-    int receivers = 0; ///< of the tile, for who numbers along the stops
+    int position; ///< in the list
 };
 
-/// Sorts in as many linear passes as the places have bytes that differ; equal places keep their order.
+/// Of equal places as listed.
 void SortByPlace(std::vector<Stop>& stops)
 {
-    constexpr int kDigitBits = 8;
-    constexpr size_t kDigits = 1 << kDigitBits;
-    quint64 differing = 0;
-    for (const Stop& stop : stops)
-        differing |= stop.place ^ stops.front().place;
-    std::vector<Stop> sorted(stops.size());
-    for (int shift = 0; shift < 64; shift += kDigitBits) {
-        const auto digit = [=](quint64 place) { return static_cast<size_t>(place >> shift) % kDigits; };
-        if (digit(differing) == 0)
-            continue;
-        std::array<size_t, kDigits> starts = {};
-        for (const Stop& stop : stops)
-            ++starts[digit(stop.place)];
-        size_t start = 0;
-        for (size_t& count : starts)
-            start += std::exchange(count, start);
-        for (const Stop& stop : stops)
-            sorted[starts[digit(stop.place)]++] = stop;
-        stops.swap(sorted);
-    }
+    std::stable_sort(stops.begin(), stops.end(),
+                     [](const Stop& a, const Stop& b) { return a.place < b.place; });
 }
 
-/// Puts the stops in order, of equal places as listed, and each tile in once. Every stop of a tile has the
-/// same place, so only stops that share one are compared.
-void BringInOrder(const QList<CTile*>& tiles, std::vector<Stop>& stops)
+/// The stops in order, of equal places as listed, and each tile once.
+std::vector<Stop> InOrder(const QList<CTile*>& tiles, std::vector<Stop> stops)
 {
+    std::unordered_set<const CTile*> seen;
+    seen.reserve(stops.size());
+    const auto isRepeated = [&](const Stop& stop) { return !seen.insert(tiles.at(stop.position)).second; };
+    stops.erase(std::remove_if(stops.begin(), stops.end(), isRepeated), stops.end());
     SortByPlace(stops);
-    auto kept = stops.begin();
-    for (auto first = stops.begin(); first != stops.end();) {
-        const quint64 place = first->place;
-        const auto next =
-            std::find_if(first, stops.end(), [=](const Stop& stop) { return stop.place != place; });
-        if (next - first == 1) {
-            *kept++ = *first++;
-            continue;
-        }
-        QSet<CTile*> seen;
-        for (; first != next; ++first) {
-            CTile* tile = tiles[first->position];
-            if (!seen.contains(tile))
-                *kept++ = *first;
-            seen.insert(tile);
-        }
-    }
-    stops.erase(kept, stops.end());
+    return stops;
 }
 
 /// The numbered tiles, each once, by index and of equal indices by list order.
@@ -107,38 +62,25 @@ std::vector<Stop> ChainOrder(const QList<CTile*>& tiles)
     std::vector<Stop> chain;
     chain.reserve(static_cast<size_t>(tiles.size()));
     for (int i = 0; i < tiles.size(); ++i) {
-        FetchAhead(tiles, i);
-        const int index = tiles[i]->GetConnectionIndex();
-        if (index >= 0)
-            chain.push_back({static_cast<quint64>(index), i, tiles[i]->GetMultiRcvsCount()});
+        if (tiles.at(i)->HasSetConnectIndex())
+            chain.push_back({static_cast<quint64>(tiles.at(i)->GetConnectionIndex()), i});
     }
-    BringInOrder(tiles, chain);
-    return chain;
+    return InOrder(tiles, std::move(chain));
 }
 
-/// Makes the stops the chain, in their order; what they leave out and is not numbered begins nowhere. Tiles
-/// are written to in list order, as they mostly lie in memory, since a large wall outgrows the caches and a
-/// chain may have any order.
+/// Makes the stops the chain, in their order. Tiles without a number have no receivers before them either.
 void NumberAlong(const std::vector<Stop>& stops, const QList<CTile*>& tiles)
 {
-    struct Place
-    {
-        int index = -1;
-        int begin = 0;
-    };
-    std::vector<Place> places(static_cast<size_t>(tiles.size()));
-    Place next{0, 0};
+    int index = 0;
+    int begin = 0;
     for (const Stop& stop : stops) {
-        places[static_cast<size_t>(stop.position)] = next;
-        next = {next.index + 1, SaturatedInt(qint64(next.begin) + stop.receivers)};
+        CTile* tile = tiles.at(stop.position);
+        SetPlace(tile, index++, begin);
+        begin = ReceiversUpTo(tile, begin);
     }
-    for (int i = 0; i < tiles.size(); ++i) {
-        FetchAhead(tiles, i);
-        const Place& place = places[static_cast<size_t>(i)];
-        if (place.index >= 0)
-            SetPlace(tiles.at(i), place.index, place.begin);
-        else if (!tiles.at(i)->HasSetConnectIndex())
-            tiles.at(i)->SetBeginRcvCnnt(-1);
+    for (CTile* tile : tiles) {
+        if (!tile->HasSetConnectIndex())
+            tile->SetBeginRcvCnnt(-1);
     }
 }
 
@@ -242,16 +184,13 @@ bool CTileSet::AutoConnection(EnAutoNumberType type, int)
     std::vector<Stop> stops;
     stops.reserve(static_cast<size_t>(m_tiles.size()));
     for (int i = 0; i < m_tiles.size(); ++i) {
-        FetchAhead(m_tiles, i);
-        CTile* tile = m_tiles.at(i);
-        const QPoint centre = tile->GetCenter();
+        const QPoint centre = m_tiles.at(i)->GetCenter();
         if (walk.Visits(centre))
-            stops.push_back({walk.PlaceOf(centre), i, tile->GetMultiRcvsCount()});
+            stops.push_back({walk.PlaceOf(centre), i});
         else
-            tile->SetConnectionIndex(-1, nullptr);
+            m_tiles.at(i)->SetConnectionIndex(-1, nullptr);
     }
-    BringInOrder(m_tiles, stops);
-    NumberAlong(stops, m_tiles);
+    NumberAlong(InOrder(m_tiles, stops), m_tiles);
     return !stops.empty();
 }
 
