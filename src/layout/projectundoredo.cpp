@@ -9,34 +9,16 @@ namespace {
 
 constexpr int kNoPort = -1;
 
-/// The distinct recent ports of the records from one position to a later one, in that order.
+/// The distinct recent ports of the steps from one position to a later one, in that order.
 int CollectPorts(const CSenderUndoRedo& history, int from, int to, int* ports)
 {
     int count = 0;
     for (int position = from; position <= to; ++position) {
-        const int port = history.GetRecord(position)->GetRecentPortIndex();
+        const int port = history.GetStep(position)->GetRecentPortIndex();
         if (std::find(ports, ports + count, port) == ports + count)
             ports[count++] = port;
     }
     return count;
-}
-
-/// Puts the visible ports back. False when the sender is not as recorded afterwards.
-bool Restore(CSenderUndoRedo* history, CSender* sender, int shownPort)
-{
-    const CSenderRecordItem& record = *history->GetRecord(history->GetCurrentStep());
-    bool whole = true;
-    for (int i = 0; i < kMaxPorts; ++i) {
-        CPort* port = sender->GetPort(i);
-        if (!port->IsVisible()) {
-            whole = whole && record.IsLayoutEqual(i, *port);
-            continue;
-        }
-        whole = history->RestorePort(i, port) && whole;
-        if (i == shownPort)
-            sender->SetRecentPortIndex(i);
-    }
-    return whole;
 }
 
 } // namespace
@@ -164,18 +146,15 @@ bool CProjectUndoRedo::Move(int steps, bool back, int* ports, int* count)
     if (!history->Move(back ? -steps : steps))
         return false;
 
-    const CSenderRecordItem& record = *history->GetRecord(history->GetCurrentStep());
-    int shown = record.GetRecentPortIndex();
+    int shown = history->GetStep(history->GetCurrentStep())->GetRecentPortIndex();
     if (steps > 0 && ports && capacity > steps) {
         const int from = back ? history->GetCurrentStep() : start;
         *count = CollectPorts(*history, from, from + steps, ports);
         if (*count > 1)
             shown = ports[1];
     }
-    if (!Restore(history, sender, shown)) {
-        history->SetApart();
+    if (!history->Restore(sender, shown))
         m_unheld = true;
-    }
     return true;
 }
 
@@ -188,39 +167,39 @@ int CProjectUndoRedo::GetCanUndoStep()
 int CProjectUndoRedo::GetCanRedoStep()
 {
     const CSenderUndoRedo* history = GetCurSenderUndoRedo();
-    return history ? history->GetRecordCount() - 1 - history->GetCurrentStep() : 0;
+    return history ? history->GetStepCount() - 1 - history->GetCurrentStep() : 0;
 }
 
-const CSenderRecordItem* CProjectUndoRedo::RecordAhead(int n, bool back)
+const CSenderRecordItem* CProjectUndoRedo::StepAhead(int n, bool back)
 {
     const CSenderUndoRedo* history = GetCurSenderUndoRedo();
     if (!history || n < 0 || n > CSenderUndoRedo::kStepLimit)
         return nullptr;
-    return history->GetRecord(history->GetCurrentStep() + (back ? -n : n));
+    return history->GetStep(history->GetCurrentStep() + (back ? -n : n));
 }
 
 int CProjectUndoRedo::GetUndoStepType(int n)
 {
-    const CSenderRecordItem* record = RecordAhead(n, true);
-    return record ? record->GetType() : -1;
+    const CSenderRecordItem* step = StepAhead(n, true);
+    return step ? step->GetType() : -1;
 }
 
 int CProjectUndoRedo::GetRedoStepType(int n)
 {
-    const CSenderRecordItem* record = RecordAhead(n, false);
-    return record ? record->GetType() : -1;
+    const CSenderRecordItem* step = StepAhead(n, false);
+    return step ? step->GetType() : -1;
 }
 
 int CProjectUndoRedo::GetUndoStepPort(int n)
 {
-    const CSenderRecordItem* record = RecordAhead(n, true);
-    return record ? record->GetRecentPortIndex() : kNoPort;
+    const CSenderRecordItem* step = StepAhead(n, true);
+    return step ? step->GetRecentPortIndex() : kNoPort;
 }
 
 int CProjectUndoRedo::GetRedoStepPort(int n)
 {
-    const CSenderRecordItem* record = RecordAhead(n, false);
-    return record ? record->GetRecentPortIndex() : kNoPort;
+    const CSenderRecordItem* step = StepAhead(n, false);
+    return step ? step->GetRecentPortIndex() : kNoPort;
 }
 
 int CProjectUndoRedo::GetCurSenderCurStep()

@@ -15,7 +15,7 @@ class ORVANDATA_EXPORT CProjectUndoRedo
 {
 public:
     using Type = CSenderRecordItem::VIEW_OPERATION_TYPE;
-    static constexpr int kSlotCount = 256; ///< senders with a history; edits of further ones are not recorded
+    static constexpr int kSlotCount = 256; ///< senders with a history; edits of further ones make no steps
 
     CProjectUndoRedo();
     CProjectUndoRedo(const CProjectUndoRedo&) = delete;
@@ -41,9 +41,10 @@ public:
     bool AddOneStepToSender(int senderIndex, Type type);
     bool AddOneStep(Type type); ///< of the current sender
     /// Takes back (brings back) `steps` edits on the visible ports. `ports` with the capacity `*count`
-    /// receives the recent ports of the records from the first to the last one passed, each once and oldest
-    /// first: one record more than the steps, so the capacity has to be above `steps`. `*count` becomes their
-    /// number, 0 when there was no room or so many steps do not exist; without a history it stays as it is.
+    /// receives the recent ports of the steps passed, the first and the last one included, each once and
+    /// oldest first. That may be one more than `steps`, so the capacity has to be above it. `*count` becomes
+    /// their number, 0 when there was no room or so many steps do not exist; without a history it stays as it
+    /// is.
     bool Undo(int steps, int* ports, int* count);
     bool Redo(int steps, int* ports, int* count);
 
@@ -64,7 +65,7 @@ public:
 private:
     bool AddStep(CSender* sender, Type type);
     bool Move(int steps, bool back, int* ports, int* count);
-    const CSenderRecordItem* RecordAhead(int n, bool back);
+    const CSenderRecordItem* StepAhead(int n, bool back);
     void Drop(CSenderUndoRedo* history);
 
     std::array<CSenderUndoRedo, kSlotCount> m_histories;

@@ -4,118 +4,98 @@
 #include "layout/sender.h"
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
-struct CSenderRecordItem::Port : QSharedData
+namespace {
+
+struct PortSnapshot
 {
     QUuid senderId;
     int portIndex = 0;
     bool backup = false;
     LayoutSnapshot::Pointer layout;
-
-    static PortPointer Take(const CPort& live, const PortPointer& previous, LayoutTracker* tracker);
 };
 
-/// `previous` itself when nothing changed; null for none.
-CSenderRecordItem::PortPointer CSenderRecordItem::Port::Take(const CPort& live, const PortPointer& previous,
-                                                             LayoutTracker* tracker)
+} // namespace
+
+struct CSenderRecordItem::Ports : std::array<PortSnapshot, kMaxPorts>
+{};
+
+struct CSenderUndoRedo::State
 {
-    static const LayoutSnapshot::Pointer none;
-    const LayoutSnapshot::Pointer& layout =
-        tracker->Take(*live.GetPortProject(), previous ? previous->layout : none);
-    if (previous && previous->layout == layout && previous->senderId == live.GetSenderId()
-        && previous->portIndex == live.GetPortIndex() && previous->backup == live.IsBackupDest())
-        return previous;
-    auto* port = new Port;
-    port->senderId = live.GetSenderId();
-    port->portIndex = live.GetPortIndex();
-    port->backup = live.IsBackupDest();
-    port->layout = layout;
-    return PortPointer(port);
+    std::unique_ptr<const CSenderRecordItem> TakeStep(CSender& sender, Type type);
+
+    std::vector<std::unique_ptr<const CSenderRecordItem>> steps;
+    std::array<LayoutTracker, kMaxPorts> trackers;
+};
+
+std::unique_ptr<const CSenderRecordItem> CSenderUndoRedo::State::TakeStep(CSender& sender, Type type)
+{
+    auto ports = std::make_unique<CSenderRecordItem::Ports>();
+    for (int i = 0; i < kMaxPorts; ++i) {
+        const auto at = static_cast<size_t>(i);
+        CPort& port = *sender.GetPort(i);
+        (*ports)[at] = {port.GetSenderId(), port.GetPortIndex(), port.IsBackupDest(),
+                        trackers[at].Take(*port.GetPortProject())};
+    }
+    return std::make_unique<const CSenderRecordItem>(sender, type, std::move(ports));
 }
 
 CSenderRecordItem::CSenderRecordItem(const CSender& sender, VIEW_OPERATION_TYPE type,
-                                     const CSenderRecordItem* previous, LayoutTracker* trackers)
-    : m_senderId(sender.GetId()), m_type(type), m_recentPort(sender.GetRecentPortIndex())
-{
-    static const PortPointer none;
-    for (int i = 0; i < kMaxPorts; ++i) {
-        const auto slot = static_cast<size_t>(i);
-        m_ports[slot] =
-            Port::Take(*sender.GetPort(i), previous ? previous->m_ports[slot] : none, &trackers[slot]);
-    }
-}
+                                     std::unique_ptr<const Ports> ports)
+    : m_senderId(sender.GetId()), m_type(type), m_recentPort(sender.GetRecentPortIndex()),
+      m_ports(std::move(ports))
+{}
 
 CSenderRecordItem::~CSenderRecordItem() = default;
-
-bool CSenderRecordItem::IsLayoutEqual(const CSenderRecordItem& other) const
-{
-    return std::equal(m_ports.begin(), m_ports.end(), other.m_ports.begin(),
-                      [](const PortPointer& a, const PortPointer& b) {
-                          return a->layout == b->layout || a->layout->IsEqual(*b->layout);
-                      });
-}
-
-bool CSenderRecordItem::IsLayoutEqual(int port, const CPort& live) const
-{
-    return m_ports[static_cast<size_t>(port)]->layout->IsEqual(*live.GetPortProject());
-}
-
-bool CSenderRecordItem::RestorePort(int port, CPort* live, LayoutTracker* tracker) const
-{
-    const Port& record = *m_ports[static_cast<size_t>(port)];
-    if (record.backup != live->IsBackupDest()) {
-        live->GetPortProject()->ClearAllTiles();
-        return record.layout->IsEqual(*live->GetPortProject());
-    }
-    live->SetSenderIdAndPortIndex(record.senderId, record.portIndex);
-    tracker->Restore(live->GetPortProject(), record.layout);
-    return true;
-}
 
 CSenderUndoRedo::CSenderUndoRedo() = default;
 
 CSenderUndoRedo::~CSenderUndoRedo() = default;
 
-void CSenderUndoRedo::Start(const CSender& sender)
+void CSenderUndoRedo::Start(CSender& sender)
 {
     Clear();
     m_senderId = sender.GetId();
-    m_trackers = std::make_unique<LayoutTracker[]>(kMaxPorts);
-    m_records.push_back(std::make_unique<const CSenderRecordItem>(sender, CSenderRecordItem::OperationBase,
-                                                                  nullptr, m_trackers.get()));
+    m_state = std::make_unique<State>();
+    m_state->steps.push_back(m_state->TakeStep(sender, CSenderRecordItem::OperationBase));
     m_current = 0;
     m_saved = 0;
 }
 
 void CSenderUndoRedo::Clear()
 {
-    m_records.clear();
-    m_trackers.reset();
+    m_state.reset();
     m_senderId = QUuid();
     m_current = -1;
     m_saved = -1;
     m_apart = false;
 }
 
-bool CSenderUndoRedo::AddStep(const CSender& sender, Type type)
+bool CSenderUndoRedo::AddStep(CSender& sender, Type type)
 {
-    const CSenderRecordItem* present = GetRecord(m_current);
-    if (!present || sender.GetId() != m_senderId)
+    if (m_current < 0 || sender.GetId() != m_senderId)
         return false;
-    auto step = std::make_unique<const CSenderRecordItem>(sender, type, present, m_trackers.get());
-    LeaveRecord();
-    if (step->IsLayoutEqual(*present))
+    auto& steps = m_state->steps;
+    auto step = m_state->TakeStep(sender, type);
+    LeaveStep();
+    const CSenderRecordItem::Ports& present = GetStep(m_current)->GetPorts();
+    const auto isEqual = [](const PortSnapshot& a, const PortSnapshot& b) {
+        return a.layout == b.layout || a.layout->IsEqual(*b.layout);
+    };
+    if (std::equal(present.begin(), present.end(), step->GetPorts().begin(), isEqual))
         return false;
 
-    m_records.resize(static_cast<size_t>(m_current) + 1);
+    steps.resize(static_cast<size_t>(m_current) + 1);
     if (m_saved > m_current)
         m_saved = -1; // it was among the steps that could have been redone
-    m_records.push_back(std::move(step));
-    if (GetRecordCount() <= kStepLimit) {
+    steps.push_back(std::move(step));
+    if (GetStepCount() <= kStepLimit) {
         ++m_current;
         return true;
     }
-    m_records.erase(m_records.begin() + 1); // the base stays
+    steps.erase(steps.begin() + 1); // the base stays
     if (m_saved == 1)
         m_saved = -1;
     else if (m_saved > 1)
@@ -125,29 +105,54 @@ bool CSenderUndoRedo::AddStep(const CSender& sender, Type type)
 
 bool CSenderUndoRedo::Move(int steps)
 {
-    if (m_current < 0 || steps < -m_current || steps >= GetRecordCount() - m_current)
+    if (m_current < 0 || steps < -m_current || steps >= GetStepCount() - m_current)
         return false;
-    LeaveRecord();
+    LeaveStep();
     m_current += steps;
     return true;
 }
 
-/// What was saved apart from the record is not what coming back to the record brings.
-void CSenderUndoRedo::LeaveRecord()
+/// What was saved apart from the step is not what coming back to the step brings.
+void CSenderUndoRedo::LeaveStep()
 {
     if (m_apart && m_saved == m_current)
         m_saved = -1;
     m_apart = false;
 }
 
-const CSenderRecordItem* CSenderUndoRedo::GetRecord(int position) const
+int CSenderUndoRedo::GetStepCount() const
 {
-    return position < 0 || position >= GetRecordCount() ? nullptr
-                                                        : m_records[static_cast<size_t>(position)].get();
+    return m_state ? static_cast<int>(m_state->steps.size()) : 0;
 }
 
-bool CSenderUndoRedo::RestorePort(int port, CPort* live)
+const CSenderRecordItem* CSenderUndoRedo::GetStep(int position) const
 {
-    const CSenderRecordItem* record = GetRecord(m_current);
-    return record && record->RestorePort(port, live, &m_trackers[static_cast<size_t>(port)]);
+    return position < 0 || position >= GetStepCount() ? nullptr
+                                                      : m_state->steps[static_cast<size_t>(position)].get();
+}
+
+bool CSenderUndoRedo::Restore(CSender* sender, int shownPort)
+{
+    if (m_current < 0)
+        return false;
+    const CSenderRecordItem::Ports& ports = GetStep(m_current)->GetPorts();
+    bool whole = true;
+    for (int i = 0; i < kMaxPorts; ++i) {
+        const PortSnapshot& wanted = ports[static_cast<size_t>(i)];
+        LayoutTracker& tracker = m_state->trackers[static_cast<size_t>(i)];
+        CPort& port = *sender->GetPort(i);
+        if (port.IsVisible()) {
+            if (i == shownPort)
+                sender->SetRecentPortIndex(i);
+            if (port.IsBackupDest() == wanted.backup) {
+                port.SetSenderIdAndPortIndex(wanted.senderId, wanted.portIndex);
+                tracker.Restore(port.GetPortProject(), wanted.layout);
+                continue;
+            }
+            port.GetPortProject()->ClearAllTiles();
+        }
+        whole = tracker.Take(*port.GetPortProject())->IsEqual(*wanted.layout) && whole;
+    }
+    m_apart = !whole;
+    return whole;
 }

@@ -1,25 +1,19 @@
 #pragma once
 
-#include "common/canvaslimits.h"
 #include "common/export.h"
 
-#include <QExplicitlySharedDataPointer>
 #include <QUuid>
 
-#include <array>
 #include <memory>
-#include <vector>
 
-class CPort;
 class CSender;
-class LayoutTracker;
 
-/// What one sender's ports held after an edit. Records of one history share whatever an edit left alone, so a
-/// record costs what its edit changed. Never changes once made.
+/// A step: what one sender's ports held after an edit. Steps of one history share whatever an edit left
+/// alone, so a step costs what its edit changed. Never changes once made.
 class ORVANDATA_EXPORT CSenderRecordItem
 {
 public:
-    /// The edit that led to a record. Hosts show it in their list of steps.
+    /// The edit that led to a step. Hosts show it in their list of steps.
     enum VIEW_OPERATION_TYPE : int
     {
         OperationAddTiles = 0,
@@ -47,10 +41,9 @@ public:
         OperationBase = 22, ///< the state that a history starts from
     };
 
-    /// `previous` [ref]: the record that the edit started from, null for none. `trackers` [ref]: of all
-    /// ports.
-    CSenderRecordItem(const CSender& sender, VIEW_OPERATION_TYPE type, const CSenderRecordItem* previous,
-                      LayoutTracker* trackers);
+    struct Ports; ///< inside the library
+
+    CSenderRecordItem(const CSender& sender, VIEW_OPERATION_TYPE type, std::unique_ptr<const Ports> ports);
     CSenderRecordItem(const CSenderRecordItem&) = delete;
     CSenderRecordItem& operator=(const CSenderRecordItem&) = delete;
     virtual ~CSenderRecordItem();
@@ -60,25 +53,18 @@ public:
     QUuid GetSenderId() const { return m_senderId; }
     int GetRecentPortIndex() const { return m_recentPort; }
 
-    bool IsLayoutEqual(const CSenderRecordItem& other) const; ///< all 160 ports, groups in depth
-    bool IsLayoutEqual(int port, const CPort& live) const;
-    /// Puts the recorded layout back, or clears the port when only one of the two is a backup. False when the
-    /// port is not as recorded then. Cabinets keep their address, and view state where nothing changed.
-    bool RestorePort(int port, CPort* live, LayoutTracker* tracker) const;
+    const Ports& GetPorts() const { return *m_ports; } ///< inside the library
 
 private:
-    struct Port;
-    using PortPointer = QExplicitlySharedDataPointer<const Port>;
-
     QUuid m_senderId;
     VIEW_OPERATION_TYPE m_type;
     int m_recentPort;
     bool m_valid = true;
-    std::array<PortPointer, kMaxPorts> m_ports;
+    std::unique_ptr<const Ports> m_ports;
 };
 
-/// The history of one sender: its base record and the steps after it, at most kStepLimit records. Beyond that
-/// the oldest step goes; the base stays. Owns them.
+/// The history of one sender: its base step and those after it, at most kStepLimit in all. Beyond that the
+/// oldest goes; the base stays. Owns them.
 class ORVANDATA_EXPORT CSenderUndoRedo
 {
 public:
@@ -91,32 +77,34 @@ public:
     virtual ~CSenderUndoRedo();
 
     // life
-    void Start(const CSender& sender); ///< drops what was there; the base record counts as saved
-    void Clear();                      ///< frees the slot
+    void Start(CSender& sender);                     ///< drops what was there; the base counts as saved
+    void Clear();                                    ///< frees the slot
     QUuid GetSenderId() const { return m_senderId; } ///< null: the slot is free
 
     // steps
-    bool AddStep(const CSender& sender, Type type);  ///< false when the sender is another or nothing changed
+    bool AddStep(CSender& sender, Type type);        ///< false when the sender is another or nothing changed
     bool Move(int steps);                            ///< negative: back; false outside the history
     int GetCurrentStep() const { return m_current; } ///< -1: no history
-    int GetRecordCount() const { return static_cast<int>(m_records.size()); }
-    const CSenderRecordItem* GetRecord(int position) const; ///< [ref] 0 is the base; null out of range
-    bool RestorePort(int port, CPort* live);                ///< from the current record
+    int GetStepCount() const;
+    const CSenderRecordItem* GetStep(int position) const; ///< [ref] 0 is the base; null out of range
+    /// Puts the current step back on the visible ports; `shownPort`, when visible, becomes the recent one. A
+    /// port that only then or only now is a backup is cleared. Cabinets keep their address, and view state
+    /// where nothing changed. False when the sender is not as the step says afterwards.
+    bool Restore(CSender* sender, int shownPort);
 
     // saved state
     bool IsModified() const { return m_current != m_saved; }
     void SetSaved() { m_saved = m_current; }
-    void SetNeverSaved() { m_saved = -1; } ///< no record holds what was saved
-    /// The sender is not as the current record says, because a port was left out when it was put back.
-    void SetApart() { m_apart = true; }
+    void SetNeverSaved() { m_saved = -1; } ///< no step holds what was saved
 
 private:
-    void LeaveRecord();
+    struct State;
+
+    void LeaveStep();
 
     QUuid m_senderId;
     int m_current = -1;
     int m_saved = -1;
-    bool m_apart = false;
-    std::vector<std::unique_ptr<const CSenderRecordItem>> m_records;
-    std::unique_ptr<LayoutTracker[]> m_trackers; ///< one a port, while there is a history
+    bool m_apart = false;           ///< the sender is not as the current step says
+    std::unique_ptr<State> m_state; ///< while there is a history
 };

@@ -144,7 +144,7 @@ void CTile::Offset(int dx, int dy)
     data.rotate.centerY += dy;
     data.rotate.leftTopX += dx;
     data.rotate.leftTopY += dy;
-    ChangeJournal::Append(this);
+    ChangeJournal::places.Append(this);
 }
 
 QPoint CTile::GetCenter() const
@@ -431,7 +431,7 @@ SRotateParam* CTile::GetTileRotateParam()
 {
     TileData& data = Write();
     if (!data.rotateHandedOut)
-        ChangeJournal::Append(this);
+        ChangeJournal::places.Append(this);
     data.handedOut = true;
     data.rotateHandedOut = true;
     return &data.rotate;
@@ -449,7 +449,7 @@ void CTile::SetTileRotateParam(const SRotateParam* param)
     SRotateParam record = *param; // a copy: it may lie in the data that is left now
     record.rotated = record.rotated || record.angle > kNoAngle;
     Write().rotate = record;
-    ChangeJournal::Append(this);
+    ChangeJournal::places.Append(this);
 }
 
 bool CTile::IsTileRotated() const
@@ -462,8 +462,8 @@ void CTile::SetData(const TileData* data)
     if (!data || data == m_data.constData())
         return;
     if (!m_data->IsSamePlace(*data))
-        ChangeJournal::Append(this);
-    RecordJournal::Append(this);
+        ChangeJournal::places.Append(this);
+    ChangeJournal::data.Append(this);
     if (m_data->handedOut)
         static_cast<TileFields&>(*m_data) = *data;
     else if (data->handedOut)
@@ -485,7 +485,7 @@ TileData& CTile::Write()
 {
     if (m_data->ref.loadRelaxed() == 1)
         return *m_data;
-    RecordJournal::Append(this);
+    ChangeJournal::data.Append(this);
     m_data.detach();
     return *m_data;
 }
@@ -503,5 +503,5 @@ template <class Member, class Value> bool CTile::Store(Member member, const Valu
 template <class Member, class Value> void CTile::StorePlace(Member member, const Value& value)
 {
     if (Store(member, value))
-        ChangeJournal::Append(this);
+        ChangeJournal::places.Append(this);
 }

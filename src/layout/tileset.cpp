@@ -10,7 +10,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -30,6 +29,14 @@ QList<CTile*> CopiesOf(const QList<CTile*>& tiles)
     for (const CTile* tile : tiles)
         copies.append(new CTile(*tile));
     return copies;
+}
+
+/// Each tile once, since an owning set may list one twice; by address.
+QList<CTile*> Distinct(QList<CTile*> tiles)
+{
+    std::sort(tiles.begin(), tiles.end());
+    tiles.erase(std::unique(tiles.begin(), tiles.end()), tiles.end());
+    return tiles;
 }
 
 } // namespace
@@ -124,14 +131,11 @@ void CTileSet::DeleteSelected(int iface)
 {
     QList<CTile*> staying;
     QList<CTile*> dropped;
-    for (CTile* tile : qAsConst(m_tiles)) {
-        if (!tile->IsSelected(iface))
-            staying.append(tile);
-        else if (m_owning && MarkLeaving(tile))
-            dropped.append(tile);
-    }
+    for (CTile* tile : qAsConst(m_tiles))
+        (tile->IsSelected(iface) ? dropped : staying).append(tile);
     m_tiles = staying;
-    qDeleteAll(dropped);
+    if (m_owning)
+        qDeleteAll(Distinct(dropped));
 }
 
 int CTileSet::GetCount() const
@@ -283,23 +287,17 @@ void CTileSet::SetResult(const QList<CTile*>& tiles)
     Replace(tiles, false);
 }
 
-/// Frees the tiles of an owning set that are not part of the new content.
+/// Frees the tiles of an owning set that are not part of the new content, each once.
 void CTileSet::Replace(const QList<CTile*>& tiles, bool owning)
 {
     QList<CTile*> dropped;
     if (m_owning && !m_tiles.isEmpty()) {
-        const QSet<CTile*> kept(tiles.begin(), tiles.end());
-        dropped = Matching(m_tiles, [&](CTile* tile) { return !kept.contains(tile) && MarkLeaving(tile); });
+        const QList<CTile*> held = Distinct(m_tiles);
+        const QList<CTile*> kept = Distinct(tiles);
+        std::set_difference(held.begin(), held.end(), kept.begin(), kept.end(), std::back_inserter(dropped));
     }
     m_tiles = tiles;
     m_owning = owning;
-    m_queried.clear();
     m_index.reset();
     qDeleteAll(dropped);
-}
-
-/// True once for a tile that is to be freed, since it may be listed twice.
-bool CTileSet::MarkLeaving(CTile* tile)
-{
-    return !std::exchange(tile->m_leaving, true);
 }

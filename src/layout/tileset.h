@@ -129,16 +129,11 @@ public:
 
 private:
     void Normalize(QList<CTile*>* chain); ///< takes no lock; appends the chain in order unless null
-    TileIndex* UsableIndex() const;
-    template <class Test> QList<CTile*> FindFromTop(const Test& test) const; ///< see TileIndex
+    template <class Test> QList<CTile*> FindFromTop(const QRect& area, const Test& takes) const;
     void SetResult(const QList<CTile*>& tiles);
     void Replace(const QList<CTile*>& tiles, bool owning);
-    static bool MarkLeaving(CTile* tile);
 
     QList<CTile*> m_tiles;
     bool m_owning = false;
-
-    // hit tests: one alone scans, from the second on an unchanged list they share an index
-    mutable QList<CTile*> m_queried; ///< shared with m_tiles until that changes
-    mutable std::unique_ptr<TileIndex> m_index;
+    mutable std::unique_ptr<TileIndex> m_index; ///< for hit tests; nothing that a caller sees depends on it
 };

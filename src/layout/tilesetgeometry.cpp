@@ -3,15 +3,12 @@
 #include "common/interfacedlg.h"
 #include "common/saturated.h"
 #include "layout/corners.h"
-#include "layout/layoutlookup.h"
 #include "layout/tile.h"
 #include "layout/tileindex.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr int kIndexedFrom = 64; ///< cabinets; fewer are scanned as fast
 
 /// Grows from nothing; right and bottom one past the last pixel.
 class Outline
@@ -39,83 +36,39 @@ private:
     qint64 m_bottom = 0;
 };
 
-// Tests for FindFromTop. A bound is that of a cabinet that is not turned, and not empty: so the plain
-// comparisons give what the expressions for any cabinet give.
-
-struct AtPoint
+bool IsAt(const CTile& tile, const QPoint& point)
 {
-    QPoint point;
+    if (!tile.IsTileRotated())
+        return tile.GetBound().contains(point);
+    CPointEx<double> corners[4];
+    tile.GetRotateArea(corners);
+    return IsInQuadrilateral(corners, point.x(), point.y());
+}
 
-    QRect Area() const { return QRect(point, point); }
-    bool Takes(const QRect& bound) const { return bound.contains(point); }
-    bool Takes(const CTile& tile) const
-    {
-        if (!tile.IsTileRotated())
-            return Takes(tile.GetBound());
-        CPointEx<double> corners[4];
-        tile.GetRotateArea(corners);
-        return IsInQuadrilateral(corners, point.x(), point.y());
-    }
-};
-
-struct Within
+bool IsWithin(const CTile& tile, const QRect& rect)
 {
-    QRect rect; ///< normalised
+    if (!tile.IsTileRotated())
+        return tile.GetBound() == tile.GetBound().intersected(rect);
+    // Corners lie one past the last pixel, so the far edges count: a turned tile is within its own bound.
+    CPointEx<double> corners[4];
+    tile.GetRotateArea(corners);
+    return std::all_of(corners, corners + 4, [&](const CPointEx<double>& c) {
+        return c.x >= rect.left() && c.x <= rect.right() + 1.0 && c.y >= rect.top()
+               && c.y <= rect.bottom() + 1.0;
+    });
+}
 
-    QRect Area() const { return rect; }
-    bool Takes(const QRect& bound) const
-    {
-        return rect.left() <= bound.left() && bound.right() <= rect.right() && rect.top() <= bound.top()
-               && bound.bottom() <= rect.bottom();
-    }
-    bool Takes(const CTile& tile) const
-    {
-        if (!tile.IsTileRotated())
-            return tile.GetBound() == tile.GetBound().intersected(rect);
-        // Corners lie one past the last pixel, so the far edges count: a turned tile is within its own bound.
-        CPointEx<double> corners[4];
-        tile.GetRotateArea(corners);
-        return std::all_of(corners, corners + 4, [this](const CPointEx<double>& c) {
-            return c.x >= rect.left() && c.x <= rect.right() + 1.0 && c.y >= rect.top()
-                   && c.y <= rect.bottom() + 1.0;
-        });
-    }
-};
-
-struct Touching
+bool Touches(const CTile& tile, const QRect& rect)
 {
-    QRect rect; ///< normalised
-
-    QRect Area() const { return rect; }
-    bool Takes(const QRect& bound) const
-    {
-        return !rect.isEmpty() && rect.left() <= bound.right() && bound.left() <= rect.right()
-               && rect.top() <= bound.bottom() && bound.top() <= rect.bottom();
-    }
-    bool Takes(const CTile& tile) const
-    {
-        if (!tile.IsTileRotated())
-            return !tile.GetBound().intersected(rect).isEmpty();
-        CPointEx<double> corners[4];
-        tile.GetRotateArea(corners);
-        return std::any_of(corners, corners + 4, [this](const CPointEx<double>& c) {
-            return c.x >= rect.left() && c.x < rect.right() + 1.0 && c.y >= rect.top()
-                   && c.y < rect.bottom() + 1.0;
-        });
-    }
-};
-
-struct CenterWithin
-{
-    QRect rect;
-
-    QRect Area() const { return rect.normalized(); }
-    bool Takes(const QRect& bound) const
-    {
-        return rect.contains(bound.left() + bound.width() / 2, bound.top() + bound.height() / 2);
-    }
-    bool Takes(const CTile& tile) const { return rect.contains(tile.GetCenter()); }
-};
+    if (!tile.IsTileRotated())
+        return !tile.GetBound().intersected(rect).isEmpty();
+    CPointEx<double> corners[4];
+    tile.GetRotateArea(corners);
+    return std::any_of(corners, corners + 4, [&](const CPointEx<double>& c) {
+        return c.x >= rect.left() && c.x < rect.right() + 1.0 && c.y >= rect.top()
+               && c.y < rect.bottom() + 1.0;
+    });
+}
 
 bool IsOnGrid(int place, int origin, int step)
 {
@@ -130,51 +83,33 @@ int OnNewGrid(int place, int origin, int oldStep, int newStep)
 
 } // namespace
 
-/// Null when this query should scan the list: a short one, the first query of its content, or the first after
-/// many changes.
-TileIndex* CTileSet::UsableIndex() const
+/// What the test takes, the last first; it takes nothing outside `area`.
+template <class Test> QList<CTile*> CTileSet::FindFromTop(const QRect& area, const Test& takes) const
 {
-    if (m_tiles.size() < kIndexedFrom)
-        return nullptr;
-    if (!m_queried.isSharedWith(m_tiles)) {
-        m_queried = m_tiles;
-        m_index.reset();
-        return nullptr;
-    }
-    const bool rotation = GetLayoutLookup()->IsRotateEnabled();
     if (!m_index)
-        m_index = std::make_unique<TileIndex>(m_tiles, rotation);
-    else if (!m_index->CatchUp(rotation))
-        m_index.reset();
-    return m_index.get();
-}
-
-template <class Test> QList<CTile*> CTileSet::FindFromTop(const Test& test) const
-{
-    if (TileIndex* index = UsableIndex())
-        return index->FindFromTop(test);
-    QList<CTile*> found;
-    std::copy_if(m_tiles.rbegin(), m_tiles.rend(), std::back_inserter(found),
-                 [&](const CTile* tile) { return test.Takes(*tile); });
-    return found;
+        m_index = std::make_unique<TileIndex>();
+    return m_index->FindFromTop(m_tiles, area, takes);
 }
 
 bool CTileSet::GetTileSetAtPosition(CTileSet& out, int x, int y) const
 {
-    out.SetResult(FindFromTop(AtPoint{QPoint(x, y)}));
+    const QPoint point(x, y);
+    out.SetResult(FindFromTop(QRect(point, point), [=](const CTile& tile) { return IsAt(tile, point); }));
     return out.GetCount() > 0;
 }
 
 bool CTileSet::GetTileSetAtRect(CTileSet& out, const QRect& rect, bool whole) const
 {
     const QRect area = rect.normalized();
-    out.SetResult(whole ? FindFromTop(Within{area}) : FindFromTop(Touching{area}));
+    out.SetResult(FindFromTop(
+        area, [=](const CTile& tile) { return whole ? IsWithin(tile, area) : Touches(tile, area); }));
     return out.GetCount() > 0;
 }
 
 bool CTileSet::GetTileSetAtRectWithCenter(CTileSet& out, const QRect& rect) const
 {
-    out.SetResult(FindFromTop(CenterWithin{rect}));
+    out.SetResult(
+        FindFromTop(rect.normalized(), [=](const CTile& tile) { return rect.contains(tile.GetCenter()); }));
     return out.GetCount() > 0;
 }
 

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "layout/changejournal.h"
+
+#include <QHash>
+#include <QList>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+/// Positions in a list of cabinets; an empty optional: all of them.
+using Positions = std::optional<std::vector<int>>;
+
+/// In ascending order, each once.
+void SortPositions(std::vector<int>* positions);
+
+template <class Visit> void ForEachPosition(const Positions& positions, int count, Visit visit)
+{
+    if (positions)
+        std::for_each(positions->begin(), positions->end(), visit);
+    else
+        for (int i = 0; i < count; ++i)
+            visit(i);
+}
+
+/// Tells which cabinets of a list a journal has noted since the list was last followed. That it is still the
+/// same list is seen from its being shared with the set until somebody writes to it.
+class FollowedList
+{
+public:
+    explicit FollowedList(ChangeJournal& journal) : m_journal(journal) {}
+
+    /// All, when the list is another one, when it names a cabinet twice or when so many were noted that
+    /// looking at all is as fast.
+    Positions Changed(const QList<CTile*>& tiles);
+    void Follow(const QList<CTile*>& tiles); ///< from now on; looks at no cabinet
+
+private:
+    bool FindPlaces();
+
+    QList<CTile*> m_tiles;
+    ChangeJournal::Reader m_journal;   ///< read up to when the list was last followed
+    QHash<const CTile*, int> m_places; ///< empty: not needed yet
+};
