@@ -52,8 +52,8 @@ struct ProjectUndoRedoTest : testing::Test
     int place = 0;
 };
 
-/// What ports hold, sharing nothing with them: a shared record would be left at a write that needs no
-/// leaving.
+/// What a port holds, sharing nothing with it: a cabinet that shares its data with a copy tells of the next
+/// write to it.
 struct PlainPort
 {
     explicit PlainPort(CPort& port) : groups(GroupSnapshot::Take(GroupsOf(port), {}))
@@ -147,56 +147,35 @@ void EditAnyhow(CSender& sender, QRandomGenerator* random)
 
 TEST_F(ProjectUndoRedoTest, EveryKindOfEditIsTakenBackAndBroughtBack)
 {
-    struct Model
-    {
-        std::vector<PlainSender> states;
-        int current = 0;
-    };
     QRandomGenerator random(7);
-    std::array<Model, 2> models;
-    const auto open = [&] {
-        lookup.senders.clear();
-        for (Model& model : models) {
-            owned.push_back(MakeWall(12, 10, 2));
-            MakeWall(*owned.back()->GetPort(2), 75, 60);
-            lookup.senders.append(owned.back().get());
-            model = {{PlainCopy(*owned.back())}, 0};
-        }
-        history.Init();
-    };
-    open();
+    std::vector<PlainSender> states;
     for (int i = 0; i < 600; ++i) {
-        if (i % 100 == 99)
-            open();
-        const int which = random.bounded(2);
-        Model& model = models[static_cast<size_t>(which)];
-        CSender& sender = *lookup.senders[which];
+        if (i % 100 == 0) {
+            Open(MakeWall(12, 10, 2));
+            MakeWall(Port(2), 75, 60);
+            history.Init();
+            states = {PlainCopy(Sender())};
+        }
         if (random.bounded(8) == 0)
-            sender.GetPort(random.bounded(kEditedPorts))->SetVisible(random.bounded(2) == 0);
+            Port(random.bounded(kEditedPorts)).SetVisible(random.bounded(2) == 0);
         for (int edits = random.bounded(3); edits > 0; --edits)
-            EditAnyhow(sender, &random);
-        const PlainSender live = PlainCopy(sender);
+            EditAnyhow(Sender(), &random);
+        const int current = history.GetCurSenderCurStep();
+        const PlainSender live = PlainCopy(Sender());
         if (random.bounded(2) == 0) {
-            const bool changed = !(live == model.states[static_cast<size_t>(model.current)]);
-            ASSERT_EQ(history.AddOneStepToSender(which, Record::OperationPasteTiles), changed)
-                << "step " << i;
+            const bool changed = !(live == states[static_cast<size_t>(current)]);
+            ASSERT_EQ(history.AddOneStep(Record::OperationPasteTiles), changed) << "step " << i;
             if (changed) {
-                model.states.resize(static_cast<size_t>(++model.current), live);
-                model.states.push_back(live);
+                states.resize(static_cast<size_t>(current) + 1, live);
+                states.push_back(live);
             }
             continue;
         }
-        const int target = random.bounded(static_cast<int>(model.states.size()));
-        const int steps = target - model.current;
-        lookup.senders.move(which, 0); // to be the current one
-        ASSERT_TRUE(steps < 0 ? Undo(-steps) : Redo(steps));
-        lookup.senders.move(0, which);
-        model.current = target;
+        const int target = random.bounded(static_cast<int>(states.size()));
+        ASSERT_TRUE(target < current ? Undo(current - target) : Redo(target - current));
         for (int port = 0; port < kEditedPorts; ++port) {
-            const auto at = static_cast<size_t>(port);
-            const bool shown = sender.GetPort(port)->IsVisible();
-            ASSERT_TRUE(PlainPort(*sender.GetPort(port))
-                        == (shown ? model.states[static_cast<size_t>(target)][at] : live[at]))
+            const PlainSender& wanted = Port(port).IsVisible() ? states[static_cast<size_t>(target)] : live;
+            ASSERT_TRUE(PlainPort(Port(port)) == wanted[static_cast<size_t>(port)])
                 << "step " << i << ", port " << port;
         }
     }

@@ -13,16 +13,6 @@ namespace {
 
 constexpr int kView = InterfaceDesign;
 
-using CountedTile = Counted<CTile>;
-
-CTile* Add(CTileSet& set, const QRect& rect)
-{
-    auto* tile = new CountedTile;
-    Place(*tile, rect);
-    set.AddTile(tile);
-    return tile;
-}
-
 using Tiles = QList<CTile*>;
 
 /// An owning set with tiles 0, 1, 2 side by side, each 100 x 100 pixels.

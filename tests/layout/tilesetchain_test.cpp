@@ -1,6 +1,4 @@
-#include "common/canvaslimits.h"
 #include "layout/layouthelpers.h"
-#include "layout/tileset.h"
 
 #include <gtest/gtest.h>
 
@@ -13,19 +11,6 @@
 #include <vector>
 
 namespace {
-
-CTile* Add(CTileSet& set, const QRect& rect, QSize receivers = QSize(1, 1))
-{
-    auto* tile = new CTile;
-    Place(*tile, rect);
-    tile->SetBeMultiRcvsTile(receivers != QSize(1, 1));
-    tile->SetMultiRcvsSize(receivers);
-    const unsigned char line[kMaxReceiversInTile] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
-    tile->SetMultiRcvsLine(line);
-    tile->SetMultiRcvsOrdered(true);
-    set.AddTile(tile);
-    return tile;
-}
 
 struct OwningWall : CTileSet
 {
