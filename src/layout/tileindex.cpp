@@ -1,17 +1,12 @@
 #include "layout/tileindex.h"
 
+#include "common/saturated.h"
 #include "layout/layoutlookup.h"
 #include "layout/tile.h"
 #include "layout/tiledata.h"
 
 #include <algorithm>
 #include <cmath>
-
-namespace {
-
-constexpr double kFar = 1 << 29; ///< corners below it fit into whole pixels
-
-} // namespace
 
 void TileIndex::Extent::Include(const Extent& other)
 {
@@ -34,16 +29,14 @@ TileIndex::Extent TileIndex::ExtentOf(const CTile& tile, bool rotation)
     }
     CPointEx<double> c[4];
     tile.GetRotateArea(c);
-    const auto isNear = [](const CPointEx<double>& p) {
-        return std::abs(p.x) < kFar && std::abs(p.y) < kFar;
-    };
-    if (!std::all_of(c, c + 4, isNear))
+    const auto isKnown = [](const CPointEx<double>& p) { return std::isfinite(p.x) && std::isfinite(p.y); };
+    if (!std::all_of(c, c + 4, isKnown))
         return everywhere;
     const auto [left, right] = std::minmax({c[0].x, c[1].x, c[2].x, c[3].x});
     const auto [top, bottom] = std::minmax({c[0].y, c[1].y, c[2].y, c[3].y});
     // whole pixels, with room for what the tests truncate
-    return {static_cast<int>(std::floor(left)) - 1, static_cast<int>(std::floor(top)) - 1,
-            static_cast<int>(std::ceil(right)) + 1, static_cast<int>(std::ceil(bottom)) + 1};
+    return {TruncatedInt(std::floor(left) - 1), TruncatedInt(std::floor(top) - 1),
+            TruncatedInt(std::ceil(right) + 1), TruncatedInt(std::ceil(bottom) + 1)};
 }
 
 void TileIndex::CatchUp(const QList<CTile*>& tiles)

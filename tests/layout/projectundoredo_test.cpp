@@ -249,6 +249,10 @@ TEST_F(ProjectUndoRedoTest, OnlyChangedLayoutsAreRecorded)
         EXPECT_EQ(history.GetCanUndoStep(), 0);
     }
     EXPECT_FALSE(history.IsModidfied());
+    EXPECT_TRUE(history.AddOneStep(Record::OperationAlign) && Undo());
+    for (const int x : {9, Tile(0).GetX()})
+        Tile(0).SetX(x);
+    EXPECT_FALSE(history.AddOneStep(Record::OperationAlign)) << "it is back where it was";
     EXPECT_TRUE(Edit() && Edit() && Undo(2));
     EXPECT_EQ(history.GetCanRedoStep(), 2);
     EXPECT_TRUE(Edit());
@@ -346,6 +350,8 @@ TEST_F(ProjectUndoRedoTest, HiddenPortsAndPortsThatBecameBackupsAreLeftOut)
     history.SetAsSaveStep();
     EXPECT_FALSE(history.IsModidfied());
 
+    Port(0).SetSenderIdAndPortIndex(QUuid(), 7);
+    EXPECT_TRUE(Redo() && Port(0).GetPortIndex() == 0 && Undo());
     Port(0).SetBeBackupDest(QUuid::createUuid(), 1);
     EXPECT_TRUE(Redo(2));
     EXPECT_EQ(TilesOf(Port(0)).GetCount(), 0);
