@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 
 QString FreshFolder()
 {
-    // A new name each time: QSettings remembers files by their names and times.
+    // A new name each time, so that nothing is left of the input before.
     static int round = 0;
     static QString folder;
     if (!folder.isEmpty())

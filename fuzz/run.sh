@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Usage: fuzz/run.sh [SECONDS] [FUZZER...]    every fuzzer, or those named, for SECONDS each (60), two at a time
-# They do not look for leaks: QSettings keeps what it has read, so that would be done after every input. The
+# They do not look for leaks, which would be done after every input. The
 # replay of the corpora under the asan preset looks for them. What they find, and the corpora that grow, are kept in
 # build/fuzz/found and build/fuzz/corpus.
 set -euo pipefail

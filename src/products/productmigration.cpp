@@ -7,7 +7,6 @@
 #include "settings/inifile.h"
 
 #include <QDir>
-#include <QSettings>
 
 #include <algorithm>
 
@@ -34,11 +33,8 @@ bool IsHexadecimal(const QString& text)
 bool ReadProductList(const QString& path, QSet<SMD5>& digests)
 {
     const QString noFile = QStringLiteral("NoFile");
-    if (CheckIni(path) != IniCheck::Harmless)
-        return false;
-    const QSettings list(path, QSettings::IniFormat);
-    static_cast<void>(list.allKeys()); // has every section read
-    if (list.status() != QSettings::NoError)
+    QVariantMap list;
+    if (!ReadIniValues(path, &list, IniCodec::Latin1))
         return false;
     for (int number = 1; number <= kMaxListedProducts; ++number) {
         const QString key = QStringLiteral("ProductListInfo/Product%1").arg(number);

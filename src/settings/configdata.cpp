@@ -20,7 +20,7 @@ namespace {
 void WritePrintWatermark()
 {
     WriteIniValues(ProductFolder() + QStringLiteral("ProductList.ini"),
-                   {{QStringLiteral("Setup/PrintWatermark"), QStringLiteral("Vantrel")}});
+                   {{QStringLiteral("Setup/PrintWatermark"), QStringLiteral("Vantrel")}}, IniCodec::Latin1);
 }
 
 bool IsInterface(int interface)

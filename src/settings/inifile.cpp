@@ -2,23 +2,38 @@
 
 #include "common/atomicfile.h"
 #include "common/inputfile.h"
-#include "settings/initypes.h"
-#include "settings/scratchfolder.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSettings>
-
-#include <algorithm>
+#include <QHash>
+#include <QMap>
 
 namespace {
 
-void SetCodec(QSettings& file, const char* codec)
+constexpr int kNone = -1;
+
+struct Span
 {
-    if (codec)
-        file.setIniCodec(codec);
-}
+    int begin = 0;
+    int end = 0;
+};
+
+struct IniText
+{
+    QByteArray text;
+    IniCodec codec = IniCodec::Latin1;
+    QHash<QString, Span> values;  ///< by the whole key; of the last one of a key, which counts
+    QHash<QString, int> sections; ///< by "name/": where a new line belongs
+
+    QByteArray Value(const Span& span) const { return text.mid(span.begin, span.end - span.begin); }
+};
+
+struct Edit
+{
+    int replaced = 0;
+    QByteArray text;
+};
 
 /// As QSettings takes a key that it is given.
 QString Normalised(const QString& key)
@@ -26,86 +41,142 @@ QString Normalised(const QString& key)
     return key.split(QLatin1Char('/'), Qt::SkipEmptyParts).join(QLatin1Char('/'));
 }
 
-/// QSettings reads keys with an empty part, but cannot be asked for them, and writes a file with them that
-/// does not read again.
-bool HasName(const QString& key)
+bool IsLineEnd(char c)
 {
-    return !key.isEmpty() && key == Normalised(key);
+    return c == '\n' || c == '\r';
 }
 
-bool WriteNew(const QString& path, const QVariantMap& values, const char* codec)
+int SkipLine(const QByteArray& text, int at)
 {
-    QSettings file(path, QSettings::IniFormat);
-    SetCodec(file, codec);
-    for (auto value = values.begin(); value != values.end(); ++value)
-        file.setValue(value.key(), value.value());
-    file.sync();
-    return file.status() == QSettings::NoError;
+    while (at < text.size() && !IsLineEnd(text[at]))
+        ++at;
+    return at;
 }
 
-/// Whether the file was written to its end: QSettings does not tell when the disk became full.
-bool IsComplete(const QString& path, const QVariantMap& values, const char* codec)
+/// The begin of the next line that is neither blank nor a comment.
+int SkipToLine(const QByteArray& text, int at)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || !file.seek(file.size() - 1) || file.read(1) != "\n")
-        return false;
-    QVariantMap read;
-    return ReadIniValues(path, &read, codec) && read.keys() == values.keys();
+    while (at < text.size()
+           && (text[at] == ' ' || text[at] == '\t' || IsLineEnd(text[at]) || text[at] == ';'))
+        at = text[at] == ';' ? SkipLine(text, at) : at + 1;
+    return at;
 }
 
-/// The file as it is to be. QSettings would leave an empty file on a full disk, and remembers what it wrote
-/// whether it got there or not, so copies are read and written, and what is written is read back under
-/// another name.
-bool MakeContent(const QString& path, const QVariantMap& changed, const char* codec, QByteArray* content)
+/// The end of a line, without the comment behind it. In quotes, and behind a backslash, a line end belongs to
+/// the line. kNone when no other one comes.
+int FindEnd(const QByteArray& text, int at, int* equals)
 {
-    const ScratchFolder scratch;
-    const QString before = scratch.Path("before.ini");
-    const QString written = scratch.Path("written.ini");
-    const QString readBack = scratch.Path("read.ini");
-    QVariantMap values;
-    if (!scratch.IsValid() || CheckIni(path, codec) != IniCheck::Harmless
-        || (QFile::exists(path) && !QFile::copy(path, before)) || !ReadIniValues(before, &values, codec))
-        return false;
-    for (auto value = changed.begin(); value != changed.end(); ++value)
-        values.insert(Normalised(value.key()), value.value());
-    if (!WriteNew(written, values, codec) || !QFile::rename(written, readBack)
-        || CheckIni(readBack, codec) != IniCheck::Harmless || !IsComplete(readBack, values, codec))
-        return false;
-    QFile file(readBack);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    *content = file.readAll();
-    return content->size() == file.size();
+    *equals = kNone;
+    for (bool inQuotes = false; at < text.size(); ++at) {
+        const char c = text[at];
+        if (!inQuotes && (IsLineEnd(c) || c == ';'))
+            return at;
+        if (c == '=' && !inQuotes && *equals == kNone)
+            *equals = at;
+        else if (c == '"')
+            inQuotes = !inQuotes;
+        else if (c == '\\')
+            at += text.mid(at + 1, 2) == "\r\n" ? 2 : 1;
+    }
+    return kNone;
+}
+
+/// "name/" of a section; empty for "[General]", which is that of the keys without a section.
+QString SectionName(const QByteArray& header)
+{
+    if (header.compare("general", Qt::CaseInsensitive) == 0)
+        return {};
+    const bool isEscaped = header.compare("%general", Qt::CaseInsensitive) == 0;
+    return KeyFromIni(isEscaped ? header.mid(1) : header) + QLatin1Char('/');
+}
+
+QByteArray SectionHeader(const QString& name)
+{
+    const QByteArray header = name.isEmpty() ? "General" : KeyToIni(name.chopped(1));
+    return (!name.isEmpty() && SectionName(header).isEmpty() ? "[%" : "[") + header + "]\n";
+}
+
+bool Parse(IniText* ini)
+{
+    QByteArray& text = ini->text;
+    const bool isMarked = text.startsWith("\xef\xbb\xbf");
+    if (isMarked)
+        ini->codec = IniCodec::Utf8;
+    if (!text.isEmpty() && !IsLineEnd(text.back()))
+        text += '\n';
+    QString section;
+    int end = 0;
+    for (int at = SkipToLine(text, isMarked ? 3 : 0); at < text.size(); at = SkipToLine(text, end)) {
+        int keyEnd = kNone;
+        end = FindEnd(text, at, &keyEnd);
+        const bool isHeader = text[at] == '[';
+        if (isHeader)
+            keyEnd = text.indexOf(']', at);
+        if (keyEnd == kNone || keyEnd >= end)
+            return false;
+        if (isHeader)
+            section = SectionName(text.mid(at + 1, keyEnd - at - 1).trimmed());
+        else
+            ini->values.insert(section + KeyFromIni(text.mid(at, keyEnd - at).trimmed()), {keyEnd + 1, end});
+        const int lineEnd = SkipLine(text, end);
+        ini->sections.insert(section, lineEnd + (text.mid(lineEnd, 2) == "\r\n" ? 2 : 1));
+    }
+    return true;
+}
+
+bool ReadIni(const QString& path, IniText* ini)
+{
+    return (!QFile::exists(path) || ReadInput(path, kMaxIniBytes, &ini->text)) && Parse(ini);
+}
+
+/// The text with other values; nothing when one of them cannot be written.
+QByteArray Changed(const IniText& ini, const QVariantMap& values)
+{
+    QMap<int, Edit> edits;
+    QMap<QString, QByteArray> added; // lines of new sections
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        const QString key = Normalised(value.key());
+        const std::optional<QByteArray> text = ValueToIni(*value, ini.codec);
+        if (key.isEmpty() || !text)
+            return {};
+        const auto old = ini.values.find(key);
+        if (old != ini.values.end()) {
+            // What only looks different, or is of a type that is not read, stays as it is.
+            if (ValueToIni(ValueFromIni(ini.Value(*old), ini.codec), ini.codec) != text)
+                edits.insert(old->begin, {old->end - old->begin, *text});
+            continue;
+        }
+        const int name = key.indexOf(QLatin1Char('/')) + 1;
+        const auto section = ini.sections.find(key.left(name));
+        QByteArray& lines = section == ini.sections.end() ? added[key.left(name)] : edits[*section].text;
+        lines += KeyToIni(key.mid(name)) + '=' + *text + '\n';
+    }
+
+    QByteArray changed;
+    int at = 0;
+    for (auto edit = edits.begin(); edit != edits.end(); at = edit.key() + edit->replaced, ++edit)
+        changed += ini.text.mid(at, edit.key() - at) + edit->text;
+    changed += ini.text.mid(at);
+    for (auto section = added.begin(); section != added.end(); ++section)
+        changed += (changed.isEmpty() ? "" : "\n") + SectionHeader(section.key()) + *section;
+    return changed;
 }
 
 } // namespace
 
-IniCheck CheckIni(const QString& path, const char* codec)
+bool ReadIniValues(const QString& path, QVariantMap* values, IniCodec codec)
 {
-    QFile file(path);
-    if (!file.exists())
-        return IniCheck::Harmless;
-    if (!OpenInput(file))
-        return IniCheck::Unreadable;
-    if (file.size() > kMaxIniBytes)
-        return IniCheck::Harmful;
-    return MayHoldHarmfulTypes(file.readAll(), codec != nullptr) ? IniCheck::Harmful : IniCheck::Harmless;
-}
-
-bool ReadIniValues(const QString& path, QVariantMap* values, const char* codec)
-{
-    QSettings file(path, QSettings::IniFormat);
-    SetCodec(file, codec);
-    const QStringList keys = file.allKeys();
-    if (file.status() != QSettings::NoError)
+    IniText ini;
+    ini.codec = codec;
+    if (!ReadIni(path, &ini))
         return false;
-    for (const QString& key : keys)
-        if (HasName(key) && file.contains(key))
-            values->insert(key, file.value(key));
+    for (auto value = ini.values.begin(); value != ini.values.end(); ++value)
+        if (!value.key().isEmpty() && value.key() == Normalised(value.key()))
+            values->insert(value.key(), ValueFromIni(ini.Value(*value), ini.codec));
     return true;
 }
 
-bool WriteIniValues(const QString& path, const QVariantMap& values, const char* codec)
+bool WriteIniValues(const QString& path, const QVariantMap& values, IniCodec codec)
 {
     if (values.isEmpty())
         return true;
@@ -113,7 +184,9 @@ bool WriteIniValues(const QString& path, const QVariantMap& values, const char* 
     // The file is read while its replacement is locked, so that of two programs neither undoes the other's
     // change.
     return ReplaceFile(path, [&](QIODevice& file) {
-        QByteArray content;
-        return MakeContent(path, values, codec, &content) && file.write(content) == content.size();
+        IniText ini;
+        ini.codec = codec;
+        const QByteArray changed = ReadIni(path, &ini) ? Changed(ini, values) : QByteArray();
+        return !changed.isEmpty() && changed.size() <= kMaxIniBytes && file.write(changed) == changed.size();
     });
 }

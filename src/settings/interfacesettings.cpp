@@ -8,7 +8,6 @@ namespace {
 
 const QString kEnableRotate = QStringLiteral("Function/EnableRotate");
 constexpr bool kEnableRotateDefault = false;
-constexpr const char* kCodec = "UTF-8";
 
 } // namespace
 
@@ -20,7 +19,7 @@ bool InterfaceSettings::Load(const QString& path)
     const QFileInfo info(path);
     if (!info.isFile())
         return false;
-    if (CheckIni(path, kCodec) != IniCheck::Harmless || !ReadIniValues(path, &m_values, kCodec)) {
+    if (!ReadIniValues(path, &m_values, IniCodec::Utf8)) {
         m_file.Hold();
         m_file.MakeWritable();
         return false;
@@ -32,7 +31,7 @@ bool InterfaceSettings::Load(const QString& path)
 bool InterfaceSettings::Save()
 {
     return m_file.Path().isEmpty()
-           || (m_file.MakeWritable() && WriteIniValues(m_file.Path(), m_values, kCodec));
+           || (m_file.MakeWritable() && WriteIniValues(m_file.Path(), m_values, IniCodec::Utf8));
 }
 
 QVariant InterfaceSettings::Value(const QString& key, const QVariant& standard) const

@@ -11,7 +11,6 @@
 #include "settings/archive.h"
 #include "settings/configdata.h"
 #include "settings/constantdata.h"
-#include "settings/inifile.h"
 #include "support/library.h"
 #include "support/testfolder.h"
 #include "support/wallbuilder.h"
@@ -19,12 +18,7 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
-#include <QColor>
-#include <QDateTime>
 #include <QDir>
-#include <QKeySequence>
-#include <QLineF>
-#include <QUrl>
 
 #include <functional>
 
@@ -324,121 +318,6 @@ TEST_F(LimitsTest, PipesAndDevicesAreRefusedAtEveryEntrance)
         EXPECT_FALSE(UnpackArchive(path, folder.Path(QStringLiteral("out"))));
         EXPECT_FALSE(config.Save() || config.SaveCustomizeConfig() || config.SaveSpecifiedIP());
         EXPECT_TRUE(QFileInfo::exists(path)) << "set aside";
-    }
-}
-
-TEST(IniLimitsTest, ScratchFoldersOfKilledProgramsGoAfterAnHour)
-{
-    TestFolder folder;
-    const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\na=1\n");
-    const QDir temporary(QDir::tempPath());
-    for (const char* name : {"OrvanScratch-longer", "OrvanScratch-recent"}) {
-        const QString left = temporary.filePath(QLatin1String(name));
-        ASSERT_TRUE(QDir().mkpath(left));
-        QFile file(left + QStringLiteral("/read.ini"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
-    const timespec longAgo[2] = {{1000000000, 0}, {1000000000, 0}};
-    const QByteArray old = QFile::encodeName(temporary.filePath(QStringLiteral("OrvanScratch-longer")));
-    ASSERT_EQ(utimensat(AT_FDCWD, old.constData(), longAgo, 0), 0);
-    CConfigData config;
-    EXPECT_TRUE(config.Load_UI(path) && config.Save_UI());
-    EXPECT_FALSE(temporary.exists(QStringLiteral("OrvanScratch-longer")));
-    EXPECT_TRUE(temporary.exists(QStringLiteral("OrvanScratch-recent")));
-}
-
-TEST(IniLimitsTest, ValuesThatWouldNotBeReadAgainAreNotWritten)
-{
-    TestFolder folder;
-    const QString path = folder.Path(QStringLiteral("a.ini"));
-    CConfigData config;
-    config.Load_UI(path);
-    const QVariantMap values = {
-        {QStringLiteral("bool"), true},
-        {QStringLiteral("colour"), QColor(1, 2, 3)},
-        {QStringLiteral("float"), QVariant::fromValue(1.5F)},
-        {QStringLiteral("keys"), QKeySequence(Qt::CTRL + Qt::Key_A)},
-        {QStringLiteral("line"), QLineF(1, 2, 3, 4)},
-        {QStringLiteral("list"), QVariantList{QDate(2026, 1, 2), QTime(3, 4), QStringLiteral("@a")}},
-        {QStringLiteral("rect"), QRect(1, 2, 3, 4)},
-        {QStringLiteral("text"), QStringLiteral("a@b, \\@c\n\"d\"")},
-        {QStringLiteral("text that looks typed"), QStringLiteral("@Variant(b)")},
-        {QStringLiteral("text with a type inside"), QStringLiteral("a屏 @Variant(b)")},
-        {QStringLiteral("text with NUL that looks typed"), QStringLiteral("@DateTime(") + QChar(0)},
-        {QStringLiteral("time"), QDateTime(QDate(2026, 1, 2), QTime(3, 4), Qt::UTC)},
-        {QStringLiteral("url"), QUrl(QStringLiteral("http://a.example/b"))},
-    };
-    for (auto value = values.begin(); value != values.end(); ++value)
-        config.SetUIValue(value.key(), value.value());
-    ASSERT_TRUE(config.Save_UI());
-    CConfigData again;
-    ASSERT_TRUE(again.Load_UI(path));
-    for (auto value = values.begin(); value != values.end(); ++value)
-        EXPECT_EQ(again.GetUIValue(value.key()), value.value()) << value.key().toStdString();
-
-    again.SetUIValue(QStringLiteral("map"), QVariantMap{{QStringLiteral("a"), 1}});
-    EXPECT_FALSE(again.Save_UI());
-    ASSERT_TRUE(config.Load_UI(path));
-    EXPECT_EQ(config.GetUIValue(QStringLiteral("rect")), QRect(1, 2, 3, 4));
-}
-
-TEST(IniLimitsTest, KeysOfEmptyPartsDoNotCostTheOthers)
-{
-    TestFolder folder;
-    const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\na=1\n[s]\n/=2\nb=3\n");
-    CConfigData config;
-    ASSERT_TRUE(config.Load_UI(path));
-    config.SetUIValue(QStringLiteral("/s//c/"), 4);
-    ASSERT_TRUE(config.Save_UI());
-    CConfigData again;
-    ASSERT_TRUE(again.Load_UI(path));
-    for (const char* key : {"a", "s/b", "s/c"})
-        EXPECT_TRUE(again.GetUIValue(QLatin1String(key)).isValid()) << key;
-}
-
-TEST(IniLimitsTest, TypedValuesAreReadOnlyWhereTheyAreHarmless)
-{
-    TestFolder folder;
-    const QByteArray list =
-        QByteArray("\\0\\0\\0\\t\\0\\0\\0\\x1").repeated(100000); // each of one item, the next one
-    const QByteArray time = "@DateTime(\\0\\0\\0\\x10\\0\\0\\0\\0\\0\\0%\\x8c\\x1 \\0\\0\\0";
-    const QByteArray color = "@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)";
-    const struct
-    {
-        QByteArray text;
-        bool harmless;
-    } cases[] = {
-        {"a=plain", true},
-        {"a=@Size(1 2)\nb=me@Vienna", true},
-        {"a=" + color, true},
-        {"a=a, \"@Variant\", " + color, true},
-        {"a=@Variant(\\0\\0\\0L\\xff\\xff\\xff\\xff)", true}, // more keys than there are
-        {"a=C:\\\\@home, C:\\\\x40", true},
-        {"a=" + QByteArray("\\@").repeated(1000000), true},
-        {"a=\xef\xbb\xbf@Variant(" + list + ")", false},
-        {"a=b\\,\\q, \t@Variant(" + list + ")", false},
-        {"a=@DateTime(" + list + ")", false},
-        {"a=" + time + "\\x2\\0\\0\\x1\\0)", true},
-        {"a=" + time + "\\x3\\0\\0\\0\\x4\\0U)", false},
-        {"a=" + time + "\\x7)", false}, // of which the low bits are taken
-        {"a=" + QByteArray(time).replace("\\x1 ", "\\q\\q") + "\\0\\0\\x7)", false},
-        {"a=@Variant(" + list + ")", false},
-        {"a=@Variant(" + list + ")\na=1", false},
-        {"[]\na=@Variant(" + list + ")", false},
-        {"a=\\(@Variant(" + list + ")", false},
-        {"a=\"a, b\", \\x40Variant(" + list + ")", false},
-        {"a=\\x10040V\\x10061\\162iant(" + list + ")", false},
-        {"a=\"@Vari\\\r\n\\qa\"nt(" + list + ")\"", false},
-    };
-    for (const auto& given : cases) {
-        const QString path = folder.Write(QStringLiteral("a.ini"), "[General]\nb=1\n" + given.text + '\n');
-        EXPECT_EQ(CheckIni(path, "UTF-8") == IniCheck::Harmless, given.harmless)
-            << given.text.left(40).toStdString();
-        CConfigData config;
-        EXPECT_EQ(config.Load_UI(path), given.harmless);
-        EXPECT_TRUE(config.Save_UI());
-        EXPECT_EQ(QFile::exists(path + QLatin1String(".bak")), !given.harmless);
-        QFile::remove(path + QLatin1String(".bak"));
     }
 }
 
