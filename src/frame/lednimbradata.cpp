@@ -40,7 +40,7 @@ void LedNimbraData_Init()
     CreateMissing(g_constant);
     CreateMissing(g_runtime);
     CreateMissing(g_monitor);
-    InstallLookups();
+    InstallLookups({*g_project, *g_config, *g_runtime, *g_monitor});
 
     g_config->Load(CConstantData::GetSysConfigDir() + QStringLiteral("SystemConfig.xml"));
     g_config->UpdateErrorIPList();
@@ -53,6 +53,7 @@ void LedNimbraData_Init()
 
 void LedNimbraData_Release()
 {
+    RemoveLookups();
     // Not the reverse of the creation; hosts rely on this order.
     Destroy(g_monitor);
     Destroy(g_config);
@@ -60,7 +61,6 @@ void LedNimbraData_Release()
     Destroy(g_runtime);
     Destroy(g_projects);
     Destroy(g_project);
-    RemoveLookups();
 }
 
 CProjectData* GetProjectData()

@@ -1,6 +1,5 @@
 #include "frame/lookups.h"
 
-#include "frame/lednimbradata.h"
 #include "frame/runtimedata.h"
 #include "layout/layoutlookup.h"
 #include "layout/sender.h"
@@ -12,146 +11,95 @@
 #include "settings/configdata.h"
 #include "settings/settingslookup.h"
 
+#include <memory>
+
 namespace {
 
-class SettingsAnswers : public SettingsLookup
+class Answers final : public SettingsLookup, public LayoutLookup, public MonitorLookup, public ProjectLookup
 {
 public:
-    ELanguageType Language() const override
-    {
-        return GetConfigData() ? GetConfigData()->GetLanguageType() : SettingsLookup::Language();
-    }
-    bool IsMonitoring() const override { return GetMonitorData() && GetMonitorData()->IsMonitoring(); }
-    bool StoredReadOnly(int iface) const override
-    {
-        return GetMonitorData() && GetMonitorData()->GetInterfaceReadOnly(iface);
-    }
-    int CurrentInterface() const override
-    {
-        return GetRuntimeData() ? GetRuntimeData()->GetCurInterfaceDlg() : SettingsLookup::CurrentInterface();
-    }
-    void SetCurrentInterface(int iface) override
-    {
-        if (GetRuntimeData())
-            GetRuntimeData()->SetCurInterfaceDlg(iface);
-    }
-    int VideoSourceSubDlg() const override
-    {
-        return GetRuntimeData() ? GetRuntimeData()->GetVideoSourceSubDlg() : 0;
-    }
-    int DesignSubDlg() const override { return GetRuntimeData() ? GetRuntimeData()->GetDesignSubDlg() : 0; }
-    void SetDesignSubDlg(int dialog) override
-    {
-        if (GetRuntimeData())
-            GetRuntimeData()->SetDesignSubDlg(dialog);
-    }
-    int CalibrationSubDlg() const override
-    {
-        return GetRuntimeData() ? GetRuntimeData()->GetCalibrationSubDlg() : 0;
-    }
-    int SoftEdgeSubDlg() const override
-    {
-        return GetRuntimeData() ? GetRuntimeData()->GetSoftEdgeSubDlg() : 0;
-    }
-};
+    explicit Answers(const SharedObjects& objects)
+        : m_project(objects.project), m_config(objects.config), m_runtime(objects.runtime),
+          m_monitor(objects.monitor)
+    {}
 
-class LayoutAnswers : public LayoutLookup
-{
-public:
-    bool IsRotateEnabled() const override { return GetConfigData() && GetConfigData()->IsEnableRotate(); }
+    // settings
+    ELanguageType Language() const override { return m_config.GetLanguageType(); }
+    bool IsMonitoring() const override { return m_monitor.IsMonitoring(); }
+    bool StoredReadOnly(int iface) const override { return m_monitor.GetInterfaceReadOnly(iface); }
+    int CurrentInterface() const override { return m_runtime.GetCurInterfaceDlg(); }
+    void SetCurrentInterface(int iface) override { m_runtime.SetCurInterfaceDlg(iface); }
+    int VideoSourceSubDlg() const override { return m_runtime.GetVideoSourceSubDlg(); }
+    int DesignSubDlg() const override { return m_runtime.GetDesignSubDlg(); }
+    void SetDesignSubDlg(int dialog) override { m_runtime.SetDesignSubDlg(dialog); }
+    int CalibrationSubDlg() const override { return m_runtime.GetCalibrationSubDlg(); }
+    int SoftEdgeSubDlg() const override { return m_runtime.GetSoftEdgeSubDlg(); }
+
+    // layout
+    bool IsRotateEnabled() const override { return m_config.IsEnableRotate(); }
     bool FindProduct(const SMD5& type, Product* found) const override
     {
-        CProduct* product = GetRuntimeData()
-                                ? GetRuntimeData()->GetProductDirectorySet()->FindProductFromGuid(type)
-                                : nullptr;
+        const CProduct* product = Products()->FindProductFromGuid(type);
         if (product && found)
             *found = {product->GetName(), product->IsMulti(), product->IsMultiFlagSet()};
         return product != nullptr;
     }
     CSender* FindSender(const QUuid& id) const override
     {
-        return GetProjectData() ? GetProjectData()->GetSender(GetProjectData()->GetScIndexByID(id)) : nullptr;
+        return m_project.GetSender(m_project.GetScIndexByID(id));
     }
-    CSender* CurrentSender() const override
-    {
-        return GetProjectData() ? GetProjectData()->GetCurrentSender() : nullptr;
-    }
-    QList<CSender*> Senders() const override
-    {
-        return GetProjectData() ? GetProjectData()->GetSenders() : QList<CSender*>();
-    }
+    CSender* CurrentSender() const override { return m_project.GetCurrentSender(); }
+    QList<CSender*> Senders() const override { return m_project.GetSenders(); }
     void AddParameterFile(const QString& name, const SMD5& type) override
     {
-        if (GetProjectData())
-            GetProjectData()->AddParameterFileInfo(name, type);
+        m_project.AddParameterFileInfo(name, type);
     }
-};
 
-class MonitorAnswers : public MonitorLookup
-{
-public:
-    bool IsInterfaceReadOnly(int iface) const override
-    {
-        return GetConfigData() && GetConfigData()->GetReadOnlyState(iface);
-    }
+    // monitoring
+    bool IsInterfaceReadOnly(int iface) const override { return m_config.GetReadOnlyState(iface); }
     void SetInterfaceReadOnly(int iface, bool readOnly) override
     {
-        if (GetConfigData())
-            GetConfigData()->SetReadOnlyState(iface, readOnly);
+        m_config.SetReadOnlyState(iface, readOnly);
     }
+
+    // project
+    bool IsOpenDocument(const CProjectData* project) const override { return project == &m_project; }
+    CProductDirectorySet* Products() const override { return m_runtime.GetProductDirectorySet(); }
+    CProjectUndoRedo* History() const override { return m_runtime.GetProjectUndoRedo(); }
+    CMonitorData* Monitor() const override { return &m_monitor; }
+    SImpExpPrepareInfo ImpExpPrepareInfo() const override { return *m_runtime.GetImpExpPrepareInfo(); }
+    int DetectStrategy() const override { return m_config.GetDetectStrategy(); }
+    QUuid AddGroupId() const override { return m_runtime.GetAddGroupId(); }
+    int CurSelectNode() const override { return m_runtime.GetCurSelectNode(); }
+    void SetCurSelectNode(int node) override { m_runtime.SetCurSelectNode(node); }
+
+private:
+    CProjectData& m_project;
+    CConfigData& m_config;
+    CRuntimeData& m_runtime;
+    CMonitorData& m_monitor;
 };
 
-class ProjectAnswers : public ProjectLookup
+std::unique_ptr<Answers> g_answers;
+
+void Install(Answers* answers)
 {
-public:
-    bool IsOpenDocument(const CProjectData* project) const override { return project == ::GetProjectData(); }
-    CProductDirectorySet* Products() const override
-    {
-        return GetRuntimeData() ? GetRuntimeData()->GetProductDirectorySet() : nullptr;
-    }
-    CProjectUndoRedo* History() const override
-    {
-        return GetRuntimeData() ? GetRuntimeData()->GetProjectUndoRedo() : nullptr;
-    }
-    CMonitorData* Monitor() const override { return GetMonitorData(); }
-    SImpExpPrepareInfo ImpExpPrepareInfo() const override
-    {
-        return GetRuntimeData() ? *GetRuntimeData()->GetImpExpPrepareInfo() : SImpExpPrepareInfo();
-    }
-    int DetectStrategy() const override { return GetConfigData() ? GetConfigData()->GetDetectStrategy() : 0; }
-    QUuid AddGroupId() const override
-    {
-        return GetRuntimeData() ? GetRuntimeData()->GetAddGroupId() : QUuid();
-    }
-    int CurSelectNode() const override
-    {
-        return GetRuntimeData() ? GetRuntimeData()->GetCurSelectNode() : -1;
-    }
-    void SetCurSelectNode(int node) override
-    {
-        if (GetRuntimeData())
-            GetRuntimeData()->SetCurSelectNode(node);
-    }
-};
+    SetSettingsLookup(answers);
+    SetLayoutLookup(answers);
+    SetMonitorLookup(answers);
+    SetProjectLookup(answers);
+}
 
 } // namespace
 
-void InstallLookups()
+void InstallLookups(const SharedObjects& objects)
 {
-    static SettingsAnswers settings;
-    static LayoutAnswers layout;
-    static MonitorAnswers monitor;
-    static ProjectAnswers project;
-    SetSettingsLookup(&settings);
-    SetLayoutLookup(&layout);
-    SetMonitorLookup(&monitor);
-    SetProjectLookup(&project);
+    g_answers = std::make_unique<Answers>(objects);
+    Install(g_answers.get());
 }
 
 void RemoveLookups()
 {
-    SetSettingsLookup(nullptr);
-    SetLayoutLookup(nullptr);
-    SetMonitorLookup(nullptr);
-    SetProjectLookup(nullptr);
+    Install(nullptr);
+    g_answers.reset();
 }

@@ -22,30 +22,30 @@ public:
     CRuntimeData(const CRuntimeData&) = delete;
     CRuntimeData& operator=(const CRuntimeData&) = delete;
 
-    CProductDirectorySet* GetProductDirectorySet() const; ///< [ref]
-    CProjectUndoRedo* GetProjectUndoRedo() const;         ///< [ref] of the open document
-    CDesignBackground* GetDesignBackground() const;       ///< [ref]
+    CProductDirectorySet* GetProductDirectorySet() const { return m_products.get(); } ///< [ref]
+    CProjectUndoRedo* GetProjectUndoRedo() const { return m_history.get(); } ///< [ref] of the open document
+    CDesignBackground* GetDesignBackground() const { return m_designBackground.get(); } ///< [ref]
 
     /// [ref] The choice of processors for the next export or import of parameter files.
-    SImpExpPrepareInfo* GetImpExpPrepareInfo();
-    void SetImpExpPrepareInfo(const SImpExpPrepareInfo& info);
+    SImpExpPrepareInfo* GetImpExpPrepareInfo() { return &m_impExpPrepareInfo; }
+    void SetImpExpPrepareInfo(const SImpExpPrepareInfo& info) { m_impExpPrepareInfo = info; }
 
-    QUuid GetAddGroupId() const; ///< sender group that new senders join, null: none
-    void SetAddGroupId(const QUuid& id);
-    int GetCurSelectNode() const; ///< sender selected in the host's tree, -1: none
-    void SetCurSelectNode(int node);
+    QUuid GetAddGroupId() const { return m_addGroupId; } ///< sender group that new senders join, null: none
+    void SetAddGroupId(const QUuid& id) { m_addGroupId = id; }
+    int GetCurSelectNode() const { return m_curSelectNode; } ///< sender selected in the host's tree, -1: none
+    void SetCurSelectNode(int node) { m_curSelectNode = node; }
 
     // current window and its sub-dialogs
-    int GetCurInterfaceDlg() const; ///< an EInterfaceDlg
-    void SetCurInterfaceDlg(int iface);
-    int GetVideoSourceSubDlg() const;
-    void SetVideoSourceSubDlg(int dialog);
-    int GetDesignSubDlg() const;
-    void SetDesignSubDlg(int dialog);
-    int GetCalibrationSubDlg() const;
-    void SetCalibrationSubDlg(int dialog);
-    int GetSoftEdgeSubDlg() const;
-    void SetSoftEdgeSubDlg(int dialog);
+    int GetCurInterfaceDlg() const { return m_curInterface; } ///< an EInterfaceDlg
+    void SetCurInterfaceDlg(int iface) { m_curInterface = iface; }
+    int GetVideoSourceSubDlg() const { return m_videoSourceSubDlg; }
+    void SetVideoSourceSubDlg(int dialog) { m_videoSourceSubDlg = dialog; }
+    int GetDesignSubDlg() const { return m_designSubDlg; }
+    void SetDesignSubDlg(int dialog) { m_designSubDlg = dialog; }
+    int GetCalibrationSubDlg() const { return m_calibrationSubDlg; }
+    void SetCalibrationSubDlg(int dialog) { m_calibrationSubDlg = dialog; }
+    int GetSoftEdgeSubDlg() const { return m_softEdgeSubDlg; }
+    void SetSoftEdgeSubDlg(int dialog) { m_softEdgeSubDlg = dialog; }
 
 private:
     std::unique_ptr<CProductDirectorySet> m_products;

@@ -53,13 +53,3 @@ const SDetectReceiverData* CMonitorDetectData::GetRcvDataByIndex(int index) cons
 {
     return index >= 0 && index < m_receivers.size() ? m_receivers.at(index).get() : nullptr;
 }
-
-void CMonitorDetectData::SetStarLink(bool star)
-{
-    m_starLink = star;
-}
-
-bool CMonitorDetectData::IsStarLink() const
-{
-    return m_starLink;
-}

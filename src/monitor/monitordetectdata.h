@@ -89,8 +89,8 @@ public:
     const SDetectReceiverData* GetRcvDataByIndex(int index) const;
 
     // wiring
-    void SetStarLink(bool star); ///< receiving cards hang on hubs instead of in a chain
-    bool IsStarLink() const;
+    void SetStarLink(bool star) { m_starLink = star; } ///< receiving cards hang on hubs instead of in a chain
+    bool IsStarLink() const { return m_starLink; }
 
 private:
     QHash<unsigned int, std::shared_ptr<const SDetectSenderData>> m_senders;

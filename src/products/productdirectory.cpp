@@ -11,16 +11,6 @@ CProductDirectory::~CProductDirectory()
     qDeleteAll(m_subDirs);
 }
 
-QString CProductDirectory::GetFolderPath() const
-{
-    return m_folderPath;
-}
-
-void CProductDirectory::SetFolderPath(const QString& path)
-{
-    m_folderPath = path;
-}
-
 QString CProductDirectory::GetFileDirName() const
 {
     const int end = m_folderPath.endsWith(QLatin1Char('/')) ? m_folderPath.size() - 1 : m_folderPath.size();
@@ -28,16 +18,6 @@ QString CProductDirectory::GetFileDirName() const
         return {};
     const int begin = m_folderPath.lastIndexOf(QLatin1Char('/'), end - 1) + 1;
     return m_folderPath.mid(begin, end - begin);
-}
-
-bool CProductDirectory::IsExpanded() const
-{
-    return m_expanded;
-}
-
-void CProductDirectory::SetExpanded(bool expanded)
-{
-    m_expanded = expanded;
 }
 
 namespace {
@@ -63,16 +43,6 @@ void CProductDirectory::CopyExpandFlag(const CProductDirectory* other)
     VisitFolders<CProductDirectory>(*this, [&flags](CProductDirectory& directory) {
         directory.m_expanded = flags.value(directory.m_folderPath, directory.m_expanded);
     });
-}
-
-const QList<CProduct*>& CProductDirectory::GetProducts() const
-{
-    return m_products;
-}
-
-const QList<CProductDirectory*>& CProductDirectory::GetSubDirs() const
-{
-    return m_subDirs;
 }
 
 int CProductDirectory::GetProductCount() const

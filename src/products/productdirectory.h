@@ -18,17 +18,17 @@ public:
     virtual ~CProductDirectory();
 
     // folder
-    QString GetFolderPath() const; ///< ends with "/"
-    void SetFolderPath(const QString& path);
-    QString GetFileDirName() const; ///< last component of the path
-    bool IsExpanded() const;        ///< in the host's tree view
-    void SetExpanded(bool expanded);
+    QString GetFolderPath() const { return m_folderPath; } ///< ends with "/"
+    void SetFolderPath(const QString& path) { m_folderPath = path; }
+    QString GetFileDirName() const;                ///< last component of the path
+    bool IsExpanded() const { return m_expanded; } ///< in the host's tree view
+    void SetExpanded(bool expanded) { m_expanded = expanded; }
     void CopyExpandFlag(const CProductDirectory* other); ///< for each folder that is in both trees
 
     // content
-    const QList<CProduct*>& GetProducts() const;         ///< [ref] of this folder alone
-    const QList<CProductDirectory*>& GetSubDirs() const; ///< [ref]
-    int GetProductCount() const;                         ///< sub-folders included
+    const QList<CProduct*>& GetProducts() const { return m_products; }        ///< [ref] of this folder alone
+    const QList<CProductDirectory*>& GetSubDirs() const { return m_subDirs; } ///< [ref]
+    int GetProductCount() const;                                              ///< sub-folders included
     bool AddProduct(CProduct* product); ///< [own] appended; false, and not taken, when null or owned already
     /// [own] appended; false, and not taken, when null, owned already, or this node lies in it.
     bool AddSubProductDirectory(CProductDirectory* directory);
@@ -52,7 +52,7 @@ protected:
     void Swap(CProductDirectory& other); ///< everything but the place in a tree
 
 private:
-    friend class CProduct;
+    friend class CProduct; // tells of a new digest
 
     void CopyContent(const CProductDirectory& other);
     void Adopt();

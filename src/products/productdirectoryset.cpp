@@ -57,11 +57,6 @@ int CProductDirectorySet::LoadProductInfoFolderEx(const QString& folder, CProduc
     return scan.ScanFolder(m_scannedFolder, *node);
 }
 
-QString CProductDirectorySet::GetScannedFolder() const
-{
-    return m_scannedFolder;
-}
-
 unsigned int CProductDirectorySet::SnatchMenuID()
 {
     return m_nextMenuId++;

@@ -27,9 +27,9 @@ public:
     /// Adds a folder's content, all levels, to a node and returns the number of products. A file that equals
     /// another one of this tree or scan, byte for byte, is deleted from disk. Links are not followed.
     int LoadProductInfoFolderEx(const QString& folder, CProductDirectory* node, unsigned int& nextMenuId);
-    QString GetScannedFolder() const; ///< the folder scanned last
-    unsigned int SnatchMenuID();      ///< a fresh menu id, for a product that no scan found
-    static void UpdateProductDir();   ///< moves an older product folder's content into the current one
+    QString GetScannedFolder() const { return m_scannedFolder; } ///< the folder scanned last
+    unsigned int SnatchMenuID();    ///< a fresh menu id, for a product that no scan found
+    static void UpdateProductDir(); ///< moves an older product folder's content into the current one
 
     // searches in the whole tree: [ref], null when there is none
     CProduct* FindProductFromGuid(const SMD5& md5) const override;

@@ -24,11 +24,6 @@ void SettingsFile::SetPath(const QString& path)
     m_held = false;
 }
 
-void SettingsFile::Hold()
-{
-    m_held = true;
-}
-
 bool SettingsFile::MakeWritable()
 {
     m_held = m_held && !MoveAside(m_path);

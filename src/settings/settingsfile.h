@@ -10,7 +10,7 @@ public:
     void SetPath(const QString& path);
     const QString& Path() const { return m_path; }
 
-    void Hold(); ///< what stands there could not be understood
+    void Hold() { m_held = true; } ///< what stands there could not be understood
 
     /// Moves aside what is held; to be asked before each save. False when there is no path, or while that
     /// cannot be done. There is nothing to hold in a file that is missing or empty.
