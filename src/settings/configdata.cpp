@@ -1,9 +1,10 @@
 #include "settings/configdata.h"
 
-#include "settings/configdescription.h"
+#include "common/canvaslimits.h"
 #include "settings/configfile.h"
 #include "settings/customizeconfig.h"
 #include "settings/folders.h"
+#include "settings/hotkeys.h"
 #include "settings/inifile.h"
 #include "settings/interfacesettings.h"
 #include "settings/settingsfile.h"
@@ -38,15 +39,13 @@ bool IsHotkey(int mode, int index)
 CConfigData::CConfigData()
     : m_file(std::make_unique<SettingsFile>()), m_specifiedIps(std::make_unique<SpecifiedIpList>()),
       m_interface(std::make_unique<InterfaceSettings>()), m_customize(std::make_unique<CustomizeConfig>())
-{
-    SetConfigDefaults(&m_items);
-}
+{}
 
 CConfigData::~CConfigData() = default;
 
 bool CConfigData::SetToDefault()
 {
-    SetConfigDefaults(&m_items);
+    m_items = SConfigItems();
     WritePrintWatermark();
     return true;
 }
@@ -194,9 +193,7 @@ bool CConfigData::SetHotkey(int mode, int index, const SHotkey& hotkey)
 
 void CConfigData::SetHotkeysToDefault()
 {
-    SConfigItems defaults;
-    SetConfigDefaults(&defaults);
-    m_items.hotkeys = defaults.hotkeys;
+    m_items.hotkeys = GetDefaultHotkeys();
 }
 
 int CConfigData::FindHotkey(int mode, const QString& hotkey) const

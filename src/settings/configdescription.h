@@ -1,14 +1,8 @@
 #pragma once
 
-#include "common/canvaslimits.h"
 #include "settings/configitems.h"
-#include "settings/hotkeys.h"
-#include "settings/languagetype.h"
 
 #include <string>
-
-constexpr float kMinLayoutSize = 30;
-constexpr float kMaxLayoutSize = 70;
 
 inline std::string Numbered(const char* stem, int number)
 {
@@ -32,19 +26,16 @@ constexpr ReadOnlyName kReadOnlyNames[kInterfaceCount] = {
     {"Monitoring", InterfaceMonitoring},
 };
 
-constexpr const char* kDefaultUiStyles[][2] = {{"StyleLight", "Style Light"}, {"StyleDark", "Style Dark"}};
-constexpr int kDefaultUiStyleCount = 2;
-
 template <class Fields> void DescribeGains(Fields& f, SConfigItems& r)
 {
     f.Begin("CurrenGain");
     for (int i = 0; i < kCurrentGains; ++i) {
         SCurrentGain& gain = r.currentGains[size_t(i)];
         f.Begin(Numbered("CurrenGain_", i + 1).c_str());
-        f.Attribute("Red", gain.red, 1.0f);
-        f.Attribute("Green", gain.green, 1.0f);
-        f.Attribute("Blue", gain.blue, 1.0f);
-        f.Attribute("Tip", gain.tip, QString::number(i + 1));
+        f.Attribute("Red", gain.red);
+        f.Attribute("Green", gain.green);
+        f.Attribute("Blue", gain.blue);
+        f.Attribute("Tip", gain.tip);
         f.End();
     }
     f.End();
@@ -53,24 +44,23 @@ template <class Fields> void DescribeGains(Fields& f, SConfigItems& r)
 template <class Fields> void DescribeBrightTable(Fields& f, SBrightTableInfo& r)
 {
     f.Begin("BrightTableInfo");
-    f.Attribute("Gamma", r.gamma, 2.2);
-    f.Attribute("Sensitivity", r.sensitivity, 50.0);
-    f.Attribute("Sensor_Min", r.sensorMin, 0.0);
-    f.Attribute("Sensor_Max", r.sensorMax, 100.0);
-    f.Attribute("YStart", r.yStart, 0.0);
-    f.Attribute("YEnd", r.yEnd, 100.0);
+    f.Attribute("Gamma", r.gamma);
+    f.Attribute("Sensitivity", r.sensitivity);
+    f.Attribute("Sensor_Min", r.sensorMin);
+    f.Attribute("Sensor_Max", r.sensorMax);
+    f.Attribute("YStart", r.yStart);
+    f.Attribute("YEnd", r.yEnd);
     f.End();
 }
 
 template <class Fields> void DescribeUiStyles(Fields& f, SConfigItems& r)
 {
     f.Begin("UiStyleEx");
-    f.Count("UiCount", "UiStyle", r.uiStyles, kDefaultUiStyleCount, kMaxUiStyles);
-    f.Item("UiCurrent", r.currentUiStyle, 1);
+    f.Count("UiCount", "UiStyle", r.uiStyles, kMaxUiStyles);
+    f.Item("UiCurrent", r.currentUiStyle);
     for (int i = 0; i < r.uiStyles.size(); ++i) {
         f.Begin(Numbered("UiStyle", i + 1).c_str());
-        f.Attribute("Path", r.uiStyles[i].key,
-                    QLatin1String(i < kDefaultUiStyleCount ? kDefaultUiStyles[i][0] : ""));
+        f.Attribute("Path", r.uiStyles[i].key);
         f.End();
     }
     f.End();
@@ -80,56 +70,54 @@ template <class Fields> void DescribeHotkeys(Fields& f, SConfigItems& r)
 {
     f.Begin("HotkeyQT");
     for (int i = 0; i < kHotkeyModes * kHotkeysInMode; ++i) {
-        const int mode = i / kHotkeysInMode;
-        const int index = i % kHotkeysInMode;
-        const SHotkey standard = GetDefaultHotkey(mode, index);
-        SHotkey& hotkey = r.hotkeys[size_t(mode)][size_t(index)];
+        SHotkey& hotkey = r.hotkeys[size_t(i / kHotkeysInMode)][size_t(i % kHotkeysInMode)];
+        QString enable = QLatin1String(hotkey.enable ? "TRUE" : "FALSE");
         f.Begin(Numbered("Item", i + 1).c_str());
-        f.Word("Enable", hotkey.enable, standard.enable);
-        f.Attribute("Operation", hotkey.operation, standard.operation);
-        f.Attribute("HotKeyValue", hotkey.hotkey, standard.hotkey);
-        f.Attribute("Description", hotkey.description, standard.description);
+        f.Attribute("Enable", enable);
+        f.Attribute("Operation", hotkey.operation);
+        f.Attribute("HotKeyValue", hotkey.hotkey);
+        f.Attribute("Description", hotkey.description);
         f.End();
+        hotkey.enable = enable.trimmed().compare(QLatin1String("TRUE"), Qt::CaseInsensitive) == 0;
     }
     f.End();
 }
 
-/// The settings file, in its order: each item's name, value, default and limits.
+/// The settings file, in its order.
 template <class Fields> void DescribeConfig(Fields& f, SConfigItems& r)
 {
-    f.Item("AutoSelectLanguage", r.autoSelectLanguage, false);
-    f.Item("Language", r.language, int(GetSystemLanguage()));
-    f.Item("ShowGrid", r.showGrid, true);
-    f.Item("ShowTileSort", r.showTileSort, false);
-    f.Item("SoftEdgeSheet", r.softEdgeSheet, false);
-    f.Item("SetEdgePixel", r.setEdgePixel, false);
-    f.Item("DisTime", r.disTime, 10);
-    f.Item("EnableAttraction", r.enableAttraction, true);
-    f.DefaultOutside("AttractionDis", r.attractionDis, 20, 8, 30);
-    f.Item("EnableFahrenheit", r.enableFahrenheit, false);
-    f.Item("EnableGamutRGB", r.enableGamutRgb, true);
-    f.Item("EnableGamutAutoCalculate", r.enableGamutAutoCalculate, false);
-    f.Item("OpenBackupProject", r.openBackupProject, true);
-    f.Item("SendAfterModify", r.sendAfterModify, false);
-    f.Item("SupportMutiTileType", r.supportMutiTileType, true);
-    f.Item("ShowPowerSupply", r.showPowerSupply, false);
-    f.Hundredths("DeviceInformationLayoutSize", r.deviceInformationLayoutSize, 40, kMinLayoutSize,
-                 kMaxLayoutSize);
-    f.OneOrTwo("BeaconNoBorder", r.beaconNoBorder, 1);
-    f.Item("DetectStrategy", r.detectStrategy, 0);
+    f.Item("AutoSelectLanguage", r.autoSelectLanguage);
+    f.Item("Language", r.language);
+    f.Item("ShowGrid", r.showGrid);
+    f.Item("ShowTileSort", r.showTileSort);
+    f.Item("SoftEdgeSheet", r.softEdgeSheet);
+    f.Item("SetEdgePixel", r.setEdgePixel);
+    f.Item("DisTime", r.disTime);
+    f.Item("EnableAttraction", r.enableAttraction);
+    f.Whole("AttractionDis", r.attractionDis, 1);
+    f.Item("EnableFahrenheit", r.enableFahrenheit);
+    f.Item("EnableGamutRGB", r.enableGamutRgb);
+    f.Item("EnableGamutAutoCalculate", r.enableGamutAutoCalculate);
+    f.Item("OpenBackupProject", r.openBackupProject);
+    f.Item("SendAfterModify", r.sendAfterModify);
+    f.Item("SupportMutiTileType", r.supportMutiTileType);
+    f.Item("ShowPowerSupply", r.showPowerSupply);
+    f.Whole("DeviceInformationLayoutSize", r.deviceInformationLayoutSize, 100);
+    f.Item("BeaconNoBorder", r.beaconNoBorder);
+    f.Item("DetectStrategy", r.detectStrategy);
     f.Begin("CustomerTileSize");
-    f.Clamped("Width", r.customerTileWidth, 128, 1, kMaxCabinetSize);
-    f.Clamped("Height", r.customerTileHeight, 128, 1, kMaxCabinetSize);
+    f.Item("Width", r.customerTileWidth);
+    f.Item("Height", r.customerTileHeight);
     f.End();
     f.Begin("ReadOnlyModeState");
     for (const ReadOnlyName& state : kReadOnlyNames)
-        f.Item(state.name, r.readOnly[size_t(state.interface)], false);
+        f.Item(state.name, r.readOnly[size_t(state.interface)]);
     f.End();
     DescribeGains(f, r);
     for (int i = 0; i < kProjectRecords; ++i)
-        f.Item(Numbered("ProjectRecord", i + 1).c_str(), r.projectRecords[size_t(i)], QString());
+        f.Item(Numbered("ProjectRecord", i + 1).c_str(), r.projectRecords[size_t(i)]);
     DescribeBrightTable(f, r.brightTable);
-    f.Item("VisableAutoBrightAdjust", r.visableAutoBrightAdjust, false);
+    f.Item("VisableAutoBrightAdjust", r.visableAutoBrightAdjust);
     DescribeUiStyles(f, r);
     DescribeHotkeys(f, r);
 }

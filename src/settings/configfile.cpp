@@ -1,43 +1,20 @@
 #include "settings/configfile.h"
 
 #include "common/atomicfile.h"
+#include "common/canvaslimits.h"
 #include "common/fieldtext.h"
 #include "common/xmldom.h"
 #include "common/xmlwriter.h"
 #include "settings/configdescription.h"
+#include "settings/hotkeys.h"
 
 #include <QDomElement>
-#include <QSet>
 #include <QVector>
 
 namespace {
 
 constexpr const char* kRootName = "LedControlConfig";
 constexpr const char* kConfigName = "Config";
-constexpr const char* kTrue = "TRUE";
-constexpr const char* kFalse = "FALSE";
-
-/// Sets every item to its default.
-class ConfigDefaults
-{
-public:
-    void Begin(const char*) {}
-    void End() {}
-    template <class T, class D> void Item(const char*, T& value, const D& standard) { value = standard; }
-    template <class T, class D> void Attribute(const char*, T& value, const D& standard) { value = standard; }
-    void Word(const char*, bool& value, bool standard) { value = standard; }
-    void Clamped(const char*, int& value, int standard, int, int) { value = standard; }
-    void DefaultOutside(const char*, double& value, double standard, double, double) { value = standard; }
-    void Hundredths(const char*, float& value, float standard, float, float) { value = standard; }
-    void OneOrTwo(const char*, int& value, int standard) { value = standard; }
-
-    template <class T> void Count(const char*, const char*, QList<T>& list, int standard, int)
-    {
-        list.clear();
-        for (int i = 0; i < standard; ++i)
-            list.append(T());
-    }
-};
 
 class ConfigWriter
 {
@@ -47,41 +24,31 @@ public:
     void Begin(const char* name) { m_writer.BeginElement(name); }
     void End() { m_writer.EndElement(); }
 
-    template <class T, class D> void Item(const char* name, const T& value, const D&)
+    template <class T> void Item(const char* name, const T& value)
     {
-        m_text.clear();
-        fieldtext::Append(m_text, value);
         m_writer.BeginElement(name);
-        if (!m_text.empty())
+        if (!Text(value).empty())
             m_writer.Text(m_text);
         m_writer.EndElement();
     }
-
-    template <class T, class D> void Attribute(const char* name, const T& value, const D&)
+    template <class T> void Whole(const char* name, T value, int scale) { Item(name, double(value) * scale); }
+    template <class T> void Attribute(const char* name, const T& value)
     {
-        m_text.clear();
-        fieldtext::Append(m_text, value);
-        m_writer.Attribute(name, m_text);
+        m_writer.Attribute(name, Text(value));
     }
-
-    void Word(const char* name, bool value, bool) { m_writer.Attribute(name, value ? kTrue : kFalse); }
-    void Clamped(const char* name, int value, int standard, int, int) { Item(name, value, standard); }
-    void DefaultOutside(const char* name, double value, double standard, double, double)
+    template <class T> void Count(const char* name, const char*, const QList<T>& list, int)
     {
-        Item(name, value, standard);
-    }
-    void Hundredths(const char* name, float value, float standard, float, float)
-    {
-        Item(name, double(value) * 100, standard);
-    }
-    void OneOrTwo(const char* name, int value, int standard) { Item(name, value == 1 ? 1 : 2, standard); }
-
-    template <class T> void Count(const char* name, const char*, const QList<T>& list, int standard, int)
-    {
-        Item(name, list.size(), standard);
+        Item(name, list.size());
     }
 
 private:
+    template <class T> const std::string& Text(const T& value)
+    {
+        m_text.clear();
+        fieldtext::Append(m_text, value);
+        return m_text;
+    }
+
     XmlWriter& m_writer;
     std::string m_text;
 };
@@ -95,57 +62,31 @@ public:
     void Begin(const char* name) { m_path.append(Child(name)); }
     void End() { m_path.removeLast(); }
 
-    template <class T, class D> void Item(const char* name, T& value, const D&)
+    template <class T> void Item(const char* name, T& value)
     {
         const QDomElement item = Child(name);
         if (!item.isNull())
             Convert(item.text(), value);
     }
 
-    template <class T, class D> void Attribute(const char* name, T& value, const D&)
+    /// A number whose file holds it, times a scale, as a whole one. A fraction reads as 0.
+    template <class T> void Whole(const char* name, T& value, int scale)
+    {
+        int whole = 0;
+        Item(name, whole);
+        if (!Child(name).isNull())
+            value = static_cast<T>(whole) / static_cast<T>(scale);
+    }
+
+    template <class T> void Attribute(const char* name, T& value)
     {
         const QDomElement& element = m_path.last();
         if (element.hasAttribute(QLatin1String(name)))
             Convert(element.attribute(QLatin1String(name)), value);
     }
 
-    void Word(const char* name, bool& value, bool standard)
-    {
-        QString word = QLatin1String(value ? kTrue : kFalse);
-        Attribute(name, word, standard);
-        value = word.trimmed().compare(QLatin1String(kTrue), Qt::CaseInsensitive) == 0;
-    }
-
-    void Clamped(const char* name, int& value, int standard, int lowest, int highest)
-    {
-        Item(name, value, standard);
-        value = qBound(lowest, value, highest);
-    }
-
-    // A fraction does not read as the whole number expected, and so gives the default too.
-    void DefaultOutside(const char* name, double& value, double standard, double lowest, double highest)
-    {
-        int whole = 0;
-        if (!Whole(name, &whole))
-            return;
-        value = whole < lowest || whole > highest ? standard : whole;
-    }
-
-    void Hundredths(const char* name, float& value, float, float lowest, float highest)
-    {
-        int whole = 0;
-        if (Whole(name, &whole))
-            value = qBound(lowest, static_cast<float>(whole) / 100, highest);
-    }
-
-    void OneOrTwo(const char* name, int& value, int standard)
-    {
-        Item(name, value, standard);
-        value = value == 1 ? 1 : 2;
-    }
-
     // The children count, not what the file says of them.
-    template <class T> void Count(const char*, const char* stem, QList<T>& list, int, int most)
+    template <class T> void Count(const char*, const char* stem, QList<T>& list, int most)
     {
         int count = 0;
         while (count < most && !Child(Numbered(stem, count + 1).c_str()).isNull())
@@ -159,12 +100,6 @@ public:
 private:
     QDomElement Child(const char* name) const { return m_path.last().firstChildElement(QLatin1String(name)); }
 
-    bool Whole(const char* name, int* value)
-    {
-        Item(name, *value, 0);
-        return !Child(name).isNull();
-    }
-
     template <class T> static void Convert(const QString& text, T& value)
     {
         const QByteArray utf8 = text.toUtf8();
@@ -177,12 +112,9 @@ private:
 /// The name of a style among those named before, else the one it comes with, else its key.
 QString NameOfStyle(const QString& key, const QList<SUiStyle>& named)
 {
-    for (const SUiStyle& style : named)
+    for (const SUiStyle& style : named + GetDefaultUiStyles())
         if (style.key == key && !style.name.isEmpty())
             return style.name;
-    for (const auto& style : kDefaultUiStyles)
-        if (key == QLatin1String(style[0]))
-            return QLatin1String(style[1]);
     return key;
 }
 
@@ -209,6 +141,17 @@ void RepairProjectRecords(SConfigItems* items)
         items->projectRecords[size_t(i)] = records.value(i);
 }
 
+void RepairNumbers(SConfigItems* items)
+{
+    if (items->attractionDis < 8 || items->attractionDis > 30)
+        items->attractionDis = SConfigItems().attractionDis;
+    items->deviceInformationLayoutSize =
+        qBound(kMinLayoutSize, items->deviceInformationLayoutSize, kMaxLayoutSize);
+    items->beaconNoBorder = items->beaconNoBorder == 1 ? 1 : 2;
+    items->customerTileWidth = qBound(1, items->customerTileWidth, kMaxCabinetSize);
+    items->customerTileHeight = qBound(1, items->customerTileHeight, kMaxCabinetSize);
+}
+
 /// Takes a key text that names no key back to what stood there before.
 void RepairHotkeys(const SConfigItems& before, SConfigItems* items)
 {
@@ -223,11 +166,10 @@ void RepairHotkeys(const SConfigItems& before, SConfigItems* items)
 
 } // namespace
 
-void SetConfigDefaults(SConfigItems* items)
+QList<SUiStyle> GetDefaultUiStyles()
 {
-    ConfigDefaults defaults;
-    DescribeConfig(defaults, *items);
-    RepairStyles(items, {});
+    return {{QStringLiteral("StyleLight"), QStringLiteral("Style Light")},
+            {QStringLiteral("StyleDark"), QStringLiteral("Style Dark")}};
 }
 
 bool WriteConfigFile(const QString& path, const SConfigItems& items)
@@ -256,6 +198,7 @@ bool ReadConfigFile(const QString& path, SConfigItems* items)
     SConfigItems read = *items;
     ConfigReader reader(root.firstChildElement(QLatin1String(kConfigName)));
     DescribeConfig(reader, read);
+    RepairNumbers(&read);
     RepairHotkeys(*items, &read);
     RepairStyles(&read, items->uiStyles);
     RepairProjectRecords(&read);

@@ -4,7 +4,8 @@
 
 class QString;
 
-void SetConfigDefaults(SConfigItems* items);
+constexpr float kMinLayoutSize = 30;
+constexpr float kMaxLayoutSize = 70;
 
 /// Writes the settings document, replacing the file as one step.
 bool WriteConfigFile(const QString& path, const SConfigItems& items);

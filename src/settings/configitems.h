@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/interfacedlg.h"
+#include "settings/languagetype.h"
 
 #include <QList>
 #include <QString>
@@ -49,36 +50,44 @@ struct SBrightTableInfo
     double yEnd = 0;
 };
 
-/// What the settings file holds. Names, defaults and limits stand in the description of the file.
+using HotkeyTable = std::array<std::array<SHotkey, kHotkeysInMode>, kHotkeyModes>;
+
+HotkeyTable GetDefaultHotkeys();
+QList<SUiStyle> GetDefaultUiStyles();
+
+/// What the settings file holds, and what stands there at a first start.
 struct SConfigItems
 {
     bool autoSelectLanguage = false;
-    int language = 0;
-    bool showGrid = false;
+    int language = GetSystemLanguage();
+    bool showGrid = true;
     bool showTileSort = false;
     bool softEdgeSheet = false;
     bool setEdgePixel = false;
-    int disTime = 0;
-    bool enableAttraction = false;
-    double attractionDis = 0; ///< canvas pixels
+    int disTime = 10;
+    bool enableAttraction = true;
+    double attractionDis = 20; ///< canvas pixels
     bool enableFahrenheit = false;
-    bool enableGamutRgb = false;
+    bool enableGamutRgb = true;
     bool enableGamutAutoCalculate = false;
-    bool openBackupProject = false;
+    bool openBackupProject = true;
     bool sendAfterModify = false;
-    bool supportMutiTileType = false;
+    bool supportMutiTileType = true;
     bool showPowerSupply = false;
-    float deviceInformationLayoutSize = 0; ///< percent
-    int beaconNoBorder = 0;                ///< 1: without border, 2: with border
+    float deviceInformationLayoutSize = 40; ///< percent
+    int beaconNoBorder = 1;                 ///< 1: without border, 2: with border
     int detectStrategy = 0;
-    int customerTileWidth = 0; ///< canvas pixels
-    int customerTileHeight = 0;
+    int customerTileWidth = 128; ///< canvas pixels
+    int customerTileHeight = 128;
     std::array<bool, kInterfaceCount> readOnly = {}; ///< by the numbers of EInterfaceDlg
-    std::array<SCurrentGain, kCurrentGains> currentGains;
+    std::array<SCurrentGain, kCurrentGains> currentGains = {{{1, 1, 1, QStringLiteral("1")},
+                                                             {1, 1, 1, QStringLiteral("2")},
+                                                             {1, 1, 1, QStringLiteral("3")},
+                                                             {1, 1, 1, QStringLiteral("4")}}};
     std::array<QString, kProjectRecords> projectRecords; ///< newest first, the empty ones last
-    SBrightTableInfo brightTable;
+    SBrightTableInfo brightTable = {2.2, 50, 0, 100, 0, 100};
     bool visableAutoBrightAdjust = false;
-    QList<SUiStyle> uiStyles;
-    int currentUiStyle = 0;
-    std::array<std::array<SHotkey, kHotkeysInMode>, kHotkeyModes> hotkeys;
+    QList<SUiStyle> uiStyles = GetDefaultUiStyles();
+    int currentUiStyle = 1;
+    HotkeyTable hotkeys = GetDefaultHotkeys();
 };

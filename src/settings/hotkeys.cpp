@@ -1,6 +1,7 @@
 #include "settings/hotkeys.h"
 
 #include "common/texts.h"
+#include "settings/configitems.h"
 
 #include <QKeySequence>
 
@@ -63,11 +64,17 @@ constexpr Default kDefaults[kHotkeyModes][kHotkeysInMode] = {
 
 } // namespace
 
-SHotkey GetDefaultHotkey(int mode, int index)
+HotkeyTable GetDefaultHotkeys()
 {
-    const Default& standard = kDefaults[mode][index];
-    return {true, QLatin1String(standard.operation), QLatin1String(standard.hotkey),
-            Texts::tr(standard.description)};
+    HotkeyTable hotkeys;
+    for (size_t mode = 0; mode < kHotkeyModes; ++mode) {
+        for (size_t i = 0; i < kHotkeysInMode; ++i) {
+            const Default& standard = kDefaults[mode][i];
+            hotkeys[mode][i] = {true, QLatin1String(standard.operation), QLatin1String(standard.hotkey),
+                                Texts::tr(standard.description)};
+        }
+    }
+    return hotkeys;
 }
 
 bool NormalizeHotkey(QString* hotkey)

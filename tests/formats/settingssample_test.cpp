@@ -47,9 +47,7 @@ TEST(SettingsSampleTest, FileIsReadByTheValueAndWrittenByTheByte)
     const QString path = folder.Path(QStringLiteral("c.xml"));
     ASSERT_TRUE(c.XmlSave(path));
     EXPECT_EQ(FirstDifference(ReadFile(path), sample), "");
-    SConfigItems defaults;
-    SetConfigDefaults(&defaults);
-    ASSERT_TRUE(WriteConfigFile(path, defaults));
+    ASSERT_TRUE(WriteConfigFile(path, SConfigItems()));
     EXPECT_EQ(NamesWithoutOwnValue(sample, ReadFile(path), QRegularExpression(QStringLiteral("^$a"))), "");
 }
 

@@ -1,5 +1,5 @@
-#include "settings/configdescription.h"
 #include "settings/configfile.h"
+#include "settings/hotkeys.h"
 #include "support/testfolder.h"
 
 #include <gtest/gtest.h>
@@ -11,17 +11,10 @@ QByteArray Wrapped(const QByteArray& items)
     return "<LedControlConfig><Config>" + items + "</Config></LedControlConfig>";
 }
 
-SConfigItems Defaults()
-{
-    SConfigItems items;
-    SetConfigDefaults(&items);
-    return items;
-}
-
 SConfigItems Read(const QByteArray& items)
 {
     TestFolder folder;
-    SConfigItems read = Defaults();
+    SConfigItems read;
     EXPECT_TRUE(ReadConfigFile(folder.Write(QStringLiteral("c.xml"), Wrapped(items)), &read));
     return read;
 }
@@ -84,17 +77,17 @@ TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)
     EXPECT_TRUE(hotkeys.hotkeys[0][0].enable);
     EXPECT_EQ(hotkeys.hotkeys[0][0].hotkey, QStringLiteral("Ctrl+Shift+Q"));
     EXPECT_FALSE(hotkeys.hotkeys[0][1].enable);
-    EXPECT_EQ(hotkeys.hotkeys[0][1].hotkey, GetDefaultHotkey(0, 1).hotkey);
+    EXPECT_EQ(hotkeys.hotkeys[0][1].hotkey, SConfigItems().hotkeys[0][1].hotkey);
 }
 
 TEST(ConfigFileTest, DefaultHotkeysAreKeysAndNoneIsTwiceInAMode)
 {
-    for (int mode = 0; mode < kHotkeyModes; ++mode) {
+    for (const auto& mode : GetDefaultHotkeys()) {
         QStringList keys;
-        for (int i = 0; i < kHotkeysInMode; ++i) {
-            QString key = GetDefaultHotkey(mode, i).hotkey;
+        for (const SHotkey& standard : mode) {
+            QString key = standard.hotkey;
             EXPECT_TRUE(NormalizeHotkey(&key)) << qPrintable(key);
-            EXPECT_EQ(key, GetDefaultHotkey(mode, i).hotkey);
+            EXPECT_EQ(key, standard.hotkey);
             EXPECT_FALSE(keys.contains(key)) << qPrintable(key);
             keys << key;
         }
