@@ -2,6 +2,7 @@
 
 #include "common/fileproblem.h"
 #include "common/texts.h"
+#include "common/turnlock.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -20,7 +21,6 @@
 
 namespace {
 
-constexpr qint64 kPatience = 30000;               ///< milliseconds to wait for another save of the same file
 constexpr unsigned long kPause = 10;              ///< milliseconds between two looks
 constexpr int kMaxTargetNameBytes = 200;          ///< leaves room for what is put around it
 constexpr char kDescriptors[] = "/proc/self/fd/"; ///< where an open file without a name has one
@@ -147,7 +147,7 @@ public:
             close(file);
             if (busy)
                 QThread::msleep(kPause);
-        } while (waited.elapsed() < kPatience);
+        } while (waited.elapsed() < kLockPatience);
         m_error = Texts::tr("另一个程序正在写入该文件。");
         return false;
     }

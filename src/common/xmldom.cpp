@@ -1,5 +1,6 @@
 #include "common/xmldom.h"
 
+#include "common/failure.h"
 #include "common/inputfile.h"
 #include "common/texts.h"
 #include "common/xmlreader.h"
@@ -35,11 +36,8 @@ bool ParseXmlDom(const QByteArray& content, QDomDocument& document, QString* err
     NodeCounter nodes;
     if (!ParseXml(buffer, nodes, error))
         return false;
-    if (nodes.count > kMaxTreeNodes) {
-        if (error)
-            *error = Texts::tr("文件中的元素过多。");
-        return false;
-    }
+    if (nodes.count > kMaxTreeNodes)
+        return Fail(error, Texts::tr("文件中的元素过多。"));
     buffer.close();
 
     QDomDocument tree;

@@ -2,6 +2,7 @@
 
 #include "common/inputfile.h"
 #include "common/saturated.h"
+#include "common/turnlock.h"
 #include "settings/archive.h"
 #include "settings/folders.h"
 #include "settings/settingslookup.h"
@@ -12,7 +13,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 
 #include <cmath>
 
@@ -21,9 +21,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr int kLockTimeout = 30000;   ///< milliseconds
-constexpr int kStaleLockTime = 20000; ///< milliseconds; of a lock file into which no name was written
 
 constexpr int kPortColors = 20;
 constexpr QRgb kPortColor[kPortColors] = {
@@ -155,8 +152,7 @@ QString CConstantData::GetTmpProjectDataPath(const QString& zipPath)
     const QString document = folder + QStringLiteral("/SaveProject/card.prj");
     if (IsOurFolder(folder)) {
         QLockFile lock(folder + QStringLiteral("/unpack.lock"));
-        lock.setStaleLockTime(kStaleLockTime);
-        if (!lock.tryLock(kLockTimeout))
+        if (!LockInTurn(lock))
             return document;
         // What an earlier archive left must not pass for this one's document.
         QFile::remove(document);

@@ -1,6 +1,7 @@
 #include "settings/specifiediplist.h"
 
 #include "common/atomicfile.h"
+#include "common/dottedaddress.h"
 #include "common/inputfile.h"
 
 #include <QNetworkInterface>
@@ -9,36 +10,11 @@
 
 namespace {
 
-constexpr int kOctets = 4;
-
-bool ParseOctet(const QString& text, quint32* octet)
+/// As the list holds it; empty for a text that is no address.
+QString Dotted(const QString& text)
 {
-    if (text.isEmpty() || text.size() > 3)
-        return false;
-    quint32 value = 0;
-    for (const QChar c : text) {
-        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
-            return false;
-        value = value * 10 + quint32(c.unicode() - '0');
-    }
-    *octet = value;
-    return value <= 255;
-}
-
-bool ParseAddress(const QString& text, quint32* address)
-{
-    const QStringList octets = text.trimmed().split(QLatin1Char('.'));
-    if (octets.size() != kOctets)
-        return false;
-    quint32 value = 0;
-    for (const QString& octetText : octets) {
-        quint32 octet = 0;
-        if (!ParseOctet(octetText, &octet))
-            return false;
-        value = value << 8 | octet;
-    }
-    *address = value;
-    return true;
+    const std::optional<quint32> address = ReadDottedAddress(text, 3);
+    return address ? QHostAddress(*address).toString() : QString();
 }
 
 } // namespace
@@ -85,11 +61,8 @@ bool SpecifiedIpList::Save()
 
 bool SpecifiedIpList::Add(const QString& address)
 {
-    quint32 number = 0;
-    if (m_addresses.size() >= kMaxSpecifiedIps || !ParseAddress(address, &number))
-        return false;
-    const QString dotted = QHostAddress(number).toString();
-    if (m_addresses.contains(dotted))
+    const QString dotted = Dotted(address);
+    if (m_addresses.size() >= kMaxSpecifiedIps || dotted.isEmpty() || m_addresses.contains(dotted))
         return false;
     m_addresses.append(dotted);
     return true;
@@ -97,8 +70,7 @@ bool SpecifiedIpList::Add(const QString& address)
 
 bool SpecifiedIpList::Remove(const QString& address)
 {
-    quint32 number = 0;
-    return ParseAddress(address, &number) && m_addresses.removeOne(QHostAddress(number).toString());
+    return m_addresses.removeOne(Dotted(address));
 }
 
 void SpecifiedIpList::Clear()

@@ -21,11 +21,7 @@ protected:
 
     QString Write(const char* name, const QByteArray& content) const
     {
-        const QString path = root + QString::fromUtf8(name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        return path;
+        return WriteFile(root + QString::fromUtf8(name), content);
     }
 
     QStringList Names() const

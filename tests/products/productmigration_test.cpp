@@ -21,14 +21,6 @@ protected:
         QDir().mkpath(old);
     }
 
-    static QString Write(const QString& path, const QByteArray& content)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        return path;
-    }
-
     QString root;
     QString old;
 };
@@ -42,14 +34,14 @@ QByteArray DigestOf(const QString& path)
 
 TEST_F(ProductMigrationTest, ListedProductsGoAndTheUsersOwnMove)
 {
-    const QByteArray first = DigestOf(Write(old + QStringLiteral("builtin/one.rcvp"), "one"));
-    const QByteArray second = DigestOf(Write(old + QStringLiteral("builtin/two.rcvbp"), "two"));
-    const QByteArray beyond = DigestOf(Write(old + QStringLiteral("own/deep/beyond.rcvp"), "beyond"));
-    Write(old + QStringLiteral("own/one.txt"), "one"); // listed content, but no product
-    Write(old + QStringLiteral(":屏.rcvp"), "mine");
-    Write(old + QStringLiteral("ProductList.ini"), "[ProductListInfo]\nProduct1=" + first
-                                                       + "\nProduct2=short\nProduct3=" + second.toUpper()
-                                                       + "x\nProduct4=NoFile\nProduct5=" + beyond + "\n");
+    const QByteArray first = DigestOf(WriteFile(old + QStringLiteral("builtin/one.rcvp"), "one"));
+    const QByteArray second = DigestOf(WriteFile(old + QStringLiteral("builtin/two.rcvbp"), "two"));
+    const QByteArray beyond = DigestOf(WriteFile(old + QStringLiteral("own/deep/beyond.rcvp"), "beyond"));
+    WriteFile(old + QStringLiteral("own/one.txt"), "one"); // listed content, but no product
+    WriteFile(old + QStringLiteral(":屏.rcvp"), "mine");
+    WriteFile(old + QStringLiteral("ProductList.ini"), "[ProductListInfo]\nProduct1=" + first
+                                                           + "\nProduct2=short\nProduct3=" + second.toUpper()
+                                                           + "x\nProduct4=NoFile\nProduct5=" + beyond + "\n");
 
     CProductDirectorySet::UpdateProductDir();
     QStringList files;
@@ -66,14 +58,14 @@ TEST_F(ProductMigrationTest, NothingIsOverwrittenAndLinksStay)
 {
     TestFolder outside;
     const QString far = outside.Write(QStringLiteral("far/far.rcvp"), "far");
-    const QString taken = Write(root + QStringLiteral("taken.rcvp"), "new");
-    Write(old + QStringLiteral("taken.rcvp"), "old");
-    Write(old + QStringLiteral("linked/a.rcvp"), "a");
-    Write(old + QStringLiteral("dangling.rcvp"), "d");
+    const QString taken = WriteFile(root + QStringLiteral("taken.rcvp"), "new");
+    WriteFile(old + QStringLiteral("taken.rcvp"), "old");
+    WriteFile(old + QStringLiteral("linked/a.rcvp"), "a");
+    WriteFile(old + QStringLiteral("dangling.rcvp"), "d");
     ASSERT_TRUE(QFile::link(outside.Path(QStringLiteral("far")), root + QStringLiteral("linked")));
     ASSERT_TRUE(QFile::link(outside.Path(QStringLiteral("gone")), root + QStringLiteral("dangling.rcvp")));
     ASSERT_TRUE(QFile::link(outside.Path(QStringLiteral("far")), old + QStringLiteral("folder")));
-    Write(old + QStringLiteral("ProductList.ini"), "[ProductListInfo]\nProduct1=" + DigestOf(far) + "\n");
+    WriteFile(old + QStringLiteral("ProductList.ini"), "[ProductListInfo]\nProduct1=" + DigestOf(far) + "\n");
 
     CProductDirectorySet::UpdateProductDir();
     EXPECT_EQ(ReadFile(taken), "new");
@@ -88,9 +80,9 @@ TEST_F(ProductMigrationTest, NothingIsOverwrittenAndLinksStay)
 TEST_F(ProductMigrationTest, ListThatCannotBeReadWholeStaysAndNothingMoves)
 {
     const QByteArray product =
-        "[ProductListInfo]\nProduct1=" + DigestOf(Write(old + QStringLiteral("a.rcvp"), "a"));
+        "[ProductListInfo]\nProduct1=" + DigestOf(WriteFile(old + QStringLiteral("a.rcvp"), "a"));
     for (const QByteArray& end : {QByteArray("\n").repeated(4 << 20), QByteArray("\nno value\n")}) {
-        Write(old + QStringLiteral("ProductList.ini"), product + end);
+        WriteFile(old + QStringLiteral("ProductList.ini"), product + end);
         CProductDirectorySet::UpdateProductDir();
         EXPECT_EQ(QDir(old).entryList(QDir::Files).size(), 2);
         EXPECT_TRUE(QDir(root).isEmpty());

@@ -16,7 +16,11 @@ QString TestFolder::Path(const QString& name) const
 
 QString TestFolder::Write(const QString& name, const QByteArray& content) const
 {
-    const QString path = Path(name);
+    return WriteFile(Path(name), content);
+}
+
+QString WriteFile(const QString& path, const QByteArray& content)
+{
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();

@@ -19,5 +19,6 @@ private:
     QTemporaryDir m_folder;
 };
 
-QByteArray ReadFile(const QString& path); ///< empty when the file cannot be read
+QString WriteFile(const QString& path, const QByteArray& content); ///< makes its folders; returns the path
+QByteArray ReadFile(const QString& path);                          ///< empty when the file cannot be read
 QString SamplePath(const char* name);
