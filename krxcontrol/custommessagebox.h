@@ -7,9 +7,9 @@
 
 #include <functional>
 
-/// Modal message boxes. Texts are plain text, never markup. Where no display is (no widget application, or
-/// the offscreen and minimal platforms) and no handler is installed, no box opens and the default answers
-/// stand: nothing for an information, No for a question.
+/// Modal message boxes. Texts are plain text, never markup. Without a display (no widget application, or the
+/// offscreen or minimal platform) and without a handler, no box opens. Then the default answers stand:
+/// nothing for an information, No for a question.
 class KRXCONTROL_EXPORT CCustomMessageBox
 {
 public:
@@ -19,7 +19,7 @@ public:
         Question
     };
 
-    /// Answers a box instead of the user: kind, text and buttons offered; the result is the button pressed.
+    /// Answers a box in place of the user: takes kind, text and buttons, returns the button pressed.
     using Handler =
         std::function<QMessageBox::StandardButton(Kind, const QString&, QMessageBox::StandardButtons)>;
 
@@ -29,6 +29,6 @@ public:
                                                 QMessageBox::StandardButtons buttons = QMessageBox::Yes
                                                                                        | QMessageBox::No);
 
-    /// Installs a handler (an empty one opens boxes again) and returns the one before.
+    /// Installs a handler and returns the one before. An empty handler opens boxes again.
     static Handler SetHandler(Handler handler);
 };

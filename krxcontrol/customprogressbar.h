@@ -10,8 +10,8 @@
 class QProgressDialog;
 class QWidget;
 
-/// Progress of a long load or save, 0 to 100. Shows a modal dialog where a display is; elsewhere, or with a
-/// listener, it only counts.
+/// Progress of a long load or save, 0 to 100. Shows a modal dialog when there is a display and no listener;
+/// else it only counts.
 class KRXCONTROL_EXPORT CCustomProgressbar
 {
 public:

@@ -25,7 +25,7 @@ constexpr unsigned long kPause = 10;              ///< milliseconds between two 
 constexpr int kMaxTargetNameBytes = 200;          ///< leaves room for what is put around it
 constexpr char kDescriptors[] = "/proc/self/fd/"; ///< where an open file without a name has one
 
-/// The file that a link leads to, and any other path as it is.
+/// Follows a link; any other path stays as it is.
 QString Resolved(const QString& path)
 {
     const QFileInfo info(path);
@@ -34,8 +34,8 @@ QString Resolved(const QString& path)
     return info.isSymLink() ? info.symLinkTarget() : info.absoluteFilePath();
 }
 
-/// Whether an open file is the one at its path, without what an interrupted save left in it. Removes one that
-/// is ours, by its lock, but is not fit for use.
+/// Whether an open file is the one at its path, and empty. Removes it when it is ours, by its lock, but holds
+/// what an interrupted save left.
 bool IsFresh(int file, const char* path)
 {
     struct stat opened = {};
@@ -49,8 +49,8 @@ bool IsFresh(int file, const char* path)
     return false;
 }
 
-/// An open file that is written to. It holds nothing back and remembers what failed first, so that no failure
-/// is lost on a writer that goes on, or that asks for the size or the place in between.
+/// An open file that is written to. It has no buffer and remembers the first failure. So none is lost when a
+/// writer goes on, or asks for the size or place in between.
 class NewFileDevice : public QIODevice
 {
 public:
@@ -124,8 +124,8 @@ public:
             unlink(m_path.constData());
     }
 
-    /// Under one name for each target and locked while it is written, so what an interrupted save left is
-    /// found and removed by the next one, and another program's is waited for.
+    /// Each target has one name for this, locked while it is written. So a save finds and removes what an
+    /// interrupted one left, and waits for another program.
     bool OpenInTurn()
     {
         m_path = m_folder + '.' + m_target.mid(m_folder.size()).left(kMaxTargetNameBytes) + ".part";
@@ -152,8 +152,8 @@ public:
         return false;
     }
 
-    /// Without a name, so that nothing is left of an interrupted one; with a fresh name where the file system
-    /// has no such files.
+    /// Without a name, so that an interrupted save leaves nothing. With a fresh name when the file system has
+    /// no such files.
     bool OpenUnseen()
     {
         int file = -1;
@@ -213,8 +213,7 @@ private:
         return false;
     }
 
-    /// The new name survives a power cut only then. The file is replaced by now, so a failure here is not
-    /// told.
+    /// Makes the new name survive a power cut. The file is replaced by now, so a failure is not told.
     void FlushFolder() const
     {
         const int folder = open(m_folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);

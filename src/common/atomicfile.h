@@ -7,16 +7,14 @@
 
 class QIODevice;
 
-/// Replaces the file at `path` as one step: `write` fills a new file beside it, ".<name>.part", which is
-/// flushed to disk and renamed over it; a link is resolved to its target first. On failure, also when `write`
-/// returns false, the old file stays as it was and `error`, when given, says why: `write` may set it for
-/// reasons of its own. What a save that was killed left beside is removed by the next one; two saves of one
-/// file at a time follow one another.
+/// Replaces a file as one step. `write` fills a new file beside it, ".<name>.part". That is flushed to disk
+/// and renamed over the old one. A link is resolved to its target first. When anything fails, or `write`
+/// returns false, the old file stays and `error` says why; `write` may set it itself. A save removes what a
+/// killed one left. Of two saves of one file, the second one waits.
 bool ReplaceFile(const QString& path, const std::function<bool(QIODevice&)>& write, QString* error = nullptr);
 bool ReplaceFile(const QString& path, const QByteArray& content, QString* error = nullptr);
 
-/// The same for a file that can be made again: the disk is not waited for, and a link is replaced, not
-/// followed. The new file has no name, or one that no other file has, until it is whole: the folder may hold
-/// files of any name. Of two writers at a time the last one counts.
+/// The same for a file that can be made again. It does not wait for the disk, and it replaces a link. Until
+/// the new file is whole it has no name, or one that no other file has. Of two writers the last one counts.
 bool ReplaceWorkFile(const QString& path, const std::function<bool(QIODevice&)>& write,
                      QString* error = nullptr);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Says why, where the caller wants to know, and gives the false to return.
+/// Tells the reason if the caller wants it. Returns false, for the caller to return.
 inline bool Fail(QString* error, const QString& text)
 {
     if (error)

@@ -90,8 +90,8 @@ void Append(std::string& out, bool value)
 
 void Append(std::string& out, double value)
 {
-    // Most fractions of a wall are whole numbers, which need no rounding. The others are rounded as Qt does
-    // it: a tie away from zero, where the standard library would take the even digit.
+    // Most fractions of a wall are whole numbers and need no rounding. The others are rounded as Qt does it,
+    // a tie away from zero. The standard library would take the even digit.
     constexpr double firstRounded = 1e6;
     if (std::fabs(value) < firstRounded && std::trunc(value) == value) {
         AppendNumber(out, static_cast<int>(value));

@@ -8,9 +8,8 @@
 #include <string>
 #include <string_view>
 
-/// Text forms of values in files, one checked pair a type, UTF-8, independent of the locale. Reading follows
-/// QString::toInt and its kin: blanks around a number are passed over, a text that is no number of the type
-/// is 0.
+/// Text forms of values in files: UTF-8, whatever the locale. Reading follows QString::toInt and its kin:
+/// blanks around a number are passed over, and a text that is no number reads as 0.
 namespace fieldtext {
 
 void Append(std::string& out, int value);
@@ -21,7 +20,8 @@ void Append(std::string& out, double value); ///< as QString::number(value, 'g',
 void Append(std::string& out, float value);
 void Append(std::string& out, const QUuid& value); ///< braced, lower case
 void Append(std::string& out, const SMD5& value);  ///< 32 digits and the closing NUL; empty for no type
-/// Without what an XML file cannot hold: controls but tab and line ends, U+FFFE, U+FFFF, lone surrogates.
+/// Leaves out what an XML file cannot hold: controls other than tab and line ends, U+FFFE, U+FFFF, lone
+/// surrogates.
 void Append(std::string& out, const QString& value);
 
 void Read(std::string_view text, int& value);

@@ -2,7 +2,7 @@
 
 #include "common/failure.h"
 
-// What is told of a file or folder that the system refuses: which one, and the system's reason.
+// Messages about a file or folder that the system refuses, with the reason of the system.
 
 QString CannotRead(const QString& path, const QString& reason);
 QString CannotWrite(const QString& path, const QString& reason); ///< the reason may be empty
@@ -12,5 +12,5 @@ QString NotRegular(const QString& path);
 /// Makes a folder with all its parents. A link to a folder counts as one.
 bool MakeFolder(const QString& path, QString* error = nullptr);
 
-/// Why no file can be made and written in a folder, for callers whose own attempt told no reason.
+/// Why no file can be written in a folder, for a caller that got no reason itself.
 QString WhyNotWritable(const QString& folder);

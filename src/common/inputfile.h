@@ -6,8 +6,8 @@
 class QFile;
 class QIODevice;
 
-/// Opens a file that somebody else named. Only a regular one: a pipe could keep the program waiting for ever,
-/// a device could give without end. False: `error`, when given, says why.
+/// Opens a file that somebody else named. It must be a regular file: a pipe could keep the program waiting, a
+/// device could give without end. On failure `error` says why.
 bool OpenInput(QFile& file, QString* error = nullptr);
 
 /// Reads such a file whole; one of more than `most` bytes is refused.

@@ -21,7 +21,7 @@ struct SRotateParam
     double height = 0;
 };
 
-/// Numbers count as equal below 0.49 pixel or degree, so that a rounded copy equals its source.
+/// Numbers that differ by less than 0.49 pixel or degree are equal, so that a rounded copy equals its source.
 inline bool operator==(const SRotateParam& a, const SRotateParam& b)
 {
     const auto near = [](double p, double q) { return p - q < 0.49 && q - p < 0.49; };

@@ -9,8 +9,7 @@ bool IsForbidden(QChar c)
 
 QString CutToBytes(QString text)
 {
-    text.truncate(kMaxFileNameBytes
-                  + 1); // of a huge text no more than this is counted; half a character goes below
+    text.truncate(kMaxFileNameBytes + 1); // keeps a huge text from being converted over and over
     while (text.toUtf8().size() > kMaxFileNameBytes)
         text.chop(text.at(text.size() - 1).isLowSurrogate() ? 2 : 1);
     return text;

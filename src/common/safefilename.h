@@ -6,12 +6,12 @@
 
 constexpr int kMaxFileNameBytes = 120;
 
-/// A text made safe as one component of a path: no separators, controls or characters that some file system
-/// refuses (they become "_"), no leading dots, no trailing dots or blanks, at most kMaxFileNameBytes of
-/// UTF-8; `fallback` for a text of which nothing is left.
+/// Makes a text safe as one component of a path. Separators, controls and characters that some file system
+/// refuses become "_". Leading dots and trailing dots and blanks go. It is cut to kMaxFileNameBytes of UTF-8.
+/// `fallback` replaces a text of which nothing is left.
 QString SafeFileName(const QString& text, const QString& fallback);
 
-/// Names that are unlike each other, in either case.
+/// Gives out names that all differ, also when case does not count.
 class UniqueNames
 {
 public:
@@ -19,5 +19,5 @@ public:
 
 private:
     QSet<QString> m_taken;         ///< case-folded
-    QHash<QString, int> m_numbers; ///< the last one given, by the case-folded name before it
+    QHash<QString, int> m_numbers; ///< the last number given to a name, case-folded
 };

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-/// The nearest `int`. Sums of coordinates that a host or a file may have set to anything stay defined.
+/// The nearest `int`. A host or a file may set coordinates to anything; their sums stay defined.
 inline int SaturatedInt(qint64 value)
 {
     using Limits = std::numeric_limits<int>;
@@ -20,7 +20,7 @@ inline int TruncatedInt(double value)
     return static_cast<int>(qBound<double>(Limits::min(), value, Limits::max()));
 }
 
-/// Each edge saturated, so that a width or height below zero is safe as well.
+/// Saturates each edge, so that a negative width or height is safe too.
 inline QRect SaturatedRect(qint64 left, qint64 top, qint64 width, qint64 height)
 {
     return QRect(QPoint(SaturatedInt(left), SaturatedInt(top)),

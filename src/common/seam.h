@@ -1,11 +1,11 @@
 #pragma once
 
-/// Where a lower room's questions reach whoever answers them: an abstract interface with harmless answers,
-/// and the object that the frame installs over it.
+/// Keeps the object that answers the questions of a lower room. `Lookup` is an abstract class with harmless
+/// answers; the frame installs an object that knows better.
 template <class Lookup> class Seam
 {
 public:
-    /// The installed object, or one that gives the harmless answers. Never null.
+    /// The installed object, else one that gives the harmless answers. Never null.
     static Lookup* Get()
     {
         static Lookup harmless;

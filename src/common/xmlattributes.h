@@ -6,13 +6,13 @@
 #include <optional>
 #include <string_view>
 
-/// The attributes of one element in document order, UTF-8, borrowed from a parser for the length of a call.
-/// Looking them up in the order in which they stand costs one comparison each.
+/// The attributes of one element in document order, UTF-8. They are borrowed from a parser for the length of
+/// a call. Finding them in their order costs one comparison each.
 class XmlAttributes
 {
 public:
-    /// [ref] Five pointers each: name, prefix (null for none), namespace, begin and end of the value. This is
-    /// how libxml2 hands them out; nothing is copied.
+    /// [ref] Five pointers each: name, prefix (null for none), namespace, begin and end of the value. libxml2
+    /// gives them so; nothing is copied.
     XmlAttributes(const unsigned char* const* fives, int count)
         : m_first(fives), m_end(fives + kPointers * count), m_next(fives)
     {}
@@ -36,7 +36,7 @@ public:
 private:
     static const char* Text(const unsigned char* text) { return reinterpret_cast<const char*>(text); }
 
-    /// The first character tells most names apart without a call. Names with a prefix are nobody's.
+    /// The first character rules out most names without a call. A name with a prefix matches none.
     static bool IsNamed(const unsigned char* const* attribute, const char* name)
     {
         const char* own = Text(attribute[0]);
@@ -60,7 +60,7 @@ enum class FieldUse
     Both,
     NeverRead,    ///< written for others, derived again on reading
     NeverWritten, ///< read under a name of its own
-    IfPresent,    ///< absent on reading: keeps its value, where another field reads as zero
+    IfPresent,    ///< keeps its value when the file lacks it; other fields read as zero then
 };
 
 /// Reads the fields of a record description from an element's attributes.

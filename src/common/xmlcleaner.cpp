@@ -10,7 +10,7 @@ bool IsControl(char c)
     return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
 }
 
-/// Which bytes pass without a closer look, by their value: every byte of every file is asked for.
+/// The bytes that need no closer look. It is a table because every byte of every file is looked up.
 const std::array<bool, 256>& PlainBytes()
 {
     static const std::array<bool, 256> plain = [] {

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Counts what a tree of the document would be made of.
+/// Counts the nodes that a tree of the document would have.
 class NodeCounter : public XmlHandler
 {
 public:

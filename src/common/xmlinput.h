@@ -10,9 +10,8 @@
 class QIODevice;
 class QTextDecoder;
 
-/// The bytes of an XML document as UTF-8, whatever they were, and without what no XML document may hold.
-/// Their encoding, UTF-8, US-ASCII, ISO-8859-1 or UTF-16, is told by the byte order mark and the declaration,
-/// which must agree.
+/// Reads an XML document as UTF-8, without what no XML document may hold. The byte order mark and the
+/// declaration tell its encoding, and must agree: UTF-8, US-ASCII, ISO-8859-1 or UTF-16.
 class XmlInput
 {
 public:
@@ -35,7 +34,7 @@ private:
     bool m_atEnd = false;
     bool m_asciiOnly = false;
     std::unique_ptr<QTextDecoder> m_decoder; ///< null: the source is UTF-8
-    QString m_half;                          ///< the first unit of a pair that the bytes so far cut in two
+    QString m_half; ///< first half of a surrogate pair whose second half is not read yet
     XmlCleaner m_cleaner;
     QByteArray m_raw;
     QByteArray m_text;

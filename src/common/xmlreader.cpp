@@ -27,7 +27,7 @@ struct ParserDeleter
     void operator()(xmlDictPtr names) const { xmlDictFree(names); }
 };
 
-/// Keeps the handlers of the elements now open; a null one stands for an element that is passed over.
+/// The handlers of the open elements. Null for an element that is passed over.
 struct ParseState
 {
     xmlParserCtxtPtr parser = nullptr;
@@ -36,7 +36,7 @@ struct ParseState
     int depth = 0;        ///< of all elements
     qint64 text = 0;      ///< bytes since the last tag
     qint64 fed = 0;       ///< bytes given to the parser
-    qint64 heard = 0;     ///< of these, when it last told something
+    qint64 heard = 0;     ///< those given when it last told something
     bool hadRoot = false;
     int error = XML_ERR_OK; ///< the parser's first
     int errorLine = 0;
@@ -144,7 +144,7 @@ void OnDoctype(void* data, const xmlChar*, const xmlChar*, const xmlChar*)
     StateOf(data).Refuse(QT_TRANSLATE_NOOP("OrvanData", "不接受文档类型声明。"));
 }
 
-/// Without a taker of its own the parser would print its errors.
+/// Without this the parser would print its errors.
 void OnError(void* data, xmlErrorPtr error)
 {
     ParseState& state = StateOf(data);
@@ -207,8 +207,8 @@ QString ParserError(const ParseState& state)
         .arg(QString::number(state.errorLine), Texts::tr(ReasonOf(state)));
 }
 
-/// The parser keeps each name once in a table of limited width, which numbered elements would make ever
-/// slower: before it is full it begins a new one.
+/// The parser keeps each name once, in a table of limited width. Numbered elements would make it slower and
+/// slower, so a new table begins before it is full.
 void RenewNames(ParseState& state)
 {
     if (xmlDictSize(state.parser->dict) < kMaxNames)
@@ -223,7 +223,7 @@ void RenewNames(ParseState& state)
     state.parser->str_xml_ns = xmlDictLookup(names, XML_XML_NAMESPACE, -1);
 }
 
-/// Why the next bytes are the last, empty when they are not.
+/// Why reading stops after these bytes; empty when it goes on.
 QString Feed(const QByteArray& bytes, bool last, ParseState& state)
 {
     state.fed += bytes.size();
@@ -236,8 +236,8 @@ QString Feed(const QByteArray& bytes, bool last, ParseState& state)
     return state.open.front()->GetRefusal();
 }
 
-/// The parser compares the attributes of a tag with one another. In one that lies within two chunks that is
-/// soon done; of a longer one they are counted before it is parsed.
+/// The parser compares the attributes of a tag with one another. That is soon done for a tag within two
+/// chunks. In a longer one they are counted before they are parsed.
 bool HoldsTooManyAttributes(const ParseState& state, const QByteArray& next)
 {
     if (state.fed - state.heard < kChunk)
@@ -252,7 +252,7 @@ bool FeedAll(QIODevice& source, ParseState& state, QString* error)
 {
     XmlInput input(source);
     do {
-        // The parser looks at an unfinished tag anew with every chunk, so chunks grow with it.
+        // With every chunk the parser looks at an unfinished tag again, so chunks grow with the tag.
         const QByteArray& bytes = input.Read(std::clamp(state.fed - state.heard, kChunk, kMaxChunk));
         *error = input.GetError();
         if (error->isEmpty() && HoldsTooManyAttributes(state, bytes))

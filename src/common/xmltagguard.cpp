@@ -38,7 +38,7 @@ void XmlTagGuard::LookAt(char c)
         if (c != '-')
             BeginAside(c == '[' ? "]]>" : ">");
         break;
-    case Place::Commenting: // the second dash, which is none of those that end the comment
+    case Place::Commenting: // the second dash does not count for the end of the comment
         BeginAside("-->");
         break;
     case Place::Tag:

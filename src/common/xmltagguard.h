@@ -2,9 +2,9 @@
 
 #include <QtGlobal>
 
-/// Looks at bytes of a UTF-8 document before a parser does, from the beginning of a tag, a comment or the
-/// like on, for a tag of more attributes than are taken: parsers hold a tag whole and compare its attributes
-/// with one another before they tell of it.
+/// Finds a tag with more attributes than are taken, in the bytes of a UTF-8 document before they are parsed.
+/// Parsers keep a tag whole and compare all its attributes before they tell of it. The first byte must begin
+/// a tag, a comment or the like.
 class XmlTagGuard
 {
 public:
@@ -26,8 +26,8 @@ private:
     void LookAt(char c);
 
     Place m_place = Place::Text;
-    char m_quote = 0;            ///< that ends the value
+    char m_quote = 0;            ///< ends the value
     const char* m_asideEnd = ""; ///< what ends the comment, instruction or CDATA section
-    int m_matched = 0;           ///< characters of that
+    int m_matched = 0;           ///< characters of it so far
     int m_values = 0;            ///< in the tag
 };

@@ -10,7 +10,7 @@ namespace {
 constexpr size_t kBufferSize = size_t(256) * 1024;
 constexpr qint64 kMaxTag = kMaxXmlMarkup - 64 * 1024; ///< readers count the blanks before a tag too
 
-/// Line ends and tabs are written as references: a parser would turn them into blanks inside an attribute.
+/// Line ends and tabs become references: a parser turns them into blanks inside an attribute.
 const char* Reference(char c)
 {
     switch (c) {

@@ -23,8 +23,8 @@ public:
     virtual void EndElement() = 0;
 };
 
-/// Writes a document as UTF-8 text with an XML declaration, indented by 4. Flush() tells whether all was
-/// taken and a reader will take it again.
+/// Writes a document as UTF-8 text with an XML declaration, indented by 4. Flush() says whether all was
+/// written and can be read again.
 class StreamXmlWriter : public XmlWriter
 {
 public:
@@ -35,7 +35,7 @@ public:
     void Text(std::string_view text) override;
     void EndElement() override;
     bool Flush();
-    QString GetRefusal() const { return m_refusal; } ///< why no reader would take it; empty while one would
+    QString GetRefusal() const { return m_refusal; } ///< why readers would refuse it; empty: they would not
 
 private:
     void StartLine();

@@ -47,7 +47,8 @@ void LedNimbraData_Init()
     g_config->LoadSpecifiedIP(CConstantData::GetSysConfigDir() + QStringLiteral("SpecifiedIPs.txt"));
     // The interface settings lie beside the products, where hosts have always looked for them.
     g_config->Load_UI(CProductDirectorySet::GetRootDir() + QStringLiteral("SystemConfigUI.ini"));
-    // The first call behind a load keeps the language loaded and only derives the language file's path.
+    // The first call after a load keeps the language of the file and only derives the path of its
+    // translation.
     g_config->SetLanguage(LanguageChinese);
 }
 

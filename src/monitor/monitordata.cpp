@@ -4,18 +4,21 @@
 #include "monitor/monitorlock.h"
 #include "monitor/monitorlookup.h"
 
+#include <mutex>
+#include <shared_mutex>
+
 namespace {
 
 template <class Member> Member Read(MonitorLock& lock, const Member& member)
 {
-    const MonitorReadGuard guard(lock);
+    const std::shared_lock<MonitorLock> guard(lock);
     return member;
 }
 
 template <class Member> void Write(MonitorLock& lock, Member& member, const Member& value)
 {
     Member old = value; // freed only when the lock is released
-    const MonitorWriteGuard guard(lock);
+    const std::unique_lock<MonitorLock> guard(lock);
     std::swap(member, old);
 }
 
@@ -105,7 +108,7 @@ void CMonitorData::GetAllData(CMonitorDetectData& detect, CMonitorInterfaceData&
                               CMonitorWarningData& warning, CMonitorRcvShowData& rcvShow,
                               CMonitorTipsData& tips) const
 {
-    const MonitorReadGuard guard(*m_lock);
+    const std::shared_lock<MonitorLock> guard(*m_lock);
     detect = m_detect;
     settings = m_interface;
     warning = m_warning;
@@ -139,7 +142,7 @@ void CMonitorData::Reset(bool videoShow)
     if (videoShow)
         settings.SetToDefaultForVideo();
 
-    const MonitorWriteGuard guard(*m_lock);
+    const std::unique_lock<MonitorLock> guard(*m_lock);
     m_detect.SetToDefault();
     m_interface = settings;
     m_warning.SetToDefault();

@@ -11,9 +11,9 @@
 
 class MonitorLock;
 
-/// Everything that monitoring shares between the windows: settings, detected values, warnings and texts.
-/// Any thread may call any member; whole members are copied in and out, so nobody holds a reference into the
-/// locked data. Owned by the library, one for the whole process.
+/// Everything that the windows share about monitoring: settings, detected values, warnings and texts. Any
+/// thread may call any member. Whole members are copied in and out, so that nobody holds a reference to
+/// locked data. Owned by the library, one for the process.
 class ORVANDATA_EXPORT CMonitorData
 {
 public:
@@ -22,7 +22,7 @@ public:
     CMonitorData(const CMonitorData&) = delete;
     CMonitorData& operator=(const CMonitorData&) = delete;
 
-    // state; both resets leave whether monitoring runs and the stored read-only states
+    // state; both resets keep the running state and the stored read-only states
     void SetToDefault();
     void SetToDefaultForVideo(); ///< the variant for video processors
     bool IsVideoShow() const;    ///< whether that variant is in force
@@ -43,8 +43,8 @@ public:
     void GetAllData(CMonitorDetectData& detect, CMonitorInterfaceData& settings, CMonitorWarningData& warning,
                     CMonitorRcvShowData& rcvShow, CMonitorTipsData& tips) const; ///< all of one moment
 
-    // read-only states of the interfaces while monitoring locks them. The settings are asked and told with
-    // the lock released: they may call back, and a write within a read would wait for ever.
+    // read-only states of the interfaces, which monitoring locks. The lock of the data is not held while the
+    // settings are called: they may call back, and writing within reading waits for ever.
     void StoreInterfaceLockInfo();
     void RecoverInterfaceLockInfo();                     ///< does nothing when nothing was stored
     bool GetInterfaceReadOnly(int interfaceIndex) const; ///< as stored; false when nothing was

@@ -39,16 +39,6 @@ const SDetectReceiverData* CMonitorDetectData::GetRcvData(unsigned int sender, i
     return GetRcvDataByIndex(m_receiverIndex.value({sender, port, receiver}, -1));
 }
 
-int CMonitorDetectData::GetRcvDataCount() const
-{
-    return m_receivers.size();
-}
-
-int CMonitorDetectData::GetRcvDataCount(unsigned int sender, int port) const
-{
-    return m_portCounts.value({sender, port});
-}
-
 const SDetectReceiverData* CMonitorDetectData::GetRcvDataByIndex(int index) const
 {
     return index >= 0 && index < m_receivers.size() ? m_receivers.at(index).get() : nullptr;

@@ -67,9 +67,8 @@ struct SDetectReceiverData
     double voltage[kVoltages] = {}; ///< volts
 };
 
-/// The values that monitoring detected last. A plain value: records are shared between copies and never
-/// written to, so copying is cheap at any number of receiving cards. A record that was handed out stays until
-/// it is replaced or emptied, whatever happens to copies.
+/// The values that monitoring detected last. A plain value. Copies share the records, which are never written
+/// to, so that copying is cheap. A record that was handed out stays until it is replaced or emptied here.
 class ORVANDATA_EXPORT CMonitorDetectData
 {
 public:
@@ -80,11 +79,11 @@ public:
     const SDetectSenderData* GetSenderData(unsigned int sender) const;      ///< [ref] null: none
 
     // receiving cards
-    /// Copied; replaces in its place. Null and negative numbers are ignored.
+    /// Copied. Replaces a record of the same place. Null and negative numbers are ignored.
     void AddRcvData(unsigned int sender, int port, int receiver, const SDetectReceiverData* data);
     const SDetectReceiverData* GetRcvData(unsigned int sender, int port, int receiver) const; ///< [ref]
-    int GetRcvDataCount() const;
-    int GetRcvDataCount(unsigned int sender, int port) const;
+    int GetRcvDataCount() const { return m_receivers.size(); }
+    int GetRcvDataCount(unsigned int sender, int port) const { return m_portCounts.value({sender, port}); }
     /// [ref] Of all receiving cards, in the order in which they were first detected.
     const SDetectReceiverData* GetRcvDataByIndex(int index) const;
 

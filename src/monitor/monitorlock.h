@@ -17,9 +17,9 @@
 #define ORVAN_ANNOUNCE(call) static_cast<void>(0)
 #endif
 
-/// A recursive read-write lock. ThreadSanitizer does not see into Qt's locks, so in its builds every step is
-/// announced to it. Recursive means reads within reads and writes within writes; a write within a read waits
-/// for ever.
+/// A recursive read-write lock: reads within reads and writes within writes. A write within a read waits for
+/// ever. ThreadSanitizer does not see into the locks of Qt, so in its builds each step is announced to it.
+/// The members have the names that std::shared_lock and std::unique_lock call.
 class MonitorLock
 {
 public:
@@ -27,25 +27,25 @@ public:
     ~MonitorLock() { ORVAN_ANNOUNCE(__tsan_mutex_destroy(this, 0)); }
     Q_DISABLE_COPY(MonitorLock)
 
-    void LockForRead()
+    void lock_shared()
     {
         ORVAN_ANNOUNCE(__tsan_mutex_pre_lock(this, __tsan_mutex_read_lock));
         m_lock.lockForRead();
         ORVAN_ANNOUNCE(__tsan_mutex_post_lock(this, __tsan_mutex_read_lock, 0));
     }
-    void UnlockRead()
+    void unlock_shared()
     {
         ORVAN_ANNOUNCE(__tsan_mutex_pre_unlock(this, __tsan_mutex_read_lock));
         m_lock.unlock();
         ORVAN_ANNOUNCE(__tsan_mutex_post_unlock(this, __tsan_mutex_read_lock));
     }
-    void LockForWrite()
+    void lock()
     {
         ORVAN_ANNOUNCE(__tsan_mutex_pre_lock(this, 0));
         m_lock.lockForWrite();
         ORVAN_ANNOUNCE(__tsan_mutex_post_lock(this, 0, 0));
     }
-    void UnlockWrite()
+    void unlock()
     {
         ORVAN_ANNOUNCE(__tsan_mutex_pre_unlock(this, 0));
         m_lock.unlock();
@@ -57,27 +57,3 @@ private:
 };
 
 #undef ORVAN_ANNOUNCE
-
-/// Holds the lock for reading as long as it lives.
-class MonitorReadGuard
-{
-public:
-    explicit MonitorReadGuard(MonitorLock& lock) : m_lock(lock) { m_lock.LockForRead(); }
-    ~MonitorReadGuard() { m_lock.UnlockRead(); }
-    Q_DISABLE_COPY(MonitorReadGuard)
-
-private:
-    MonitorLock& m_lock;
-};
-
-/// Holds the lock for writing as long as it lives.
-class MonitorWriteGuard
-{
-public:
-    explicit MonitorWriteGuard(MonitorLock& lock) : m_lock(lock) { m_lock.LockForWrite(); }
-    ~MonitorWriteGuard() { m_lock.UnlockWrite(); }
-    Q_DISABLE_COPY(MonitorWriteGuard)
-
-private:
-    MonitorLock& m_lock;
-};

@@ -29,8 +29,8 @@ inline uint qHash(const SMonitorPlace& place, uint seed = 0)
     return combine(combine(combine(seed, place.sender), place.port), place.receiver);
 }
 
-/// Values by place. A default value is the same as none, so that what was set and cleared again compares
-/// equal to what was never set. A plain value; copies share their content until one is written to.
+/// Values by place. Setting the default value removes a value, so that data in which all was cleared equals
+/// new data. A plain value; copies share their content until one is written to.
 template <class Value> class MonitorPlaceMap
 {
 public:

@@ -1,10 +1,5 @@
 #include "monitor/monitorrcvshowdata.h"
 
-bool CMonitorRcvShowData::operator==(const CMonitorRcvShowData& other) const
-{
-    return m_texts == other.m_texts;
-}
-
 void CMonitorRcvShowData::SetText(unsigned int sender, int port, int receiver, EMonitorRenderType type,
                                   const QString& text)
 {
@@ -21,20 +16,10 @@ QString CMonitorRcvShowData::GetText(unsigned int sender, int port, int receiver
     return texts == m_texts.constEnd() ? QString() : texts->Get({sender, port, receiver});
 }
 
-void CMonitorRcvShowData::ClearType(EMonitorRenderType type)
-{
-    m_texts.remove(type);
-}
-
 void CMonitorRcvShowData::ClearSender(unsigned int sender)
 {
     for (auto it = m_texts.begin(); it != m_texts.end();) {
         it->ClearBelow({sender});
         it = it->IsEmpty() ? m_texts.erase(it) : std::next(it);
     }
-}
-
-void CMonitorRcvShowData::SetToDefault()
-{
-    m_texts.clear();
 }

@@ -25,15 +25,15 @@ enum EMonitorRenderType : int
 class ORVANDATA_EXPORT CMonitorRcvShowData
 {
 public:
-    bool operator==(const CMonitorRcvShowData& other) const;
+    bool operator==(const CMonitorRcvShowData& other) const { return m_texts == other.m_texts; }
     bool operator!=(const CMonitorRcvShowData& other) const { return !(*this == other); }
 
     void SetText(unsigned int sender, int port, int receiver, EMonitorRenderType type, const QString& text);
     QString GetText(unsigned int sender, int port, int receiver, EMonitorRenderType type) const;
 
-    void ClearType(EMonitorRenderType type);
-    void ClearSender(unsigned int sender); ///< and everything on it
-    void SetToDefault();                   ///< no texts
+    void ClearType(EMonitorRenderType type) { m_texts.remove(type); }
+    void ClearSender(unsigned int sender);   ///< and everything on it
+    void SetToDefault() { m_texts.clear(); } ///< no texts
 
 private:
     QMap<int, MonitorPlaceMap<QString>> m_texts; ///< by render type; a type without texts has no entry

@@ -10,15 +10,23 @@
 class ORVANDATA_EXPORT CMonitorTipsData
 {
 public:
-    bool operator==(const CMonitorTipsData& other) const;
+    bool operator==(const CMonitorTipsData& other) const { return m_tips == other.m_tips; }
     bool operator!=(const CMonitorTipsData& other) const { return !(*this == other); }
 
-    void SetTip(unsigned int sender, int port, int receiver, const QString& text); ///< empty: no tip
-    QString GetTip(unsigned int sender, int port, int receiver) const;
-    QStringList GetAllTips() const; ///< by sender, port and receiver; a sender's own before its ports'
+    /// An empty text: no tip.
+    void SetTip(unsigned int sender, int port, int receiver, const QString& text)
+    {
+        m_tips.Set({sender, port, receiver}, text);
+    }
+    QString GetTip(unsigned int sender, int port, int receiver) const
+    {
+        return m_tips.Get({sender, port, receiver});
+    }
+    /// By sender, port and receiver; a sender's own before its ports'.
+    QStringList GetAllTips() const { return m_tips.Values(); }
 
-    void ClearSender(unsigned int sender); ///< and everything on it
-    void SetToDefault();                   ///< no tips
+    void ClearSender(unsigned int sender) { m_tips.ClearBelow({sender}); } ///< and everything on it
+    void SetToDefault() { m_tips.Clear(); }                                ///< no tips
 
 private:
     MonitorPlaceMap<QString> m_tips;

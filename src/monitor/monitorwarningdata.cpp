@@ -12,16 +12,6 @@ bool CMonitorWarningData::operator==(const CMonitorWarningData& other) const
            && m_loopbackErrors == other.m_loopbackErrors;
 }
 
-void CMonitorWarningData::SetSenderWarning(unsigned int sender, quint32 flags)
-{
-    m_warnings.Set({sender}, flags);
-}
-
-quint32 CMonitorWarningData::GetSenderWarning(unsigned int sender) const
-{
-    return m_warnings.Get({sender});
-}
-
 void CMonitorWarningData::SetPortWarning(unsigned int sender, int port, quint32 flags)
 {
     if (port >= 0)
@@ -37,11 +27,6 @@ void CMonitorWarningData::SetFiberWarning(unsigned int sender, int fiber, quint3
 {
     if (fiber >= 0)
         m_fibers.Set({sender, fiber}, flags);
-}
-
-quint32 CMonitorWarningData::GetFiberWarning(unsigned int sender, int fiber) const
-{
-    return m_fibers.Get({sender, fiber});
 }
 
 void CMonitorWarningData::SetRcvWarning(unsigned int sender, int port, int receiver, quint32 flags)

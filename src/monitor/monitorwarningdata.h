@@ -58,12 +58,12 @@ public:
     bool operator==(const CMonitorWarningData& other) const;
     bool operator!=(const CMonitorWarningData& other) const { return !(*this == other); }
 
-    void SetSenderWarning(unsigned int sender, quint32 flags);
-    quint32 GetSenderWarning(unsigned int sender) const;
+    void SetSenderWarning(unsigned int sender, quint32 flags) { m_warnings.Set({sender}, flags); }
+    quint32 GetSenderWarning(unsigned int sender) const { return m_warnings.Get({sender}); }
     void SetPortWarning(unsigned int sender, int port, quint32 flags); ///< a negative port is ignored
     quint32 GetPortWarning(unsigned int sender, int port) const;
     void SetFiberWarning(unsigned int sender, int fiber, quint32 flags); ///< a negative fibre is ignored
-    quint32 GetFiberWarning(unsigned int sender, int fiber) const;
+    quint32 GetFiberWarning(unsigned int sender, int fiber) const { return m_fibers.Get({sender, fiber}); }
     void SetRcvWarning(unsigned int sender, int port, int receiver, quint32 flags); ///< negatives are ignored
     quint32 GetRcvWarning(unsigned int sender, int port, int receiver) const;
 

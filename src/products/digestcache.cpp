@@ -5,8 +5,8 @@
 
 namespace {
 
-// File systems count time in ticks of some milliseconds. A file that was written within this time may be
-// written once more without its times telling, so its digest is not kept yet.
+// File systems count time in ticks of some milliseconds. A file that was written within this time may change
+// once more without a change of its times, so its digest is not kept.
 constexpr std::chrono::nanoseconds kSettlingTime = std::chrono::milliseconds(100);
 
 } // namespace

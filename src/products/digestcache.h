@@ -15,11 +15,11 @@ public:
 
     explicit DigestCache(Hasher hasher);
 
-    /// The digest of a file that was listed with this stamp. No type when it cannot be read, which is not
+    /// The digest of a file with this stamp. A file that cannot be read has no type, and that is not
     /// remembered.
     SMD5 Digest(const QString& path, const FileStamp& stamp);
 
-    // Between the two, files that are not asked for are forgotten.
+    // Files that nobody asks for between the two are forgotten.
     void BeginRound();
     void EndRound();
 

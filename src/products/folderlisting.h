@@ -26,6 +26,6 @@ struct FolderEntry
     FileStamp stamp;
 };
 
-/// The regular files and folders in a folder, hidden ones too, no links, sorted by name. One system call an
-/// entry, since product folders of thousands of files are listed while the user waits.
+/// The regular files and folders in a folder, sorted by name, hidden ones too, no links. Each entry costs one
+/// system call: the user waits while thousands of files are listed.
 std::vector<FolderEntry> ListFolder(const QString& folder);

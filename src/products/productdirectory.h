@@ -30,7 +30,7 @@ public:
     const QList<CProductDirectory*>& GetSubDirs() const { return m_subDirs; } ///< [ref]
     int GetProductCount() const;                                              ///< sub-folders included
     bool AddProduct(CProduct* product); ///< [own] appended; false, and not taken, when null or owned already
-    /// [own] appended; false, and not taken, when null, owned already, or this node lies in it.
+    /// [own] Appended. False, and not taken, when null, owned already, or when this node lies in it.
     bool AddSubProductDirectory(CProductDirectory* directory);
     bool DeleteProduct(CProduct* product);           ///< wherever it lies below; false when it does not
     bool DeleteSubDir(CProductDirectory* directory); ///< wherever it lies below; false when it does not
@@ -43,16 +43,16 @@ public:
     CProduct* FindProductByFileName(const QString& fileName) const;    ///< with suffix, case-sensitive
     bool GetProductAbsolutePath(const SMD5& md5, QString& path) const; ///< false leaves the path alone
 
-    /// Calls `visit` for each product below, in search order, until it returns true; gives that product.
+    /// Calls `visit` for each product below, in search order, until it returns true. Returns that product.
     CProduct* FindProduct(const std::function<bool(CProduct&)>& visit) const;
 
 protected:
-    /// Told of every change in the tree below that can change the result of a search by digest.
+    /// Called after every change in the tree below that can change a search by digest.
     virtual void TreeChanged();
     void Swap(CProductDirectory& other); ///< everything but the place in a tree
 
 private:
-    friend class CProduct; // tells of a new digest
+    friend class CProduct; // calls TreeChanged for a new digest
 
     void CopyContent(const CProductDirectory& other);
     void Adopt();

@@ -21,11 +21,11 @@ public:
     static QString GetRootDir(); ///< the product folder with a trailing "/", created when missing
 
     // scanning
-    /// Scans the product folder anew and returns the number of products. All products and nodes of the tree
-    /// are replaced; expanded folders stay expanded. Files are hashed again only when they changed.
+    /// Scans the product folder anew and returns the number of products. Replaces all products and nodes of
+    /// the tree; expanded folders stay expanded. Only files that changed are hashed again.
     int LoadProductInfo();
-    /// Adds a folder's content, all levels, to a node and returns the number of products. A file that equals
-    /// another one of this tree or scan, byte for byte, is deleted from disk. Links are not followed.
+    /// Adds the content of a folder, all levels, to a node and returns the number of products. A file that
+    /// equals another one of this tree or scan, byte for byte, is deleted from disk. Links are not followed.
     int LoadProductInfoFolderEx(const QString& folder, CProductDirectory* node, unsigned int& nextMenuId);
     QString GetScannedFolder() const { return m_scannedFolder; } ///< the folder scanned last
     unsigned int SnatchMenuID();    ///< a fresh menu id, for a product that no scan found

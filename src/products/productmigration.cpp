@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kMaxListedProducts = 999999;
 
-/// QDir would take some names, one that begins with ":" for one, for a place outside the folder.
+/// QDir would take a name that begins with ":" for a place outside the folder.
 QString PathIn(const QString& folder, const QString& name)
 {
     return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
@@ -28,8 +28,8 @@ bool IsHexadecimal(const QString& text)
     });
 }
 
-/// The digests in a product list; it ends at the first entry that is missing or empty. False when the list
-/// cannot be read whole.
+/// The digests in a product list, which ends at the first entry that is missing or empty. False when the list
+/// cannot be read.
 bool ReadProductList(const QString& path, QSet<SMD5>& digests)
 {
     const QString noFile = QStringLiteral("NoFile");

@@ -8,11 +8,11 @@
 /// Appends every file below a folder, sorted by name within each folder. Links are left out.
 void ListFiles(const QString& folder, QStringList& files);
 
-/// Removes, depth first, every sub-folder that is empty once its own are handled. Links are not followed.
+/// Removes all empty sub-folders, also those that hold nothing but empty folders. Links are not followed.
 void RemoveEmptySubFolders(const QString& folder);
 
-/// Moves an older product folder into the current one: the files that its "ProductList.ini" names by digest
-/// came with the application and are deleted, the user's own are moved. Only regular files are touched and
-/// nothing is overwritten; what cannot be moved stays where it is, and all of it when the list cannot be
-/// read. Both paths end with "/".
+/// Moves an older product folder into the current one. Its "ProductList.ini" names, by digest, the files that
+/// came with the application; these are deleted. The other files are the user's own and are moved. Only
+/// regular files are touched and nothing is overwritten. What cannot be moved stays. When the list cannot be
+/// read, everything stays. Both paths end with "/".
 void MigrateProductFolder(const QString& oldFolder, const QString& newFolder);

@@ -17,16 +17,16 @@ class ProductScan
 public:
     ProductScan(DigestCache& digests, unsigned int& nextMenuId);
 
-    /// Counts the products of a tree as found, so that a copy of one of them is a duplicate.
+    /// Takes the products of a tree as found, so that a copy of one of them is a duplicate.
     void AddKnown(const CProductDirectory& tree);
 
-    /// Lists a folder and all below it in a node and returns the number of products. A file that equals one
+    /// Lists a folder and all below it in a node. Returns the number of products. A file that equals one
     /// found before, byte for byte, is deleted from disk.
     int ScanFolder(const QString& folder, CProductDirectory& node);
 
 private:
     bool ScanFile(const QString& path, const FileStamp& stamp, CProductDirectory& node);
-    /// Whether the product is listed already; the file is deleted then, unless it is the listed one itself.
+    /// Whether the product is listed already. Then the file is deleted, unless it is the listed one itself.
     bool IsFoundElsewhere(const QString& path, const FileStamp& stamp, const SMD5& md5);
 
     DigestCache& m_digests;

@@ -4,28 +4,29 @@
 
 #include <functional>
 
-/// What an archive may hold, so that a hostile one fills neither the memory nor the disk.
+/// Limits of an archive, so that a hostile one fills neither memory nor disk.
 constexpr int kMaxArchiveEntries = 65535;                   ///< also of the folders that their names make
 constexpr qint64 kMaxArchiveEntrySize = qint64(256) << 20;  ///< bytes unpacked
 constexpr qint64 kMaxArchiveTotalSize = qint64(1024) << 20; ///< bytes unpacked
 
-/// The bytes unpacked of all entries but one, which is held to the limit of an entry alone.
+/// The unpacked bytes of all entries together. The entry `apart` is not counted; it has only the limit of one
+/// entry.
 struct ArchiveLimits
 {
     qint64 total = kMaxArchiveTotalSize;
     QString apart;
 };
 
-/// Packs all that is below a folder, links left out, into an archive that replaces `zipPath` as one step.
-/// Entries are named from the folder's own name on. The same content gives the same bytes. On failure the
+/// Packs all that is below a folder, without links, into an archive that replaces `zipPath` as one step. The
+/// names of entries begin with the name of the folder. The same content gives the same bytes. On failure the
 /// old archive stays and `error` says why.
 bool PackFolder(const QString& folder, const QString& zipPath, QString* error = nullptr,
                 const ArchiveLimits& limits = {});
 
-/// Unpacks an archive below a folder in the archive's order and stops at the first entry that is refused or
-/// fails; what was unpacked before it stays. With `wanted`, which is told the names of entries, others are
-/// skipped after their names were checked. A file of the same name is replaced once the entry is whole;
-/// nothing is written through a link.
+/// Unpacks an archive below a folder, in the order of the archive. Stops at the first entry that fails, and
+/// what was unpacked before stays; with `leftOut` it goes on and tells of such entries. `wanted` says by its
+/// name whether an entry is unpacked. A file of the same name is replaced when the entry is whole. Nothing is
+/// written through a link.
 bool UnpackArchive(const QString& zipPath, const QString& folder,
                    const std::function<bool(const QString&)>& wanted = {}, QString* error = nullptr,
                    const ArchiveLimits& limits = {},

@@ -16,8 +16,9 @@ QTextCodec* Gbk()
     return QTextCodec::codecForName("GBK");
 }
 
-// The flag is not in libzip's interface. Asked for the strict reading it translates every name from an old
-// code page unless the name is plain ASCII or carries the flag: then it comes back as it is stored.
+/// libzip does not give the flag that marks a name as UTF-8. When asked for the strict reading, it translates
+/// a name from an old code page, unless the name is plain ASCII or has the flag. Then it comes back as it is
+/// stored.
 QString Decode(zip* archive, quint64 index)
 {
     const char* stored = zip_get_name(archive, index, ZIP_FL_ENC_RAW);
@@ -27,7 +28,7 @@ QString Decode(zip* archive, quint64 index)
     const QByteArray strict(zip_get_name(archive, index, ZIP_FL_ENC_STRICT));
     if (raw == strict)
         return QString::fromUtf8(raw);
-    // Codecs differ in what they report of broken text; only a name that encodes back was read right.
+    // Codecs report broken text in different ways. A name that encodes back to the same bytes was read right.
     const QString name = Gbk()->toUnicode(raw);
     return Gbk()->fromUnicode(name) == raw ? name : QString();
 }
@@ -56,9 +57,9 @@ bool StaysBelow(const QString& name)
     return true;
 }
 
-/// The name in a directory record that stands at `record`, its NULs as blanks; null where it has none, or
-/// where something else stands. Ends at the first control, so that overlapping records cost no more than
-/// their bytes.
+/// The name in the directory record at `record`, with a blank for each NUL. Null when there is no NUL in it,
+/// or no such record. Stops at the first other control, so that records that overlap cost no more than their
+/// bytes.
 QByteArray NameWithNul(const QByteArray& bytes, int record)
 {
     if (bytes.size() - record < kRecordSize)
@@ -77,8 +78,8 @@ QByteArray NameWithNul(const QByteArray& bytes, int record)
     return hasNul ? bytes.mid(begin, size).replace('\0', ' ') : QByteArray();
 }
 
-/// Those of the names for which a directory record with a NUL stands anywhere in the file. An archive may
-/// hold several directories and several ends, and which of them count is libzip's choice.
+/// The names for which a directory record with a NUL stands anywhere in the file. An archive may hold several
+/// directories, and libzip chooses which one counts.
 QSet<QByteArray> FindNamesWithNul(QFile& file, const QSet<QByteArray>& names)
 {
     constexpr int chunk = 1 << 20;

@@ -6,7 +6,7 @@
 
 struct zip;
 
-/// The name of an entry as it is stored: GBK where that can hold it, else UTF-8 with the flag that says so.
+/// The name of an entry as it is stored: in GBK if that can hold it, else in UTF-8 with the flag for it.
 struct ArchiveName
 {
     QByteArray bytes;
@@ -22,8 +22,9 @@ class ArchiveNames
 public:
     ArchiveNames(zip* archive, const QString& path);
 
-    /// With "/" between components. Empty when it cannot be decoded, holds a NUL or would lead out of the
-    /// folder unpacked into: absolute, with a drive, "." or "..", an empty component or a control character.
+    /// With "/" between components. Empty for a name that cannot be decoded, holds a control character or
+    /// would lead out of the folder: one that is absolute, has a drive, or has a component that is empty, "."
+    /// or "..".
     QString Get(quint64 index) const;
 
 private:

@@ -53,7 +53,7 @@ QString NotUnpacked(const QString& name)
     return Texts::tr("压缩包条目无法解压: %1").arg(name);
 }
 
-/// Copies the declared number of bytes. Asking for one more makes the end, and with it the checksum, tested.
+/// Copies as many bytes as the entry states. Asking for one byte more makes libzip test the checksum.
 bool CopyContent(zip_file_t* source, QIODevice& target, zip_uint64_t size)
 {
     QByteArray buffer(kBufferSize, Qt::Uninitialized);
@@ -89,7 +89,7 @@ bool Extract(zip_t* archive, zip_uint64_t index, const QString& name, const QStr
         error);
 }
 
-/// Checks an entry before anything is written for it. `left` shrinks by what it unpacks to, if that counts.
+/// Checks an entry before anything is written. When it counts, `left` shrinks by its size.
 bool Accept(zip_t* archive, zip_uint64_t index, const QString& name, bool counts, qint64* left,
             QString* error)
 {

@@ -160,7 +160,7 @@ QString Reason(zip_t* archive, const QVector<Entry>& entries)
     return QString::fromUtf8(zip_strerror(archive));
 }
 
-/// What the device refuses is for its owner to tell.
+/// The owner of the device says why it refused.
 bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, QString* error)
 {
     if (entries.isEmpty())

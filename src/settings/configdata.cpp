@@ -81,7 +81,7 @@ bool CConfigData::XmlSave(const QString& path) const
     SConfigItems items = m_items;
     const SettingsLookup& lookup = *GetSettingsLookup();
     if (lookup.IsMonitoring()) {
-        // The locks of a running monitoring are not the user's choice.
+        // Monitoring sets these locks while it runs; they are not the choice of the user.
         for (int i = 0; i < kInterfaceCount; ++i)
             items.readOnly[size_t(i)] = lookup.StoredReadOnly(i);
     }
@@ -143,7 +143,7 @@ void CConfigData::AddProjectRecord(const QString& path)
 {
     if (path.isEmpty())
         return;
-    // A path listed already is lifted out, a new one pushes the oldest out; the rest moves down.
+    // A path listed already leaves its place, a new one pushes the oldest out. The others move down.
     auto& records = m_items.projectRecords;
     auto gap = std::find(records.begin(), records.end(), path);
     if (gap == records.end())

@@ -17,9 +17,9 @@ class SettingsFile;
 class SpecifiedIpList;
 
 /// The settings of the application that persist between runs. One object for all, used by the user-interface
-/// thread only. Each file is written where it was loaded from; before that nothing is written but the print
-/// watermark, by SetToDefault. A file that is there but could not be understood is kept beside as ".bak",
-/// over an older one; while that cannot be done, saving leaves it as it is and is false.
+/// thread only. Each file is written where it was loaded from. Before a file is loaded nothing is written,
+/// but SetToDefault writes the print watermark. A file that cannot be understood is kept as ".bak", over an
+/// older one. While that is not possible, saving leaves the file alone and returns false.
 class ORVANDATA_EXPORT CConfigData
 {
 public:
@@ -59,7 +59,7 @@ public:
     bool IsEnableAttraction() const { return m_items.enableAttraction; }
     void SetEnableAttraction(bool enable) { m_items.enableAttraction = enable; }
     double GetAttractionDis() const { return m_items.attractionDis; } ///< canvas pixels
-    /// Ignored unless finite. Only whole pixels from 8 to 30 read back from the file; anything else gives 20.
+    /// Ignored unless finite. A file that is loaded gives 20 for anything but whole pixels from 8 to 30.
     void SetAttractionDis(double distance);
     QSize GetCustomerTileSize() const { return QSize(m_items.customerTileWidth, m_items.customerTileHeight); }
     void SetCustomerTileSize(const QSize& size); ///< each side clamped to 1 to 1024
@@ -118,8 +118,7 @@ public:
     bool LoadSpecifiedIP(const QString& path); ///< lines that are no dotted address are left out
     bool SaveSpecifiedIP() const;
     QStringList GetSpecifiedIPList() const;
-    bool
-    AddSpecifiedIP(const QString& address); ///< false for no dotted address, a second time, or above 1024
+    bool AddSpecifiedIP(const QString& address); ///< false when it is no address, known, or one too many
     bool DeleteSpecifiedIP(const QString& address);
     void ClearSpecifiedIP();
     void UpdateErrorIPList(); ///< against this machine's networks as they are now
@@ -127,7 +126,7 @@ public:
 
     // interface settings
     bool Load_UI(const QString& path);
-    bool Save_UI() const; ///< nothing to do, and true, before Load_UI
+    bool Save_UI() const; ///< true, and does nothing, before Load_UI
     bool IsEnableRotate() const;
     void SetEnableRotate(bool enable);
     QVariant GetUIValue(const QString& key, const QVariant& standard = QVariant()) const; ///< "Group/Name"

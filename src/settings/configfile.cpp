@@ -69,7 +69,7 @@ public:
             Convert(item.text(), value);
     }
 
-    /// A number whose file holds it, times a scale, as a whole one. A fraction reads as 0.
+    /// The file holds the number times `scale` as a whole number. A fraction reads as 0.
     template <class T> void Whole(const char* name, T& value, int scale)
     {
         int whole = 0;
@@ -85,7 +85,7 @@ public:
             Convert(element.attribute(QLatin1String(name)), value);
     }
 
-    // The children count, not what the file says of them.
+    // The number of children counts, not the number that the file states.
     template <class T> void Count(const char*, const char* stem, QList<T>& list, int most)
     {
         int count = 0;
@@ -109,7 +109,7 @@ private:
     QVector<QDomElement> m_path;
 };
 
-/// The name of a style among those named before, else the one it comes with, else its key.
+/// The name of a style: the one given before, else the default one, else its key.
 QString NameOfStyle(const QString& key, const QList<SUiStyle>& named)
 {
     for (const SUiStyle& style : named + GetDefaultUiStyles())
@@ -152,7 +152,7 @@ void RepairNumbers(SConfigItems* items)
     items->customerTileHeight = qBound(1, items->customerTileHeight, kMaxCabinetSize);
 }
 
-/// Takes a key text that names no key back to what stood there before.
+/// Replaces a text that names no key by what stood there before.
 void RepairHotkeys(const SConfigItems& before, SConfigItems* items)
 {
     for (size_t mode = 0; mode < kHotkeyModes; ++mode) {

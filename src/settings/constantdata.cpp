@@ -49,7 +49,8 @@ QString TemporaryFolder()
     return QDir::tempPath() + QStringLiteral("/Orvan");
 }
 
-// The platform's temporary folder is open to others: what they put in our folder's place is not ours.
+/// Others may write into the platform's temporary folder. What they put in the place of our folder is not
+/// ours.
 bool IsOurFolder(const QString& path)
 {
     const QFileInfo info(path);
@@ -66,7 +67,7 @@ int RoundHalfAway(double value)
     return TruncatedInt(value + (value < 0 ? -0.5 : 0.5));
 }
 
-/// `name`: of the file that the digest is told of.
+/// `name`: of the file that a message names
 SMD5 HashOf(QFile& file, const QString& name)
 {
     QCryptographicHash hash(QCryptographicHash::Md5);
@@ -77,8 +78,8 @@ SMD5 HashOf(QFile& file, const QString& name)
     return SMD5::FromString(QString::fromLatin1(hash.result().toHex()));
 }
 
-/// Opens a new file in the place of `name` that never takes the name, so that a killed program leaves
-/// nothing. False when the name is somebody else's, or where the file system has no such files.
+/// Opens a new file beside `name` that has no name itself, so that a killed program leaves nothing. False
+/// when `name` is taken, or when the file system has no such files.
 bool OpenNameless(QFile& file, const QString& name)
 {
     const QFileInfo info(name);
@@ -154,7 +155,7 @@ QString CConstantData::GetTmpProjectDataPath(const QString& zipPath)
         QLockFile lock(folder + QStringLiteral("/unpack.lock"));
         if (!LockInTurn(lock))
             return document;
-        // What an earlier archive left must not pass for this one's document.
+        // The document of an earlier archive must not be taken for this one.
         QFile::remove(document);
         UnpackArchive(zipPath, folder);
     }
@@ -208,7 +209,8 @@ int CConstantData::GetBightnessFromPercent(int percent, bool linear)
 
 SMD5 CConstantData::GetMD5FromFile(const QString& path)
 {
-    // A copy is hashed, so that a file that another program is writing is read in one short go.
+    // Copies the file first and hashes the copy: another program may be writing the file, and copying is
+    // short.
     QFile source(path);
     QFile scratch;
     if (!OpenInput(source) || !OpenNameless(scratch, DocumentsFolder() + QStringLiteral("/tmpfile")))

@@ -21,14 +21,13 @@ public:
 
     // files
     static QString GetLatestProjectDir();
-    static QString
-    GetThirdPartyInfoTextPath();  ///< an empty folder of that name is made while no file is there
-    static QString GetLogPath();  ///< by the interface language; a folder is made as above
-    static QString GetHelpPath(); ///< by the interface language; a folder is made as above
+    static QString GetThirdPartyInfoTextPath(); ///< makes an empty folder of that name when no file is there
+    static QString GetLogPath();                ///< by the interface language; a folder is made as above
+    static QString GetHelpPath();               ///< by the interface language; a folder is made as above
     /// Unpacks an archive into the temporary folder and names the document that it should have held.
     static QString GetTmpProjectDataPath(const QString& zipPath);
-    /// Picture behind a sender, counted from 0, or behind the whole layout when negative. Begins with "/"
-    /// without the path, for callers that prepend a folder of their own.
+    /// Picture behind a sender, counted from 0; a negative index gives the one behind the whole layout.
+    /// Without the path the name begins with "/", for callers that put a folder of their own in front.
     static QString GetSenderBKImgName(int index, bool withPath);
     static void ClearTmpFilePath(); ///< removes the temporary folder and all in it; never follows a link
 
@@ -39,12 +38,12 @@ public:
     /// Reads signed 32 bits, so that the text of an opaque colour gives transparent black.
     static QColor GetColorFromQString(const QString& text);
 
-    /// Level of 255 for a percentage, not clamped; with a gamma of 0.4 unless linear.
+    /// A level of 255 for a percentage, not clamped. Uses a gamma of 0.4 unless `linear`.
     static int GetBightnessFromPercent(int percent, bool linear);
 
     // files' contents
     static SMD5 GetMD5FromFile(const QString& path); ///< no type when the file cannot be read
-    /// Packs a folder, under its own name, into an archive. Nothing is reported: look for the file.
+    /// Packs a folder under its own name. Failure is not reported: look for the archive.
     static void ZipFile(const QString& folder, const QString& zipPath);
     /// Unpacks an archive below a folder, replacing files of the same name, up to the first entry that fails.
     static void UnZipFile(const QString& zipPath, const QString& folder);

@@ -31,7 +31,7 @@ bool CustomizeConfig::Save()
     QByteArray content = document.toJson();
     if (content.size() > kMaxJsonBytes)
         content = document.toJson(QJsonDocument::Compact);
-    // Read back, as values may be nested deeper than is read.
+    // It is read back, because values may be nested deeper than a reader takes.
     return content.size() <= kMaxJsonBytes && QJsonDocument::fromJson(content).isObject()
            && m_file.MakeWritable() && ReplaceFile(m_file.Path(), content);
 }
@@ -40,9 +40,4 @@ QJsonValue CustomizeConfig::Value(const QString& key, const QJsonValue& standard
 {
     const auto found = m_values.find(key);
     return found == m_values.end() ? standard : *found;
-}
-
-void CustomizeConfig::SetValue(const QString& key, const QJsonValue& value)
-{
-    m_values.insert(key, value);
 }

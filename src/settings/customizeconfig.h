@@ -11,12 +11,12 @@ constexpr qint64 kMaxJsonBytes = 1 << 24;
 class CustomizeConfig
 {
 public:
-    /// Starts from the file's values; false when there is none or it is broken and was set aside.
+    /// Takes the values of the file. False when there is none, or when it is broken and was set aside.
     bool Load(const QString& path);
-    bool Save(); ///< to the file loaded from; false before
+    bool Save(); ///< to the file loaded from; false before that
 
     QJsonValue Value(const QString& key, const QJsonValue& standard) const;
-    void SetValue(const QString& key, const QJsonValue& value);
+    void SetValue(const QString& key, const QJsonValue& value) { m_values.insert(key, value); }
 
 private:
     SettingsFile m_file;

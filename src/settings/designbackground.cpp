@@ -22,7 +22,8 @@ struct StepRange
     double step;
 };
 
-// 0.055, the last of the first range, is followed by 0.05: the wheel visits each on its way in one direction.
+// The first range ends at 0.055, which lies above the 0.05 that follows. The wheel stops at each of them in
+// one direction only.
 constexpr StepRange kStepRanges[] = {{0, 0.01, 0.005}, {10, 0.05, 0.01}, {15, 0.1, 0.02}, {20, 0.2, 0.05},
                                      {26, 0.5, 0.1},   {31, 1.0, 0.2},   {36, 2.0, 0.5},  {42, 5.0, 1.0}};
 constexpr int kStepCount = 48;
@@ -40,7 +41,7 @@ QPoint ToPoint(const QPointF& point)
     return QPoint(TruncatedInt(point.x()), TruncatedInt(point.y()));
 }
 
-// A rectangle's size in 64 bits: its corners are a host's numbers.
+/// In floating point: a host may set corners that are far apart.
 double Width(const QRect& rect)
 {
     return double(rect.right()) - rect.left() + 1;
@@ -59,7 +60,7 @@ bool Bound(int& coordinate, int largest)
     return moved;
 }
 
-// The canvas that several senders share side by side.
+/// The canvas that several senders share side by side.
 bool IsWideCanvas(const SettingsLookup& lookup)
 {
     switch (lookup.CurrentInterface()) {
@@ -105,11 +106,6 @@ bool IsZoomable(const SettingsLookup& lookup)
 }
 
 } // namespace
-
-void CDesignBackground::SetNotification(std::function<void()> notify)
-{
-    m_notify = std::move(notify);
-}
 
 int CDesignBackground::GetScalingIndex() const
 {
@@ -207,7 +203,7 @@ bool CDesignBackground::SetViewScaling(float scaling, QPoint fix)
     return true;
 }
 
-/// Nothing changes when the clamped scaling is the one that the view has.
+/// Does nothing when the view has this scaling already.
 void CDesignBackground::ZoomAbout(float scaling, QPoint fix)
 {
     View& view = Current();
@@ -242,7 +238,7 @@ bool CDesignBackground::MouseScalingModify(bool zoomIn, QPoint fix)
 
 bool CDesignBackground::SetAdaptiveScaling(QSize client, QSize content, int margin)
 {
-    // Compared times the percentage, so that no rounding decides at the border.
+    // Both sides are multiplied by 100, so that no rounding decides at the border.
     const auto fits = [margin](qint64 available, qint64 needed, qint64 percent) {
         return available * 100 > needed * percent + qint64(margin) * 100;
     };

@@ -20,7 +20,7 @@ public:
     static constexpr int kViewCount = 12;
 
     /// Called after the changes that the caller does not redraw by itself.
-    void SetNotification(std::function<void()> notify);
+    void SetNotification(std::function<void()> notify) { m_notify = std::move(notify); }
 
     // the current view
     int GetScalingIndex() const;
@@ -35,7 +35,7 @@ public:
     bool GetLockLeftTopScaling() const { return m_lockLeftTop; }
     void SetLockLeftTopScaling(bool lock) { m_lockLeftTop = lock; } ///< zooming keeps the view's left top
 
-    // zooming; `fix` is the view pixel that keeps its place, with a negative coordinate: none
+    // zooming; `fix` is the view pixel that keeps its place, a negative coordinate means none
     bool SetViewScaling(float scaling, QPoint fix);   ///< false when it is refused or the same
     bool MouseScalingModify(bool zoomIn, QPoint fix); ///< to the next step; false when there is none
     /// The largest whole percentage, 100 at most, at which content and margin (view pixels) fit.
@@ -45,7 +45,7 @@ public:
     bool ViewStartPtValid(QPoint& start, float scaling) const; ///< true when the start was moved into bounds
     QPoint GetFixPointerStart(float scaling, QPoint fix) const;
 
-    // conversion, rounded half away from zero; always true, and for a null pointer nothing else
+    // conversion, rounded half away from zero; always true; a null pointer is passed over
     bool WholePixelToViewPixel(const QPoint& whole, QPoint* view) const;
     bool WholePixelToViewPixel(const QPointF& whole, QPointF* view) const;
     bool WholePixelToViewPixel(const QRect& whole, QRect* view) const; ///< left, top, right and bottom

@@ -33,7 +33,7 @@ bool MakeFoldersOf(const QString& base, const QString& relativeFile, QSet<QStrin
 {
     const QLatin1Char separator('/');
     const QString root = base.endsWith(separator) ? base : base + separator;
-    // Deeper ones could be made, step by step, but neither reached nor removed by their path.
+    // A deeper folder could be made step by step, but not be reached or removed by its path.
     if (QFile::encodeName(root + relativeFile).size() >= PATH_MAX)
         return Fail(error, CannotMakeFolder(root + relativeFile.left(kShownPath), ENAMETOOLONG));
     QStringList missing; // the deepest first
@@ -44,7 +44,7 @@ bool MakeFoldersOf(const QString& base, const QString& relativeFile, QSet<QStrin
     if (missing.isEmpty())
         return true;
 
-    // By handles: a path would be looked up from its start for each folder, and through links.
+    // Works with handles: looking up a path starts at its root each time and follows links.
     constexpr int flags = O_PATH | O_DIRECTORY | O_CLOEXEC;
     int folder = open(QFile::encodeName(root + relativeFile.left(qMax(end, 0))).constData(), flags);
     if (folder < 0)

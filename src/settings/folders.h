@@ -8,7 +8,7 @@
 QString DocumentsFolder(); ///< the platform's documents folder, no trailing "/"
 QString ProductFolder();   ///< the product library's root, with a trailing "/"
 
-/// Makes the folders of a relative file path, one by one below `base`; false where one is a link or a file or
-/// cannot be made. `made`, kept from call to call, saves looking again at folders that were made before.
+/// Makes the folders of a relative file path below `base`. False when one of them is a link or a file, or
+/// cannot be made. `made` remembers from call to call which folders were made.
 bool MakeFoldersOf(const QString& base, const QString& relativeFile, QSet<QString>* made = nullptr,
                    QString* error = nullptr);

@@ -23,7 +23,7 @@ struct IniText
 {
     QByteArray text;
     IniCodec codec = IniCodec::Latin1;
-    QHash<QString, Span> values;  ///< by the whole key; of the last one of a key, which counts
+    QHash<QString, Span> values;  ///< by key; the last one of a key counts
     QHash<QString, int> sections; ///< by "name/": where a new line belongs
 
     QByteArray Value(const Span& span) const { return text.mid(span.begin, span.end - span.begin); }
@@ -62,8 +62,8 @@ int SkipToLine(const QByteArray& text, int at)
     return at;
 }
 
-/// The end of a line, without the comment behind it. In quotes, and behind a backslash, a line end belongs to
-/// the line. kNone when no other one comes.
+/// The end of a line, in front of a comment. A line end inside of quotes or behind a backslash does not
+/// count. kNone when no end comes.
 int FindEnd(const QByteArray& text, int at, int* equals)
 {
     *equals = kNone;
@@ -81,7 +81,7 @@ int FindEnd(const QByteArray& text, int at, int* equals)
     return kNone;
 }
 
-/// "name/" of a section; empty for "[General]", which is that of the keys without a section.
+/// "name/" of a section; empty for "[General]", which holds the keys without a section.
 QString SectionName(const QByteArray& header)
 {
     if (header.compare("general", Qt::CaseInsensitive) == 0)
@@ -129,7 +129,7 @@ bool ReadIni(const QString& path, IniText* ini)
     return (!QFile::exists(path) || ReadInput(path, kMaxIniBytes, &ini->text)) && Parse(ini);
 }
 
-/// The text with other values; nothing when one of them cannot be written.
+/// The text with these values; empty when one of them cannot be written.
 QByteArray Changed(const IniText& ini, const QVariantMap& values)
 {
     QMap<int, Edit> edits;
@@ -141,7 +141,7 @@ QByteArray Changed(const IniText& ini, const QVariantMap& values)
             return {};
         const auto old = ini.values.find(key);
         if (old != ini.values.end()) {
-            // What only looks different, or is of a type that is not read, stays as it is.
+            // A value that is written in another form, or that is not read, stays as it is.
             if (ValueToIni(ValueFromIni(ini.Value(*old), ini.codec), ini.codec) != text)
                 edits.insert(old->begin, {old->end - old->begin, *text});
             continue;
@@ -181,8 +181,7 @@ bool WriteIniValues(const QString& path, const QVariantMap& values, IniCodec cod
     if (values.isEmpty())
         return true;
     QDir().mkpath(QFileInfo(path).path());
-    // The file is read while its replacement is locked, so that of two programs neither undoes the other's
-    // change.
+    // Reading under the lock of the replacement keeps two programs from undoing what the other one changed.
     return ReplaceFile(path, [&](QIODevice& file) {
         IniText ini;
         ini.codec = codec;

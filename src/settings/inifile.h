@@ -4,10 +4,10 @@
 
 constexpr qint64 kMaxIniBytes = 1 << 22; ///< keys cost a hundred times their size
 
-/// Reads all values whose keys have no empty part. A file that is not there has none. False when the file
-/// cannot be read, is too large or is no INI file.
+/// Reads all values. Keys with an empty part are left out. A file that is not there has no values. False when
+/// the file cannot be read, is too large or is no INI file.
 bool ReadIniValues(const QString& path, QVariantMap* values, IniCodec codec);
 
-/// Writes values into an INI file as one step. All lines stay as they are but those whose value changes.
-/// False, with the file unchanged, when they did not get there or could not be read again.
+/// Writes values into an INI file as one step. Only the lines whose values change are touched. False, with
+/// the file as it was, when writing failed or when a value could not be read again.
 bool WriteIniValues(const QString& path, const QVariantMap& values, IniCodec codec);

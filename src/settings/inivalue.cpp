@@ -29,7 +29,7 @@ int SkipBlanks(const QByteArray& text, int at)
     return at;
 }
 
-/// What an escape stands for; nothing for a line that goes on. `at` stands behind the backslash.
+/// The character of an escape; empty when it only continues the line. `at` stands behind the backslash.
 QString ReadEscape(const QByteArray& text, int* at)
 {
     const char code = *at < text.size() ? text[*at] : '\0';
@@ -48,13 +48,13 @@ QString ReadEscape(const QByteArray& text, int* at)
     return QChar(static_cast<ushort>(number));
 }
 
-/// The texts that a value lists; one when it is no list.
+/// The texts of a list. A value that is no list gives one text.
 QStringList ReadTexts(const QByteArray& value, IniCodec codec)
 {
     QStringList texts{QString()};
     bool inQuotes = false;
     bool wasQuoted = false;
-    int kept = 0; // characters of the last text behind which blanks are cut off
+    int kept = 0; // as many characters of the last text stay when blanks are cut off
     const auto cutBlanks = [&] {
         QString& text = texts.last();
         while (!wasQuoted && text.size() > kept
@@ -92,7 +92,7 @@ QStringList ReadTexts(const QByteArray& value, IniCodec codec)
 
 QVariant FromStream(const QByteArray& bytes, QDataStream::Version version)
 {
-    constexpr int zoneAt = 17; // in a date with time; a named zone would have a file of that name read
+    constexpr int zoneAt = 17; // in a date with time; Qt would look for a file with the name of a time zone
     QDataStream stream(bytes);
     stream.setVersion(version);
     quint32 type = 0;
@@ -108,7 +108,7 @@ QVariant FromStream(const QByteArray& bytes, QDataStream::Version version)
     return stream.status() == QDataStream::Ok ? value : QVariant();
 }
 
-/// Of a text "@Name(inside)"; false for any other.
+/// Whether a text is "@Name(inside)", and what stands inside.
 bool IsTyped(const QString& text, const char* name, QString* inside)
 {
     const QString begin = QLatin1Char('@') + QLatin1String(name) + QLatin1Char('(');
@@ -193,7 +193,7 @@ std::optional<QString> ToText(const QVariant& value)
 QByteArray Escaped(const QString& text, IniCodec codec)
 {
     QByteArray escaped;
-    bool afterNumber = false; // a digit would be taken for one of the number's
+    bool afterNumber = false; // a digit that follows would belong to the number
     for (const QChar c : text) {
         const int code = c.unicode();
         const size_t known = kEscaped.substr(0, kWrittenEscapes).find(c.toLatin1());

@@ -17,9 +17,9 @@ enum class IniCodec
 QString KeyFromIni(const QByteArray& text);
 QByteArray KeyToIni(const QString& key);
 
-/// A text, bytes, a rectangle, a size, a point, a list of these, or one of a few plain types that are
-/// streamed. Invalid for any other type.
+/// A text, bytes, a rectangle, a size, a point, a list, or one of a few plain types that QSettings streams.
+/// Invalid for any other type.
 QVariant ValueFromIni(const QByteArray& text, IniCodec codec);
 
-/// Nothing for a value of a type that would not be read again.
+/// Nothing for a type that would not be read again.
 std::optional<QByteArray> ValueToIni(const QVariant& value, IniCodec codec);

@@ -10,9 +10,9 @@
 class InterfaceSettings
 {
 public:
-    /// Starts from the file's values; false when there is none or it is broken and was set aside.
+    /// Takes the values of the file. False when there is none, or when it is broken and was set aside.
     bool Load(const QString& path);
-    bool Save(); ///< to the file loaded from; nothing to do, and true, before
+    bool Save(); ///< to the file loaded from; true, and does nothing, before that
 
     QVariant Value(const QString& key, const QVariant& standard) const; ///< "Group/Name"
     void SetValue(const QString& key, const QVariant& value);

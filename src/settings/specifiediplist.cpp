@@ -73,11 +73,6 @@ bool SpecifiedIpList::Remove(const QString& address)
     return m_addresses.removeOne(Dotted(address));
 }
 
-void SpecifiedIpList::Clear()
-{
-    m_addresses.clear();
-}
-
 QStringList SpecifiedIpList::Outside(const QVector<Ipv4Network>& networks) const
 {
     QStringList outside;
@@ -85,7 +80,7 @@ QStringList SpecifiedIpList::Outside(const QVector<Ipv4Network>& networks) const
         const quint32 address = QHostAddress(dotted).toIPv4Address();
         const bool inside =
             std::any_of(networks.begin(), networks.end(), [address](const Ipv4Network& network) {
-                // A link between two points may have no mask: it reaches its own address only.
+                // A link between two points may have no mask. It reaches only its own address.
                 const quint32 mask = network.mask ? network.mask : ~quint32(0);
                 return ((address ^ network.address) & mask) == 0;
             });

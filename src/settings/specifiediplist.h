@@ -17,18 +17,18 @@ struct Ipv4Network
 
 QVector<Ipv4Network> GetLocalNetworks(); ///< of the interfaces of this machine that are up
 
-/// Addresses of processors that a search of the local networks would not find, kept one a line in a text
-/// file of the user's.
+/// Addresses of processors outside the local networks, which a search does not find. A text file holds one a
+/// line.
 class SpecifiedIpList
 {
 public:
     bool Load(const QString& path); ///< false, with the list unchanged, when the file cannot be read
-    bool Save(); ///< to the file loaded from, one that could not be read kept as ".bak"; false before
+    bool Save(); ///< to the file loaded from, a broken one kept as ".bak"; false before loading
 
     const QStringList& Addresses() const { return m_addresses; }
     bool Add(const QString& address);    ///< false for no dotted address, one listed already, or a full list
     bool Remove(const QString& address); ///< false when it is not listed
-    void Clear();
+    void Clear() { m_addresses.clear(); }
 
     /// The addresses that lie outside all these networks.
     QStringList Outside(const QVector<Ipv4Network>& networks) const;

@@ -10,12 +10,12 @@ int Fail(int status, const QString& subject, const QString& what);
 
 void Warn(const QString& subject, const QString& what); ///< the same, marked as a warning
 
-/// To standard output. Only the line feeds of what a terminal obeys are kept, so names and texts of files go
-/// through OrvanTools::Printable before they are put into lines.
+/// To standard output. Controls of the terminal are removed but for line feeds. Names and texts of files must
+/// go through OrvanTools::Printable first.
 void Print(const QString& text);
 void PrintJson(const QJsonObject& object); ///< UTF-8, whatever the locale; such characters are escaped
 
-/// An object of one list, as PrintJson would print it, object by object: the whole may be large.
+/// An object with one list, in the form of PrintJson, written piece by piece because it may be large.
 class JsonListPrinter
 {
 public:

@@ -29,7 +29,7 @@ std::optional<DrawingFormat> FormatOf(const QString& file)
     return {};
 }
 
-/// A full disk takes a part first, and tells why it takes no more when asked again, without a buffer between.
+/// A full disk takes a part of the bytes first. Only a second write without a buffer tells the reason.
 bool WriteAll(QIODevice& output, const QByteArray& bytes)
 {
     qint64 done = 0;

@@ -23,7 +23,7 @@ const Command* const kCommands[] = {
     &kRenderCommand, &kProductsCommand, &kParamsCommand,
 };
 
-/// Without a locale every character beyond ASCII would be lost, in file names too. They are UTF-8 then.
+/// Without a locale every character beyond ASCII would be lost, also in file names. Then they are UTF-8.
 void UseUtf8WithoutLocale()
 {
     std::setlocale(LC_ALL, "");
@@ -31,7 +31,8 @@ void UseUtf8WithoutLocale()
         QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
-/// Where the shell closed a standard stream, a file opened later would get its place, and what is printed.
+/// When the shell closed a standard stream, the next file opened would take its place and get what is
+/// printed.
 void KeepStandardStreams()
 {
     int file = 0;
@@ -41,7 +42,7 @@ void KeepStandardStreams()
     close(file);
 }
 
-/// What the frameworks below have to grumble is no concern of whoever reads this program's errors.
+/// Messages of the frameworks are no concern of whoever reads the errors of this program.
 void DropFrameworkWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)
@@ -177,7 +178,7 @@ int main(int argc, char** argv)
     const QString name = overview.positionalArguments().value(0);
     const Command* command = FindCommand(name);
 
-    // Starting with fonts costs more than most commands do.
+    // Starting with fonts takes longer than most commands.
     char program[] = "orvan";
     char* programArguments[] = {program, nullptr};
     int programCount = 1;

@@ -32,7 +32,7 @@ void AddOptions(QCommandLineParser& parser)
     parser.addOption({QStringLiteral("force"), QStringLiteral("Replace an existing file.")});
 }
 
-/// The sizes and numbers of the options. Empty when they can be read, else which one cannot.
+/// The sizes and numbers of the options. Empty when all can be read, else which one cannot.
 QString ReadOptions(const QCommandLineParser& parser, NewProject* wanted)
 {
     const auto size = [&parser](const char* name, QSize* value) {
@@ -54,7 +54,7 @@ QString ReadOptions(const QCommandLineParser& parser, NewProject* wanted)
     return OrvanTools::WhyNotBuildable(*wanted);
 }
 
-/// A path in the product folder that no file has yet, with a suffix that the library looks for.
+/// A path in the product folder that is free, with a suffix that the library looks for.
 QString FreeProductPath(const QString& file)
 {
     const QFileInfo info(file);
@@ -67,7 +67,7 @@ QString FreeProductPath(const QString& file)
     return path;
 }
 
-/// Brings a parameter file into the product library, unless the library has it. No type when it fails.
+/// Adds a parameter file to the product library, unless it is there. No type when that fails.
 SMD5 TakeProduct(const QString& file)
 {
     CProductDirectorySet& library = *GetRuntimeData()->GetProductDirectorySet();

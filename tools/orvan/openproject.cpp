@@ -32,9 +32,9 @@ bool OpenProject(const QString& file)
 bool SaveProject(const QString& file)
 {
     ProgressLine progress(QStringLiteral("writing ") + file);
-    // What is written beside the file is gone or renamed afterwards. A signal has to wait as well while
-    // another program has the work folder of the documents or writes the same file, which the library gives
-    // up after half a minute each.
+    // After the save the file beside the target is gone or renamed. A signal waits for that, also while
+    // another program holds the work folder or writes the same file. The library gives up after half a minute
+    // each.
     const SignalsHeld held;
     const bool saved =
         GetProjectData()->SaveProjectToFile(QFileInfo(file).absoluteFilePath(), progress.Bar());

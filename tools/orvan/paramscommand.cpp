@@ -25,7 +25,7 @@ QString RootName(const QString& path)
     return file.open(QIODevice::ReadOnly) && xml.readNextStartElement() ? xml.name().toString() : QString();
 }
 
-/// One line a value, indented by its place: first an element's own values, then the elements in it.
+/// One line for each value, indented by its depth: the values of an element come before its elements.
 void AddLines(const QString& name, const QJsonValue& value, int depth, QString& text)
 {
     if (value.isArray()) {

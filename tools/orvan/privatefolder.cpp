@@ -40,7 +40,7 @@ void RemoveAndEnd(int signal)
     }
     while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR)
         continue;
-    raise(signal); // held until the handler returns, and then what it is without one
+    raise(signal); // waits until the handler returns, and then ends the program
 }
 
 void EndBySignals()
@@ -52,7 +52,7 @@ void EndBySignals()
     for (const int signal : kSignals) {
         struct sigaction before = {};
         if (sigaction(signal, nullptr, &before) == 0 && before.sa_handler == SIG_DFL)
-            sigaction(signal, &action, nullptr); // who is started with nohup goes on
+            sigaction(signal, &action, nullptr); // a program started with nohup goes on
     }
 }
 
@@ -68,8 +68,8 @@ int Lock(const QByteArray& path, int flags)
     return -1;
 }
 
-/// The lock tells a folder in use from one of a killed run, and ours from any other of that name. It gets its
-/// name when it is locked, so that no other run can take the folder for an abandoned one before.
+/// The lock tells a folder in use from one that a killed run left. It is locked before it gets its name, so
+/// that no other run takes it for one of these.
 int LockNew(const QByteArray& folder)
 {
     const QByteArray fresh = folder + "/new.lock";

@@ -4,9 +4,8 @@
 
 #include <csignal>
 
-/// A folder of this run in the platform's temporary folder, gone with the object and also when a signal or a
-/// closed pipe ends the program. Folders of runs that were killed are removed when one is made. One at a
-/// time.
+/// A private folder in the temporary folder of the platform. It is gone with the object, also when a signal
+/// or a closed pipe ends the program. When one is made, folders of killed runs are removed. One at a time.
 class PrivateFolder
 {
 public:
@@ -24,7 +23,7 @@ private:
     int m_lock = -1; ///< held as long as the folder is used
 };
 
-/// Puts off the signals that end the program, so that what is half written is finished or removed first.
+/// Delays the signals that end the program, so that half-written files are finished or removed first.
 class SignalsHeld
 {
 public:

@@ -18,7 +18,7 @@ void AddOptions(QCommandLineParser& parser)
     parser.addOption({QStringLiteral("json"), QStringLiteral("Print one JSON object.")});
 }
 
-/// The scan deletes doubles, so it works on a copy. False, with the path, at the first file that fails.
+/// The scan deletes doubles, so it works on a copy. False at the first file that fails, with its path.
 bool CopyProducts(const QString& from, const QString& to, QString* failed)
 {
     QDirIterator files(from, {QStringLiteral("*.rcvp"), QStringLiteral("*.rcvbp")},
@@ -35,7 +35,7 @@ bool CopyProducts(const QString& from, const QString& to, QString* failed)
     return true;
 }
 
-/// A product as the folder itself has it, not its copy.
+/// The product in the folder itself instead of the copy.
 QJsonObject Describe(const CProduct& product, const QString& copy, const QString& folder)
 {
     const QString path = QDir(copy).relativeFilePath(product.GetParamPath());

@@ -5,7 +5,7 @@
 #include <QElapsedTimer>
 #include <QString>
 
-/// Tells on standard error how far a long work is, from its second second on and once a second.
+/// Tells on standard error how far a long work is: once a second, from the second one on.
 class ProgressLine
 {
 public:

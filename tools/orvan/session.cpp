@@ -21,8 +21,8 @@ QString DocumentsLocation()
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
-/// Nobody sits in front of a script: what a box would tell goes to standard error, and no question is agreed
-/// to.
+/// Nobody answers a box while a script runs. Its text goes to standard error, and the answer to a question is
+/// no.
 QMessageBox::StandardButton AnswerBox(CCustomMessageBox::Kind kind, const QString& text,
                                       QMessageBox::StandardButtons /*buttons*/)
 {
@@ -63,8 +63,8 @@ bool Session::LeadTo(const QString& documents, QString* why)
         *why = QStringLiteral("cannot be the documents folder");
         return false;
     }
-    // The desktop's own way to say where the documents lie; the home folder, and with it the user's fonts,
-    // stay where they are.
+    // Tells the platform where the documents lie, by the settings of the desktop. The home folder stays, and
+    // with it the fonts of the user.
     const QString settings = m_private.Path("config");
     const QString scratch = m_private.Path("tmp");
     QFile file(settings + QStringLiteral("/user-dirs.dirs"));

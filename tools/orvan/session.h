@@ -5,8 +5,8 @@
 #include <QString>
 #include <QTranslator>
 
-/// The library at work in a documents folder of its own, so that looking at a project leaves the user's
-/// folders as they were. Holds the library from Start to its end and removes the private folder then.
+/// Runs the library in a documents folder of its own, so that looking at a project changes nothing in the
+/// folders of the user. From Start to its end it holds the library; then it removes the private folder.
 class Session
 {
 public:
@@ -15,8 +15,8 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    /// Starts the library. An empty folder means a private one; another one is made when missing and kept.
-    /// False, with the reason, when the platform does not lead there.
+    /// Starts the library. An empty folder means a private one. Another folder is made when it is missing,
+    /// and kept. False, with the reason, when the platform does not use it.
     bool Start(const QString& documents, QString* why);
 
 private:

@@ -22,8 +22,8 @@ struct GroupOutline
     std::vector<BorderLine> lines;
 };
 
-/// Outlines the groups of one port, those inside others too: the edge of the area that a group's cabinets
-/// cover, or their convex hull when some are turned.
+/// Outlines the groups of one port, also groups inside others: the edge of the area of a group's cabinets, or
+/// their convex hull when some are turned.
 class GroupOutlines
 {
 public:

@@ -7,14 +7,14 @@
 
 namespace OrvanTools {
 
-/// Keeps labels from lying on one another: a place is given once.
+/// Keeps labels from covering one another: each place is given once.
 class LabelPlacer
 {
 public:
     explicit LabelPlacer(double cell) : m_cell(cell) {} ///< about the size of a label
 
     bool Take(const QRectF& place);  ///< false when some of it is taken
-    void Block(const QRectF& place); ///< taken, whether it was free or not
+    void Block(const QRectF& place); ///< takes a place, also one that is not free
 
 private:
     template <class Visit> bool VisitCells(const QRectF& place, Visit visit);

@@ -24,7 +24,7 @@ constexpr std::array<const char*, 12> kKindNames = {
     "orphan-group", "backup-of-nothing", "backup-loop",  "port-overload",
 };
 
-/// As the host shows what counts from 0; any number may stand in a file.
+/// Numbers as the host shows them, from 1. A file may hold any number.
 qint64 Shown(int number)
 {
     return qint64(number) + 1;
@@ -83,7 +83,7 @@ private:
     int m_port = 0;
 };
 
-/// Told kind after kind, so that not all faults of a large wall are held at a time.
+/// Faults are told kind after kind, so that a large wall does not need memory for all of them.
 void Checker::Run()
 {
     for (const SParameterFileInfo& file : m_project.GetParameterFiles())

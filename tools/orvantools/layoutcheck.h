@@ -31,7 +31,7 @@ enum class FaultKind
 
 QString FaultKindName(FaultKind kind); ///< "overlap", "off-canvas" …
 
-/// One fault. Numbers count from 1 as the host shows them; 0: does not apply.
+/// One fault. Numbers count from 1 as the host shows them; 0 means that it does not apply.
 struct Fault
 {
     FaultKind kind = FaultKind::Overlap;
@@ -50,8 +50,8 @@ struct CheckOptions
     const StoredReceivers* stored = nullptr; ///< [ref] of the file read; null: no receiver-mismatch
 };
 
-/// Tells the faults of the open document, by kind, sender, port and cabinet; at most one of a kind for a
-/// cabinet. The stored cabinets of a backup port are not looked at: the port shows those of its source.
+/// Tells the faults of the open document, ordered by kind, sender, port and cabinet, at most one of a kind
+/// for a cabinet. Stored cabinets of a backup port are passed over: the port shows those of its source.
 void CheckProject(const CProjectData& project, const CheckOptions& options,
                   const std::function<void(const Fault&)>& found);
 

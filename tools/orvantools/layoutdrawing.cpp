@@ -288,7 +288,7 @@ void PaintLayout(QPainter& painter, const CProjectData& project, int sender, dou
 bool WriteLayout(QIODevice& device, DrawingFormat format, const CProjectData& project,
                  const DrawingOptions& options)
 {
-    // The writers of the formats do not all tell when a device takes no more.
+    // Not all writers of formats tell when a device takes no more.
     QBuffer drawing;
     drawing.open(QIODevice::WriteOnly);
     bool drawn = false;

@@ -8,8 +8,8 @@ class QPainter;
 
 namespace OrvanTools {
 
-/// Width and height of the page that a drawing is laid out on, A3 in tenths of a millimetre. Painters draw in
-/// these units whatever the size of the device.
+/// Width and height of the page of a drawing, A3 in tenths of a millimetre. Painters use these units for
+/// every device.
 constexpr int kPageWidth = 4200;
 constexpr int kPageHeight = 2970;
 
@@ -23,7 +23,7 @@ enum class DrawingFormat
 struct DrawingOptions
 {
     int sender = 0; ///< counted from 0
-    /// Pixels of a PNG; for the others the page has that many at 96 to the inch. 0: 1920, or A3.
+    /// Pixels of a PNG. The page of another format has as many at 96 to the inch. 0: 1920, or A3.
     int width = 0;
 };
 

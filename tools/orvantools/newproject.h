@@ -28,7 +28,7 @@ QString WhyNotBuildable(const NewProject& wanted);
 /// Makes `project` that project. False, and nothing changed, when it cannot be built.
 bool BuildProject(CProjectData& project, const NewProject& wanted);
 
-/// Sets the smallest number of ports that some device has and that is not below `ports`.
+/// Sets the smallest number of ports that a device has and that is at least `ports`.
 void SetPortCountAtLeast(CSender& sender, int ports);
 
 } // namespace OrvanTools

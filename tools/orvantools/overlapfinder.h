@@ -8,11 +8,11 @@
 
 namespace OrvanTools {
 
-/// Finds which shapes overlap another one. Those that are not turned are swept. When some are turned, the
-/// canvas is cut into cells, for each size of shapes into others, so that a shape covers few cells; from the
-/// largest to the smallest each is compared with the turned ones of its cells, and a turned one with all.
-/// Shapes already known to overlap are kept apart, equal ones in a row once, and of the others only so many
-/// fit into a cell. Shapes without area, and what is larger than any cabinet, overlap nothing.
+/// Finds which shapes overlap another one. Shapes that are not turned are swept. When some are turned, the
+/// canvas is cut into cells, one grid for each size of shapes, so that a shape covers few cells. From the
+/// largest to the smallest, each shape is compared with the turned ones in its cells, and a turned one with
+/// all. Shapes known to overlap are kept apart. Equal shapes in a row count once, and a cell holds a limited
+/// number of the others. A shape without area, or larger than any cabinet, overlaps nothing.
 class OverlapFinder
 {
 public:

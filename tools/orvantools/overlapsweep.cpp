@@ -9,8 +9,8 @@ namespace {
 
 constexpr int kNone = -1;
 
-/// Those of some rectangles that the sweep line crosses: a tree over all of them in the order of their tops,
-/// whose nodes hold the one that reaches down farthest.
+/// The rectangles that the sweep line crosses. A tree over all rectangles in the order of their tops; each
+/// node holds the one that reaches down farthest.
 class Crossed
 {
 public:
@@ -30,7 +30,7 @@ public:
             m_tree[node] = Lower(m_tree[2 * node], m_tree[2 * node + 1]);
     }
 
-    /// One that reaches below the top of `bound` and begins above its bottom, or kNone.
+    /// A rectangle that reaches below the top of `bound` and begins above its bottom, or kNone.
     int Find(const QRectF& bound) const
     {
         const auto end = std::lower_bound(

@@ -79,7 +79,7 @@ QVector<QRgb> ChoosePalette(const std::vector<Bin>& bins)
         if (bin.pixels > 0)
             used.push_back(&bin);
     }
-    // Areas first: however small one is, its colour tells something.
+    // Areas come first: even a small one has a colour that means something.
     std::stable_sort(used.begin(), used.end(), [](const Bin* a, const Bin* b) {
         return std::tie(a->fromArea, a->pixels) > std::tie(b->fromArea, b->pixels);
     });

@@ -4,8 +4,8 @@
 
 namespace OrvanTools {
 
-/// Whether a character may do something to a terminal other than stand there: controls, what turns the
-/// direction of writing, separators of lines.
+/// Whether a terminal may do more with a character than show it: controls, line separators, and what turns
+/// the direction of writing.
 bool IsUnprintable(QChar character);
 
 /// A text of a file in one line, with a sign in place of each such character.

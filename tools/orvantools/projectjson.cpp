@@ -13,7 +13,7 @@ QString Key(const char* name)
     return QLatin1String(name);
 }
 
-/// Six significant digits: what the project file keeps, without the noise of the binary form.
+/// Six significant digits, as the project file keeps them, without the noise of the binary form.
 double Rounded(double number)
 {
     return QString::number(number, 'g', 6).toDouble();
@@ -41,7 +41,7 @@ QJsonValue BoundOrNull(const QRect& bound)
     return QJsonArray{bound.left(), bound.top(), bound.width(), bound.height()};
 }
 
-/// The bound of the cabinets as they stand before they are turned.
+/// The bound of the cabinets before they are turned.
 QRect UnrotatedBound(const CTileSet& tiles)
 {
     return tiles.GetCount() > 0 ? tiles.GetBound(false, QSize()) : QRect();

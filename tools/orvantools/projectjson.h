@@ -7,8 +7,8 @@ class CProjectData;
 
 namespace OrvanTools {
 
-/// Everything a project holds as one object. The cabinets and the group trees of the ports, by far the
-/// largest part, only `withTiles`. A backup port is described by its own stored layout.
+/// Everything a project holds as one object. Cabinets and group trees, by far the largest part, only
+/// `withTiles`. A backup port is described by its own stored layout.
 QJsonObject DescribeProject(const CProjectData& project, const CMonitorInterfaceData& monitor,
                             bool withTiles);
 

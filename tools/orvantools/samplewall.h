@@ -8,9 +8,9 @@
 
 namespace OrvanTools {
 
-/// Builds a small wall the way a person does it in the host's windows, step by step in the open document:
-/// product library, blocks of cabinets, groups, rotation, numbering, undo and redo. Every step looks at what
-/// it did.
+/// Builds a small wall step by step in the open document, as a person does it in the windows of the host:
+/// product library, blocks of cabinets, groups, rotation, numbering, undo and redo. Every step checks its
+/// result.
 class SampleWall
 {
 public:
@@ -18,7 +18,7 @@ public:
 
     explicit SampleWall(Tell tell);
 
-    /// False at the first step that did not do what it should; GetFault says which.
+    /// False at the first step that failed; GetFault says which.
     bool Build();
     QString GetFault() const { return m_fault; }
 

@@ -33,8 +33,8 @@ QTextCodec* CodecOf(const QByteArray& start)
     return QTextCodec::codecForUtfText(start, QTextCodec::codecForName("ISO-8859-1"));
 }
 
-/// Takes the tags out of a document. Text, comments, instructions and CDATA sections, which may be as long as
-/// the file, are passed over: the XML reader would begin with them anew for each piece that it gets.
+/// Takes the tags out of a document. Text, comments, instructions and CDATA sections may be as long as the
+/// file and are passed over: with each piece the XML reader would begin them anew.
 class TagPicker
 {
 public:
@@ -46,8 +46,8 @@ private:
 
     QString m_tags;
     QString m_tag;      ///< the beginning of one; empty: between tags
-    QChar m_quote;      ///< that ends the attribute's value; null: in none
-    QChar m_mark;       ///< that stands before the `>` of what is passed over; null: nothing is
+    QChar m_quote;      ///< ends the value of the attribute; null: in no value
+    QChar m_mark;       ///< stands before the `>` that ends what is passed over; null: nothing is passed over
     int m_marks = 0;    ///< how many of it have to stand there
     int m_marksNow = 0; ///< how many did so far
 };
@@ -118,8 +118,7 @@ bool StoredReceivers::ReadDocument(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return false;
     const std::unique_ptr<QTextDecoder> decoder(CodecOf(file.peek(4))->makeDecoder());
-    // Digests end with a NUL character, in whatever form, which no XML reader takes; nor do they take
-    // controls.
+    // Digests end with a NUL character in some form. XML readers take neither that nor other controls.
     static const QRegularExpression refused(
         QStringLiteral("&#x?0+;|[\\x{0}-\\x{8}\\x{B}\\x{C}\\x{E}-\\x{1F}]"));
     bool hasRoot = false;

@@ -19,7 +19,7 @@ struct Range
     double high;
 };
 
-/// Also what turning about a point beyond all bounds makes of a corner.
+/// Also for corners that were turned about a point beyond all bounds.
 double Reachable(double place)
 {
     return std::isnan(place) ? kFarthest : std::clamp(place, -kFarthest, kFarthest);

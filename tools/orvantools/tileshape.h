@@ -10,7 +10,7 @@ class CTile;
 
 namespace OrvanTools {
 
-/// Where a cabinet lies on the canvas, turned as its record says, whatever the rotation setting.
+/// Where a cabinet lies on the canvas. It is turned by its own record, whatever the rotation setting says.
 struct TileShape
 {
     std::array<QPointF, 4> corners; ///< left-top, right-top, right-bottom, left-bottom before turning
@@ -29,8 +29,8 @@ TileShape ShapeOf(const CTile& tile);
 
 qint64 PixelsOf(const CTile& tile);
 
-/// Whether two shapes share more than rounding: turned cabinets that stand side by side have positions in
-/// whole pixels and cut into each other a little.
+/// Whether two shapes share more than rounding. Turned cabinets that stand side by side have positions in
+/// whole pixels, so they overlap a little.
 bool IsOverlap(const TileShape& a, const TileShape& b);
 
 } // namespace OrvanTools

@@ -17,7 +17,7 @@ constexpr double kLeastCover = 0.6; ///< of the canvas, to show it whole
 constexpr double kMargin = 30;
 constexpr double kSmallSide = 50; ///< of a cabinet whose arrows and groups are bare of white edges
 
-/// The part of the canvas to show: all of it when the wall fills a fair part, else the wall.
+/// The part of the canvas to show: all of it when the wall fills much of it, else only the wall.
 QRectF Shown(const WallPicture& picture)
 {
     if (picture.bound.isEmpty())
@@ -28,7 +28,7 @@ QRectF Shown(const WallPicture& picture)
     return fills ? picture.bound.united(picture.canvas) : picture.bound;
 }
 
-/// Goes on to a point; a point before it on the same straight way is left out.
+/// Adds a point. The point before it is left out when it lies on the same straight way.
 void LineTo(QPolygonF& line, const QPointF& to)
 {
     if (line.size() >= 2) {
@@ -113,7 +113,7 @@ void WallPainter::Paint()
         PaintNumbers(port);
         PaintEnds(port);
     }
-    // What may give way comes last, the most useful first.
+    // What may be left out comes last, the most useful first.
     for (const PicturePort& port : m_picture.ports)
         PaintNumbersOfTurns(port);
     for (const PicturePort& port : m_picture.ports)
@@ -160,9 +160,9 @@ void WallPainter::PaintCabinets(const PicturePort& port)
     m_painter.drawPath(path);
 }
 
-/// Thousands of cabinets as one path are slow to fill pixel by pixel, and so are long upright lines: a row in
-/// the colour of the outline shows it where the cabinets laid on it leave it bare. On whole pixels, so that
-/// every line is as wide as the next one.
+/// Thousands of cabinets in one path are slow to fill pixel by pixel, and so are long upright lines. So a row
+/// is filled with the colour of the outline, and the cabinets laid on it leave the outline bare. On whole
+/// pixels, so that all lines have the same width.
 void WallPainter::PaintCabinetsAsPixels(const PicturePort& port)
 {
     const QPen outline = m_painter.pen();
@@ -238,7 +238,7 @@ void WallPainter::PaintGroups(const PicturePort& port)
 {
     if (port.groups.empty() || port.shapes.empty())
         return;
-    // Inwards from group to group, so that none hides another.
+    // From the outer group inwards, so that none hides another.
     const double step = Limited(SideOf(port.shapes.front()) * 0.08, 4, 12);
     std::vector<QPolygonF> lines;
     for (const GroupOutline& outline : port.groups) {
@@ -293,7 +293,7 @@ void WallPainter::PaintChain(const PicturePort& port)
     DrawArrows(arrows);
 }
 
-/// As one path, which makes a small file; for pixels piece by piece, which is many times as fast.
+/// One path makes a small file. For pixels, pieces are many times as fast.
 void WallPainter::DrawLines(const std::vector<QPolygonF>& lines)
 {
     QPainterPath path;

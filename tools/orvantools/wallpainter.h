@@ -17,12 +17,12 @@ namespace OrvanTools {
 class WallPainter
 {
 public:
-    /// [ref] both. Text smaller than `leastText` is left out, as nobody could read it.
+    /// [ref] both. Text smaller than `leastText` is left out, because nobody could read it.
     WallPainter(QPainter& painter, const WallPicture& picture, const QRectF& area, double leastText);
 
     void Paint();
 
-    /// The line style of a port's chain: in black and white colours tell nothing.
+    /// The line style of the chain of a port, because colours tell nothing in black and white.
     static QPen ChainPen(int port, double width);
     static QPen GroupPen();
 

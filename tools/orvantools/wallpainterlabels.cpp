@@ -96,7 +96,7 @@ void WallPainter::PaintNumbers(const PicturePort& port)
     }
 }
 
-/// In cabinets too small for that, where the chain begins, ends and turns.
+/// Smaller cabinets have numbers only where the chain begins, ends and turns.
 void WallPainter::PaintNumbersOfTurns(const PicturePort& port)
 {
     const auto shapeAt = [&port](size_t i) -> const TileShape& {
@@ -113,7 +113,7 @@ void WallPainter::PaintNumbersOfTurns(const PicturePort& port)
         const bool turns = std::abs(in.x() * out.y() - in.y() * out.x()) > 1e-6 * (1 + in.manhattanLength());
         if (i != 0 && !isLast && !turns)
             continue;
-        // Moved along the row into the port's own cabinets, away from the next port's numbers.
+        // Moved along the row towards the cabinets of the port, away from the numbers of the next port.
         const QString text = FromOne(NumberOf(port, port.chain[i]));
         const double beyond = QFontMetricsF(Font(m_leastText)).horizontalAdvance(text) + m_leastText * 0.5
                               - shape.Bound().width() * m_scale;

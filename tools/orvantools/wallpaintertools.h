@@ -26,7 +26,7 @@ inline QColor FillOf(const PicturePort& port)
     return port.hidden ? lighter : port.color;
 }
 
-/// What counts from 0, as it is shown; any number may stand in a file.
+/// Shows a number that counts from 0. A file may hold any number.
 inline QString FromOne(qint64 number)
 {
     return QString::number(number + 1);
