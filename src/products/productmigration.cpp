@@ -34,7 +34,7 @@ bool ReadProductList(const QString& path, QSet<SMD5>& digests)
 {
     const QString noFile = QStringLiteral("NoFile");
     QVariantMap list;
-    if (!ReadIniValues(path, &list, IniCodec::Latin1))
+    if (!ReadIniValues(path, &list))
         return false;
     for (int number = 1; number <= kMaxListedProducts; ++number) {
         const QString key = QStringLiteral("ProductListInfo/Product%1").arg(number);

@@ -21,7 +21,7 @@ namespace {
 void WritePrintWatermark()
 {
     WriteIniValues(ProductFolder() + QStringLiteral("ProductList.ini"),
-                   {{QStringLiteral("Setup/PrintWatermark"), QStringLiteral("Vantrel")}}, IniCodec::Latin1);
+                   {{QStringLiteral("Setup/PrintWatermark"), QStringLiteral("Vantrel")}});
 }
 
 bool IsInterface(int interface)

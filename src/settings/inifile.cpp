@@ -22,8 +22,7 @@ struct Span
 struct IniText
 {
     QByteArray text;
-    IniCodec codec = IniCodec::Latin1;
-    QHash<QString, Span> values;  ///< by key; the last one of a key counts
+    QMap<QString, Span> values;   ///< by key; the last one of a key counts
     QHash<QString, int> sections; ///< by "name/": where a new line belongs
 
     QByteArray Value(const Span& span) const { return text.mid(span.begin, span.end - span.begin); }
@@ -99,14 +98,12 @@ QByteArray SectionHeader(const QString& name)
 bool Parse(IniText* ini)
 {
     QByteArray& text = ini->text;
-    const bool isMarked = text.startsWith("\xef\xbb\xbf");
-    if (isMarked)
-        ini->codec = IniCodec::Utf8;
+    const int begin = text.startsWith("\xef\xbb\xbf") ? 3 : 0; // behind a byte order mark
     if (!text.isEmpty() && !IsLineEnd(text.back()))
         text += '\n';
     QString section;
     int end = 0;
-    for (int at = SkipToLine(text, isMarked ? 3 : 0); at < text.size(); at = SkipToLine(text, end)) {
+    for (int at = SkipToLine(text, begin); at < text.size(); at = SkipToLine(text, end)) {
         int keyEnd = kNone;
         end = FindEnd(text, at, &keyEnd);
         const bool isHeader = text[at] == '[';
@@ -136,13 +133,13 @@ QByteArray Changed(const IniText& ini, const QVariantMap& values)
     QMap<QString, QByteArray> added; // lines of new sections
     for (auto value = values.begin(); value != values.end(); ++value) {
         const QString key = Normalised(value.key());
-        const std::optional<QByteArray> text = ValueToIni(*value, ini.codec);
+        const std::optional<QByteArray> text = ValueToIni(*value);
         if (key.isEmpty() || !text)
             return {};
         const auto old = ini.values.find(key);
         if (old != ini.values.end()) {
             // A value that is written in another form, or that is not read, stays as it is.
-            if (ValueToIni(ValueFromIni(ini.Value(*old), ini.codec), ini.codec) != text)
+            if (ValueToIni(ValueFromIni(ini.Value(*old))) != text)
                 edits.insert(old->begin, {old->end - old->begin, *text});
             continue;
         }
@@ -164,19 +161,18 @@ QByteArray Changed(const IniText& ini, const QVariantMap& values)
 
 } // namespace
 
-bool ReadIniValues(const QString& path, QVariantMap* values, IniCodec codec)
+bool ReadIniValues(const QString& path, QVariantMap* values)
 {
     IniText ini;
-    ini.codec = codec;
     if (!ReadIni(path, &ini))
         return false;
     for (auto value = ini.values.begin(); value != ini.values.end(); ++value)
         if (!value.key().isEmpty() && value.key() == Normalised(value.key()))
-            values->insert(value.key(), ValueFromIni(ini.Value(*value), ini.codec));
+            values->insert(values->cend(), value.key(), ValueFromIni(ini.Value(*value)));
     return true;
 }
 
-bool WriteIniValues(const QString& path, const QVariantMap& values, IniCodec codec)
+bool WriteIniValues(const QString& path, const QVariantMap& values)
 {
     if (values.isEmpty())
         return true;
@@ -184,7 +180,6 @@ bool WriteIniValues(const QString& path, const QVariantMap& values, IniCodec cod
     // Reading under the lock of the replacement keeps two programs from undoing what the other one changed.
     return ReplaceFile(path, [&](QIODevice& file) {
         IniText ini;
-        ini.codec = codec;
         const QByteArray changed = ReadIni(path, &ini) ? Changed(ini, values) : QByteArray();
         return !changed.isEmpty() && changed.size() <= kMaxIniBytes && file.write(changed) == changed.size();
     });

@@ -49,7 +49,7 @@ QString ReadEscape(const QByteArray& text, int* at)
 }
 
 /// The texts of a list. A value that is no list gives one text.
-QStringList ReadTexts(const QByteArray& value, IniCodec codec)
+QStringList ReadTexts(const QByteArray& value)
 {
     QStringList texts{QString()};
     bool inQuotes = false;
@@ -82,8 +82,7 @@ QStringList ReadTexts(const QByteArray& value, IniCodec codec)
             while (at < value.size() && value[at] != '\\' && value[at] != '"' && value[at] != ',')
                 ++at;
             const char* plain = value.constData() + begin;
-            texts.last() += codec == IniCodec::Utf8 ? QString::fromUtf8(plain, at - begin)
-                                                    : QString(QLatin1String(plain, at - begin));
+            texts.last() += QString::fromUtf8(plain, at - begin);
         }
     }
     cutBlanks();
@@ -190,22 +189,21 @@ std::optional<QString> ToText(const QVariant& value)
     return Typed(isDateTime ? "DateTime" : "Variant", bytes);
 }
 
-QByteArray Escaped(const QString& text, IniCodec codec)
+QByteArray Escaped(const QString& text)
 {
     QByteArray escaped;
     bool afterNumber = false; // a digit that follows would belong to the number
     for (const QChar c : text) {
         const int code = c.unicode();
         const size_t known = kEscaped.substr(0, kWrittenEscapes).find(c.toLatin1());
-        const bool isHexDigit = code < 0x7f && std::isxdigit(code);
-        const bool isPlain = code >= ' ' && (code < 0x7f || (codec == IniCodec::Utf8 && !c.isSurrogate()));
+        const bool isPlain = code >= ' ' && code < 0x7f && !(afterNumber && std::isxdigit(code));
         if (known != std::string_view::npos)
             escaped.append('\\').append(kEscapes[known]);
-        else if (isPlain && !(afterNumber && isHexDigit))
-            escaped += QString(c).toUtf8();
+        else if (isPlain)
+            escaped += c.toLatin1();
         else
             escaped += "\\x" + QByteArray::number(code, 16);
-        afterNumber = known == std::string_view::npos && (!isPlain || (afterNumber && isHexDigit));
+        afterNumber = known == std::string_view::npos && !isPlain;
     }
     const std::string_view view(escaped.constData(), size_t(escaped.size()));
     const bool needsQuotes = escaped.startsWith(' ') || escaped.endsWith(' ')
@@ -244,9 +242,9 @@ QByteArray KeyToIni(const QString& key)
     return text.toLatin1();
 }
 
-QVariant ValueFromIni(const QByteArray& text, IniCodec codec)
+QVariant ValueFromIni(const QByteArray& text)
 {
-    const QStringList texts = ReadTexts(text, codec);
+    const QStringList texts = ReadTexts(text);
     if (texts.size() == 1)
         return FromText(texts.first());
     QVariantList values;
@@ -258,7 +256,7 @@ QVariant ValueFromIni(const QByteArray& text, IniCodec codec)
     return areTexts ? QVariant(QVariant(values).toStringList()) : QVariant(values);
 }
 
-std::optional<QByteArray> ValueToIni(const QVariant& value, IniCodec codec)
+std::optional<QByteArray> ValueToIni(const QVariant& value)
 {
     const int type = value.userType();
     QVariantList items = value.toList();
@@ -271,7 +269,7 @@ std::optional<QByteArray> ValueToIni(const QVariant& value, IniCodec codec)
         const std::optional<QString> text = ToText(item);
         if (!text)
             return {};
-        texts.append(Escaped(*text, codec));
+        texts.append(Escaped(*text));
     }
     return texts.join(", ");
 }

@@ -19,7 +19,7 @@ bool InterfaceSettings::Load(const QString& path)
     const QFileInfo info(path);
     if (!info.isFile())
         return false;
-    if (!ReadIniValues(path, &m_values, IniCodec::Utf8)) {
+    if (!ReadIniValues(path, &m_values)) {
         m_file.Hold();
         m_file.MakeWritable();
         return false;
@@ -30,8 +30,7 @@ bool InterfaceSettings::Load(const QString& path)
 
 bool InterfaceSettings::Save()
 {
-    return m_file.Path().isEmpty()
-           || (m_file.MakeWritable() && WriteIniValues(m_file.Path(), m_values, IniCodec::Utf8));
+    return m_file.Path().isEmpty() || (m_file.MakeWritable() && WriteIniValues(m_file.Path(), m_values));
 }
 
 QVariant InterfaceSettings::Value(const QString& key, const QVariant& standard) const

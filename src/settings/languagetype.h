@@ -18,5 +18,4 @@ enum ELanguageType : int
 };
 
 ORVANDATA_EXPORT ELanguageType GetSystemLanguage(); ///< of the locale; English when not in the list
-ORVANDATA_EXPORT QString
-GetTranslationFileName(ELanguageType language); ///< English's for a code not in the list
+ORVANDATA_EXPORT QString GetTranslationFileName(ELanguageType language); ///< unlisted: that of English
