@@ -27,7 +27,7 @@ public:
     std::string log;
 };
 
-std::string Parsed(const QByteArray& content, bool expected)
+std::string Parsed(const QByteArray& content, bool expected, const char* why = "")
 {
     QByteArray bytes = content;
     QBuffer buffer(&bytes);
@@ -36,6 +36,7 @@ std::string Parsed(const QByteArray& content, bool expected)
     QString error;
     EXPECT_EQ(ParseXml(buffer, recorder, &error), expected) << error.toStdString();
     EXPECT_EQ(error.isEmpty(), expected);
+    EXPECT_TRUE(error.contains(QString::fromUtf8(why))) << error.toStdString();
     return recorder.log;
 }
 
@@ -116,7 +117,9 @@ TEST(XmlReaderTest, DeepNestingDoctypeAndBrokenFilesAreRefused)
     Parsed(Nested(kMaxXmlDepth + 1), false);
     Parsed("<!DOCTYPE r [<!ENTITY e 'x'>]><r>&e;</r>", false);
     Parsed("<r><x></r>", false);
-    Parsed("", false);
+    Parsed("", false, "内容不完整");
+    Parsed("<r><x/>", false, "内容不完整");
+    Parsed("\n<r/>\nx", false, "第3行）：根元素之后还有内容");
     Parsed("<r a='1' a='2'/>", false);
 
     QDomDocument document;

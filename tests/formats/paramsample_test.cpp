@@ -61,10 +61,12 @@ protected:
     void ExpectSample(const char* name, const char* values, Transfer take, Transfer write)
     {
         const QByteArray sample = FullSample(name);
-        const QString path = folder.Write(QStringLiteral("a.xml"), Hollow(sample, kStructure));
-        ASSERT_EQ((project.*take)(path, QUuid()), 0U);
+        const QString hollow = folder.Write(QStringLiteral("hollow.xml"), Hollow(sample, kStructure));
+        const QString path = folder.Path(QStringLiteral("a.xml"));
+        ASSERT_EQ((project.*take)(hollow, QUuid()), 0U);
         ASSERT_EQ((project.*write)(path, QUuid()), 0U);
-        EXPECT_EQ(NamesWithoutOwnValue(sample, ReadFile(path), kStructure), "");
+        const QByteArray empty = ReadFile(path);
+        EXPECT_EQ(NamesWithoutOwnValue(sample, empty, kStructure), "");
 
         ASSERT_EQ((project.*take)(folder.Write(QStringLiteral("b.xml"), sample), QUuid()), 0U);
         EXPECT_EQ(FirstDifference(Values(), Told(values)), "");
@@ -72,6 +74,13 @@ protected:
             AddCabinets(*sender);
         ASSERT_EQ((project.*write)(path, QUuid()), 0U);
         EXPECT_EQ(FirstDifference(ReadFile(path), sample), "");
+
+        for (CSender* sender : project.GetSenders())
+            for (int port = 0; port < 2; ++port)
+                sender->GetPort(port)->GetPortProject()->ClearAllTiles();
+        ASSERT_EQ((project.*take)(hollow, QUuid()), 0U);
+        ASSERT_EQ((project.*write)(path, QUuid()), 0U);
+        EXPECT_EQ(FirstDifference(ReadFile(path), empty), "") << "what a file lacks is not the last file's";
     }
 
     /// The areas of its ports are those of the samples then.

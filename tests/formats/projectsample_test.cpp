@@ -163,6 +163,16 @@ TEST_F(ProjectSampleTest, DocumentIsReadByTheValueAndWrittenByTheByte)
     Load(Hollow(sample, kStructure));
     const QRegularExpression passedOver(kStructure.pattern() + QStringLiteral("|^(Minimum|Current)Version$"));
     EXPECT_EQ(NamesWithoutOwnValue(sample, Saved(), passedOver), "");
+    // Monitoring keeps its defaults, a cabinet has one receiving card.
+    EXPECT_EQ(
+        ValuesBesideZero(Saved(), passedOver),
+        "BkPortIndex=-1 MailErrorTimes=3 MailSenderPort=465 MailSslEncryption=1 MultiOrdered=1 "
+        "MultiRcvSizeX=1 MultiRcvSizeY=1 Name=param Name=param_2 ReceiverHumidity=1 ReceiverHumidityValue=85 "
+        "ReceiverPower1=1 ReceiverPower2=1 ReceiverPower3=1 ReceiverPower4=1 ReceiverPower5=1 "
+        "ReceiverTempEnable=1 ReceiverTempValue=60 ReceiverVoltage1Max=12 ReceiverVoltage1Min=5 "
+        "ReceiverVoltage2Max=12 ReceiverVoltage2Min=5 ReceiverVoltage3Max=12 ReceiverVoltage3Min=5 "
+        "ReceiverVoltage4Max=12 ReceiverVoltage4Min=5 RefreshDisTime=10 SelfBackup=1 SenderBlackout=1 "
+        "SenderBrightneesZero=1 SenderFreeze=1 SenderVideoUnmatch=1");
 }
 
 TEST_F(ProjectSampleTest, LayoutFilesAreReadAndWrittenByTheByte)

@@ -7,6 +7,7 @@
 
 #include <QMap>
 #include <QStringList>
+#include <QUuid>
 
 namespace {
 
@@ -102,4 +103,20 @@ std::string NamesWithoutOwnValue(const QByteArray& sample, const QByteArray& hol
             names += value.key().toStdString() + ' ';
     }
     return names;
+}
+
+std::string ValuesBesideZero(const QByteArray& xml, const QRegularExpression& passedOver)
+{
+    QStringList found;
+    const Values values = ValuesOf(xml);
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value) {
+        const QString name = value.key().section(QRegularExpression(QStringLiteral("[/@]")), -1);
+        for (const QString& text : *value)
+            if (!text.isEmpty() && text != QLatin1String("0") && QUuid(text).isNull()
+                && !text.startsWith(QLatin1String("{0000")) && !passedOver.match(name).hasMatch())
+                found.append(name + QLatin1Char('=') + text);
+    }
+    found.removeDuplicates();
+    found.sort();
+    return found.join(QLatin1Char(' ')).toStdString();
 }

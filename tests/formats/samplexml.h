@@ -23,6 +23,9 @@ QByteArray Hollow(const QByteArray& sample, const QRegularExpression& kept);
 std::string NamesWithoutOwnValue(const QByteArray& sample, const QByteArray& hollow,
                                  const QRegularExpression& passedOver);
 
+/// The values that are neither empty nor 0, each "name=value" once, but for ids and names that match.
+std::string ValuesBesideZero(const QByteArray& xml, const QRegularExpression& passedOver);
+
 /// Values as a file has them, for comparing many with one text.
 template <class... T> std::string Row(const T&... values)
 {

@@ -431,6 +431,8 @@ TEST_F(ProjectUndoRedoTest, SendersBeyondTheSlotsOrWithoutIdHaveNoHistory)
         EXPECT_FALSE(history.AddOneStepToSender(index, Record::OperationClear) || history.IsModidfied());
     EXPECT_FALSE(history.AddOneStepToSender(CProjectUndoRedo::kSlotCount, Record::OperationClear));
     EXPECT_TRUE(history.IsModidfied()) << "an edit that no slot is left for";
+    history.SetAsSaveStep();
+    EXPECT_TRUE(history.IsModidfied()) << "nothing tells later edits of that sender from what was saved";
 
     history.SenderUndoRedoRelease(lookup.senders.takeAt(1)->GetId());
     EXPECT_TRUE(history.SenderUndoRedoInit(lookup.senders.last()));

@@ -143,6 +143,7 @@ TEST_F(TileGroupTest, GroupsAreFoundAtTheirLevel)
     EXPECT_EQ(m_set.GetDirectGroupBySubID(m_last->GetID()), m_last);
     EXPECT_EQ(m_set.RemoveDirectGroup(m_deep->GetID()), nullptr);
     EXPECT_FALSE(m_first->HasAnySubGroupInArray({m_last->GetID()}));
+    EXPECT_TRUE(m_first->HasAnySubGroupInArray({m_first->GetID()}));
     EXPECT_TRUE(m_first->HasAnySubGroupInArray({m_last->GetID(), m_deep->GetID()}));
     QList<CTileGroup*> list{m_last};
     EXPECT_EQ(m_set.GetGroupListRecursive(list), 4);

@@ -15,6 +15,9 @@ TEST(MonitorWarningDataTest, WarningBelowShowsAboveButNotBeside)
     EXPECT_EQ(data.GetPortWarning(2, 1), 0U);
     EXPECT_EQ(data.GetSenderWarning(2), 0U);
 
+    data.SetSenderWarning(1, SenderWarningFreeze);
+    EXPECT_TRUE(data.HasWarning(1) && !data.HasWarning(1, 0));
+    EXPECT_EQ(data.GetSenderWarning(1), SenderWarningFreeze);
     data.SetFiberWarning(3, 1, FiberWarningNoLight);
     EXPECT_TRUE(data.HasWarning(3));
     EXPECT_FALSE(data.HasWarning(3, 1)); // a fibre is not a port

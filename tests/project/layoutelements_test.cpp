@@ -55,6 +55,7 @@ TEST_F(LayoutElementsTest, AttributesAreTakenAsTheirRulesSay)
 {
     ReadTiles("<TitleLayout TileCount=\"2\">"
               "<Tile_1 Type=\"6a68bac7e613028bb11b40c35340e86\" X=\"40000\" Width=\"200\" Y=\"-131073\" "
+              "Height=\"1025\" "
               "MultiLine_3=\"258\" IsMultiFixed=\"1\" RotateAngle=\"-30\" RotateCenterX=\"nan\"/>"
               "<Tile_2 Type=\"6a68bac7e613028bb11b40c35340e863\" IsMultiCabinet=\"1\" IsMultiFixed=\"1\" "
               "MultiRcvSizeX=\"0\" MultiRcvSizeY=\"5\" MultiOrdered=\"0\"/></TitleLayout>");
@@ -63,6 +64,7 @@ TEST_F(LayoutElementsTest, AttributesAreTakenAsTheirRulesSay)
     EXPECT_TRUE(first.IsMultiRcvsOrdered()) << "only a type takes the flags of its product";
     EXPECT_EQ(first.GetX(), 32568);
     EXPECT_EQ(first.GetY(), 0);
+    EXPECT_EQ(first.GetHeight(), 1024);
     EXPECT_EQ(first.GetMultiRcvsLineCode(3), 2);
     EXPECT_FALSE(first.IsMultiFixedLine()) << "one receiving card has no inner line";
     EXPECT_TRUE(first.GetRotateRecord().rotated);
@@ -71,6 +73,22 @@ TEST_F(LayoutElementsTest, AttributesAreTakenAsTheirRulesSay)
     EXPECT_EQ(second.GetType().ToString(), QStringLiteral("6a68bac7e613028bb11b40c35340e863"));
     EXPECT_EQ(second.GetMultiRcvsSize(), QSize(1, 1));
     EXPECT_TRUE(second.IsMultiRcvsOrdered()) << "a fixed line is always ordered";
+}
+
+TEST_F(LayoutElementsTest, EachTypeTakesTheFlagsOfItsOwnProduct)
+{
+    TestLookup lookup;
+    lookup.productType = SMD5::FromString(QString(32, QLatin1Char('a')));
+    lookup.product.multi = true;
+    QByteArray rows;
+    for (const char type : {'a', 'b', 'b', 'a', 'a'})
+        rows +=
+            "<Tile_" + QByteArray::number(rows.count('<') + 1) + " Type=\"" + QByteArray(32, type) + "\"/>";
+    ReadTiles("<TitleLayout TileCount=\"5\">" + rows + "</TitleLayout>");
+    QList<bool> multi;
+    for (int i = 0; i < tiles.GetCount(); ++i)
+        multi.append(tiles.GetTile(i)->IsMultiRcvTile());
+    EXPECT_EQ(multi, (QList<bool>{true, false, false, true, true}));
 }
 
 TEST_F(LayoutElementsTest, CountBelowOneKeepsWhatIsHeld)

@@ -106,6 +106,8 @@ TEST_F(CrashSafetyTest, FailingCallLeavesTheOldFileAndIsToldOrTheNewOne)
 {
     for (int document = 0; document < kDocuments; ++document) {
         SaveAll(1);
+        const QString packed = CConstantData::GetProjectParamFileTemp() + QLatin1String("project/0.rcvbp");
+        const qint64 whole = QFileInfo(packed).size();
         for (const int more : {0, kAllOthers}) {
             int calls = 1;
             for (int failing = 1; failing <= calls + 1; ++failing) {
@@ -114,6 +116,7 @@ TEST_F(CrashSafetyTest, FailingCallLeavesTheOldFileAndIsToldOrTheNewOne)
                 const bool saved = SaveVersion(Document(document), folder, 2);
                 calls = CountCalls();
                 FailCalls(0, -1);
+                EXPECT_TRUE(!QFile::exists(packed) || QFileInfo(packed).size() == whole) << failing;
                 const int version = VersionOf(Document(document), folder);
                 EXPECT_EQ(version, saved ? 2 : qMax(version, 1)) << document << ", call " << failing;
             }
