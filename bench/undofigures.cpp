@@ -10,7 +10,7 @@
 
 namespace {
 
-using Record = CSenderRecordItem;
+using Step = CSenderRecordItem;
 
 /// The open document with one wall, and its history.
 class Session
@@ -33,7 +33,7 @@ public:
         tile->SetMultiRcvDemarcateIndex(m_changes);
     }
 
-    bool AddStep() { return m_history.AddOneStep(Record::OperationMoveTiles); }
+    bool AddStep() { return m_history.AddOneStep(Step::OperationMoveTiles); }
     void Undo() { m_history.Undo(1, nullptr, nullptr); }
     void Redo() { m_history.Redo(1, nullptr, nullptr); }
 

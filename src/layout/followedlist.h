@@ -35,11 +35,15 @@ public:
     /// looking at all is as fast.
     Positions Changed(const QList<CTile*>& tiles);
     void Follow(const QList<CTile*>& tiles); ///< from now on; looks at no cabinet
+    bool IsDistinct();                       ///< the list that is followed names no cabinet twice
 
 private:
-    bool FindPlaces();
-
     QList<CTile*> m_tiles;
-    ChangeJournal::Reader m_journal;   ///< read up to when the list was last followed
-    QHash<const CTile*, int> m_places; ///< empty: not needed yet
+    ChangeJournal::Reader m_journal; ///< read up to when the list was last followed
+
+    // found when first needed
+    QHash<const CTile*, int> m_places;
+    const CTile* m_lowest = nullptr; ///< the least address of them; null: not found yet
+    const CTile* m_highest = nullptr;
+    bool m_distinct = true;
 };

@@ -1,7 +1,7 @@
 #include "layout/layoutsnapshot.h"
 
 #include "common/interfacedlg.h"
-#include "layout/portproject.h"
+#include "layout/port.h"
 #include "layout/tile.h"
 #include "layout/tilegroup.h"
 
@@ -145,15 +145,15 @@ void GroupSnapshot::Restore(CTileGroupSet* groups, const List& snapshots)
     }
 }
 
-LayoutSnapshot::Pointer LayoutSnapshot::Take(CPortProject& layout, const Pointer& before,
-                                             const Positions& changed)
+LayoutSnapshot::Pointer LayoutSnapshot::Take(CPort& port, const Pointer& before, const Positions& changed)
 {
-    const CTileGroupSet& liveGroups = *layout.GetTileGroupSet();
-    if (before && changed && changed->empty() && GroupSnapshot::IsSame(before->m_groups, liveGroups))
+    const CTileGroupSet& liveGroups = *port.GetPortProject()->GetTileGroupSet();
+    const bool sameRest = before && before->IsOf(port) && GroupSnapshot::IsSame(before->m_groups, liveGroups);
+    if (sameRest && changed && changed->empty())
         return before; // as most ports at most steps
     static const LayoutSnapshot empty;
     const LayoutSnapshot& old = before ? *before : empty;
-    const QList<CTile*>& tiles = layout.GetTileSet()->GetTiles();
+    const QList<CTile*>& tiles = port.GetPortProject()->GetTileSet()->GetTiles();
     QVector<Chunk> chunks = old.m_chunks;
     const bool resized = tiles.size() != old.m_count;
     if (resized)
@@ -174,19 +174,28 @@ LayoutSnapshot::Pointer LayoutSnapshot::Take(CPortProject& layout, const Pointer
         }
         chunks[at][place] = cabinet;
     });
-    GroupSnapshot::List groups = GroupSnapshot::Take(liveGroups, old.m_groups);
-    if (before && chunks.isSharedWith(old.m_chunks) && groups == old.m_groups)
+    if (sameRest && chunks.isSharedWith(old.m_chunks))
         return before;
     auto* snapshot = new LayoutSnapshot;
+    snapshot->m_senderId = port.GetSenderId();
+    snapshot->m_portIndex = port.GetPortIndex();
+    snapshot->m_backup = port.IsBackupDest();
     snapshot->m_chunks = std::move(chunks);
     snapshot->m_count = tiles.size();
-    snapshot->m_groups = std::move(groups);
+    snapshot->m_groups = GroupSnapshot::Take(liveGroups, old.m_groups);
     return Pointer(snapshot);
 }
 
-void LayoutSnapshot::Restore(CPortProject* layout, const Positions& changed) const
+bool LayoutSnapshot::IsOf(const CPort& port) const
 {
-    CTileSet* tiles = layout->GetTileSet();
+    return m_senderId == port.GetSenderId() && m_portIndex == port.GetPortIndex()
+           && m_backup == port.IsBackupDest();
+}
+
+void LayoutSnapshot::Restore(CPort* port, const Positions& changed) const
+{
+    port->SetSenderIdAndPortIndex(m_senderId, m_portIndex);
+    CTileSet* tiles = port->GetPortProject()->GetTileSet();
     const int present = qMin(m_count, tiles->GetCount());
     ForEachPosition(changed, present, [&](int position) {
         CTile* tile = tiles->GetTiles().at(position);
@@ -204,7 +213,7 @@ void LayoutSnapshot::Restore(CPortProject* layout, const Positions& changed) con
     });
     tiles->Truncate(m_count);
 
-    CTileGroupSet* groups = layout->GetTileGroupSet();
+    CTileGroupSet* groups = port->GetPortProject()->GetTileGroupSet();
     if (GroupSnapshot::IsSame(m_groups, *groups))
         return; // they keep their address and visibility
     groups->DeleteAll();

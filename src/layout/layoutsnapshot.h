@@ -11,7 +11,7 @@
 
 #include <vector>
 
-class CPortProject;
+class CPort;
 class CTileGroupSet;
 
 /// One group and what lies below it.
@@ -33,8 +33,8 @@ struct GroupSnapshot : QSharedData
     static void Restore(CTileGroupSet* groups, const List& snapshots);
 };
 
-/// The layout of one port at one time. Shares the data of its cabinets with them, and with the snapshot
-/// before it whatever did not change. Never changes once taken.
+/// The layout of one port at one time, and whose port that is. Shares the data of its cabinets with them, and
+/// with the snapshot before it whatever did not change. Never changes once taken.
 class LayoutSnapshot : public QSharedData
 {
 public:
@@ -45,21 +45,26 @@ public:
 
     /// `before`, null for none, is given back when nothing changed. Only the cabinets `changed` are looked
     /// at; one that came back to what it was shares its data with the snapshot again.
-    static Pointer Take(CPortProject& layout, const Pointer& before, const Positions& changed);
+    static Pointer Take(CPort& port, const Pointer& before, const Positions& changed);
     /// Only the cabinets `changed` are looked at. Each keeps its address, and its view state if it is right
     /// already.
-    void Restore(CPortProject* layout, const Positions& changed) const;
+    void Restore(CPort* port, const Positions& changed) const;
 
+    bool IsBackup() const { return m_backup; }
     Positions FindOther(const LayoutSnapshot& other) const; ///< cabinets whose data the two do not share
     bool IsEqual(const LayoutSnapshot& other) const;        ///< as layouts compare, but groups in depth
     const QVector<Chunk>& GetChunks() const { return m_chunks; }
 
 private:
+    bool IsOf(const CPort& port) const;
     const Cabinet& At(int position) const
     {
         return m_chunks.at(position / kChunkSize).at(position % kChunkSize);
     }
 
+    QUuid m_senderId;
+    int m_portIndex = 0;
+    bool m_backup = false;
     QVector<Chunk> m_chunks;
     int m_count = 0; ///< of cabinets
     GroupSnapshot::List m_groups;

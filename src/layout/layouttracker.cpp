@@ -1,6 +1,6 @@
 #include "layout/layouttracker.h"
 
-#include "layout/portproject.h"
+#include "layout/port.h"
 #include "layout/tile.h"
 
 namespace {
@@ -18,24 +18,24 @@ std::vector<int> HandedOutOf(const QList<CTile*>& tiles, const Positions& positi
 
 } // namespace
 
-const LayoutSnapshot::Pointer& LayoutTracker::Take(CPortProject& layout)
+const LayoutSnapshot::Pointer& LayoutTracker::Take(CPort& port)
 {
-    const QList<CTile*>& tiles = layout.GetTileSet()->GetTiles();
+    const QList<CTile*>& tiles = port.GetPortProject()->GetTileSet()->GetTiles();
     const Positions changed = FindChanged(tiles);
-    Agree(tiles, LayoutSnapshot::Take(layout, m_known, changed), !changed);
+    Agree(tiles, LayoutSnapshot::Take(port, m_known, changed), !changed);
     return m_known;
 }
 
-void LayoutTracker::Restore(CPortProject* layout, const LayoutSnapshot::Pointer& wanted)
+void LayoutTracker::Restore(CPort* port, const LayoutSnapshot::Pointer& wanted)
 {
-    const QList<CTile*>& tiles = layout->GetTileSet()->GetTiles();
+    const QList<CTile*>& tiles = port->GetPortProject()->GetTileSet()->GetTiles();
     Positions changed = FindChanged(tiles);
     const Positions other = m_known ? wanted->FindOther(*m_known) : std::nullopt;
     if (changed && other)
         changed->insert(changed->end(), other->begin(), other->end());
     else
         changed.reset();
-    wanted->Restore(layout, changed);
+    wanted->Restore(port, changed);
     Agree(tiles, wanted, !changed);
 }
 
@@ -45,6 +45,8 @@ Positions LayoutTracker::FindChanged(const QList<CTile*>& tiles)
     Positions changed = m_known ? m_list.Changed(tiles) : std::nullopt;
     if (!changed || tiles.isEmpty())
         return changed;
+    if (!m_list.IsDistinct()) // what one place wants of a cabinet, another may not
+        return std::nullopt;
     if (!m_handedOut)
         m_handedOut = HandedOutOf(tiles, std::nullopt);
     changed->insert(changed->end(), m_handedOut->begin(), m_handedOut->end());

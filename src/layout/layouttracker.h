@@ -3,16 +3,16 @@
 #include "layout/followedlist.h"
 #include "layout/layoutsnapshot.h"
 
-class CPortProject;
+class CPort;
 
-/// Takes snapshots of one live layout again and again, or puts them back, and remembers which one the layout
+/// Takes snapshots of one live port again and again, or puts them back, and remembers which one its layout
 /// was like last. Looks at all cabinets only where FollowedList says so, else at those that left their data
 /// since and at those that somebody holds a pointer into.
 class LayoutTracker
 {
 public:
-    const LayoutSnapshot::Pointer& Take(CPortProject& layout); ///< valid until the next call
-    void Restore(CPortProject* layout, const LayoutSnapshot::Pointer& wanted);
+    const LayoutSnapshot::Pointer& Take(CPort& port); ///< valid until the next call
+    void Restore(CPort* port, const LayoutSnapshot::Pointer& wanted);
 
 private:
     Positions FindChanged(const QList<CTile*>& tiles);

@@ -7,19 +7,7 @@
 #include <array>
 #include <vector>
 
-namespace {
-
-struct PortSnapshot
-{
-    QUuid senderId;
-    int portIndex = 0;
-    bool backup = false;
-    LayoutSnapshot::Pointer layout;
-};
-
-} // namespace
-
-struct CSenderRecordItem::Ports : std::array<PortSnapshot, kMaxPorts>
+struct CSenderRecordItem::Ports : std::array<LayoutSnapshot::Pointer, kMaxPorts>
 {};
 
 struct CSenderUndoRedo::State
@@ -35,9 +23,7 @@ std::unique_ptr<const CSenderRecordItem> CSenderUndoRedo::State::TakeStep(CSende
     auto ports = std::make_unique<CSenderRecordItem::Ports>();
     for (int i = 0; i < kMaxPorts; ++i) {
         const auto at = static_cast<size_t>(i);
-        CPort& port = *sender.GetPort(i);
-        (*ports)[at] = {port.GetSenderId(), port.GetPortIndex(), port.IsBackupDest(),
-                        trackers[at].Take(*port.GetPortProject())};
+        (*ports)[at] = trackers[at].Take(*sender.GetPort(i));
     }
     return std::make_unique<const CSenderRecordItem>(sender, type, std::move(ports));
 }
@@ -81,9 +67,7 @@ bool CSenderUndoRedo::AddStep(CSender& sender, Type type)
     auto step = m_state->TakeStep(sender, type);
     LeaveStep();
     const CSenderRecordItem::Ports& present = GetStep(m_current)->GetPorts();
-    const auto isEqual = [](const PortSnapshot& a, const PortSnapshot& b) {
-        return a.layout == b.layout || a.layout->IsEqual(*b.layout);
-    };
+    const auto isEqual = [](const auto& a, const auto& b) { return a == b || a->IsEqual(*b); };
     if (std::equal(present.begin(), present.end(), step->GetPorts().begin(), isEqual))
         return false;
 
@@ -138,20 +122,19 @@ bool CSenderUndoRedo::Restore(CSender* sender, int shownPort)
     const CSenderRecordItem::Ports& ports = GetStep(m_current)->GetPorts();
     bool whole = true;
     for (int i = 0; i < kMaxPorts; ++i) {
-        const PortSnapshot& wanted = ports[static_cast<size_t>(i)];
+        const LayoutSnapshot::Pointer& wanted = ports[static_cast<size_t>(i)];
         LayoutTracker& tracker = m_state->trackers[static_cast<size_t>(i)];
         CPort& port = *sender->GetPort(i);
         if (port.IsVisible()) {
             if (i == shownPort)
                 sender->SetRecentPortIndex(i);
-            if (port.IsBackupDest() == wanted.backup) {
-                port.SetSenderIdAndPortIndex(wanted.senderId, wanted.portIndex);
-                tracker.Restore(port.GetPortProject(), wanted.layout);
+            if (port.IsBackupDest() == wanted->IsBackup()) {
+                tracker.Restore(&port, wanted);
                 continue;
             }
             port.GetPortProject()->ClearAllTiles();
         }
-        whole = tracker.Take(*port.GetPortProject())->IsEqual(*wanted.layout) && whole;
+        whole = tracker.Take(port)->IsEqual(*wanted) && whole;
     }
     m_apart = !whole;
     return whole;

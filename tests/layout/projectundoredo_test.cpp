@@ -18,7 +18,7 @@
 
 namespace {
 
-using Record = CSenderRecordItem;
+using Step = CSenderRecordItem;
 
 struct ProjectUndoRedoTest : testing::Test
 {
@@ -35,12 +35,12 @@ struct ProjectUndoRedoTest : testing::Test
     CPort& Port(int port) { return *Sender().GetPort(port); }
     CTile& Tile(int port, int tile = 0) { return *TilesOf(Port(port)).GetTile(tile); }
 
-    /// Moves the first cabinet of a port to a place not taken before and records that.
+    /// Moves the first cabinet of a port to a place not taken before, as a step.
     bool Edit(int port = 0)
     {
         Tile(port).SetX(++place);
         Sender().SetRecentPortIndex(port);
-        return history.AddOneStep(Record::OperationMoveTiles);
+        return history.AddOneStep(Step::OperationMoveTiles);
     }
 
     bool Undo(int steps = 1) { return history.Undo(steps, nullptr, nullptr); }
@@ -164,7 +164,7 @@ TEST_F(ProjectUndoRedoTest, EveryKindOfEditIsTakenBackAndBroughtBack)
         const PlainSender live = PlainCopy(Sender());
         if (random.bounded(2) == 0) {
             const bool changed = !(live == states[static_cast<size_t>(current)]);
-            ASSERT_EQ(history.AddOneStep(Record::OperationPasteTiles), changed) << "step " << i;
+            ASSERT_EQ(history.AddOneStep(Step::OperationPasteTiles), changed) << "step " << i;
             if (changed) {
                 states.resize(static_cast<size_t>(current) + 1, live);
                 states.push_back(live);
@@ -223,13 +223,13 @@ TEST_F(ProjectUndoRedoTest, TheLimitKeepsTheBaseAndMovesTheSavedPositionWithItsR
             if (i == savedAt)
                 history.SetAsSaveStep();
         }
-        EXPECT_EQ(history.GetCanUndoStep(), 199) << "200 records";
+        EXPECT_EQ(history.GetCanUndoStep(), 199) << "200 with the base";
         EXPECT_TRUE(Undo(198));
         EXPECT_EQ(Tile(0).GetX(), place - 198) << "the oldest edits after the base are gone";
         EXPECT_TRUE(history.IsModidfied() && Undo(1));
         EXPECT_EQ(Tile(0).GetX(), base);
         EXPECT_EQ(history.IsModidfied(), savedAt != 0);
-        Redo(3); // two records went, so what was edit 5 stands at 3 now
+        Redo(3); // two steps went, so what was edit 5 stands at 3 now
         EXPECT_EQ(history.IsModidfied(), savedAt != 5);
     }
 }
@@ -241,18 +241,18 @@ TEST_F(ProjectUndoRedoTest, OnlyChangedLayoutsAreRecorded)
     history.Init();
     noType.digest[SMD5::kDigits] = 'x'; // takes no part in comparisons
     Tile(0).SetType(noType);
-    EXPECT_FALSE(history.AddOneStep(Record::OperationAlign));
+    EXPECT_FALSE(history.AddOneStep(Step::OperationAlign));
     EXPECT_EQ(Tile(0).GetType().digest[SMD5::kDigits], 'x') << "a step writes to no cabinet";
-    for (const auto type : {Record::OperationSelect, Record::OperationView}) {
+    for (const auto type : {Step::OperationSelect, Step::OperationView}) {
         Tile(0).SetX(5);
         EXPECT_TRUE(history.AddOneStep(type));
         EXPECT_EQ(history.GetCanUndoStep(), 0);
     }
     EXPECT_FALSE(history.IsModidfied());
-    EXPECT_TRUE(history.AddOneStep(Record::OperationAlign) && Undo());
+    EXPECT_TRUE(history.AddOneStep(Step::OperationAlign) && Undo());
     for (const int x : {9, Tile(0).GetX()})
         Tile(0).SetX(x);
-    EXPECT_FALSE(history.AddOneStep(Record::OperationAlign)) << "it is back where it was";
+    EXPECT_FALSE(history.AddOneStep(Step::OperationAlign)) << "it is back where it was";
     EXPECT_TRUE(Edit() && Edit() && Undo(2));
     EXPECT_EQ(history.GetCanRedoStep(), 2);
     EXPECT_TRUE(Edit());
@@ -261,9 +261,9 @@ TEST_F(ProjectUndoRedoTest, OnlyChangedLayoutsAreRecorded)
     const QUuid parent = GroupsOf(Port(0)).GetDirectGroupByDirIndex(0)->GetID();
     const QUuid child = MakeWall(Port(0), 2, 1);
     NestGroups(Port(0), parent, {child});
-    EXPECT_TRUE(history.AddOneStep(Record::OperationGroup));
+    EXPECT_TRUE(history.AddOneStep(Step::OperationGroup));
     GroupsOf(Port(0)).GetSubGroupBySubID(child)->GetRotateParam()->angle = 30;
-    EXPECT_TRUE(history.AddOneStep(Record::OperationRotate)) << "a change deep in the group tree counts";
+    EXPECT_TRUE(history.AddOneStep(Step::OperationRotate)) << "a change deep in the group tree counts";
 }
 
 TEST_F(ProjectUndoRedoTest, AStepCostsWhatItChanged)
@@ -272,7 +272,7 @@ TEST_F(ProjectUndoRedoTest, AStepCostsWhatItChanged)
     CPort& port = Port(0);
     CTileSet& tiles = TilesOf(port);
     const auto take = [&](const LayoutSnapshot::Pointer& before) {
-        return LayoutSnapshot::Take(*port.GetPortProject(), before, std::nullopt);
+        return LayoutSnapshot::Take(port, before, std::nullopt);
     };
     auto base = take({});
     const auto step = [&](int chunks, int cabinets) {
@@ -311,7 +311,7 @@ TEST_F(ProjectUndoRedoTest, CabinetsKeepTheirAddressAndViewStateWhereNothingChan
     moved->SetRcvSelected(0, true);
     Tile(0, 2).GetTileRotateParam()->angle = 45;
     Port(0).GetPortProject()->GetTileSet()->AddTile(new CTile);
-    EXPECT_TRUE(history.AddOneStep(Record::OperationAddTiles) && Undo());
+    EXPECT_TRUE(history.AddOneStep(Step::OperationAddTiles) && Undo());
     EXPECT_TRUE(TilesOf(Port(0)).GetCount() == 4 && &Tile(0, 1) == moved && moved->GetX() == 128);
     EXPECT_EQ(Tile(0, 0).GetTileShowColor(), QColor(Qt::red));
     EXPECT_FALSE(moved->GetTileShowColor().isValid() || moved->IsRcvSelected(0));
@@ -324,7 +324,7 @@ TEST_F(ProjectUndoRedoTest, CabinetListedTwiceBecomesTwoWhenTwoWereRecorded)
     const CTileSet before = tiles;
     tiles.DeteleTile(1);
     tiles.AddTile(tiles.GetTile(0));
-    EXPECT_TRUE(history.AddOneStep(Record::OperationAddTiles) && Undo());
+    EXPECT_TRUE(history.AddOneStep(Step::OperationAddTiles) && Undo());
     EXPECT_EQ(tiles, before);
     EXPECT_NE(tiles.GetTile(0), tiles.GetTile(tiles.GetCount() - 1));
 }
@@ -356,7 +356,7 @@ TEST_F(ProjectUndoRedoTest, HiddenPortsAndPortsThatBecameBackupsAreLeftOut)
     EXPECT_TRUE(Redo(2));
     EXPECT_EQ(TilesOf(Port(0)).GetCount(), 0);
     EXPECT_TRUE(Undo(2));
-    EXPECT_TRUE(history.IsModidfied()) << "the record's layout could not come back";
+    EXPECT_TRUE(history.IsModidfied()) << "the step's layout could not come back";
 }
 
 TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)
@@ -365,7 +365,7 @@ TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)
         Edit(port);
     int ports[8] = {-9, -9, -9, -9, -9, -9, -9, -9};
     int count = 8;
-    EXPECT_TRUE(history.Undo(3, ports, &count)); // records of the ports 2, 3, 2, 1
+    EXPECT_TRUE(history.Undo(3, ports, &count)); // steps on the ports 2, 3, 2, 1
     EXPECT_EQ(std::vector<int>(ports, ports + count), (std::vector<int>{2, 3, 1}));
     EXPECT_EQ(Sender().GetRecentPortIndex(), 3);
     count = 4;
@@ -375,9 +375,9 @@ TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)
     count = 2;
     EXPECT_TRUE(history.Undo(2, ports, &count)) << "a list too short is left empty";
     EXPECT_EQ(count, 0);
-    EXPECT_EQ(Sender().GetRecentPortIndex(), 3) << "the record's own";
+    EXPECT_EQ(Sender().GetRecentPortIndex(), 3) << "the step's own";
     EXPECT_TRUE(history.GetRedoStepPort(2) == 1 && history.GetUndoStepPort(1) == 2
-                && history.GetUndoStepType(2) == Record::OperationBase);
+                && history.GetUndoStepType(2) == Step::OperationBase);
 
     for (const int steps : {-1, 3, 1000, std::numeric_limits<int>::max()}) {
         count = 8;
@@ -428,8 +428,8 @@ TEST_F(ProjectUndoRedoTest, SendersBeyondTheSlotsOrWithoutIdHaveNoHistory)
     EXPECT_FALSE(history.IsModidfied());
     EXPECT_FALSE(history.SenderUndoRedoInit(lookup.senders.last()) || history.SenderUndoRedoInit(nullptr));
     for (int index : {CProjectUndoRedo::kSlotCount + 1, -1})
-        EXPECT_FALSE(history.AddOneStepToSender(index, Record::OperationClear) || history.IsModidfied());
-    EXPECT_FALSE(history.AddOneStepToSender(CProjectUndoRedo::kSlotCount, Record::OperationClear));
+        EXPECT_FALSE(history.AddOneStepToSender(index, Step::OperationClear) || history.IsModidfied());
+    EXPECT_FALSE(history.AddOneStepToSender(CProjectUndoRedo::kSlotCount, Step::OperationClear));
     EXPECT_TRUE(history.IsModidfied()) << "an edit that no slot is left for";
     history.SetAsSaveStep();
     EXPECT_TRUE(history.IsModidfied()) << "nothing tells later edits of that sender from what was saved";
@@ -441,5 +441,5 @@ TEST_F(ProjectUndoRedoTest, SendersBeyondTheSlotsOrWithoutIdHaveNoHistory)
     Sender().SetId(QUuid());
     EXPECT_TRUE(!Edit() && history.IsModidfied());
     lookup.senders.clear();
-    EXPECT_FALSE(history.AddOneStep(Record::OperationClear) || Undo(0));
+    EXPECT_FALSE(history.AddOneStep(Step::OperationClear) || Undo(0));
 }
