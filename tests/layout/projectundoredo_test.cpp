@@ -350,13 +350,22 @@ TEST_F(ProjectUndoRedoTest, HiddenPortsAndPortsThatBecameBackupsAreLeftOut)
     history.SetAsSaveStep();
     EXPECT_FALSE(history.IsModidfied());
 
-    Port(0).SetSenderIdAndPortIndex(QUuid(), 7);
-    EXPECT_TRUE(Redo() && Port(0).GetPortIndex() == 0 && Undo());
     Port(0).SetBeBackupDest(QUuid::createUuid(), 1);
     EXPECT_TRUE(Redo(2));
     EXPECT_EQ(TilesOf(Port(0)).GetCount(), 0);
     EXPECT_TRUE(Undo(2));
     EXPECT_TRUE(history.IsModidfied()) << "the step's layout could not come back";
+}
+
+TEST_F(ProjectUndoRedoTest, AStepHoldsWhosePortItIs)
+{
+    const QUuid owner = Port(3).GetSenderId();
+    Port(3).SetSenderIdAndPortIndex(QUuid(), 3);
+    EXPECT_TRUE(Edit() && Undo() && Port(3).GetSenderId() == owner);
+    EXPECT_TRUE(Redo() && Port(3).GetSenderId().isNull());
+    Port(3).SetBeBackupDest(owner, 1);
+    EXPECT_TRUE(Edit() && Undo() && TilesOf(Port(3)).GetCount() == 0);
+    EXPECT_TRUE(Redo() && TilesOf(Port(3)).GetCount() == 4);
 }
 
 TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)

@@ -24,6 +24,9 @@ public:
                 Add(*wall, QRect(i % 40 * 64, i / 40 * 64, 64, 64));
             m_all.AddFromOther(*wall);
         }
+        CTileSet found;
+        m_all.GetTileSetAtRect(found, m_all.GetBound(), true);
+        EXPECT_EQ(found.GetCount(), m_all.GetCount());
         for (int i = 0; i < kCabinets; i += 3)
             m_all.AddTile(m_wall.GetTile(i)); // twice
     }
