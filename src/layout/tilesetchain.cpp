@@ -38,14 +38,14 @@ struct Stop
     int position; ///< in the list
 };
 
-/// Of equal places as listed.
+/// Equal places keep their order.
 void SortByPlace(std::vector<Stop>& stops)
 {
     std::stable_sort(stops.begin(), stops.end(),
                      [](const Stop& a, const Stop& b) { return a.place < b.place; });
 }
 
-/// The stops in order, of equal places as listed, and each tile once.
+/// The stops by place, equal ones as listed, and each tile once.
 std::vector<Stop> InOrder(const QList<CTile*>& tiles, std::vector<Stop> stops)
 {
     std::unordered_set<const CTile*> seen;
@@ -56,7 +56,7 @@ std::vector<Stop> InOrder(const QList<CTile*>& tiles, std::vector<Stop> stops)
     return stops;
 }
 
-/// The numbered tiles, each once, by index and of equal indices by list order.
+/// The numbered tiles by index, equal ones as listed, and each once.
 std::vector<Stop> ChainOrder(const QList<CTile*>& tiles)
 {
     std::vector<Stop> chain;
