@@ -117,6 +117,8 @@ public:
     void Become(const TileData* data);  ///< the same, without view state afterwards, as a copy is
 
 private:
+    friend class CTileSet; // marks what it frees
+
     TileData& Write(); ///< the record, this tile's alone
     template <class Member, class Value> bool Store(Member member, const Value& value);
     template <class Member, class Value> void StorePlace(Member member, const Value& value);
@@ -126,4 +128,5 @@ private:
     QColor m_showColor;
     int m_gamutStatus = 0;
     unsigned short m_rcvSelected = 0; ///< one bit a receiving card
+    bool m_leaving = false;           ///< its set is about to free it
 };

@@ -10,6 +10,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -29,14 +30,6 @@ QList<CTile*> CopiesOf(const QList<CTile*>& tiles)
     for (const CTile* tile : tiles)
         copies.append(new CTile(*tile));
     return copies;
-}
-
-/// Each tile once, since an owning set may list one twice; by address.
-QList<CTile*> Distinct(QList<CTile*> tiles)
-{
-    std::sort(tiles.begin(), tiles.end());
-    tiles.erase(std::unique(tiles.begin(), tiles.end()), tiles.end());
-    return tiles;
 }
 
 } // namespace
@@ -131,11 +124,14 @@ void CTileSet::DeleteSelected(int iface)
 {
     QList<CTile*> staying;
     QList<CTile*> dropped;
-    for (CTile* tile : qAsConst(m_tiles))
-        (tile->IsSelected(iface) ? dropped : staying).append(tile);
+    for (CTile* tile : qAsConst(m_tiles)) {
+        if (!tile->IsSelected(iface))
+            staying.append(tile);
+        else if (m_owning && MarkLeaving(tile))
+            dropped.append(tile);
+    }
     m_tiles = staying;
-    if (m_owning)
-        qDeleteAll(Distinct(dropped));
+    qDeleteAll(dropped);
 }
 
 int CTileSet::GetCount() const
@@ -287,17 +283,22 @@ void CTileSet::SetResult(const QList<CTile*>& tiles)
     Replace(tiles, false);
 }
 
-/// Frees the tiles of an owning set that are not part of the new content, each once.
+/// Frees the tiles of an owning set that are not part of the new content.
 void CTileSet::Replace(const QList<CTile*>& tiles, bool owning)
 {
     QList<CTile*> dropped;
     if (m_owning && !m_tiles.isEmpty()) {
-        const QList<CTile*> held = Distinct(m_tiles);
-        const QList<CTile*> kept = Distinct(tiles);
-        std::set_difference(held.begin(), held.end(), kept.begin(), kept.end(), std::back_inserter(dropped));
+        const QSet<CTile*> kept(tiles.begin(), tiles.end());
+        dropped = Matching(m_tiles, [&](CTile* tile) { return !kept.contains(tile) && MarkLeaving(tile); });
     }
     m_tiles = tiles;
     m_owning = owning;
     m_index.reset();
     qDeleteAll(dropped);
+}
+
+/// True once for a tile that is to be freed, since it may be listed twice.
+bool CTileSet::MarkLeaving(CTile* tile)
+{
+    return !std::exchange(tile->m_leaving, true);
 }

@@ -132,6 +132,7 @@ private:
     template <class Test> QList<CTile*> FindFromTop(const QRect& area, const Test& takes) const;
     void SetResult(const QList<CTile*>& tiles);
     void Replace(const QList<CTile*>& tiles, bool owning);
+    static bool MarkLeaving(CTile* tile);
 
     QList<CTile*> m_tiles;
     bool m_owning = false;
