@@ -4,7 +4,17 @@
 
 #include <QRect>
 
+#include <cmath>
+
 // The geometry behind turned cabinets and groups.
+
+constexpr double kNoAngle = 0.0001; ///< degrees; up to it nothing counts as turned
+constexpr int kFar = 1 << 29;       ///< beyond every canvas; below it sizes can be added without overflow
+
+inline bool IsRotationAngle(double degrees)
+{
+    return std::abs(degrees) > kNoAngle;
+}
 
 /// Turns the corners left-top, right-top, right-bottom, left-bottom of a rectangle given by its edges (right
 /// and bottom one past the last pixel).

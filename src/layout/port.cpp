@@ -3,6 +3,15 @@
 #include "layout/layoutlookup.h"
 #include "layout/sender.h"
 
+#include <utility>
+
+bool PortFields::IsSameWiring(const PortFields& other) const
+{
+    return senderId == other.senderId && portIndex == other.portIndex && backup.dest == other.backup.dest
+           && backup.senderId == other.backup.senderId && backup.portIndex == other.backup.portIndex
+           && backup.ip == other.backup.ip;
+}
+
 CPort::CPort() = default;
 
 CPort::CPort(const CPort& other)
@@ -21,13 +30,9 @@ CPort& CPort::operator=(const CPort& other)
 
 bool CPort::Copy(const CPort& other, bool withoutLayout)
 {
-    m_senderId = other.m_senderId;
-    m_portIndex = other.m_portIndex;
-    m_backupDest = other.m_backupDest;
-    m_backupSenderId = other.m_backupSenderId;
-    m_backupPortIndex = other.m_backupPortIndex;
-    m_backupIp = other.m_backupIp;
-    m_color = other.m_color;
+    const PortFields::View own = m_fields.view;
+    m_fields = other.m_fields;
+    m_fields.view = own;
     if (!withoutLayout)
         m_layout = other.m_layout;
     return true;
@@ -43,45 +48,28 @@ void CPort::UndoRedoCopy(const CPort& other)
 {
     if (this == &other)
         return;
-    if (m_backupDest != other.m_backupDest) {
+    if (IsBackupDest() != other.IsBackupDest()) {
         m_layout.ClearAllTiles();
         return;
     }
-    m_senderId = other.m_senderId;
-    m_portIndex = other.m_portIndex;
+    SetSenderIdAndPortIndex(other.GetSenderId(), other.GetPortIndex());
     m_layout = other.m_layout;
 }
 
 bool CPort::BeSameAs(const CPort& other) const
 {
-    return m_senderId == other.m_senderId && m_portIndex == other.m_portIndex
-           && m_backupDest == other.m_backupDest && m_backupSenderId == other.m_backupSenderId
-           && m_backupIp == other.m_backupIp && m_backupPortIndex == other.m_backupPortIndex
-           && m_layout == other.m_layout;
+    return m_fields.IsSameWiring(other.m_fields) && m_layout == other.m_layout;
 }
 
 void CPort::SetSenderIdAndPortIndex(const QUuid& senderId, int portIndex)
 {
-    m_senderId = senderId;
-    m_portIndex = portIndex;
-}
-
-QUuid CPort::GetSenderId() const
-{
-    return m_senderId;
-}
-
-int CPort::GetPortIndex() const
-{
-    return m_portIndex;
+    m_fields.senderId = senderId;
+    m_fields.portIndex = portIndex;
 }
 
 bool CPort::SetBeBackupDest(const QUuid& senderId, int portIndex)
 {
-    m_backupDest = true;
-    m_backupSenderId = senderId;
-    m_backupPortIndex = portIndex;
-    m_backupIp = 0;
+    m_fields.backup = {true, senderId, portIndex, 0};
     return true;
 }
 
@@ -90,98 +78,23 @@ bool CPort::SetBeBackupDestIP(unsigned long ip, int portIndex)
     const auto address = static_cast<quint32>(ip);
     if (address == 0)
         return false;
-    m_backupDest = true;
-    m_backupSenderId = QUuid();
-    m_backupPortIndex = portIndex;
-    m_backupIp = address;
+    m_fields.backup = {true, QUuid(), portIndex, address};
     return true;
-}
-
-void CPort::CancelBackupDest()
-{
-    m_backupDest = false;
-    m_backupSenderId = QUuid();
-    m_backupPortIndex = -1;
-    m_backupIp = 0;
-}
-
-bool CPort::IsBackupDest() const
-{
-    return m_backupDest;
-}
-
-QUuid CPort::GetBackupSrcSenderId() const
-{
-    return m_backupSenderId;
-}
-
-int CPort::GetBackupSrcPortIndex() const
-{
-    return m_backupPortIndex;
-}
-
-unsigned long CPort::GetBackupSrcIP() const
-{
-    return m_backupIp;
 }
 
 bool CPort::SetFlagLock(bool locked)
 {
-    const bool changed = m_locked != locked;
-    m_locked = locked;
-    return changed;
-}
-
-bool CPort::IsFlagLock() const
-{
-    return m_locked;
+    return std::exchange(m_fields.view.locked, locked) != locked;
 }
 
 bool CPort::SetVisible(bool visible)
 {
-    const bool changed = m_visible != visible;
-    m_visible = visible;
-    return changed;
-}
-
-bool CPort::IsVisible() const
-{
-    return m_visible;
-}
-
-void CPort::SetPortColor(const QColor& color)
-{
-    m_color = color;
-}
-
-QColor CPort::GetPortColor() const
-{
-    return m_color;
-}
-
-void CPort::SetPortArea(const QRect& area)
-{
-    m_area = area;
-}
-
-QRect CPort::GetPortArea() const
-{
-    return m_area;
-}
-
-CPortProject* CPort::GetPortProject()
-{
-    return &m_layout;
-}
-
-const CPortProject* CPort::GetPortProject() const
-{
-    return &m_layout;
+    return std::exchange(m_fields.view.visible, visible) != visible;
 }
 
 QRect CPort::GetBound() const
 {
-    return m_layout.GetTileSet()->GetBound();
+    return GetTiles().GetBound();
 }
 
 CTileSet* CPort::GetPortTileSetOrBackupSrc()
@@ -189,16 +102,15 @@ CTileSet* CPort::GetPortTileSetOrBackupSrc()
     // Only one step: the layout of a source that is a backup itself is its own, so that two ports that back
     // up each other end here too.
     CPort* source = this;
-    if (m_backupDest) {
-        CSender* sender =
-            m_backupSenderId.isNull() ? nullptr : GetLayoutLookup()->FindSender(m_backupSenderId);
-        source = sender ? sender->GetPort(m_backupPortIndex) : nullptr;
+    if (IsBackupDest()) {
+        const QUuid id = GetBackupSrcSenderId();
+        CSender* sender = id.isNull() ? nullptr : GetLayoutLookup()->FindSender(id);
+        source = sender ? sender->GetPort(GetBackupSrcPortIndex()) : nullptr;
     }
     if (!source)
         return nullptr;
-    CTileSet* tiles = source->m_layout.GetTileSet();
-    tiles->TileSetNormalization();
-    return tiles;
+    source->GetTiles().TileSetNormalization();
+    return &source->GetTiles();
 }
 
 void CPort::GetPortTileSetOrBackupSrc(CTileSet& out)
@@ -209,4 +121,15 @@ void CPort::GetPortTileSetOrBackupSrc(CTileSet& out)
             shown.AddTile(source->GetTile(i));
     }
     out = shown;
+}
+
+void CPort::TakeStored(const PortFields& stored)
+{
+    const QRect area = m_fields.view.area;
+    m_fields = stored;
+    m_fields.view.area = area;
+    if (!stored.backup.dest)
+        CancelBackupDest();
+    else if (stored.backup.ip != 0)
+        m_fields.backup.senderId = QUuid();
 }

@@ -7,6 +7,36 @@
 #include <QRect>
 #include <QUuid>
 
+/// What a port holds beside its layout. Files store all of it but the area.
+struct PortFields
+{
+    /// The port that this one backs up, named by its sender's id or address, not by both.
+    struct Backup
+    {
+        bool dest = false;
+        QUuid senderId;
+        int portIndex = -1; ///< -1: none
+        quint32 ip = 0;     ///< host order
+    };
+
+    /// How the user works with this port. That belongs to the port, not to what is wired to it: a copy of
+    /// another port leaves it alone, and comparing passes it over.
+    struct View
+    {
+        bool locked = false;
+        bool visible = true;
+        QRect area;
+    };
+
+    QUuid senderId;
+    int portIndex = 0;
+    Backup backup;
+    QColor color; ///< copied, but no difference between two ports
+    View view;
+
+    bool IsSameWiring(const PortFields& other) const; ///< all but colour and view
+};
+
 /// One output (network) port of a sender, with the layout wired to it. A backup port shows and uses the
 /// layout of the port it backs up. Owned by its sender, or by whoever made a copy.
 class ORVANDATA_EXPORT CPort
@@ -25,31 +55,36 @@ public:
 
     // place in the sender
     void SetSenderIdAndPortIndex(const QUuid& senderId, int portIndex);
-    QUuid GetSenderId() const;
-    int GetPortIndex() const;
+    QUuid GetSenderId() const { return m_fields.senderId; }
+    int GetPortIndex() const { return m_fields.portIndex; }
 
     // backup
     bool SetBeBackupDest(const QUuid& senderId, int portIndex);
     bool SetBeBackupDestIP(unsigned long ip, int portIndex); ///< host-order IPv4; 0 is refused
-    void CancelBackupDest();
-    bool IsBackupDest() const;
-    QUuid GetBackupSrcSenderId() const;
-    int GetBackupSrcPortIndex() const;    ///< -1: none
-    unsigned long GetBackupSrcIP() const; ///< host-order IPv4, 0 when the source is named by id
+    void CancelBackupDest() { m_fields.backup = {}; }
+    bool IsBackupDest() const { return m_fields.backup.dest; }
+    QUuid GetBackupSrcSenderId() const { return m_fields.backup.senderId; }
+    int GetBackupSrcPortIndex() const { return m_fields.backup.portIndex; } ///< -1: none
+    /// Host-order IPv4, 0 when the source is named by id.
+    unsigned long GetBackupSrcIP() const { return m_fields.backup.ip; }
 
     // display
     bool SetFlagLock(bool locked); ///< whether it changed
-    bool IsFlagLock() const;
+    bool IsFlagLock() const { return m_fields.view.locked; }
     bool SetVisible(bool visible); ///< whether it changed
-    bool IsVisible() const;
-    void SetPortColor(const QColor& color);
-    QColor GetPortColor() const;
-    void SetPortArea(const QRect& area);
-    QRect GetPortArea() const;
+    bool IsVisible() const { return m_fields.view.visible; }
+    void SetPortColor(const QColor& color) { m_fields.color = color; }
+    QColor GetPortColor() const { return m_fields.color; }
+    void SetPortArea(const QRect& area) { m_fields.view.area = area; }
+    QRect GetPortArea() const { return m_fields.view.area; }
 
     // layout
-    CPortProject* GetPortProject(); ///< [ref]
-    const CPortProject* GetPortProject() const;
+    CPortProject* GetPortProject() { return &m_layout; } ///< [ref]
+    const CPortProject* GetPortProject() const { return &m_layout; }
+    CTileSet& GetTiles() { return *m_layout.GetTileSet(); } ///< the port's own
+    const CTileSet& GetTiles() const { return *m_layout.GetTileSet(); }
+    CTileGroupSet& GetGroups() { return *m_layout.GetTileGroupSet(); }
+    const CTileGroupSet& GetGroups() const { return *m_layout.GetTileGroupSet(); }
     QRect GetBound() const; ///< of this port's own tiles
     /// [ref] The tiles shown: the port's own, or those of the port it backs up, looked for by the id of its
     /// sender alone; null when there is none, so for every source named by its address. The set is normalised
@@ -57,16 +92,12 @@ public:
     CTileSet* GetPortTileSetOrBackupSrc();
     void GetPortTileSetOrBackupSrc(CTileSet& out); ///< lists the same; nothing where that is null
 
+    // inside the library: whole, as files and copies of senders take them
+    const PortFields& GetFields() const { return m_fields; }
+    void SetFields(const PortFields& fields) { m_fields = fields; }
+    void TakeStored(const PortFields& stored); ///< puts right what a file may say; the area stays
+
 private:
-    QUuid m_senderId;
-    int m_portIndex = 0;
-    bool m_locked = false;
-    bool m_visible = true;
-    bool m_backupDest = false;
-    QUuid m_backupSenderId;
-    int m_backupPortIndex = -1;
-    quint32 m_backupIp = 0;
+    PortFields m_fields;
     CPortProject m_layout;
-    QColor m_color;
-    QRect m_area;
 };

@@ -17,13 +17,12 @@
 namespace {
 
 constexpr int kView = InterfaceDesign; ///< the view whose selection is edited
-constexpr double kNoAngle = 0.0001;    ///< degrees, below it nothing counts as turned
-constexpr double kFar = 1 << 29;       ///< beyond every canvas
 
 QPoint Rounded(double x, double y) ///< half away from zero
 {
-    return QPoint(static_cast<int>(std::round(qBound(-kFar, x, kFar))),
-                  static_cast<int>(std::round(qBound(-kFar, y, kFar))));
+    constexpr double far = kFar;
+    return QPoint(static_cast<int>(std::round(qBound(-far, x, far))),
+                  static_cast<int>(std::round(qBound(-far, y, far))));
 }
 
 SRotateParam BlockRecord(const SAddTileInfo& info)
@@ -136,7 +135,7 @@ void TurnTile(CTile& tile, const SRotateParam& turn)
     if (Rounded(record.centerX + corner.x(), record.centerY + corner.y()) != tile.GetPosition()) {
         const bool onPivot =
             std::abs(record.centerX - turn.centerX) < 0.01 && std::abs(record.centerY - turn.centerY) < 0.01;
-        if (onPivot || std::abs(record.angle) > kNoAngle) {
+        if (onPivot || IsRotationAngle(record.angle)) {
             corner = QPointF(tile.GetX() - record.centerX, tile.GetY() - record.centerY);
         } else {
             // Not turned yet, its centre is only left over from before a move or a change of size.
@@ -148,7 +147,7 @@ void TurnTile(CTile& tile, const SRotateParam& turn)
     record.centerX = centre.x;
     record.centerY = centre.y;
     record.angle = NormalizedAngle(record.angle + turn.angle);
-    record.rotated = std::abs(record.angle) > kNoAngle;
+    record.rotated = IsRotationAngle(record.angle);
     // Not clamped: what is turned may lie on the canvas while its left top, before turning, does not.
     const QPoint place = Rounded(centre.x + corner.x(), centre.y + corner.y());
     tile.Offset(SaturatedInt(qint64(place.x()) - tile.GetX()), SaturatedInt(qint64(place.y()) - tile.GetY()));
@@ -186,26 +185,6 @@ bool CPortProject::operator==(const CPortProject& other) const
 bool CPortProject::operator!=(const CPortProject& other) const
 {
     return !(*this == other);
-}
-
-CTileSet* CPortProject::GetTileSet()
-{
-    return &m_tiles;
-}
-
-const CTileSet* CPortProject::GetTileSet() const
-{
-    return &m_tiles;
-}
-
-CTileGroupSet* CPortProject::GetTileGroupSet()
-{
-    return &m_groups;
-}
-
-const CTileGroupSet* CPortProject::GetTileGroupSet() const
-{
-    return &m_groups;
 }
 
 void CPortProject::ClearAllTiles()
@@ -360,4 +339,16 @@ bool CPortProject::SelTileShapeModifyEnable()
     m_tiles.GetSelTileSet(selected, kView);
     return selected.GetCount() > 1 && IsWholeGroup(selected) && selected.IsAllSameSize()
            && FillGrid(selected);
+}
+
+void CPortProject::TakeFrom(CPortProject& other)
+{
+    ClearAllTiles();
+    for (CTile* tile : other.m_tiles.GetTiles())
+        m_tiles.AddTile(tile);
+    m_groups.AddFromOther(other.m_groups);
+    other.m_tiles.SetOwnerShip(false); // drops what is owned here now
+    other.m_tiles.DeleteAllTiles();
+    other.m_tiles.SetOwnerShip(true);
+    other.m_groups.RemoveAll();
 }

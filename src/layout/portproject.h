@@ -42,10 +42,10 @@ public:
     bool operator==(const CPortProject& other) const;
     bool operator!=(const CPortProject& other) const;
 
-    CTileSet* GetTileSet();
-    const CTileSet* GetTileSet() const;
-    CTileGroupSet* GetTileGroupSet();
-    const CTileGroupSet* GetTileGroupSet() const;
+    CTileSet* GetTileSet() { return &m_tiles; }
+    const CTileSet* GetTileSet() const { return &m_tiles; }
+    CTileGroupSet* GetTileGroupSet() { return &m_groups; }
+    const CTileGroupSet* GetTileGroupSet() const { return &m_groups; }
 
     void ClearAllTiles(); ///< and all groups
     void CancelAllSelected();
@@ -71,6 +71,9 @@ public:
     // may the selection of view 3 be changed as a block?
     bool SelTileCountModifyEnable();
     bool SelTileShapeModifyEnable();
+
+    // inside the library
+    void TakeFrom(CPortProject& other); ///< in place of this layout; the other is empty afterwards
 
 private:
     bool IsWholeGroup(const CTileSet& tiles) const; ///< all tiles of one top-level group without sub-groups

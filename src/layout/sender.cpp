@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int kDefaultPortCount = 4;
 constexpr int kAcceptedPortCounts[] = {2, 4, 6, 8, 10, 12, 16, 20, 24, 26, 28, 32, 40, 80, 160};
 constexpr int kPortAlpha = 204;
 
@@ -36,8 +35,8 @@ PortColors MakePortColors()
 void CollectGroups(QSet<const CTileGroup*>& out, const CSender& sender)
 {
     QList<CTileGroup*> groups;
-    for (int i = 0; i < kMaxPorts; ++i)
-        sender.GetPort(i)->GetPortProject()->GetTileGroupSet()->GetGroupListRecursive(groups);
+    for (const CPort& port : sender.GetPorts())
+        port.GetGroups().GetGroupListRecursive(groups);
     for (const CTileGroup* group : qAsConst(groups))
         out.insert(group);
 }
@@ -63,11 +62,8 @@ void CSender::CopySender(const CSender& other)
     CSenderParams::operator=(other);
     m_fields = other.m_fields;
     for (size_t i = 0; i < m_ports.size(); ++i) {
-        const CPort& port = other.m_ports[i];
-        m_ports[i] = port;
-        m_ports[i].SetFlagLock(port.IsFlagLock());
-        m_ports[i].SetVisible(port.IsVisible());
-        m_ports[i].SetPortArea(port.GetPortArea());
+        m_ports[i].LayoutCopy(other.m_ports[i]);
+        m_ports[i].SetFields(other.m_ports[i].GetFields());
     }
 }
 
@@ -78,116 +74,11 @@ bool CSender::LayoutCopy(const CSender& other)
     return true;
 }
 
-QUuid CSender::GetId() const
-{
-    return m_fields.id;
-}
-
 void CSender::SetId(const QUuid& id)
 {
     m_fields.id = id;
     for (size_t i = 0; i < m_ports.size(); ++i)
         m_ports[i].SetSenderIdAndPortIndex(m_fields.id, static_cast<int>(i));
-}
-
-QString CSender::GetSenderName() const
-{
-    return m_fields.name;
-}
-
-void CSender::SetSenderName(const QString& name)
-{
-    m_fields.name = name;
-}
-
-bool CSender::IsPrintNameEnable() const
-{
-    return m_fields.printNameEnable;
-}
-
-void CSender::SetPrintNameEnable(bool enable)
-{
-    m_fields.printNameEnable = enable;
-}
-
-QString CSender::GetPrintName() const
-{
-    return m_fields.printName;
-}
-
-void CSender::SetPrintName(const QString& name)
-{
-    m_fields.printName = name;
-}
-
-QUuid CSender::GetBelongGroup() const
-{
-    return m_fields.belongGroup;
-}
-
-void CSender::SetBelongGroup(const QUuid& id)
-{
-    m_fields.belongGroup = id;
-}
-
-unsigned long CSender::GetNetSenderIP() const
-{
-    return m_fields.netIp;
-}
-
-void CSender::SetNetSenderIP(unsigned long ip)
-{
-    m_fields.netIp = static_cast<quint32>(ip);
-}
-
-bool CSender::IsBKImgShow() const
-{
-    return m_fields.bkImgShow;
-}
-
-void CSender::SetBKImgShow(bool show)
-{
-    m_fields.bkImgShow = show;
-}
-
-int CSender::GetBKImgAlpha() const
-{
-    return m_fields.bkImgAlpha;
-}
-
-void CSender::SetBKImgAlpha(int alpha)
-{
-    m_fields.bkImgAlpha = alpha;
-}
-
-bool CSender::IsBKImgStretch() const
-{
-    return m_fields.bkImgStretch;
-}
-
-void CSender::SetBKImgStretch(bool stretch)
-{
-    m_fields.bkImgStretch = stretch;
-}
-
-QSize CSender::GetCanvasSize() const
-{
-    return m_fields.canvasSize;
-}
-
-void CSender::SetCanvasSize(const QSize& size)
-{
-    m_fields.canvasSize = size;
-}
-
-QSize CSender::GetOffset() const
-{
-    return m_fields.offset;
-}
-
-void CSender::SetOffset(const QSize& offset)
-{
-    m_fields.offset = offset;
 }
 
 void CSender::OffsetValid()
@@ -219,11 +110,6 @@ void CSender::SetPortCount(int count)
         m_fields.portCount = count;
 }
 
-int CSender::GetPortCount() const
-{
-    return m_fields.portCount;
-}
-
 bool CSender::IsPortCountAccepted(int count)
 {
     return std::find(std::begin(kAcceptedPortCounts), std::end(kAcceptedPortCounts), count)
@@ -238,21 +124,6 @@ CPort* CSender::GetPort(int index)
 const CPort* CSender::GetPort(int index) const
 {
     return index < 0 || index >= kMaxPorts ? nullptr : &m_ports[static_cast<size_t>(index)];
-}
-
-int CSender::GetRecentPortIndex() const
-{
-    return m_fields.recentPort;
-}
-
-void CSender::SetRecentPortIndex(int port)
-{
-    m_fields.recentPort = port;
-}
-
-bool CSender::HaveBkPorts() const
-{
-    return ExistBackupDest(nullptr);
 }
 
 bool CSender::ExistBackupDest(bool* selfBackup) const
@@ -272,7 +143,7 @@ bool CSender::GetTileSet(CTileSet& out) const
 {
     CTileSet found;
     for (int i = 0; i < m_fields.portCount; ++i)
-        found.AddFromOther(*GetPort(i)->GetPortProject()->GetTileSet());
+        found.AddFromOther(GetPort(i)->GetTiles());
     out = found;
     return m_fields.portCount > 0;
 }
@@ -280,13 +151,11 @@ bool CSender::GetTileSet(CTileSet& out) const
 bool CSender::GetTileGroupSet(CTileGroupSet& out) const
 {
     CTileGroupSet found;
-    for (int i = 0; i < kMaxPorts; ++i) {
-        const CTileGroupSet* groups = GetPort(i)->GetPortProject()->GetTileGroupSet();
-        if (&out == groups)
+    for (const CPort& port : m_ports)
+        if (&out == &port.GetGroups())
             return false;
-        if (i < m_fields.portCount)
-            found.AddFromOther(*groups);
-    }
+    for (int i = 0; i < m_fields.portCount; ++i)
+        found.AddFromOther(GetPort(i)->GetGroups());
 
     CTileGroupSet dropped;
     if (out.GetDirectCount() > 0) {
@@ -374,7 +243,7 @@ QRect CSender::GetBound() const
     bool first = true;
     for (int i = 0; i < m_fields.portCount; ++i) {
         const CPort* port = GetPort(i);
-        if (port->GetPortProject()->GetTileSet()->GetCount() == 0)
+        if (port->GetTiles().GetCount() == 0)
             continue;
         bound = first ? port->GetBound() : bound.united(port->GetBound());
         first = false;
@@ -382,40 +251,41 @@ QRect CSender::GetBound() const
     return bound;
 }
 
-QRect CSender::GetMonitorRenderArea() const
-{
-    return m_fields.monitorRenderArea;
-}
-
 void CSender::SetMonitorRenderArea(const QRect& area)
 {
-    m_fields.monitorRenderArea = area;
-}
-
-int CSender::GetMonitorRenderRelativePos() const
-{
-    return m_fields.monitorRenderPos;
-}
-
-void CSender::SetMonitorRenderRelativePos(int position)
-{
-    m_fields.monitorRenderPos = position;
-}
-
-QPoint CSender::GetMonitorRcvOffsetPt() const
-{
-    return m_fields.monitorRcvOffset;
-}
-
-void CSender::SetMonitorRcvOffsetPt(const QPoint& point)
-{
-    m_fields.monitorRcvOffset = point;
+    m_fields.monitorRenderPlace = area.topLeft();
+    m_fields.monitorRenderSize = area.size();
 }
 
 void CSender::ResetMonitorRenderParam(bool all)
 {
-    m_fields.monitorRenderArea = QRect();
+    SetMonitorRenderArea(QRect());
     m_fields.monitorRenderPos = 0;
     if (all)
         m_fields.monitorRcvOffset = QPoint();
+}
+
+StoredSender CSender::GetStored() const
+{
+    return {m_fields, GetSignalFreq(), GetColorDepth()};
+}
+
+void CSender::TakeStored(const StoredSender& stored, SenderParts parts)
+{
+    const SenderFields own = m_fields;
+    if (parts != SenderParts::LayoutOnly) {
+        m_fields = stored;
+        SetSignalFreq(stored.signalFreq);
+        SetColorDepth(stored.colorDepth);
+    }
+    if (parts == SenderParts::Project) {
+        SetId(stored.id);
+    } else {
+        m_fields.id = own.id;
+        m_fields.belongGroup = own.belongGroup;
+        m_fields.netIp = own.netIp;
+    }
+    m_fields.portCount = own.portCount;
+    SetPortCount(stored.portCount);
+    SetRecentPortIndex(GetPort(stored.recentPort) ? stored.recentPort : 0);
 }

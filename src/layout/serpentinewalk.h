@@ -1,5 +1,7 @@
 #pragma once
 
+#include "layout/tileset.h"
+
 #include <QPoint>
 #include <QRect>
 #include <QSize>
@@ -17,7 +19,7 @@ quint32 PlaceAlong(int direction, const QPoint& point);
 class SerpentineWalk
 {
 public:
-    static constexpr int kPatternCount = 8;
+    static constexpr int kPatternCount = AutoNumberColumnsBottomLeft + 1;
 
     /// `type` is 0 to 7, see EnAutoNumberType; neither the bound nor the cell is empty.
     SerpentineWalk(int type, const QRect& bound, const QSize& cell);

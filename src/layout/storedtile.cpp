@@ -1,11 +1,11 @@
 #include "layout/storedtile.h"
 
 #include "common/saturated.h"
+#include "layout/corners.h"
 #include "layout/tile.h"
 #include "layout/tileset.h"
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace {
@@ -40,16 +40,11 @@ void Wire(const StoredTile& stored, TileFields& fields)
         fields.fixedLine = stored.saysFixed != 0 && fields.multi;
     if (stored.saysOrdered >= 0)
         fields.ordered = stored.saysOrdered != 0 || fields.fixedLine;
-    if (stored.receiversAcross > 0 && stored.receiversDown > 0)
-        fields.multiSize = QSize(stored.receiversAcross, stored.receiversDown);
+    if (fields.multiSize.isEmpty())
+        fields.multiSize = QSize(1, 1);
 }
 
 } // namespace
-
-bool IsRotationAngle(double degrees)
-{
-    return std::abs(degrees) > 0.0001;
-}
 
 std::unique_ptr<CTile> StoredTileMaker::Make(const StoredTile& stored)
 {
@@ -75,18 +70,6 @@ void StoredTileMaker::ApplyProduct(TileFields& fields)
     }
     fields.multi = m_known && m_product.multi;
     fields.ordered = m_known && m_product.multiSet;
-}
-
-StoredTile MakeStored(const CTile& tile)
-{
-    StoredTile stored;
-    static_cast<TileFields&>(stored) = *tile.GetData();
-    stored.saysMulti = stored.multi ? 1 : 0;
-    stored.saysFixed = stored.fixedLine ? 1 : 0;
-    stored.saysOrdered = stored.ordered ? 1 : 0;
-    stored.receiversAcross = stored.multiSize.width();
-    stored.receiversDown = stored.multiSize.height();
-    return stored;
 }
 
 void DeriveBeginReceivers(const CTileSet& tiles)

@@ -15,9 +15,15 @@ struct StoredTile : TileFields
     int saysMulti = -1;
     int saysFixed = -1;
     int saysOrdered = -1;
-    int receiversAcross = 1; ///< taken when both are above 0
-    int receiversDown = 1;
 };
+
+// What stands in the file for a flag: read with "says nothing", written from the cabinet itself.
+inline int& SaysMulti(StoredTile& tile) { return tile.saysMulti; }
+inline bool SaysMulti(const TileFields& tile) { return tile.multi; }
+inline int& SaysFixed(StoredTile& tile) { return tile.saysFixed; }
+inline bool SaysFixed(const TileFields& tile) { return tile.fixedLine; }
+inline int& SaysOrdered(StoredTile& tile) { return tile.saysOrdered; }
+inline bool SaysOrdered(const TileFields& tile) { return tile.ordered; }
 
 /// Makes cabinets of what files store; asks for each product once in a row of cabinets of its type.
 class StoredTileMaker
@@ -33,11 +39,6 @@ private:
     LayoutLookup::Product m_product;
     bool m_known = false;
 };
-
-StoredTile MakeStored(const CTile& tile);
-
-/// Whether a rotation that a file gives only by its angle, in degrees, counts as one.
-bool IsRotationAngle(double degrees);
 
 /// Begin receiver connections follow from the finished wiring: cabinets may be stored in any order, and each
 /// takes its predecessor's as CTile::SetConnectionIndex would, so they are derived along the chain.

@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr double kNoAngle = 0.0001; ///< degrees, up to it nothing counts as turned
-
 /// The selection bit of each view; 0 for a view without selection.
 constexpr unsigned char kViewBits[kInterfaceCount] = {0, 0, 0, 0x01, 0x20, 0x10, 0x40, 0};
 

@@ -1,6 +1,7 @@
 #include "layout/tilegroup.h"
 
 #include "common/interfacedlg.h"
+#include "layout/corners.h"
 #include "layout/tilegroupset.h"
 
 #include <QSet>
@@ -13,12 +14,18 @@ constexpr unsigned kDesignBit = 0x01;
 
 } // namespace
 
-CTileGroup::CTileGroup() : m_id(QUuid::createUuid()), m_subGroups(std::make_unique<CTileGroupSet>())
-{}
+bool operator==(const GroupFields& a, const GroupFields& b)
+{
+    return a.id == b.id && a.parentId == b.parentId && a.selection == b.selection && a.rotate == b.rotate;
+}
+
+CTileGroup::CTileGroup() : m_subGroups(std::make_unique<CTileGroupSet>())
+{
+    m_fields.id = QUuid::createUuid();
+}
 
 CTileGroup::CTileGroup(const CTileGroup& other)
-    : m_id(other.m_id), m_parentId(other.m_parentId), m_selection(other.m_selection),
-      m_rotate(other.m_rotate), m_subGroups(std::make_unique<CTileGroupSet>(*other.m_subGroups))
+    : m_fields(other.m_fields), m_subGroups(std::make_unique<CTileGroupSet>(*other.m_subGroups))
 {}
 
 CTileGroup::~CTileGroup() = default;
@@ -27,18 +34,14 @@ CTileGroup& CTileGroup::operator=(const CTileGroup& other)
 {
     if (this == &other)
         return *this;
-    m_id = other.m_id;
-    m_parentId = other.m_parentId;
-    m_selection = other.m_selection;
-    m_rotate = other.m_rotate;
+    m_fields = other.m_fields;
     *m_subGroups = *other.m_subGroups; // last, `other` may lie below this group
     return *this;
 }
 
 bool CTileGroup::operator==(const CTileGroup& other) const
 {
-    return m_id == other.m_id && m_parentId == other.m_parentId && m_selection == other.m_selection
-           && m_rotate == other.m_rotate;
+    return m_fields == other.m_fields;
 }
 
 bool CTileGroup::operator!=(const CTileGroup& other) const
@@ -46,83 +49,46 @@ bool CTileGroup::operator!=(const CTileGroup& other) const
     return !(*this == other);
 }
 
-QUuid CTileGroup::GetID() const
-{
-    return m_id;
-}
-
 void CTileGroup::SetID(const QUuid& id)
 {
-    m_id = id;
+    m_fields.id = id;
     for (int i = 0; i < GetSubGroupCount(); ++i)
         m_subGroups->GetDirectGroupByDirIndex(i)->SetParentGroupID(id);
 }
 
-QUuid CTileGroup::GetParentGroupID() const
-{
-    return m_parentId;
-}
-
-void CTileGroup::SetParentGroupID(const QUuid& id)
-{
-    m_parentId = id;
-}
-
 bool CTileGroup::IsSelected(int iface) const
 {
-    return iface == InterfaceDesign && (m_selection & kDesignBit) != 0;
+    return iface == InterfaceDesign && (m_fields.selection & kDesignBit) != 0;
 }
 
 void CTileGroup::SetSelected(int iface, bool selected)
 {
     if (iface == InterfaceDesign)
-        m_selection = selected ? m_selection | kDesignBit : m_selection & ~kDesignBit;
+        m_fields.selection = selected ? m_fields.selection | kDesignBit : m_fields.selection & ~kDesignBit;
     for (int i = 0; i < GetSubGroupCount(); ++i)
         m_subGroups->GetDirectGroupByDirIndex(i)->SetSelected(iface, selected);
-}
-
-bool CTileGroup::IsVisible() const
-{
-    return m_visible;
-}
-
-void CTileGroup::SetVisible(bool visible)
-{
-    m_visible = visible;
-}
-
-SRotateParam* CTileGroup::GetRotateParam()
-{
-    return &m_rotate;
-}
-
-const SRotateParam* CTileGroup::GetRotateParam() const
-{
-    return &m_rotate;
 }
 
 void CTileGroup::SetRotateParam(const SRotateParam* param)
 {
     if (param)
-        m_rotate = *param;
+        m_fields.rotate = *param;
 }
 
-bool CTileGroup::IsRotated() const
+void CTileGroup::TakeStored(const GroupFields& stored)
 {
-    return m_rotate.rotated;
+    if (!stored.id.isNull())
+        SetID(stored.id);
+    m_fields.rotate = stored.rotate;
+    m_fields.rotate.rotated = IsRotationAngle(stored.rotate.angle);
 }
 
 /// The vertical place goes into the horizontal one and `dx` takes no part. Hosts were built around that, so
 /// it stays; the Y coordinates do not move.
 void CTileGroup::SetOffset(int /*dx*/, int dy)
 {
-    m_rotate.centerX = m_rotate.centerY + dy;
-    m_rotate.leftTopX = m_rotate.leftTopY + dy;
-}
-
-CTileGroupSet* CTileGroup::GetSubGroupSet() const
-{
-    return m_subGroups.get();
+    m_fields.rotate.centerX = m_fields.rotate.centerY + dy;
+    m_fields.rotate.leftTopX = m_fields.rotate.leftTopY + dy;
 }
 
 int CTileGroup::GetSubGroupCount() const
@@ -132,7 +98,7 @@ int CTileGroup::GetSubGroupCount() const
 
 bool CTileGroup::HasAnySubGroupInArray(const QList<QUuid>& ids) const
 {
-    if (ids.contains(m_id))
+    if (ids.contains(m_fields.id))
         return true;
     const QSet<QUuid> wanted(ids.begin(), ids.end());
     QList<CTileGroup*> below;
@@ -143,7 +109,7 @@ bool CTileGroup::HasAnySubGroupInArray(const QList<QUuid>& ids) const
 
 void CTileGroup::ModifyIDAndRecord(QList<SGuidCompare>& records)
 {
-    const SGuidCompare record{m_id, QUuid::createUuid()};
+    const SGuidCompare record{m_fields.id, QUuid::createUuid()};
     records.append(record);
     SetID(record.newId);
     for (int i = 0; i < GetSubGroupCount(); ++i)

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "common/canvaslimits.h"
-#include "common/rotateparam.h"
-#include "common/smd5.h"
 #include "common/xmlattributes.h"
 #include "common/xmlreader.h"
+#include "layout/sender.h"
+#include "layout/storedtile.h"
+#include "layout/tilegroup.h"
+#include "settings/constantdata.h"
 
-#include <QString>
-#include <QUuid>
+#include <type_traits>
 
 // What the layout elements of a file hold: each attribute named once, in the order written. `Fields` is an
 // attribute reader or writer, `Record` the record, constant when it is written.
@@ -38,44 +38,23 @@ constexpr int kLeastBytesOfGroup = 240;
 
 } // namespace layoutnames
 
-struct SenderRecord
-{
-    int senderType = 0;
-    int deviceClass = 0;
-    bool exportConfig = false;
-    QUuid id;
-    QString name;
-    QUuid belongGroup;
-    bool printNameEnable = false;
-    QString printName;
-    bool bkImgShow = false;
-    int bkImgAlpha = 0;
-    bool bkImgStretch = false;
-    int xOffset = 0;
-    int yOffset = 0;
-    int portCount = 0;
-    int recentPort = 0;
-    int canvasWidth = 0;
-    int canvasHeight = 0;
-    int signalFreq = 0;
-    int colorDepth = 0;
-    int renderX = 0;
-    int renderY = 0;
-    int renderWidth = 0;
-    int renderHeight = 0;
-    int renderPos = 0;
-    int rcvOffsetX = 0;
-    int rcvOffsetY = 0;
-    unsigned int ip = 0;
-};
+// The numbers of a place or a size, to be read or written as fields of their own.
+inline int& AcrossOf(QSize& size) { return size.rwidth(); }
+inline int AcrossOf(const QSize& size) { return size.width(); }
+inline int& DownOf(QSize& size) { return size.rheight(); }
+inline int DownOf(const QSize& size) { return size.height(); }
+inline int& AcrossOf(QPoint& place) { return place.rx(); }
+inline int AcrossOf(const QPoint& place) { return place.x(); }
+inline int& DownOf(QPoint& place) { return place.ry(); }
+inline int DownOf(const QPoint& place) { return place.y(); }
 
 /// The device a sender stands for: told to whoever reads a project file, never taken from one. The files of a
 /// single sender do not carry it.
-template <class Fields, class Record> void DescribeSenderDevice(Fields& f, Record& r)
+template <class Fields> void DescribeSenderDevice(Fields& f, const CSender& sender)
 {
-    f.Field("SenderType", r.senderType, FieldUse::NeverRead);
-    f.Field("DeviceClass", r.deviceClass, FieldUse::NeverRead);
-    f.Field("bExportConfig", r.exportConfig, FieldUse::NeverRead);
+    f.Field("SenderType", sender.GetProcessorType(), FieldUse::NeverRead);
+    f.Field("DeviceClass", sender.GetDeviceClass(), FieldUse::NeverRead);
+    f.Field("bExportConfig", sender.IsExportConfig(), FieldUse::NeverRead);
 }
 
 template <class Fields, class Record> void DescribeSender(Fields& f, Record& r)
@@ -88,48 +67,38 @@ template <class Fields, class Record> void DescribeSender(Fields& f, Record& r)
     f.Field("BKImgShow", r.bkImgShow);
     f.Field("BKImgAlpha", r.bkImgAlpha);
     f.Field("BKImgStretch", r.bkImgStretch);
-    f.Field("XOffset", r.xOffset);
-    f.Field("YOffset", r.yOffset);
+    f.Field("XOffset", AcrossOf(r.offset));
+    f.Field("YOffset", DownOf(r.offset));
     f.Field("PortCount", r.portCount);
     f.Field("RecentPortIndex", r.recentPort);
-    f.Field("CanvasSizeWidth", r.canvasWidth);
-    f.Field("CanvasSizeHeight", r.canvasHeight);
+    f.Field("CanvasSizeWidth", AcrossOf(r.canvasSize));
+    f.Field("CanvasSizeHeight", DownOf(r.canvasSize));
     f.Field("SignalFreq", r.signalFreq);
     f.Field("ColorDepth", r.colorDepth);
-    f.Field("MonitorRenderX", r.renderX);
-    f.Field("MonitorRenderY", r.renderY);
-    f.Field("MonitorRenderW", r.renderWidth);
-    f.Field("MonitorRenderH", r.renderHeight);
-    f.Field("MonitorRenderPos", r.renderPos);
-    f.Field("MonitorRcvOffsetPtX", r.rcvOffsetX);
-    f.Field("MonitorRcvOffsetPtY", r.rcvOffsetY);
-    f.Field("IPAddr", r.ip);
+    f.Field("MonitorRenderX", AcrossOf(r.monitorRenderPlace));
+    f.Field("MonitorRenderY", DownOf(r.monitorRenderPlace));
+    f.Field("MonitorRenderW", AcrossOf(r.monitorRenderSize));
+    f.Field("MonitorRenderH", DownOf(r.monitorRenderSize));
+    f.Field("MonitorRenderPos", r.monitorRenderPos);
+    f.Field("MonitorRcvOffsetPtX", AcrossOf(r.monitorRcvOffset));
+    f.Field("MonitorRcvOffsetPtY", DownOf(r.monitorRcvOffset));
+    f.Field("IPAddr", r.netIp);
 }
-
-struct PortRecord
-{
-    QUuid senderId;
-    int portIndex = 0;
-    bool backupDest = false;
-    QUuid backupSenderId;
-    int backupPortIndex = -1;
-    unsigned int backupIp = 0;
-    bool visible = true;
-    bool locked = false;
-    QString color;
-};
 
 template <class Fields, class Record> void DescribePort(Fields& f, Record& r)
 {
     f.Field("SenderGuid", r.senderId, FieldUse::NeverRead); // whoever reads a port says whose it is
     f.Field("PortIndex", r.portIndex);
-    f.Field("IsBackupDest", r.backupDest);
-    f.Field("bkSenderId", r.backupSenderId);
-    f.Field("BkPortIndex", r.backupPortIndex);
-    f.Field("BkSenderIP", r.backupIp);
-    f.Field("IsVisable", r.visible);
-    f.Field("Lock", r.locked);
-    f.Field("PortColor", r.color);
+    f.Field("IsBackupDest", r.backup.dest);
+    f.Field("bkSenderId", r.backup.senderId);
+    f.Field("BkPortIndex", r.backup.portIndex);
+    f.Field("BkSenderIP", r.backup.ip);
+    f.Field("IsVisable", r.view.visible);
+    f.Field("Lock", r.view.locked);
+    QString color = CConstantData::GetColortoQString(r.color);
+    f.Field("PortColor", color);
+    if constexpr (!std::is_const_v<Record>)
+        r.color = CConstantData::GetColorFromQString(color);
 }
 
 template <class Fields, class Record> void DescribeRotation(Fields& f, Record& r)
@@ -160,11 +129,11 @@ template <class Fields, class Record> void DescribeTile(Fields& f, Record& r)
     f.Field("Width", r.width);
     f.Field("Height", r.height);
     // A file without these says nothing; the product type decides.
-    f.Field("IsMultiCabinet", r.saysMulti, FieldUse::IfPresent);
-    f.Field("IsMultiFixed", r.saysFixed, FieldUse::IfPresent);
-    f.Field("MultiRcvSizeX", r.receiversAcross);
-    f.Field("MultiRcvSizeY", r.receiversDown);
-    f.Field("MultiOrdered", r.saysOrdered, FieldUse::IfPresent);
+    f.Field("IsMultiCabinet", SaysMulti(r), FieldUse::IfPresent);
+    f.Field("IsMultiFixed", SaysFixed(r), FieldUse::IfPresent);
+    f.Field("MultiRcvSizeX", AcrossOf(r.multiSize));
+    f.Field("MultiRcvSizeY", DownOf(r.multiSize));
+    f.Field("MultiOrdered", SaysOrdered(r), FieldUse::IfPresent);
     static constexpr const char* kLine[kMaxReceiversInTile] = {
         "MultiLine_0", "MultiLine_1", "MultiLine_2", "MultiLine_3", "MultiLine_4",
         "MultiLine_5", "MultiLine_6", "MultiLine_7", "MultiLine_8", "MultiLine_9"};
@@ -172,12 +141,6 @@ template <class Fields, class Record> void DescribeTile(Fields& f, Record& r)
         f.Field(kLine[i], r.line[i]);
     DescribeRotation(f, r.rotate);
 }
-
-struct GroupRecord
-{
-    QUuid id;
-    SRotateParam rotate;
-};
 
 template <class Fields, class Record> void DescribeGroup(Fields& f, Record& r)
 {

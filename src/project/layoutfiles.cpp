@@ -63,18 +63,10 @@ bool ReadElement(const QByteArray& content, std::initializer_list<std::string_vi
 
 bool WriteFile(const QString& path, const std::function<void(XmlWriter&)>& write, QString& error)
 {
-    QString refusal;
-    const bool written = ReplaceFile(
-        path,
-        [&](QIODevice& file) {
-            StreamXmlWriter writer(file);
-            write(writer);
-            const bool flushed = writer.Flush();
-            refusal = writer.GetRefusal();
-            return flushed;
-        },
-        &error);
-    return written || refusal.isEmpty() ? written : Fail(&error, refusal);
+    const auto replace = [&path](const std::function<bool(QIODevice&)>& fill, QString* why) {
+        return ReplaceFile(path, fill, why);
+    };
+    return WriteXml(replace, write, &error);
 }
 
 /// Ids that are used elsewhere, and the fresh ones for those of them that are met: one for each, as a group
@@ -100,7 +92,7 @@ bool Renew(const QUuid& id, GroupIds& ids, QUuid* fresh)
 QList<CTileGroup*> GroupsOf(const CPort& port)
 {
     QList<CTileGroup*> groups;
-    port.GetPortProject()->GetTileGroupSet()->GetGroupListRecursive(groups);
+    port.GetGroups().GetGroupListRecursive(groups);
     return groups;
 }
 
@@ -111,7 +103,7 @@ void RenewGroupIds(const CPort& port, GroupIds& ids)
     for (CTileGroup* group : GroupsOf(port))
         if (Renew(group->GetID(), ids, &fresh))
             group->SetID(fresh);
-    const CTileSet& tiles = *port.GetPortProject()->GetTileSet();
+    const CTileSet& tiles = port.GetTiles();
     for (int i = 0; i < tiles.GetCount(); ++i)
         if (Renew(tiles.GetTile(i)->GetGroupId(), ids, &fresh))
             tiles.GetTile(i)->SetGroupId(fresh);
@@ -121,9 +113,26 @@ void AddGroupIds(const CPort& port, QSet<QUuid>& ids)
 {
     for (const CTileGroup* group : GroupsOf(port))
         ids.insert(group->GetID());
-    const CTileSet& tiles = *port.GetPortProject()->GetTileSet();
+    const CTileSet& tiles = port.GetTiles();
     for (int i = 0; i < tiles.GetCount(); ++i)
         ids.insert(tiles.GetTile(i)->GetGroupId());
+}
+
+/// Gives new ids to groups of these ports that other ports of the project use.
+void RenewGroupIdsOf(const QList<CPort*>& ports, const QList<CSender*>& senders)
+{
+    GroupIds ids;
+    for (CSender* sender : senders)
+        for (CPort& port : sender->GetPorts())
+            if (!ports.contains(&port))
+                AddGroupIds(port, ids.used);
+    for (CPort* port : ports)
+        RenewGroupIds(*port, ids);
+}
+
+CPort* RecentPort(CSender* sender)
+{
+    return sender ? sender->GetPort(sender->GetRecentPortIndex()) : nullptr;
 }
 
 } // namespace
@@ -133,10 +142,10 @@ bool CProjectData::ExportSender(const QString& path, const QUuid& senderId)
     m_lastFileError.clear();
     const CSender* sender = GetSender(GetScIndexByID(senderId));
     if (!sender)
-        return FailFile(Texts::tr("没有这个主控。"));
+        return Fail(&m_lastFileError, Texts::tr("没有这个主控。"));
     const QString tooLarge = WhyTooLarge(QList<const CSender*>{sender});
     if (!tooLarge.isEmpty())
-        return FailFile(tooLarge);
+        return Fail(&m_lastFileError, tooLarge);
     return WriteFile(
         path,
         [sender](XmlWriter& writer) {
@@ -153,34 +162,35 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
     m_lastFileError.clear();
     CSender* sender = GetSender(GetScIndexByID(senderId));
     if (!sender || sender->GetPortCount() < 1)
-        return FailFile(Texts::tr("没有这个主控。"));
+        return Fail(&m_lastFileError, Texts::tr("没有这个主控。"));
 
-    // Parsed once to see that it can be read whole, and only then into the sender. The file may change
-    // meanwhile, so its content is kept.
-    const auto names = {std::string_view(layoutnames::kSenderLayout),
-                        std::string_view(layoutnames::kSenderLayout)};
-    QByteArray content;
-    ReadReport checked;
-    CSender probe;
-    SenderReader check(checked);
-    check.SetTarget(&probe, SenderParts::LayoutOnly, false);
-    if (!ReadInput(path, kMaxXmlBytes, &content, &m_lastFileError)
-        || !ReadElement(content, names, check, checked, m_lastFileError))
-        return false;
-
-    QList<CPort*> replaced;
+    // Read into a sender of its own, so that a file that is refused changes nothing.
+    CSender read;
+    read.SetId(senderId);
+    read.SetPortCount(sender->GetPortCount());
     for (int i = 0; i < kMaxPorts; ++i)
-        if (!keepLockedPorts || !sender->GetPort(i)->IsFlagLock())
-            replaced.append(sender->GetPort(i));
-    for (CPort* port : qAsConst(replaced))
-        port->GetPortProject()->ClearAllTiles();
+        read.GetPort(i)->SetFields(sender->GetPort(i)->GetFields());
+    const SenderParts parts = attributes ? SenderParts::LayoutAndView : SenderParts::LayoutOnly;
+    QByteArray content;
     ReadReport report;
     SenderReader reader(report);
-    reader.SetTarget(sender, attributes ? SenderParts::LayoutAndView : SenderParts::LayoutOnly,
-                     keepLockedPorts);
-    if (!ReadElement(content, names, reader, report, m_lastFileError))
+    reader.SetTarget(&read, parts, keepLockedPorts);
+    if (!ReadInput(path, kMaxXmlBytes, &content, &m_lastFileError)
+        || !ReadElement(content, {layoutnames::kSenderLayout, layoutnames::kSenderLayout}, reader, report,
+                        m_lastFileError))
         return false;
-    RenewGroupIdsOf(replaced);
+
+    sender->TakeStored(read.GetStored(), parts);
+    QList<CPort*> replaced;
+    for (int i = 0; i < kMaxPorts; ++i) {
+        CPort* port = sender->GetPort(i);
+        if (keepLockedPorts && port->IsFlagLock())
+            continue;
+        port->GetPortProject()->TakeFrom(*read.GetPort(i)->GetPortProject());
+        port->SetFields(read.GetPort(i)->GetFields());
+        replaced.append(port);
+    }
+    RenewGroupIdsOf(replaced, m_senders);
     if (attributes)
         MarkModified(); // no history holds how a sender is named and shown
     m_lastFileError = report.Text();
@@ -190,13 +200,12 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
 bool CProjectData::ExportPort(const QString& path)
 {
     m_lastFileError.clear();
-    const CSender* sender = GetCurrentSender();
-    const CPort* port = sender ? sender->GetPort(sender->GetRecentPortIndex()) : nullptr;
+    const CPort* port = RecentPort(GetCurrentSender());
     if (!port)
-        return FailFile(Texts::tr("没有这个输出口。"));
+        return Fail(&m_lastFileError, Texts::tr("没有这个输出口。"));
     const QString tooLarge = WhyTooLarge(QList<const CPort*>{port});
     if (!tooLarge.isEmpty())
-        return FailFile(tooLarge);
+        return Fail(&m_lastFileError, tooLarge);
     return WriteFile(
         path, [port](XmlWriter& writer) { WritePortElement(writer, kPortRoot, *port); }, m_lastFileError);
 }
@@ -205,9 +214,9 @@ bool CProjectData::ImportPort(const QString& path)
 {
     m_lastFileError.clear();
     CSender* sender = GetCurrentSender();
-    CPort* port = sender ? sender->GetPort(sender->GetRecentPortIndex()) : nullptr;
+    CPort* port = RecentPort(sender);
     if (!port)
-        return FailFile(Texts::tr("没有这个输出口。"));
+        return Fail(&m_lastFileError, Texts::tr("没有这个输出口。"));
 
     const int index = sender->GetRecentPortIndex();
     QByteArray content;
@@ -219,21 +228,8 @@ bool CProjectData::ImportPort(const QString& path)
         || !ReadElement(content, {kPortRoot}, reader, report, m_lastFileError))
         return false;
 
-    port->GetPortProject()->ClearAllTiles();
     *port = imported;
-    port->SetSenderIdAndPortIndex(sender->GetId(), index);
-    RenewGroupIdsOf({port});
+    RenewGroupIdsOf({port}, m_senders);
     m_lastFileError = report.Text();
     return true;
-}
-
-void CProjectData::RenewGroupIdsOf(const QList<CPort*>& ports) const
-{
-    GroupIds ids;
-    for (CSender* sender : m_senders)
-        for (int i = 0; i < kMaxPorts; ++i)
-            if (!ports.contains(sender->GetPort(i)))
-                AddGroupIds(*sender->GetPort(i), ids.used);
-    for (CPort* port : ports)
-        RenewGroupIds(*port, ids);
 }

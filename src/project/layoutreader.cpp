@@ -1,7 +1,6 @@
 #include "project/layoutreader.h"
 
 #include "common/texts.h"
-#include "layout/sender.h"
 
 #include <algorithm>
 #include <set>
@@ -93,27 +92,23 @@ void GroupTreeDeleter::operator()(CTileGroup* group) const
     delete group;
 }
 
-GroupLevelReader::GroupLevelReader(ReadReport& report, int& left, int depth,
-                                   std::function<void(GroupTree)> take)
-    : m_report(report), m_left(left), m_depth(depth), m_take(std::move(take))
+GroupLevelReader::GroupLevelReader(ReadReport& report, int& left, int depth)
+    : m_report(report), m_left(left), m_depth(depth)
 {}
 
-void GroupLevelReader::SetName(std::string_view name)
+void GroupLevelReader::SetTarget(CTileGroup* group, std::string_view name)
 {
+    m_group = group;
     m_prefix.assign(name).push_back('_');
 }
 
 void GroupLevelReader::Begin(XmlAttributes& attributes)
 {
-    GroupRecord record;
-    m_group.reset(new CTileGroup);
     if (m_depth > 0) {
+        GroupFields stored;
         AttributeReader fields(attributes);
-        DescribeGroup(fields, record);
-        record.rotate.rotated = IsRotationAngle(record.rotate.angle);
-        if (!record.id.isNull())
-            m_group->SetID(record.id);
-        m_group->SetRotateParam(&record.rotate);
+        DescribeGroup(fields, stored);
+        m_group->TakeStored(stored);
     }
     m_children = std::make_unique<NumberedChildren<GroupTree>>(m_prefix, m_report);
     m_children->Start(ReadCount(attributes, kGroupCount), kMaxGroupsOfFile);
@@ -133,9 +128,10 @@ XmlHandler* GroupLevelReader::Child(std::string_view name)
     }
     --m_left;
     if (!m_below)
-        m_below = std::make_unique<GroupLevelReader>(
-            m_report, m_left, m_depth + 1, [this](GroupTree tree) { m_children->Add(std::move(tree)); });
-    m_below->SetName(name);
+        m_below = std::make_unique<GroupLevelReader>(m_report, m_left, m_depth + 1);
+    GroupTree child(new CTileGroup);
+    m_below->SetTarget(child.get(), name);
+    m_children->Add(std::move(child));
     return m_below.get();
 }
 
@@ -145,26 +141,29 @@ void GroupLevelReader::End()
         child->SetParentGroupID(m_depth > 0 ? m_group->GetID() : QUuid());
         m_group->GetSubGroupSet()->AddGroup(child.release(), true);
     }
-    m_take(std::move(m_group));
 }
 
-GroupTreeReader::GroupTreeReader(ReadReport& report)
-    : m_report(report),
-      m_top(report, m_left, 0, [this](GroupLevelReader::GroupTree tree) { Take(std::move(tree)); })
-{
-    m_top.SetName(kGroup);
-}
+GroupTreeReader::GroupTreeReader(ReadReport& report) : m_report(report), m_top(report, m_left, 0)
+{}
 
 void GroupTreeReader::SetTarget(CTileGroupSet* groups)
 {
     m_target = groups;
 }
 
-void GroupTreeReader::Take(GroupLevelReader::GroupTree tree)
+void GroupTreeReader::Begin(XmlAttributes& attributes)
 {
-    CTileGroupSet& groups = *tree->GetSubGroupSet();
+    m_tree.reset(new CTileGroup);
+    m_top.SetTarget(m_tree.get(), m_prefix);
+    m_top.Begin(attributes);
+}
+
+void GroupTreeReader::End()
+{
+    m_top.End();
     if (m_top.GetCount() < 1 || m_report.IsRefused())
         return;
+    CTileGroupSet& groups = *m_tree->GetSubGroupSet();
     std::set<QUuid> seen; // ordered: ids of a hostile file may share one hash
     DropRepeatedGroups(groups, seen, m_report);
     m_target->DeleteAll();
@@ -184,15 +183,17 @@ void PortReader::SetTarget(CPort* port, const QUuid& senderId, int portIndex, bo
 
 void PortReader::Begin(XmlAttributes& attributes)
 {
-    m_record = PortRecord();
+    m_fields = PortFields();
     m_hasTiles = false;
     m_hasGroups = false;
     AttributeReader fields(attributes);
-    DescribePort(fields, m_record);
+    DescribePort(fields, m_fields);
+    m_fields.senderId = m_senderId;
+    m_fields.portIndex = m_portIndex;
     if (!m_target)
         return;
-    m_tiles.SetTarget(m_target->GetPortProject()->GetTileSet(), m_senderId, m_portIndex);
-    m_groups.SetTarget(m_target->GetPortProject()->GetTileGroupSet());
+    m_tiles.SetTarget(&m_target->GetTiles(), m_senderId, m_portIndex);
+    m_groups.SetTarget(&m_target->GetGroups());
 }
 
 XmlHandler* PortReader::Child(std::string_view name)
@@ -210,7 +211,7 @@ XmlHandler* PortReader::Child(std::string_view name)
 void PortReader::End()
 {
     if (m_target && !m_report.IsRefused())
-        ApplyRecord(m_record, m_senderId, m_portIndex, *m_target);
+        m_target->TakeStored(m_fields);
 }
 
 SenderReader::SenderReader(ReadReport& report) : m_ports(kPort, report), m_portReader(report)
@@ -225,12 +226,12 @@ void SenderReader::SetTarget(CSender* sender, SenderParts parts, bool keepLocked
 
 void SenderReader::Begin(XmlAttributes& attributes)
 {
-    SenderRecord record;
+    StoredSender stored;
     AttributeReader fields(attributes);
-    DescribeSender(fields, record);
+    DescribeSender(fields, stored);
     if (m_parts == SenderParts::Project)
-        m_target->SetId(m_idRule ? m_idRule(record.id) : record.id);
-    ApplyRecord(record, m_parts, *m_target);
+        stored.id = UniqueId(stored.id);
+    m_target->TakeStored(stored, m_parts);
     m_ports.Start(m_target->GetPortCount(), kMaxPorts);
 }
 
@@ -247,55 +248,56 @@ XmlHandler* SenderReader::Child(std::string_view name)
 void SenderReader::End()
 {
     m_ports.Take();
-    if (m_done)
-        m_done();
 }
 
-SenderLayoutReader::SenderLayoutReader(ReadReport& report, std::function<void(Senders)> take,
-                                       std::function<void(int)> progress)
-    : m_report(report), m_take(std::move(take)), m_progress(std::move(progress)), m_senders(kSender, report),
-      m_senderReader(report)
-{
-    m_senderReader.SetIdRule([this](const QUuid& fileId) { return UniqueId(fileId); });
-    m_senderReader.SetDone([this] { TakeSender(); });
-}
-
-SenderLayoutReader::~SenderLayoutReader() = default;
-
-void SenderLayoutReader::Begin(XmlAttributes& attributes)
-{
-    m_senders.Start(ReadCount(attributes, kSenderCount), kMaxSenders);
-    m_ids.clear();
-    m_done = 0;
-}
-
-XmlHandler* SenderLayoutReader::Child(std::string_view name)
-{
-    if (!m_senders.Expect(name))
-        return nullptr;
-    m_current = std::make_unique<CSender>();
-    m_senderReader.SetTarget(m_current.get(), SenderParts::Project, false);
-    return &m_senderReader;
-}
-
-void SenderLayoutReader::TakeSender()
-{
-    m_senders.Add(std::move(m_current));
-    ++m_done;
-    if (m_progress)
-        m_progress(static_cast<int>(qint64(100) * m_done / m_senders.GetCount()));
-}
-
-QUuid SenderLayoutReader::UniqueId(const QUuid& fileId)
+QUuid SenderReader::UniqueId(const QUuid& fileId)
 {
     const QUuid id = fileId.isNull() || m_ids.contains(fileId) ? QUuid::createUuid() : fileId;
     m_ids.insert(id);
     return id;
 }
 
+SenderLayoutReader::SenderLayoutReader(ReadReport& report, Senders& senders,
+                                       std::function<void(int)> progress)
+    : m_result(senders), m_progress(std::move(progress)), m_senders(kSender, report), m_senderReader(report)
+{}
+
+void SenderLayoutReader::Begin(XmlAttributes& attributes)
+{
+    m_senders.Start(ReadCount(attributes, kSenderCount), kMaxSenders);
+    m_senderReader.StartList();
+    m_begun = 0;
+}
+
+XmlHandler* SenderLayoutReader::Child(std::string_view name)
+{
+    if (!m_senders.Expect(name))
+        return nullptr;
+    TellProgress();
+    auto sender = std::make_unique<CSender>();
+    m_senderReader.SetTarget(sender.get(), SenderParts::Project, false);
+    m_senders.Add(std::move(sender));
+    ++m_begun;
+    return &m_senderReader;
+}
+
 void SenderLayoutReader::End()
 {
-    Senders senders = m_senders.Take();
-    if (!m_report.IsRefused())
-        m_take(std::move(senders));
+    TellProgress();
+    m_result = m_senders.Take();
+}
+
+/// Of the senders begun so far; the last of them has ended.
+void SenderLayoutReader::TellProgress() const
+{
+    if (m_progress && m_begun > 0)
+        m_progress(static_cast<int>(qint64(100) * m_begun / m_senders.GetCount()));
+}
+
+QList<CSender*> Released(SenderLayoutReader::Senders& senders)
+{
+    QList<CSender*> released;
+    for (std::unique_ptr<CSender>& sender : senders)
+        released.append(sender.release());
+    return released;
 }

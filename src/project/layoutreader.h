@@ -1,10 +1,7 @@
 #pragma once
 
-#include "common/xmlreader.h"
-#include "layout/storedtile.h"
 #include "layout/tile.h"
-#include "layout/tilegroup.h"
-#include "project/layoutrecords.h"
+#include "project/layoutdescription.h"
 #include "project/numberedchildren.h"
 #include "project/readreport.h"
 
@@ -15,11 +12,6 @@
 #include <memory>
 #include <string>
 #include <vector>
-
-class CPort;
-class CSender;
-class CTileGroupSet;
-class CTileSet;
 
 // Readers of the layout elements, for a stream and for a DOM tree alike. They fill what they are told to fill
 // when their element ends, and say in the report what they passed over. Once the report refuses the file they
@@ -66,17 +58,18 @@ struct GroupTreeDeleter
     void operator()(CTileGroup* group) const;
 };
 
+using GroupTree = std::unique_ptr<CTileGroup, GroupTreeDeleter>;
+
 /// One level of a group tree: the element of a group, or the one above all groups.
 class GroupLevelReader : public XmlHandler
 {
 public:
-    using GroupTree = std::unique_ptr<CTileGroup, GroupTreeDeleter>;
-
     /// [ref] `left`: how many groups of the file are still read.
-    GroupLevelReader(ReadReport& report, int& left, int depth, std::function<void(GroupTree)> take);
+    GroupLevelReader(ReadReport& report, int& left, int depth);
 
+    /// [ref] The group whose element is read, and the name of that: its children's begin with it.
+    void SetTarget(CTileGroup* group, std::string_view name);
     int GetCount() const { return m_children->GetCount(); } ///< what the element states
-    void SetName(std::string_view name); ///< the element's own; its children's names begin with it
 
     void Begin(XmlAttributes& attributes) override;
     XmlHandler* Child(std::string_view name) override;
@@ -86,9 +79,8 @@ private:
     ReadReport& m_report;
     int& m_left;
     int m_depth;
-    std::function<void(GroupTree)> m_take;
+    CTileGroup* m_group = nullptr;
     std::string m_prefix;
-    GroupTree m_group;
     std::unique_ptr<NumberedChildren<GroupTree>> m_children;
     std::unique_ptr<GroupLevelReader> m_below;
 };
@@ -100,17 +92,17 @@ public:
     explicit GroupTreeReader(ReadReport& report); ///< [ref]
 
     void SetTarget(CTileGroupSet* groups); ///< [ref] left as it is when the count is below 1
-    void SetNames(std::string_view prefix) { m_top.SetName(prefix); } ///< of the groups' elements
+    void SetNames(std::string_view prefix) { m_prefix = prefix; } ///< of the groups' elements
 
-    void Begin(XmlAttributes& attributes) override { m_top.Begin(attributes); }
+    void Begin(XmlAttributes& attributes) override;
     XmlHandler* Child(std::string_view name) override { return m_top.Child(name); }
-    void End() override { m_top.End(); }
+    void End() override;
 
 private:
-    void Take(GroupLevelReader::GroupTree tree);
-
     ReadReport& m_report;
     CTileGroupSet* m_target = nullptr;
+    std::string m_prefix = layoutnames::kGroup;
+    GroupTree m_tree; ///< a group that holds those of the element
     int m_left = layoutnames::kMaxGroupsOfFile;
     GroupLevelReader m_top;
 };
@@ -132,7 +124,7 @@ private:
     CPort* m_target = nullptr; ///< null while a locked port is passed over
     QUuid m_senderId;
     int m_portIndex = 0;
-    PortRecord m_record;
+    PortFields m_fields;
     bool m_hasTiles = false; ///< of elements that a port should hold once, the first counts
     bool m_hasGroups = false;
     TileSetReader m_tiles;
@@ -147,23 +139,19 @@ public:
     explicit SenderReader(ReadReport& report); ///< [ref]
 
     void SetTarget(CSender* sender, SenderParts parts, bool keepLocked); ///< [ref]
-
-    /// Decides the id of a sender read whole; without one the file's id is taken.
-    void SetIdRule(std::function<QUuid(const QUuid& fileId)> rule) { m_idRule = std::move(rule); }
-
-    /// [keep] What takes a sender read whole, when its element ends.
-    void SetDone(std::function<void()> done) { m_done = std::move(done); }
+    void StartList() { m_ids.clear(); } ///< of senders that come into being: each gets an id of its own
 
     void Begin(XmlAttributes& attributes) override;
     XmlHandler* Child(std::string_view name) override;
     void End() override;
 
 private:
+    QUuid UniqueId(const QUuid& fileId);
+
     CSender* m_target = nullptr;
     SenderParts m_parts = SenderParts::Project;
     bool m_keepLocked = false;
-    std::function<QUuid(const QUuid&)> m_idRule;
-    std::function<void()> m_done;
+    QSet<QUuid> m_ids; ///< of the list so far
     NumberedChildren<int> m_ports;
     PortReader m_portReader;
 };
@@ -174,26 +162,23 @@ class SenderLayoutReader : public XmlHandler
 public:
     using Senders = std::vector<std::unique_ptr<CSender>>;
 
-    /// [ref] `take` receives the senders when the element ends, `progress` (may be empty) percents on the
+    /// [ref] `senders` is filled when the element ends; `progress` (may be empty) receives percents on the
     /// way.
-    SenderLayoutReader(ReadReport& report, std::function<void(Senders)> take,
-                       std::function<void(int)> progress);
-    ~SenderLayoutReader() override;
+    SenderLayoutReader(ReadReport& report, Senders& senders, std::function<void(int)> progress);
 
     void Begin(XmlAttributes& attributes) override;
     XmlHandler* Child(std::string_view name) override;
     void End() override;
 
 private:
-    void TakeSender();
-    QUuid UniqueId(const QUuid& fileId);
+    void TellProgress() const;
 
-    ReadReport& m_report;
-    std::function<void(Senders)> m_take;
+    Senders& m_result;
     std::function<void(int)> m_progress;
-    std::unique_ptr<CSender> m_current;
-    QSet<QUuid> m_ids;
-    int m_done = 0;
+    int m_begun = 0;
     NumberedChildren<std::unique_ptr<CSender>> m_senders;
     SenderReader m_senderReader;
 };
+
+/// [new] The senders, for a project to own.
+QList<CSender*> Released(SenderLayoutReader::Senders& senders);

@@ -1,12 +1,12 @@
 #include "project/layoutwriter.h"
 
+#include "common/failure.h"
 #include "common/texts.h"
-#include "layout/sender.h"
-#include "layout/storedtile.h"
 #include "layout/tile.h"
-#include "layout/tilegroup.h"
-#include "project/layoutrecords.h"
+#include "project/layoutdescription.h"
 #include "project/readreport.h"
+
+#include "customprogressbar.h"
 
 using namespace layoutnames;
 
@@ -26,8 +26,7 @@ void WriteTiles(XmlWriter& writer, std::string_view name, const CTileSet& tiles)
     fields.Field(kTileCount, tiles.GetCount());
     for (int i = 0; i < tiles.GetCount(); ++i) {
         writer.BeginElement(Numbered(kTile, i + 1));
-        const StoredTile record = MakeStored(*tiles.GetTile(i));
-        DescribeTile(fields, record);
+        DescribeTile(fields, static_cast<const TileFields&>(*tiles.GetTile(i)->GetData()));
         writer.EndElement();
     }
     writer.EndElement();
@@ -49,8 +48,7 @@ void WriteGroupLevel(XmlWriter& writer, const std::string& prefix, const CTileGr
         const CTileGroup& group = *groups.GetDirectGroupByDirIndex(i);
         const std::string name = Numbered(prefix + '_', i + 1);
         writer.BeginElement(name);
-        const GroupRecord record = RecordOf(group);
-        DescribeGroup(fields, record);
+        DescribeGroup(fields, group.GetFields());
         WriteGroupLevel(writer, name, *group.GetSubGroupSet(), depth + 1);
         writer.EndElement();
     }
@@ -60,10 +58,9 @@ void WritePortElement(XmlWriter& writer, std::string_view name, const CPort& por
 {
     writer.BeginElement(name);
     AttributeWriter fields(writer);
-    const PortRecord record = RecordOf(port);
-    DescribePort(fields, record);
-    WriteTiles(writer, kTiles, *port.GetPortProject()->GetTileSet());
-    WriteGroups(writer, kGroups, *port.GetPortProject()->GetTileGroupSet());
+    DescribePort(fields, port.GetFields());
+    WriteTiles(writer, kTiles, port.GetTiles());
+    WriteGroups(writer, kGroups, port.GetGroups());
     writer.EndElement();
 }
 
@@ -71,10 +68,10 @@ void WriteSenderElement(XmlWriter& writer, std::string_view name, const CSender&
 {
     writer.BeginElement(name);
     AttributeWriter fields(writer);
-    const SenderRecord record = RecordOf(sender);
     if (withDevice)
-        DescribeSenderDevice(fields, record);
-    DescribeSender(fields, record);
+        DescribeSenderDevice(fields, sender);
+    const StoredSender stored = sender.GetStored();
+    DescribeSender(fields, stored);
     for (int i = 0; i < sender.GetPortCount(); ++i)
         WritePortElement(writer, Numbered(kPort, i + 1), *sender.GetPort(i));
     writer.EndElement();
@@ -84,12 +81,12 @@ QString WhyTooLarge(const QList<const CPort*>& ports)
 {
     qint64 bytes = 0;
     for (const CPort* port : ports) {
-        const CPortProject& layout = *port->GetPortProject();
-        if (layout.GetTileSet()->GetCount() > kMaxTilesOfPort)
+        const int tiles = port->GetTiles().GetCount();
+        if (tiles > kMaxTilesOfPort)
             return TooMany(kTile, kMaxTilesOfPort);
-        bytes += qint64(layout.GetTileSet()->GetCount()) * kLeastBytesOfTile;
-        QList<CTileGroup*> list;
-        bytes += qint64(layout.GetTileGroupSet()->GetGroupListRecursive(list)) * kLeastBytesOfGroup;
+        QList<CTileGroup*> groups;
+        bytes += qint64(tiles) * kLeastBytesOfTile
+                 + qint64(port->GetGroups().GetGroupListRecursive(groups)) * kLeastBytesOfGroup;
     }
     return bytes > kMaxXmlBytes ? DocumentTooLarge() : QString();
 }
@@ -108,6 +105,28 @@ QString WhyTooLarge(const QList<const CSender*>& senders)
 QString TooMany(const char* child, int most)
 {
     return Texts::tr("%1过多，最多%2个，文件未保存。").arg(ChildrenName(child), QString::number(most));
+}
+
+std::function<void(int)> Reports(CCustomProgressbar* progress)
+{
+    if (!progress)
+        return {};
+    return [progress](int percent) { progress->SetValue(percent); };
+}
+
+bool WriteXml(const std::function<bool(const std::function<bool(QIODevice&)>&, QString*)>& replace,
+              const std::function<void(XmlWriter&)>& write, QString* error)
+{
+    QString refusal;
+    const auto fill = [&](QIODevice& file) {
+        StreamXmlWriter writer(file);
+        write(writer);
+        const bool flushed = writer.Flush();
+        refusal = writer.GetRefusal();
+        return flushed;
+    };
+    const bool written = replace(fill, error);
+    return written || refusal.isEmpty() ? written : Fail(error, refusal);
 }
 
 void WriteSenders(XmlWriter& writer, const QList<CSender*>& senders, const std::function<void(int)>& progress)

@@ -9,10 +9,12 @@
 #include <string>
 #include <string_view>
 
+class CCustomProgressbar;
 class CPort;
 class CSender;
 class CTileGroupSet;
 class CTileSet;
+class QIODevice;
 
 // Writers of the layout elements, for a stream and for a DOM tree alike.
 
@@ -33,6 +35,13 @@ QString WhyTooLarge(const QList<const CSender*>& senders); ///< their ports in u
 
 /// That there are more children of this name than are read.
 QString TooMany(const char* child, int most);
+
+/// What tells the user how far it is; empty for none.
+std::function<void(int)> Reports(CCustomProgressbar* progress);
+
+/// Writes a document by `replace`, which makes a file of it. One that no reader would take is refused.
+bool WriteXml(const std::function<bool(const std::function<bool(QIODevice&)>&, QString*)>& replace,
+              const std::function<void(XmlWriter&)>& write, QString* error);
 
 void WriteSenders(XmlWriter& writer, const QList<CSender*>& senders,
                   const std::function<void(int)>& progress);

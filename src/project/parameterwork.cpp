@@ -3,6 +3,7 @@
 #include "common/atomicfile.h"
 #include "common/fileproblem.h"
 #include "common/inputfile.h"
+#include "common/safefilename.h"
 #include "common/texts.h"
 #include "products/productdirectoryset.h"
 #include "project/readreport.h"
@@ -212,6 +213,34 @@ QString LockPath()
 QString PathOf(const QString& name)
 {
     return CConstantData::GetProjectParamFileTemp() + name + QStringLiteral(".rcvbp");
+}
+
+QString SafeName(const QString& name, UniqueNames& names)
+{
+    return names.Take(SafeFileName(name, QStringLiteral("param")));
+}
+
+QList<SParameterFileInfo> SafelyNamed(const QList<SParameterFileInfo>& files)
+{
+    QList<SParameterFileInfo> rows;
+    UniqueNames names;
+    QSet<SMD5> types;
+    for (const SParameterFileInfo& file : files) {
+        rows.append({QString(), file.type});
+        if (types.contains(file.type))
+            continue;
+        if (!file.type.IsNull())
+            types.insert(file.type);
+        rows.last().name = SafeName(file.name, names);
+    }
+    return rows;
+}
+
+QList<SParameterFileInfo> WithoutNameless(QList<SParameterFileInfo> rows)
+{
+    const auto isNameless = [](const SParameterFileInfo& row) { return row.name.isEmpty(); };
+    rows.erase(std::remove_if(rows.begin(), rows.end(), isNameless), rows.end());
+    return rows;
 }
 
 QString LibraryFile(const CProductDirectorySet* products, const SMD5& type)

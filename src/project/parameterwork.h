@@ -11,6 +11,7 @@
 class CProductDirectorySet;
 class QIODevice;
 class ReadReport;
+class UniqueNames;
 
 /// The receiver parameter files in the project work folder: name + ".rcvbp" while a project is open, numbered
 /// in its "project/" folder when it is packed or unpacked. Nothing is followed or overwritten through a link.
@@ -20,6 +21,13 @@ QString ProjectFolder();             ///< what an archive is made of, with a clo
 QString DocumentPath();              ///< "project/new.prj"
 QString LockPath();                  ///< of the lock held while the folder is packed or unpacked
 QString PathOf(const QString& name); ///< of the open project's file of that name
+
+/// The name made one that is safe in a file system and unlike the others.
+QString SafeName(const QString& name, UniqueNames& names);
+
+/// The rows of a file's list by their numbers there, safely named; nameless where a type was repeated.
+QList<SParameterFileInfo> SafelyNamed(const QList<SParameterFileInfo>& files);
+QList<SParameterFileInfo> WithoutNameless(QList<SParameterFileInfo> rows);
 
 /// The product library's file of a type, empty when it has none.
 QString LibraryFile(const CProductDirectorySet* products, const SMD5& type);

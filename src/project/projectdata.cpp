@@ -8,8 +8,22 @@
 
 #include <algorithm>
 
-CProjectData::CProjectData() : m_id(QUuid::createUuid())
-{}
+namespace {
+
+/// [ref] Null when there is no such group. `Groups` is a list of them, constant or not.
+template <class Groups> auto* FindGroup(Groups& groups, const QUuid& id)
+{
+    const auto found = std::find_if(groups.begin(), groups.end(),
+                                    [&id](const SSenderGroupInfo& group) { return group.id == id; });
+    return found == groups.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+CProjectData::CProjectData()
+{
+    m_state.id = QUuid::createUuid();
+}
 
 CProjectData::CProjectData(const CProjectData& other)
 {
@@ -30,11 +44,8 @@ CProjectData& CProjectData::operator=(const CProjectData& other)
 void CProjectData::SetToDefault()
 {
     DestroySenders();
-    ClearLists();
-    m_id = QUuid::createUuid();
-    m_deviceSetName.clear();
-    m_projectName.clear();
-    m_currentSender = -1;
+    m_state = ProjectState();
+    m_state.id = QUuid::createUuid();
     m_lastFileError.clear();
     RestartHistory();
 }
@@ -48,64 +59,20 @@ void CProjectData::CopyProject(const CProjectData& other)
         m_senders.append(new CSender);
         m_senders.last()->CopySender(*source);
     }
-    m_id = other.m_id;
-    m_deviceSetName = other.m_deviceSetName;
-    m_projectName = other.m_projectName;
-    m_currentSender = other.m_currentSender;
-    m_groups = other.m_groups;
-    m_gamma = other.m_gamma;
-    m_parameterFiles = other.m_parameterFiles;
-    m_print = other.m_print;
-    m_demo = other.m_demo;
-    m_videoInputs = other.m_videoInputs;
+    m_state = other.m_state;
     RestartHistory();
-}
-
-void CProjectData::SetToSpecified(const CProjectData& other)
-{
-    CopyProject(other);
-}
-
-QUuid CProjectData::GetID() const
-{
-    return m_id;
-}
-
-void CProjectData::SetID(const QUuid& id)
-{
-    m_id = id;
-}
-
-QString CProjectData::GetDeviceSetName() const
-{
-    return m_deviceSetName;
-}
-
-void CProjectData::SetDeviceSetName(const QString& name)
-{
-    m_deviceSetName = name;
-}
-
-QString CProjectData::GetCurProjectName() const
-{
-    return m_projectName;
-}
-
-void CProjectData::SetCurProjectName(const QString& name)
-{
-    m_projectName = name;
 }
 
 QUuid CProjectData::AddGroupInfo(const QString& name)
 {
-    m_groups.append({QUuid::createUuid(), name, true});
+    m_state.groups.append({QUuid::createUuid(), name, true});
     MarkModified();
-    return m_groups.last().id;
+    return m_state.groups.last().id;
 }
 
 void CProjectData::SetGroupName(const QUuid& id, const QString& name)
 {
-    SSenderGroupInfo* group = FindGroup(id);
+    SSenderGroupInfo* group = FindGroup(m_state.groups, id);
     if (!group || group->name == name)
         return;
     group->name = name;
@@ -114,23 +81,23 @@ void CProjectData::SetGroupName(const QUuid& id, const QString& name)
 
 bool CProjectData::GetGroupExpand(const QUuid& id) const
 {
-    const SSenderGroupInfo* group = const_cast<CProjectData*>(this)->FindGroup(id);
+    const SSenderGroupInfo* group = FindGroup(m_state.groups, id);
     return group && group->expanded;
 }
 
 void CProjectData::SetGroupExpand(const QUuid& id, bool expanded)
 {
-    if (SSenderGroupInfo* group = FindGroup(id))
+    if (SSenderGroupInfo* group = FindGroup(m_state.groups, id))
         group->expanded = expanded;
 }
 
 void CProjectData::DeleteSenderGroup(const QUuid& id)
 {
     const auto isGroup = [&id](const SSenderGroupInfo& group) { return group.id == id; };
-    const auto found = std::find_if(m_groups.begin(), m_groups.end(), isGroup);
-    if (found == m_groups.end())
+    const auto found = std::find_if(m_state.groups.begin(), m_state.groups.end(), isGroup);
+    if (found == m_state.groups.end())
         return;
-    m_groups.erase(found);
+    m_state.groups.erase(found);
     for (CSender* sender : qAsConst(m_senders))
         if (sender->GetBelongGroup() == id)
             sender->SetBelongGroup(QUuid());
@@ -145,33 +112,11 @@ void CProjectData::GetSendersInGroup(const QUuid& id, QList<QUuid>& senders) con
             senders.append(sender->GetId());
 }
 
-void CProjectData::GetAllSenderGroup(QList<SSenderGroupInfo>& groups) const
-{
-    groups = m_groups;
-}
-
-int CProjectData::GetSenderGroupCount() const
-{
-    return m_groups.size();
-}
-
-QUuid CProjectData::GetSenderGroupID(int index) const
-{
-    return m_groups.value(index).id;
-}
-
 QUuid CProjectData::GetGroupIDBySenderIndex(int sender) const
 {
     const CSender* found = GetSender(sender);
     const QUuid id = found ? found->GetBelongGroup() : QUuid();
-    return const_cast<CProjectData*>(this)->FindGroup(id) ? id : QUuid();
-}
-
-SSenderGroupInfo* CProjectData::FindGroup(const QUuid& id)
-{
-    const auto found = std::find_if(m_groups.begin(), m_groups.end(),
-                                    [&id](const SSenderGroupInfo& group) { return group.id == id; });
-    return found == m_groups.end() ? nullptr : &*found;
+    return FindGroup(m_state.groups, id) ? id : QUuid();
 }
 
 void CProjectData::AddRcvParamGamma(const SMD5& type, float gamma)
@@ -179,19 +124,19 @@ void CProjectData::AddRcvParamGamma(const SMD5& type, float gamma)
     if (GetRcvParamGamma(type, nullptr))
         SetRcvParamGamma(type, gamma);
     else
-        m_gamma.append({type, gamma});
+        m_state.gamma.append({type, gamma});
 }
 
 void CProjectData::SetRcvParamGamma(const SMD5& type, float gamma)
 {
-    for (SRcvParamGamma& row : m_gamma)
+    for (SRcvParamGamma& row : m_state.gamma)
         if (row.type == type)
             row.gamma = gamma;
 }
 
 bool CProjectData::GetRcvParamGamma(const SMD5& type, float* gamma) const
 {
-    for (const SRcvParamGamma& row : m_gamma) {
+    for (const SRcvParamGamma& row : m_state.gamma) {
         if (row.type != type)
             continue;
         if (gamma)
@@ -204,52 +149,7 @@ bool CProjectData::GetRcvParamGamma(const SMD5& type, float* gamma) const
 void CProjectData::DeleteRcvParamGamma(const SMD5& type)
 {
     const auto isType = [&type](const SRcvParamGamma& row) { return row.type == type; };
-    m_gamma.erase(std::remove_if(m_gamma.begin(), m_gamma.end(), isType), m_gamma.end());
-}
-
-QList<SRcvParamGamma> CProjectData::GetRcvParamGammas() const
-{
-    return m_gamma;
-}
-
-SPrintFormData* CProjectData::GetPrintSetData()
-{
-    return &m_print;
-}
-
-const SPrintFormData* CProjectData::GetPrintSetData() const
-{
-    return &m_print;
-}
-
-bool CProjectData::GetDemoModeEnable() const
-{
-    return m_demo.enable;
-}
-
-void CProjectData::SetDemoModeEnable(bool enable)
-{
-    m_demo.enable = enable;
-}
-
-int CProjectData::GetDemoSenderType() const
-{
-    return m_demo.senderType;
-}
-
-void CProjectData::SetDemoSenderType(int type)
-{
-    m_demo.senderType = type;
-}
-
-QList<SVideoInput> CProjectData::GetVideoInputs() const
-{
-    return m_videoInputs;
-}
-
-void CProjectData::SetVideoInputs(const QList<SVideoInput>& inputs)
-{
-    m_videoInputs = inputs;
+    m_state.gamma.erase(std::remove_if(m_state.gamma.begin(), m_state.gamma.end(), isType), m_state.gamma.end());
 }
 
 bool CProjectData::IsOpenDocument() const
@@ -269,14 +169,4 @@ void CProjectData::RestartHistory() const
     CProjectUndoRedo* history = IsOpenDocument() ? GetProjectLookup()->History() : nullptr;
     if (history)
         history->Init();
-}
-
-void CProjectData::ClearLists()
-{
-    m_groups.clear();
-    m_gamma.clear();
-    m_parameterFiles.clear();
-    m_print = SPrintFormData();
-    m_demo = SDemoMode();
-    m_videoInputs.clear();
 }

@@ -2,7 +2,6 @@
 
 #include "common/export.h"
 #include "common/interfacedlg.h"
-#include "monitor/monitorinterfacedata.h"
 #include "project/projectrecords.h"
 
 #include <QDomDocument>
@@ -11,21 +10,12 @@
 #include <QString>
 #include <QUuid>
 
-#include <functional>
-#include <memory>
-#include <vector>
-
 class CCustomProgressbar;
 class CPort;
 class CSender;
 class CTileGroupSet;
 class CTileSet;
-class QLockFile;
 class QWidget;
-class ReadReport;
-class XmlWriter;
-struct MonitorRecord;
-struct ProjectContent;
 
 /// One project: senders in display order, sender groups, gamma table, parameter files, print form, demo mode.
 /// Owns its senders. Indices out of range give null, -1, false or an empty text.
@@ -37,27 +27,27 @@ public:
     ~CProjectData();
     CProjectData& operator=(const CProjectData& other); ///< CopyProject
 
-    void SetToDefault();                            ///< an empty project with a fresh id
-    void CopyProject(const CProjectData& other);    ///< a deep copy, the id included
-    void SetToSpecified(const CProjectData& other); ///< CopyProject
+    void SetToDefault();                         ///< an empty project with a fresh id
+    void CopyProject(const CProjectData& other); ///< a deep copy, the id included
+    void SetToSpecified(const CProjectData& other) { CopyProject(other); }
 
-    QUuid GetID() const;
-    void SetID(const QUuid& id);
-    QString GetDeviceSetName() const;
-    void SetDeviceSetName(const QString& name);
-    QString GetCurProjectName() const;
-    void SetCurProjectName(const QString& name);
+    QUuid GetID() const { return m_state.id; }
+    void SetID(const QUuid& id) { m_state.id = id; }
+    QString GetDeviceSetName() const { return m_state.deviceSetName; }
+    void SetDeviceSetName(const QString& name) { m_state.deviceSetName = name; }
+    QString GetCurProjectName() const { return m_state.projectName; }
+    void SetCurProjectName(const QString& name) { m_state.projectName = name; }
 
     // senders
     CSender* NewSender();                ///< [ref] appended; current only when it is the first
     void AddSender(CSender* sender);     ///< [own]
-    CSender* GetSender(int index) const; ///< [ref]
-    int GetSenderCount() const;
-    QList<CSender*> GetSenders() const; ///< [ref]
+    CSender* GetSender(int index) const { return m_senders.value(index); } ///< [ref]
+    int GetSenderCount() const { return m_senders.size(); }
+    QList<CSender*> GetSenders() const { return m_senders; } ///< [ref]
     int GetScIndexByID(const QUuid& id) const;
     void SetCurrentSender(int index);  ///< ignored out of range
-    CSender* GetCurrentSender() const; ///< [ref]
-    int GetCurSenderIndex() const;
+    CSender* GetCurrentSender() const { return GetSender(m_state.currentSender); } ///< [ref]
+    int GetCurSenderIndex() const { return m_state.currentSender; }
     int GetCurSenderIndexForRtCnnt() const; ///< 0 when the current index names no sender
     int GetCurPortIndex() const;            ///< the current sender's recent port
     QString GetSenderName(int index) const;
@@ -91,9 +81,9 @@ public:
     void SetGroupExpand(const QUuid& id, bool expanded);
     void DeleteSenderGroup(const QUuid& id); ///< its senders belong to none afterwards
     void GetSendersInGroup(const QUuid& id, QList<QUuid>& senders) const;
-    void GetAllSenderGroup(QList<SSenderGroupInfo>& groups) const;
-    int GetSenderGroupCount() const;
-    QUuid GetSenderGroupID(int index) const;
+    void GetAllSenderGroup(QList<SSenderGroupInfo>& groups) const { groups = m_state.groups; }
+    int GetSenderGroupCount() const { return m_state.groups.size(); }
+    QUuid GetSenderGroupID(int index) const { return m_state.groups.value(index).id; }
     QUuid GetGroupIDBySenderIndex(int sender) const; ///< null when that group does not exist
 
     // gamma of product types
@@ -101,7 +91,7 @@ public:
     void SetRcvParamGamma(const SMD5& type, float gamma); ///< a type that is not there is ignored
     bool GetRcvParamGamma(const SMD5& type, float* gamma) const;
     void DeleteRcvParamGamma(const SMD5& type);
-    QList<SRcvParamGamma> GetRcvParamGammas() const;
+    QList<SRcvParamGamma> GetRcvParamGammas() const { return m_state.gamma; }
 
     // receiver parameter files, kept in the work folder as name + ".rcvbp"
     /// Copies the product's file and lists it; a type that is listed keeps its row. The name becomes one that
@@ -109,23 +99,23 @@ public:
     void AddParameterFileInfo(const QString& name, const SMD5& type);
     void DeleteParameterFileInfo(const SMD5& type);
     void ExchangeNameByMD5(const SMD5& type, const QString& newName);
-    QList<SParameterFileInfo> GetParameterFiles() const;
+    QList<SParameterFileInfo> GetParameterFiles() const { return m_state.parameterFiles; }
 
     // print form, demo mode
-    SPrintFormData* GetPrintSetData(); ///< [ref]
-    const SPrintFormData* GetPrintSetData() const;
-    bool GetDemoModeEnable() const;
-    void SetDemoModeEnable(bool enable);
-    int GetDemoSenderType() const;
-    void SetDemoSenderType(int type);
+    SPrintFormData* GetPrintSetData() { return &m_state.print; } ///< [ref]
+    const SPrintFormData* GetPrintSetData() const { return &m_state.print; }
+    bool GetDemoModeEnable() const { return m_state.demo.enable; }
+    void SetDemoModeEnable(bool enable) { m_state.demo.enable = enable; }
+    int GetDemoSenderType() const { return m_state.demo.senderType; }
+    void SetDemoSenderType(int type) { m_state.demo.senderType = type; }
 
     // texts
     QString GetMailReceiversString() const; ///< "address,name;" a receiver, of the monitoring settings
     static void SetReceiversFromString(SEmailSetting& setting, const QString& text);
     QString GetVideoInfoString() const; ///< "slot,sourceType,sourceIndex,enable;" an input, of this project
     void SetVideoInfoFromString(SSenderSetting& setting, const QString& text); ///< this project's list too
-    QList<SVideoInput> GetVideoInputs() const;
-    void SetVideoInputs(const QList<SVideoInput>& inputs);
+    QList<SVideoInput> GetVideoInputs() const { return m_state.videoInputs; }
+    void SetVideoInputs(const QList<SVideoInput>& inputs) { m_state.videoInputs = inputs; }
     static QString GetColorStr(int channel);                 ///< name of a colour channel in parameter files
     static quint32 GetIntFromOctString(const QString& text); ///< host-order IPv4, or a decimal number; else 0
 
@@ -139,7 +129,7 @@ public:
     bool LoadProjectFromFile(const char* path, QString& error, CCustomProgressbar* progress);
     QString GetMinVersionSupport() const;
     /// Why the last file operation did not do all that was asked, whatever it returned; empty when it did.
-    QString GetLastFileError() const;
+    QString GetLastFileError() const { return m_lastFileError; }
 
     // layout files of one sender or one port
     bool ExportSender(const QString& path, const QUuid& senderId);
@@ -246,42 +236,12 @@ private:
     void RestartHistory() const;
     void RemoveSenderAt(int index);
     void DestroySenders();
-    void ClearLists();
+    void TakeSenders(const QList<CSender*>& senders); ///< [own] in place of the present ones
     int FindSourceOf(const CPort& port) const;
-    SSenderGroupInfo* FindGroup(const QUuid& id);
-    void AppendDetectedSender(quint32 ip);
-    void RenameSenderImages(int deleted, int countBefore, bool keepImages) const;
+    bool LoadDocument(const QString& path, const QString& archive, QString& version,
+                      CCustomProgressbar* progress); ///< `archive`: empty, or what holds it
 
-    int FindParameterFile(const SMD5& type) const;
-    QString SafeNameBesideRows(const QString& name, int row) const; ///< the row's own does not count
-    /// Takes a file's list, a type once; the rows by the file's numbers, nameless where a type was repeated.
-    QList<SParameterFileInfo> TakeParameterFiles(const QList<SParameterFileInfo>& files);
-
-    MonitorRecord MakeMonitorRecord() const;
-    void TakeMonitorRecord(const MonitorRecord& record);
-    void WriteDocument(XmlWriter& writer, CCustomProgressbar* progress) const;
-    /// Takes the lock of the work folder for an archive, which must not lie in the way there.
-    bool TakeWorkFolder(QLockFile& lock, const QString& archive);
-    bool IsWithinLimits(); ///< else the file would not be read whole again
-    bool SaveDocument(CCustomProgressbar* progress);
-    bool LoadArchive(const QString& path, QString& version, CCustomProgressbar* progress);
-    bool LoadDocument(const QString& path, QString& version, CCustomProgressbar* progress,
-                      const std::function<void(const QList<SParameterFileInfo>&, ReadReport&)>& distribute);
-    QList<SParameterFileInfo> TakeContent(ProjectContent& content);
-    void TakeSenders(std::vector<std::unique_ptr<CSender>> senders);
-    bool FailFile(const QString& why);
-    void RenewGroupIdsOf(const QList<CPort*>& ports) const; ///< that are used in other ports of the project
-
-    QUuid m_id;
-    QString m_deviceSetName;
-    QString m_projectName;
+    ProjectState m_state;
     QList<CSender*> m_senders;
-    int m_currentSender = -1;
-    QList<SSenderGroupInfo> m_groups;
-    QList<SRcvParamGamma> m_gamma;
-    QList<SParameterFileInfo> m_parameterFiles;
-    SPrintFormData m_print;
-    SDemoMode m_demo;
-    QList<SVideoInput> m_videoInputs;
     QString m_lastFileError;
 };

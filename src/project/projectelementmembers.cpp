@@ -4,10 +4,9 @@
 #include "layout/sender.h"
 #include "layout/tilegroup.h"
 #include "project/layoutwriter.h"
+#include "project/parameterwork.h"
 #include "project/projectdata.h"
 #include "project/projectreader.h"
-
-#include "customprogressbar.h"
 
 namespace {
 
@@ -44,7 +43,7 @@ QList<Record> ReadList(const QDomElement* element, const ListFormat<Record>& for
 {
     ReadReport report;
     QList<Record> list;
-    ListReader<Record> reader(format, report, [&list](QList<Record> read) { list = std::move(read); });
+    ListReader<Record> reader(format, report, list);
     ReadFrom(element, reader);
     return report.IsRefused() ? held : list;
 }
@@ -83,90 +82,87 @@ bool CProjectData::ReadVersionSupport(QDomDocument, QDomElement* element, QStrin
 
 void CProjectData::WriteDemoModeInfo(QDomDocument document, QDomElement* parent)
 {
-    WriteInto(document, parent, [this](XmlWriter& writer) { WriteDemoMode(writer, m_demo); });
+    WriteInto(document, parent, [this](XmlWriter& writer) { WriteDemoMode(writer, m_state.demo); });
 }
 
 void CProjectData::ReadDemoModeInfo(QDomDocument, QDomElement* element)
 {
-    ReadRecord<SDemoMode>(element, m_demo, DescribeDemoMode);
+    ReadRecord<SDemoMode>(element, m_state.demo, DescribeDemoMode);
 }
 
 void CProjectData::WriteSenderGroup(QDomDocument document, QDomElement* parent)
 {
-    WriteInto(document, parent, [this](XmlWriter& writer) { WriteList(writer, kSenderGroupList, m_groups); });
+    WriteInto(document, parent, [this](XmlWriter& writer) { WriteList(writer, kSenderGroupList, m_state.groups); });
 }
 
 void CProjectData::ReadSenderGroup(QDomDocument, QDomElement* element)
 {
-    m_groups = ReadList(element, kSenderGroupList, m_groups);
+    m_state.groups = ReadList(element, kSenderGroupList, m_state.groups);
 }
 
 void CProjectData::WriteTileGamma(QDomDocument document, QDomElement* parent)
 {
-    WriteInto(document, parent, [this](XmlWriter& writer) { WriteList(writer, kGammaList, m_gamma); });
+    WriteInto(document, parent, [this](XmlWriter& writer) { WriteList(writer, kGammaList, m_state.gamma); });
 }
 
 void CProjectData::ReadTileGamma(QDomDocument, QDomElement* element)
 {
-    m_gamma = ReadList(element, kGammaList, m_gamma);
+    m_state.gamma = ReadList(element, kGammaList, m_state.gamma);
 }
 
 void CProjectData::WritePrintData(QDomDocument document, QDomElement* parent)
 {
-    WriteInto(document, parent, [this](XmlWriter& writer) { WritePrintForm(writer, m_print); });
+    WriteInto(document, parent, [this](XmlWriter& writer) { WritePrintForm(writer, m_state.print); });
 }
 
 void CProjectData::ReadPrintData(QDomDocument, QDomElement* element)
 {
-    ReadRecord<SPrintFormData>(element, m_print, DescribePrintForm);
+    ReadRecord<SPrintFormData>(element, m_state.print, DescribePrintForm);
 }
 
 void CProjectData::WriteMonitorSet(QDomDocument document, QDomElement* parent)
 {
-    WriteInto(document, parent, [this](XmlWriter& writer) { WriteMonitor(writer, MakeMonitorRecord()); });
+    WriteInto(document, parent, [this](XmlWriter& writer) { WriteMonitor(writer, MakeMonitorRecord(*this)); });
 }
 
 void CProjectData::ReadMonitorSet(QDomDocument, QDomElement* element)
 {
     MonitorRecord record;
     ReadRecord<MonitorRecord>(element, record, DescribeMonitor);
-    TakeMonitorRecord(record);
+    TakeMonitorRecord(*this, record);
 }
 
 void CProjectData::WriteParameterFileInfo(QDomDocument document, QDomElement* parent)
 {
     WriteInto(document, parent,
-              [this](XmlWriter& writer) { WriteList(writer, kParameterFileList, m_parameterFiles); });
+              [this](XmlWriter& writer) { WriteList(writer, kParameterFileList, m_state.parameterFiles); });
 }
 
 void CProjectData::ReadParameterFileInfo(QDomDocument, QDomElement* element)
 {
-    TakeParameterFiles(ReadList(element, kParameterFileList, m_parameterFiles));
+    const QList<SParameterFileInfo> files = ReadList(element, kParameterFileList, m_state.parameterFiles);
+    m_state.parameterFiles = parameterwork::WithoutNameless(parameterwork::SafelyNamed(files));
 }
 
 void CProjectData::WriteSender(QDomDocument document, QDomElement* parent, CCustomProgressbar* progress)
 {
     WriteInto(document, parent, [this, progress](XmlWriter& writer) {
-        WriteSenders(writer, m_senders,
-                     progress ? [progress](int percent) { progress->SetValue(percent); }
-                              : std::function<void(int)>());
+        WriteSenders(writer, m_senders, Reports(progress));
     });
 }
 
 bool CProjectData::ReadSender(QDomDocument, QDomElement* element, QString&, CCustomProgressbar* progress)
 {
     ReadReport report;
-    SenderLayoutReader reader(
-        report,
-        [this](SenderLayoutReader::Senders senders) {
-            const int current = m_currentSender;
-            DeleteAllSender();
-            m_currentSender = current;
-            TakeSenders(std::move(senders));
-            MarkModified();
-        },
-        progress ? [progress](int percent) { progress->SetValue(percent); } : std::function<void(int)>());
-    ReadFrom(element, reader);
+    SenderLayoutReader::Senders senders;
+    SenderLayoutReader reader(report, senders, Reports(progress));
+    if (ReadFrom(element, reader) && !report.IsRefused()) {
+        const int current = m_state.currentSender;
+        DeleteAllSender();
+        m_state.currentSender = current;
+        TakeSenders(Released(senders));
+        MarkModified();
+    }
     m_lastFileError = report.IsRefused() ? report.GetRefusal() : report.Text();
     return true;
 }

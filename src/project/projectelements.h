@@ -13,6 +13,8 @@
 
 // The elements of a project file beside the layout: their names, and readers and writers of them.
 
+class CProjectData;
+
 namespace projectnames {
 
 constexpr char kRoot[] = "LedSetting";
@@ -61,12 +63,12 @@ extern const ListFormat<SSenderGroupInfo> kSenderGroupList;
 extern const ListFormat<SRcvParamGamma> kGammaList;
 extern const ListFormat<SParameterFileInfo> kParameterFileList;
 
-/// A list of records, given to `take` when its element ends.
+/// A list of records, filled when its element ends.
 template <class Record> class ListReader : public XmlHandler
 {
 public:
-    ListReader(const ListFormat<Record>& format, ReadReport& report, std::function<void(QList<Record>)> take)
-        : m_format(format), m_take(std::move(take)), m_children(format.child, report),
+    ListReader(const ListFormat<Record>& format, ReadReport& report, QList<Record>& list) ///< [ref]
+        : m_format(format), m_list(list), m_children(format.child, report),
           m_record([this](XmlAttributes& attributes) { AddRecord(attributes); })
     {}
 
@@ -82,10 +84,9 @@ public:
     }
     void End() override
     {
-        QList<Record> records;
+        m_list.clear();
         for (Record& record : m_children.Take())
-            records.append(std::move(record));
-        m_take(std::move(records));
+            m_list.append(std::move(record));
     }
 
 private:
@@ -98,7 +99,7 @@ private:
     }
 
     const ListFormat<Record>& m_format;
-    std::function<void(QList<Record>)> m_take;
+    QList<Record>& m_list;
     NumberedChildren<Record> m_children;
     LeafReader m_record;
 };
@@ -122,3 +123,7 @@ void WriteVersion(XmlWriter& writer, const VersionRecord& version);
 void WriteDemoMode(XmlWriter& writer, const SDemoMode& demo);
 void WritePrintForm(XmlWriter& writer, const SPrintFormData& print);
 void WriteMonitor(XmlWriter& writer, const MonitorRecord& monitor);
+
+/// The monitoring settings in force, with the project's video inputs.
+MonitorRecord MakeMonitorRecord(const CProjectData& project);
+void TakeMonitorRecord(CProjectData& project, const MonitorRecord& record);

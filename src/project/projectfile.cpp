@@ -1,19 +1,15 @@
 // The project file: saving to an archive, loading from an archive or a bare document.
+#include "common/failure.h"
 #include "common/fileproblem.h"
 #include "common/inputfile.h"
 #include "common/texts.h"
 #include "common/xmlwriter.h"
-#include "layout/sender.h"
-#include "layout/tile.h"
-#include "monitor/monitordata.h"
 #include "products/productdirectoryset.h"
 #include "project/layoutwriter.h"
 #include "project/parameterwork.h"
 #include "project/projectdata.h"
 #include "project/projectlookup.h"
 #include "project/projectreader.h"
-
-#include "customprogressbar.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,13 +22,6 @@ constexpr int kLockTimeout = 30000; ///< milliseconds
 /// Milliseconds. No save takes that long, and it is less than the timeout: a program that was killed before
 /// it wrote its name into the lock file costs a wait.
 constexpr int kStaleLockTime = 20000;
-
-std::function<void(int)> Reports(CCustomProgressbar* progress)
-{
-    if (!progress)
-        return {};
-    return [progress](int percent) { progress->SetValue(percent); };
-}
 
 bool LockWorkFolder(QLockFile& lock)
 {
@@ -47,40 +36,80 @@ bool LockWorkFolder(QLockFile& lock)
     return true;
 }
 
-} // namespace
-
-bool CProjectData::FailFile(const QString& why)
-{
-    m_lastFileError = why;
-    return false;
-}
-
-QString CProjectData::GetLastFileError() const
-{
-    return m_lastFileError;
-}
-
-bool CProjectData::TakeWorkFolder(QLockFile& lock, const QString& archive)
+/// Takes the lock of the work folder for an archive, which must not lie in the way there.
+bool TakeWorkFolder(QLockFile& lock, const QString& archive, QString* error)
 {
     if (!LockWorkFolder(lock))
-        return FailFile(lock.error() == QLockFile::LockFailedError
-                            ? Texts::tr("另一个程序正在使用项目工作文件夹。")
-                            : WhyNotWritable(QFileInfo(parameterwork::LockPath()).path()));
+        return Fail(error, lock.error() == QLockFile::LockFailedError
+                               ? Texts::tr("另一个程序正在使用项目工作文件夹。")
+                               : WhyNotWritable(QFileInfo(parameterwork::LockPath()).path()));
     return !parameterwork::IsInTheWay(archive)
-           || FailFile(Texts::tr("项目文件不能是项目工作文件夹里的临时文件。"));
+           || Fail(error, Texts::tr("项目文件不能是项目工作文件夹里的临时文件。"));
 }
+
+/// Whether a file of these would be read whole again.
+bool IsWithinLimits(const QList<CSender*>& senders, const ProjectFields& fields, QString* error)
+{
+    const QString why = WhyTooLarge(QList<const CSender*>(senders.begin(), senders.end()));
+    if (!why.isEmpty())
+        return Fail(error, why);
+    const std::pair<int, const char*> lists[] = {{fields.groups.size(), kSenderGroupList.child},
+                                                 {fields.gamma.size(), kGammaList.child},
+                                                 {fields.parameterFiles.size(), kParameterFileList.child}};
+    for (const auto& [count, child] : lists)
+        if (count > kMaxListRecords)
+            return Fail(error, TooMany(child, kMaxListRecords));
+    return true;
+}
+
+void WriteDocument(XmlWriter& writer, const CProjectData& project, const ProjectFields& fields,
+                   CCustomProgressbar* progress)
+{
+    writer.BeginElement(projectnames::kRoot);
+    WriteVersion(writer, {project.GetMinVersionSupport(), QString::fromLatin1(kFileVersion).toDouble()});
+    WriteDemoMode(writer, fields.demo);
+    WriteList(writer, kSenderGroupList, fields.groups);
+    WriteList(writer, kGammaList, fields.gamma);
+    WritePrintForm(writer, fields.print);
+    WriteSenders(writer, project.GetSenders(), Reports(progress));
+    WriteMonitor(writer, MakeMonitorRecord(project));
+    WriteList(writer, kParameterFileList, fields.parameterFiles);
+    writer.EndElement();
+}
+
+/// Fills the content; what the document says of it goes into the report. `version`: the minimum version of
+/// one that is too new.
+bool ReadDocument(const QString& path, ProjectContent& content, ReadReport& report, QString& version,
+                  CCustomProgressbar* progress, QString* error)
+{
+    QFile file(path);
+    if (!OpenInput(file, error))
+        return false;
+    ProjectReader reader(content, report, Reports(progress));
+    if (!ParseXml(file, reader, error))
+        return false;
+    if (!reader.HasRoot())
+        return Fail(error, Texts::tr("不是项目文件。"));
+    version = reader.GetRefusedVersion();
+    return version.isNull() || Fail(error, Texts::tr("此文件需要版本%1，本程序尚不支持。").arg(version));
+}
+
+} // namespace
 
 bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* progress)
 {
     m_lastFileError.clear();
+    const auto write = [&](XmlWriter& writer) { WriteDocument(writer, *this, m_state, progress); };
     QLockFile lock(parameterwork::LockPath());
-    if (!IsWithinLimits() || !TakeWorkFolder(lock, path) || !SaveDocument(progress))
+    if (!IsWithinLimits(m_senders, m_state, &m_lastFileError)
+        || !TakeWorkFolder(lock, path, &m_lastFileError)
+        || !WriteXml(parameterwork::ReplaceDocument, write, &m_lastFileError))
         return false;
 
     ReadReport report;
     // A full disk must not cost the files in the archive that is replaced.
     const bool complete =
-        parameterwork::CollectForSaving(m_parameterFiles, GetProjectLookup()->Products(), report);
+        parameterwork::CollectForSaving(m_state.parameterFiles, GetProjectLookup()->Products(), report);
     QString error;
     const bool saved = complete && parameterwork::Pack(path, &error);
     m_lastFileError = report.Text();
@@ -89,80 +118,16 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     return true;
 }
 
-bool CProjectData::IsWithinLimits()
-{
-    QList<const CSender*> senders;
-    for (const CSender* sender : qAsConst(m_senders))
-        senders.append(sender);
-    const QString why = WhyTooLarge(senders);
-    if (!why.isEmpty())
-        return FailFile(why);
-    const std::pair<int, const char*> lists[] = {{m_groups.size(), kSenderGroupList.child},
-                                                 {m_gamma.size(), kGammaList.child},
-                                                 {m_parameterFiles.size(), kParameterFileList.child}};
-    for (const auto& [count, child] : lists)
-        if (count > kMaxListRecords)
-            return FailFile(TooMany(child, kMaxListRecords));
-    return true;
-}
-
-bool CProjectData::SaveDocument(CCustomProgressbar* progress)
-{
-    QString refusal;
-    QString error;
-    const auto write = [&](QIODevice& file) {
-        StreamXmlWriter writer(file);
-        WriteDocument(writer, progress);
-        const bool written = writer.Flush();
-        refusal = writer.GetRefusal();
-        return written;
-    };
-    return parameterwork::ReplaceDocument(write, &error) || FailFile(refusal.isEmpty() ? error : refusal);
-}
-
-void CProjectData::WriteDocument(XmlWriter& writer, CCustomProgressbar* progress) const
-{
-    writer.BeginElement(projectnames::kRoot);
-    WriteVersion(writer, {GetMinVersionSupport(), QString::fromLatin1(kFileVersion).toDouble()});
-    WriteDemoMode(writer, m_demo);
-    WriteList(writer, kSenderGroupList, m_groups);
-    WriteList(writer, kGammaList, m_gamma);
-    WritePrintForm(writer, m_print);
-    WriteSenders(writer, m_senders, Reports(progress));
-    WriteMonitor(writer, MakeMonitorRecord());
-    WriteList(writer, kParameterFileList, m_parameterFiles);
-    writer.EndElement();
-}
-
 QString CProjectData::GetMinVersionSupport() const
 {
-    const auto hasMultiReceiverTile = [](CSender& sender) {
-        for (int i = 0; i < kMaxPorts; ++i) {
-            const CTileSet* tiles = sender.GetPort(i)->GetPortProject()->GetTileSet();
-            for (int t = 0; t < tiles->GetCount(); ++t)
-                if (tiles->GetTile(t)->IsMultiRcvTile())
-                    return true;
-        }
-        return false;
-    };
-    QString version = QStringLiteral("4.0");
-    for (CSender* sender : m_senders) {
-        if (hasMultiReceiverTile(*sender)) {
-            version = QStringLiteral("4.2");
-            break;
-        }
-    }
-    // What the cabinets need decided once; every file now asks for the version that knows all elements
-    // written.
-    version = QStringLiteral("4.5");
-    return version;
+    return QStringLiteral("4.5"); // the first that knows all elements written
 }
 
 bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustomProgressbar* progress)
 {
     m_lastFileError.clear();
     if (!path)
-        return FailFile(Texts::tr("没有给出文件。"));
+        return Fail(&m_lastFileError, Texts::tr("没有给出文件。"));
     const QString name = QFile::decodeName(path);
     QFile file(name);
     if (!OpenInput(file, &m_lastFileError))
@@ -172,108 +137,37 @@ bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustom
 
     QString version;
     bool loaded = false;
-    if (start == "PK")
-        loaded = LoadArchive(name, version, progress);
-    else if (start == "<?")
-        loaded = LoadDocument(name, version, progress, {});
-    else
-        return FailFile(Texts::tr("不是项目文件。"));
+    if (start == "PK") {
+        QLockFile lock(parameterwork::LockPath());
+        loaded = TakeWorkFolder(lock, name, &m_lastFileError)
+                 && parameterwork::MakeProjectFolder(&m_lastFileError)
+                 && parameterwork::UnpackDocument(name, &m_lastFileError)
+                 && LoadDocument(parameterwork::DocumentPath(), name, version, progress);
+    } else if (start == "<?") {
+        loaded = LoadDocument(name, QString(), version, progress);
+    } else {
+        return Fail(&m_lastFileError, Texts::tr("不是项目文件。"));
+    }
     if (!version.isNull())
         error = version;
     return loaded;
 }
 
-bool CProjectData::LoadArchive(const QString& path, QString& version, CCustomProgressbar* progress)
+bool CProjectData::LoadDocument(const QString& path, const QString& archive, QString& version,
+                                CCustomProgressbar* progress)
 {
-    QLockFile lock(parameterwork::LockPath());
-    if (!TakeWorkFolder(lock, path))
-        return false;
-    QString error;
-    if (!parameterwork::MakeProjectFolder(&error) || !parameterwork::UnpackDocument(path, &error))
-        return FailFile(error);
-    return LoadDocument(parameterwork::DocumentPath(), version, progress,
-                        [&path](const QList<SParameterFileInfo>& rows, ReadReport& report) {
-                            parameterwork::DistributeAfterLoading(path, rows, GetProjectLookup()->Products(),
-                                                                  report);
-                        });
-}
-
-bool CProjectData::LoadDocument(
-    const QString& path, QString& version, CCustomProgressbar* progress,
-    const std::function<void(const QList<SParameterFileInfo>&, ReadReport&)>& distribute)
-{
-    QFile file(path);
-    if (!OpenInput(file, &m_lastFileError))
-        return false;
     ProjectContent content;
     ReadReport report;
-    ProjectReader reader(content, report, Reports(progress));
-    QString error;
-    if (!ParseXml(file, reader, &error))
-        return FailFile(error);
-    if (!reader.HasRoot())
-        return FailFile(Texts::tr("不是项目文件。"));
-    version = reader.GetRefusedVersion();
-    if (!version.isNull())
-        return FailFile(Texts::tr("此文件需要版本%1，本程序尚不支持。").arg(version));
-
-    const QList<SParameterFileInfo> rows = TakeContent(content);
-    if (distribute)
-        distribute(rows, report);
+    if (!ReadDocument(path, content, report, version, progress, &m_lastFileError))
+        return false;
+    const QList<SParameterFileInfo> rows = parameterwork::SafelyNamed(content.fields.parameterFiles);
+    content.fields.parameterFiles = parameterwork::WithoutNameless(rows);
+    static_cast<ProjectFields&>(m_state) = content.fields;
+    TakeSenders(Released(content.senders));
+    TakeMonitorRecord(*this, content.monitor);
+    if (!archive.isEmpty())
+        parameterwork::DistributeAfterLoading(archive, rows, GetProjectLookup()->Products(), report);
     RestartHistory();
     m_lastFileError = report.Text();
     return true;
-}
-
-QList<SParameterFileInfo> CProjectData::TakeContent(ProjectContent& content)
-{
-    ClearLists();
-    m_demo = content.demo;
-    m_groups = content.senderGroups;
-    m_gamma = content.gamma;
-    m_print = content.print;
-    TakeSenders(std::move(content.senders));
-    TakeMonitorRecord(content.monitor);
-    return TakeParameterFiles(content.parameterFiles);
-}
-
-void CProjectData::TakeSenders(std::vector<std::unique_ptr<CSender>> senders)
-{
-    DestroySenders();
-    for (std::unique_ptr<CSender>& sender : senders)
-        m_senders.append(sender.release());
-    if (!GetCurrentSender())
-        m_currentSender = 0;
-}
-
-MonitorRecord CProjectData::MakeMonitorRecord() const
-{
-    MonitorRecord record;
-    const CMonitorData* monitor = GetProjectLookup()->Monitor();
-    const CMonitorInterfaceData data = monitor ? monitor->GetInterfaceData() : CMonitorInterfaceData();
-    record.intervalTime = data.GetIntervalTime();
-    record.sender = data.GetSenderSetting();
-    record.videoInputs = GetVideoInfoString();
-    record.receiver = data.GetReceiverSetting();
-    record.mail = data.GetMailSetting();
-    record.mailReceivers = GetMailReceiversString();
-    record.line = data.GetLineSetting();
-    return record;
-}
-
-void CProjectData::TakeMonitorRecord(const MonitorRecord& record)
-{
-    SSenderSetting sender = record.sender;
-    SetVideoInfoFromString(sender, record.videoInputs);
-    SEmailSetting mail = record.mail;
-    SetReceiversFromString(mail, record.mailReceivers);
-
-    CMonitorInterfaceData data;
-    data.SetIntervalTime(record.intervalTime);
-    data.SetSenderSetting(sender);
-    data.SetReceiverSetting(record.receiver);
-    data.SetMailSetting(mail);
-    data.SetLineSetting(record.line);
-    if (CMonitorData* monitor = GetProjectLookup()->Monitor())
-        monitor->SetInterfaceData(data);
 }

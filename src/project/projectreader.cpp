@@ -1,7 +1,5 @@
 #include "project/projectreader.h"
 
-#include "layout/sender.h"
-
 using namespace projectnames;
 
 namespace {
@@ -17,27 +15,17 @@ template <class Record> LeafReader::Take Into(Record& record, void (*describe)(A
 
 } // namespace
 
-ProjectContent::~ProjectContent() = default;
-
 ProjectReader::ProjectReader(ProjectContent& content, ReadReport& report, std::function<void(int)> progress)
     : m_report(report), m_root(*this),
       m_version([this](XmlAttributes& attributes) { ReadVersion(attributes); }),
-      m_demo(Into<SDemoMode>(content.demo, DescribeDemoMode)),
-      m_senderGroups(kSenderGroupList, report,
-                     [&content](QList<SSenderGroupInfo> list) { content.senderGroups = std::move(list); }),
-      m_gamma(kGammaList, report,
-              [&content](QList<SRcvParamGamma> list) { content.gamma = std::move(list); }),
-      m_print(Into<SPrintFormData>(content.print, DescribePrintForm)),
-      m_senders(
-          report, [&content](SenderLayoutReader::Senders senders) { content.senders = std::move(senders); },
-          std::move(progress)),
+      m_demo(Into<SDemoMode>(content.fields.demo, DescribeDemoMode)),
+      m_senderGroups(kSenderGroupList, report, content.fields.groups),
+      m_gamma(kGammaList, report, content.fields.gamma),
+      m_print(Into<SPrintFormData>(content.fields.print, DescribePrintForm)),
+      m_senders(report, content.senders, std::move(progress)),
       m_monitor(Into<MonitorRecord>(content.monitor, DescribeMonitor)),
-      m_parameterFiles(kParameterFileList, report, [&content](QList<SParameterFileInfo> list) {
-          content.parameterFiles = std::move(list);
-      })
+      m_parameterFiles(kParameterFileList, report, content.fields.parameterFiles)
 {}
-
-ProjectReader::~ProjectReader() = default;
 
 XmlHandler* ProjectReader::Child(std::string_view name)
 {

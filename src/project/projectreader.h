@@ -3,23 +3,12 @@
 #include "project/layoutreader.h"
 #include "project/projectelements.h"
 
-#include <memory>
-#include <vector>
-
-class CSender;
-
 /// What a project file holds, read whole before anything of an open document is touched.
 struct ProjectContent
 {
-    ~ProjectContent();
-
-    SDemoMode demo;
-    QList<SSenderGroupInfo> senderGroups;
-    QList<SRcvParamGamma> gamma;
-    SPrintFormData print;
-    std::vector<std::unique_ptr<CSender>> senders;
+    ProjectFields fields;
+    SenderLayoutReader::Senders senders;
     MonitorRecord monitor;
-    QList<SParameterFileInfo> parameterFiles;
 };
 
 /// Reads the document of a project file. What stands behind a version that is too new is passed over.
@@ -28,7 +17,6 @@ class ProjectReader : public XmlHandler
 public:
     /// [ref] All three are filled as the reading goes; `progress` may be empty.
     ProjectReader(ProjectContent& content, ReadReport& report, std::function<void(int)> progress);
-    ~ProjectReader() override;
 
     /// The minimum version that is too new, null when all was read.
     QString GetRefusedVersion() const { return m_refusedVersion; }

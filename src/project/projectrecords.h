@@ -1,7 +1,9 @@
 #pragma once
 
 #include "common/smd5.h"
+#include "monitor/monitorinterfacedata.h"
 
+#include <QList>
 #include <QString>
 #include <QUuid>
 
@@ -49,4 +51,24 @@ struct SDemoMode
 {
     bool enable = false;
     int senderType = 0;
+};
+
+/// What a project file stores beside the senders.
+struct ProjectFields
+{
+    SDemoMode demo;
+    QList<SSenderGroupInfo> groups;
+    QList<SRcvParamGamma> gamma;
+    SPrintFormData print;
+    QList<SVideoInput> videoInputs; ///< stand among the monitoring settings
+    QList<SParameterFileInfo> parameterFiles;
+};
+
+/// What a copy of a project takes beside the senders. Reading a file leaves who the project is.
+struct ProjectState : ProjectFields
+{
+    QUuid id;
+    QString deviceSetName;
+    QString projectName;
+    int currentSender = -1;
 };

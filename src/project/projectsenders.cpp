@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 
 /// Processors are looked for on the network, and the project follows, in this strategy alone.
@@ -22,12 +24,31 @@ bool Confirms(QWidget* parent, const QString& question)
     return CCustomMessageBox::question(parent, question) == QMessageBox::Yes;
 }
 
-bool HasLockedPort(CSender& sender)
+bool HasLockedPort(const CSender& sender)
 {
-    for (int i = 0; i < kMaxPorts; ++i)
-        if (sender.GetPort(i)->IsFlagLock())
-            return true;
-    return false;
+    return std::any_of(sender.GetPorts().begin(), sender.GetPorts().end(),
+                       [](const CPort& port) { return port.IsFlagLock(); });
+}
+
+/// The deleted sender's background image goes with it; those behind it move up, unless they are kept.
+void RenameImages(int deleted, int countBefore, bool keep)
+{
+    QFile::remove(CConstantData::GetSenderBKImgName(deleted, true));
+    for (int i = deleted + 1; i < countBefore && !keep; ++i)
+        QFile::rename(CConstantData::GetSenderBKImgName(i, true),
+                      CConstantData::GetSenderBKImgName(i - 1, true));
+}
+
+/// What a sender that was found at an address is like, after the first sender of the project if there is one.
+void SetUpDetected(CSender& sender, quint32 ip, const CSender* model)
+{
+    if (model) {
+        sender.SetPortCount(model->GetPortCount());
+        sender.SetCanvasSize(model->GetCanvasSize());
+    }
+    sender.SetNetSenderIP(ip);
+    sender.SetOffset(QSize(0, 0));
+    sender.SetBelongGroup(GetProjectLookup()->AddGroupId());
 }
 
 /// Whether the port backs up one of the sender's own ports.
@@ -57,23 +78,8 @@ void CProjectData::AddSender(CSender* sender)
         return;
     m_senders.append(sender);
     if (m_senders.size() == 1)
-        m_currentSender = 0;
+        m_state.currentSender = 0;
     MarkModified();
-}
-
-CSender* CProjectData::GetSender(int index) const
-{
-    return m_senders.value(index);
-}
-
-int CProjectData::GetSenderCount() const
-{
-    return m_senders.size();
-}
-
-QList<CSender*> CProjectData::GetSenders() const
-{
-    return m_senders;
 }
 
 int CProjectData::GetScIndexByID(const QUuid& id) const
@@ -87,22 +93,12 @@ int CProjectData::GetScIndexByID(const QUuid& id) const
 void CProjectData::SetCurrentSender(int index)
 {
     if (GetSender(index))
-        m_currentSender = index;
-}
-
-CSender* CProjectData::GetCurrentSender() const
-{
-    return GetSender(m_currentSender);
-}
-
-int CProjectData::GetCurSenderIndex() const
-{
-    return m_currentSender;
+        m_state.currentSender = index;
 }
 
 int CProjectData::GetCurSenderIndexForRtCnnt() const
 {
-    return GetCurrentSender() ? m_currentSender : 0;
+    return GetCurrentSender() ? m_state.currentSender : 0;
 }
 
 int CProjectData::GetCurPortIndex() const
@@ -148,8 +144,8 @@ void CProjectData::RemoveSenderAt(int index)
     if (!GetSender(index))
         return;
     CSender* sender = m_senders.takeAt(index);
-    if (m_currentSender > index || m_currentSender >= m_senders.size())
-        --m_currentSender;
+    if (m_state.currentSender > index || m_state.currentSender >= m_senders.size())
+        --m_state.currentSender;
     CProjectUndoRedo* history = IsOpenDocument() ? GetProjectLookup()->History() : nullptr;
     if (history)
         history->SenderUndoRedoRelease(sender->GetId());
@@ -167,6 +163,14 @@ void CProjectData::DestroySenders()
 {
     while (!m_senders.isEmpty())
         delete m_senders.takeLast();
+}
+
+void CProjectData::TakeSenders(const QList<CSender*>& senders)
+{
+    DestroySenders();
+    m_senders = senders;
+    if (!GetCurrentSender())
+        m_state.currentSender = 0;
 }
 
 bool CProjectData::DeleteSenderBefore(int index, bool ask, QWidget* parent)
@@ -197,20 +201,10 @@ bool CProjectData::DeleteSender(int index, bool ask, bool keepImages, bool selec
     if (m_senders.size() == 1)
         m_senders.first()->SetOffset(QSize(0, 0));
     SetCurrentSender(qBound(0, selectPrevious ? index - 1 : index, m_senders.size() - 1));
-    if (IsOpenDocument() && GetProjectLookup()->CurSelectNode() != m_currentSender)
-        GetProjectLookup()->SetCurSelectNode(m_currentSender);
-    RenameSenderImages(index, countBefore, keepImages);
+    if (IsOpenDocument() && GetProjectLookup()->CurSelectNode() != m_state.currentSender)
+        GetProjectLookup()->SetCurSelectNode(m_state.currentSender);
+    RenameImages(index, countBefore, keepImages);
     return true;
-}
-
-void CProjectData::RenameSenderImages(int deleted, int countBefore, bool keepImages) const
-{
-    QFile::remove(CConstantData::GetSenderBKImgName(deleted, true));
-    if (keepImages)
-        return;
-    for (int k = deleted + 1; k < countBefore; ++k)
-        QFile::rename(CConstantData::GetSenderBKImgName(k, true),
-                      CConstantData::GetSenderBKImgName(k - 1, true));
 }
 
 bool CProjectData::UpdateProjectSenders(const QList<unsigned long>& first, const QList<unsigned long>& second)
@@ -221,36 +215,23 @@ bool CProjectData::UpdateProjectSenders(const QList<unsigned long>& first, const
     for (const CSender* sender : qAsConst(m_senders))
         known.insert(static_cast<quint32>(sender->GetNetSenderIP()));
     const int before = m_senders.size();
+    const CSender* model = GetSender(0);
     for (const unsigned long address : first + second) {
         const auto ip = static_cast<quint32>(address);
         if (known.contains(ip))
             continue;
         known.insert(ip);
-        AppendDetectedSender(ip);
+        SetUpDetected(*NewSender(), ip, model);
     }
     return m_senders.size() > before;
-}
-
-void CProjectData::AppendDetectedSender(quint32 ip)
-{
-    const CSender* model = GetSender(0);
-    CSender* sender = NewSender();
-    if (model) {
-        sender->SetPortCount(model->GetPortCount());
-        sender->SetCanvasSize(model->GetCanvasSize());
-    }
-    sender->SetNetSenderIP(ip);
-    sender->SetOffset(QSize(0, 0));
-    sender->SetBelongGroup(GetProjectLookup()->AddGroupId());
 }
 
 void CProjectData::CancelAllTileSelect(EInterfaceDlg iface)
 {
     for (CSender* sender : qAsConst(m_senders)) {
-        for (int i = 0; i < kMaxPorts; ++i) {
-            CPortProject* layout = sender->GetPort(i)->GetPortProject();
-            layout->GetTileSet()->UnSelectAll(iface);
-            layout->GetTileGroupSet()->CancelAllSelect(iface);
+        for (CPort& port : sender->GetPorts()) {
+            port.GetTiles().UnSelectAll(iface);
+            port.GetGroups().CancelAllSelect(iface);
         }
     }
 }
@@ -258,20 +239,17 @@ void CProjectData::CancelAllTileSelect(EInterfaceDlg iface)
 void CProjectData::SelectAllTile()
 {
     for (CSender* sender : qAsConst(m_senders))
-        for (int i = 0; i < kMaxPorts; ++i)
-            sender->GetPort(i)->GetPortProject()->GetTileSet()->SelectAll(InterfaceDesign);
+        for (CPort& port : sender->GetPorts())
+            port.GetTiles().SelectAll(InterfaceDesign);
 }
 
 bool CProjectData::HasTileRotated() const
 {
-    for (CSender* sender : m_senders) {
-        for (int i = 0; i < kMaxPorts; ++i) {
-            const CTileSet* tiles = sender->GetPort(i)->GetPortProject()->GetTileSet();
-            for (int t = 0; t < tiles->GetCount(); ++t)
-                if (tiles->GetTile(t)->IsTileRotated())
-                    return true;
-        }
-    }
+    const auto isRotated = [](const CTile* tile) { return tile->IsTileRotated(); };
+    for (CSender* sender : m_senders)
+        for (const CPort& port : sender->GetPorts())
+            if (std::any_of(port.GetTiles().GetTiles().begin(), port.GetTiles().GetTiles().end(), isRotated))
+                return true;
     return false;
 }
 

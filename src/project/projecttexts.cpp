@@ -3,6 +3,7 @@
 #include "params/elementnames.h"
 #include "params/paramfile.h"
 #include "project/projectdata.h"
+#include "project/projectelements.h"
 #include "project/projectlookup.h"
 #include "records/exactcolorparam.h"
 
@@ -43,7 +44,7 @@ void CProjectData::SetReceiversFromString(SEmailSetting& setting, const QString&
 QString CProjectData::GetVideoInfoString() const
 {
     QString text;
-    for (const SVideoInput& input : m_videoInputs)
+    for (const SVideoInput& input : m_state.videoInputs)
         text += QStringLiteral("%1,%2,%3,%4;")
                     .arg(input.slot)
                     .arg(input.sourceType)
@@ -60,7 +61,7 @@ void CProjectData::SetVideoInfoFromString(SSenderSetting& setting, const QString
         inputs.append({fields.value(0).toInt(), fields.value(1).toInt(), fields.value(2).toInt(),
                        fields.value(3).toInt() != 0});
     }
-    m_videoInputs = inputs;
+    m_state.videoInputs = inputs;
     setting.videoInputs = inputs;
 }
 
@@ -72,4 +73,36 @@ QString CProjectData::GetColorStr(int channel)
 quint32 CProjectData::GetIntFromOctString(const QString& text)
 {
     return params::GetIntFromOctString(text);
+}
+
+MonitorRecord MakeMonitorRecord(const CProjectData& project)
+{
+    MonitorRecord record;
+    const CMonitorData* monitor = GetProjectLookup()->Monitor();
+    const CMonitorInterfaceData data = monitor ? monitor->GetInterfaceData() : CMonitorInterfaceData();
+    record.intervalTime = data.GetIntervalTime();
+    record.sender = data.GetSenderSetting();
+    record.videoInputs = project.GetVideoInfoString();
+    record.receiver = data.GetReceiverSetting();
+    record.mail = data.GetMailSetting();
+    record.mailReceivers = project.GetMailReceiversString();
+    record.line = data.GetLineSetting();
+    return record;
+}
+
+void TakeMonitorRecord(CProjectData& project, const MonitorRecord& record)
+{
+    SSenderSetting sender = record.sender;
+    project.SetVideoInfoFromString(sender, record.videoInputs);
+    SEmailSetting mail = record.mail;
+    CProjectData::SetReceiversFromString(mail, record.mailReceivers);
+
+    CMonitorInterfaceData data;
+    data.SetIntervalTime(record.intervalTime);
+    data.SetSenderSetting(sender);
+    data.SetReceiverSetting(record.receiver);
+    data.SetMailSetting(mail);
+    data.SetLineSetting(record.line);
+    if (CMonitorData* monitor = GetProjectLookup()->Monitor())
+        monitor->SetInterfaceData(data);
 }

@@ -103,13 +103,13 @@ TEST(DocumentTablesTest, AttributesAndDeviationsAreThoseOfTheDescriptions)
     expect("Gamma_n", SRcvParamGamma(), [](auto& l, auto& r) { DescribeGamma(l, r); });
     expect("PrintFormData", SPrintFormData(), [](auto& l, auto& r) { DescribePrintForm(l, r); });
     expect("File", SParameterFileInfo(), [](auto& l, auto& r) { DescribeParameterFile(l, r); });
-    expect("Sender_n", SenderRecord(), [](auto& l, auto& r) {
-        DescribeSenderDevice(l, r);
+    expect("Sender_n", StoredSender(), [](auto& l, auto& r) {
+        DescribeSenderDevice(l, CSender());
         DescribeSender(l, r);
     });
-    expect("Port_n", PortRecord(), [](auto& l, auto& r) { DescribePort(l, r); });
+    expect("Port_n", PortFields(), [](auto& l, auto& r) { DescribePort(l, r); });
     expect("Tile_n", StoredTile(), [](auto& l, auto& r) { DescribeTile(l, r); });
-    expect("TileGroup_n", GroupRecord(), [](auto& l, auto& r) {
+    expect("TileGroup_n", GroupFields(), [](auto& l, auto& r) {
         DescribeGroup(l, r);
         l.Field(layoutnames::kGroupCount, 0);
     });
