@@ -26,7 +26,7 @@ std::unique_ptr<CSender> MakeBenchWall(const WallKind& kind)
 
 CTileSet& TilesOf(CSender& sender, int port)
 {
-    return *sender.GetPort(port)->GetPortProject()->GetTileSet();
+    return sender.GetPort(port)->GetTiles();
 }
 
 bool PlainCabinet::operator==(const PlainCabinet& other) const

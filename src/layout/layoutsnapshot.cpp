@@ -2,7 +2,7 @@
 
 #include "common/interfacedlg.h"
 #include "layout/port.h"
-#include "layout/tile.h"
+#include "layout/tileaccess.h"
 #include "layout/tilegroup.h"
 
 #include <QHash>
@@ -46,20 +46,20 @@ bool IsIdentical(const CTileGroup& group, const GroupSnapshot& snapshot)
 /// into keeps its own.
 bool ShareIfSame(CTile* tile, const LayoutSnapshot::Cabinet& cabinet)
 {
-    const TileData* data = tile->GetData();
+    const TileData* data = TileAccess::Data(*tile);
     if (data == cabinet.constData())
         return true;
     if (!IsIdentical(*data, *cabinet))
         return false;
     if (!data->handedOut)
-        tile->SetData(cabinet.constData());
+        TileAccess::SetData(*tile, cabinet.constData());
     return true;
 }
 
 CTile* NewTile(const LayoutSnapshot::Cabinet& cabinet)
 {
     auto* tile = new CTile;
-    tile->SetData(cabinet.constData());
+    TileAccess::SetData(*tile, cabinet.constData());
     return tile;
 }
 
@@ -165,7 +165,7 @@ LayoutSnapshot::Pointer LayoutSnapshot::Take(CPort& port, const Pointer& before,
         CTile* tile = tiles.at(position);
         if (chunks.at(at).at(place) && ShareIfSame(tile, chunks.at(at).at(place)))
             return;
-        Cabinet cabinet(tile->GetData());
+        Cabinet cabinet(TileAccess::Data(*tile));
         if (cabinet->handedOut) { // its data change without notice, so they are copied
             if (resized && byPlace.isEmpty())
                 byPlace = ByPlace(old.m_chunks);
@@ -200,7 +200,7 @@ void LayoutSnapshot::Restore(CPort* port, const Positions& changed) const
     ForEachPosition(changed, present, [&](int position) {
         CTile* tile = tiles->GetTiles().at(position);
         if (!ShareIfSame(tile, At(position)))
-            tile->Become(At(position).constData());
+            TileAccess::Become(*tile, At(position).constData());
     });
     for (int i = present; i < m_count; ++i)
         tiles->AddTile(NewTile(At(i)));

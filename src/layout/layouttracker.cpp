@@ -1,7 +1,7 @@
 #include "layout/layouttracker.h"
 
 #include "layout/port.h"
-#include "layout/tile.h"
+#include "layout/tileaccess.h"
 
 namespace {
 
@@ -10,7 +10,7 @@ std::vector<int> HandedOutOf(const QList<CTile*>& tiles, const Positions& positi
 {
     std::vector<int> found;
     ForEachPosition(positions, tiles.size(), [&](int position) {
-        if (tiles.at(position)->GetData()->handedOut)
+        if (TileAccess::Data(*tiles.at(position))->handedOut)
             found.push_back(position);
     });
     return found;

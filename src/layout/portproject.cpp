@@ -182,11 +182,6 @@ bool CPortProject::operator==(const CPortProject& other) const
     return this == &other || (m_tiles == other.m_tiles && m_groups == other.m_groups);
 }
 
-bool CPortProject::operator!=(const CPortProject& other) const
-{
-    return !(*this == other);
-}
-
 void CPortProject::ClearAllTiles()
 {
     m_tiles.DeleteAllTiles();

@@ -40,7 +40,7 @@ public:
     virtual ~CPortProject();
     CPortProject& operator=(const CPortProject& other);
     bool operator==(const CPortProject& other) const;
-    bool operator!=(const CPortProject& other) const;
+    bool operator!=(const CPortProject& other) const { return !(*this == other); }
 
     CTileSet* GetTileSet() { return &m_tiles; }
     const CTileSet* GetTileSet() const { return &m_tiles; }

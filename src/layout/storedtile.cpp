@@ -2,7 +2,7 @@
 
 #include "common/saturated.h"
 #include "layout/corners.h"
-#include "layout/tile.h"
+#include "layout/tileaccess.h"
 #include "layout/tileset.h"
 
 #include <algorithm>
@@ -58,7 +58,7 @@ std::unique_ptr<CTile> StoredTileMaker::Make(const StoredTile& stored)
     Wire(stored, fields);
     fields.beginRcvCnnt = fields.connectionIndex == 0 ? 0 : -1;
     auto tile = std::make_unique<CTile>();
-    tile->SetData(data);
+    TileAccess::SetData(*tile, data);
     return tile;
 }
 

@@ -17,13 +17,16 @@ struct StoredTile : TileFields
     int saysOrdered = -1;
 };
 
-// What stands in the file for a flag: read with "says nothing", written from the cabinet itself.
-inline int& SaysMulti(StoredTile& tile) { return tile.saysMulti; }
-inline bool SaysMulti(const TileFields& tile) { return tile.multi; }
-inline int& SaysFixed(StoredTile& tile) { return tile.saysFixed; }
-inline bool SaysFixed(const TileFields& tile) { return tile.fixedLine; }
-inline int& SaysOrdered(StoredTile& tile) { return tile.saysOrdered; }
-inline bool SaysOrdered(const TileFields& tile) { return tile.ordered; }
+/// What stands in the file for a flag: read with "says nothing", written from the cabinet itself.
+struct FlagInFile
+{
+    static int& Multi(StoredTile& tile) { return tile.saysMulti; }
+    static bool Multi(const TileFields& tile) { return tile.multi; }
+    static int& Fixed(StoredTile& tile) { return tile.saysFixed; }
+    static bool Fixed(const TileFields& tile) { return tile.fixedLine; }
+    static int& Ordered(StoredTile& tile) { return tile.saysOrdered; }
+    static bool Ordered(const TileFields& tile) { return tile.ordered; }
+};
 
 /// Makes cabinets of what files store; asks for each product once in a row of cabinets of its type.
 class StoredTileMaker

@@ -2,15 +2,13 @@
 
 #include "common/interfacedlg.h"
 #include "common/saturated.h"
-#include "layout/changejournal.h"
 #include "layout/corners.h"
 #include "layout/layoutlookup.h"
 #include "layout/sender.h"
-#include "layout/tiledata.h"
+#include "layout/tileaccess.h"
 #include "layout/tileset.h"
 
 #include <cstring>
-#include <limits>
 
 namespace {
 
@@ -20,11 +18,6 @@ constexpr unsigned char kViewBits[kInterfaceCount] = {0, 0, 0, 0x01, 0x20, 0x10,
 unsigned char ViewBit(int iface)
 {
     return iface >= 0 && iface < kInterfaceCount ? kViewBits[iface] : static_cast<unsigned char>(0);
-}
-
-bool IsReceiverIndex(int index)
-{
-    return index >= 0 && index < kMaxReceiversInTile;
 }
 
 int OnCanvas(int value, int canvas, int size)
@@ -38,7 +31,7 @@ const CTileSet* SetOfOwnPort(const TileData& data)
 {
     const CSender* sender = GetLayoutLookup()->FindSender(data.senderId);
     const CPort* port = sender ? sender->GetPort(data.portIndex) : nullptr;
-    return port ? port->GetPortProject()->GetTileSet() : nullptr;
+    return port ? &port->GetTiles() : nullptr;
 }
 
 } // namespace
@@ -55,18 +48,13 @@ CTile::~CTile() = default;
 
 CTile& CTile::operator=(const CTile& other)
 {
-    SetData(other.GetData());
+    TileAccess::SetData(*this, TileAccess::Data(other));
     return *this;
 }
 
 bool CTile::operator==(const CTile& other) const
 {
     return m_data == other.m_data || m_data->IsEqual(*other.m_data);
-}
-
-bool CTile::operator!=(const CTile& other) const
-{
-    return !(*this == other);
 }
 
 bool CTile::SetX(int x)
@@ -241,19 +229,6 @@ void CTile::SetSelected(bool selected, int iface, int rcvIndex)
     Store(&TileData::selection, static_cast<unsigned char>(shown ? others | bit : others));
 }
 
-bool CTile::IsRcvSelected(int index) const
-{
-    return IsReceiverIndex(index) && (m_rcvSelected >> index & 1) != 0;
-}
-
-void CTile::SetRcvSelected(int index, bool selected)
-{
-    if (!IsReceiverIndex(index))
-        return;
-    const unsigned bit = 1U << index;
-    m_rcvSelected = static_cast<unsigned short>(selected ? m_rcvSelected | bit : m_rcvSelected & ~bit);
-}
-
 bool CTile::IsTileVisible() const
 {
     return m_data->visible;
@@ -262,134 +237,6 @@ bool CTile::IsTileVisible() const
 void CTile::SetTileVisible(bool visible)
 {
     Store(&TileData::visible, visible);
-}
-
-QColor CTile::GetTileShowColor() const
-{
-    return m_showColor;
-}
-
-void CTile::SetTileShowColor(const QColor& color)
-{
-    m_showColor = color;
-}
-
-int CTile::GetTileGamutStatus() const
-{
-    return m_gamutStatus;
-}
-
-void CTile::SetTileGamutStatus(int status)
-{
-    m_gamutStatus = status;
-}
-
-void CTile::SetBeMultiRcvsTile(bool multi)
-{
-    Store(&TileData::multi, multi);
-    if (!multi)
-        Store(&TileData::ordered, false);
-}
-
-bool CTile::IsMultiRcvTile() const
-{
-    return m_data->multi;
-}
-
-void CTile::SetBeMultiFixedLine(bool fixed)
-{
-    Store(&TileData::fixedLine, fixed && m_data->multi);
-}
-
-bool CTile::IsMultiFixedLine() const
-{
-    return m_data->fixedLine;
-}
-
-void CTile::SetMultiRcvsOrdered(bool ordered)
-{
-    Store(&TileData::ordered, ordered || m_data->fixedLine);
-}
-
-bool CTile::IsMultiRcvsOrdered() const
-{
-    return m_data->ordered;
-}
-
-void CTile::SetMultiRcvsSize(const QSize& size)
-{
-    Store(&TileData::multiSize, size);
-}
-
-QSize CTile::GetMultiRcvsSize() const
-{
-    return m_data->multiSize;
-}
-
-int CTile::GetMultiRcvsCount() const
-{
-    const QSize size = m_data->multiSize;
-    const qint64 count = qint64(size.width()) * size.height();
-    return size.width() < 0 || count < 0 || count > std::numeric_limits<int>::max() ? 0
-                                                                                    : static_cast<int>(count);
-}
-
-void CTile::SetMultiRcvsLine(const unsigned char* line)
-{
-    const auto count = static_cast<size_t>(qMin(GetMultiRcvsCount(), kMaxReceiversInTile));
-    if (line && count > 0 && std::memcmp(m_data->line, line, count) != 0)
-        std::memmove(Write().line, line, count);
-}
-
-unsigned char* CTile::GetMultiRcvsLine()
-{
-    TileData& data = Write();
-    data.handedOut = true;
-    return data.line;
-}
-
-unsigned char CTile::GetMultiRcvsLineCode(int index) const
-{
-    return IsReceiverIndex(index) ? m_data->line[index] : static_cast<unsigned char>(0);
-}
-
-QRect CTile::GetMultiRcvRect(int index)
-{
-    if (index < 0 || index >= GetMultiRcvsCount())
-        return QRect();
-    const QRect cell = CellRect(index);
-    return SaturatedRect(qint64(GetX()) + cell.x(), qint64(GetY()) + cell.y(), cell.width(), cell.height());
-}
-
-QRect CTile::GetMultiRcvRelativeRect(int index)
-{
-    return index < GetMultiRcvsCount() ? CellRect(index) : QRect();
-}
-
-QRect CTile::CellRect(int index)
-{
-    const qint64 place = m_data->ordered ? index : qint64(GetMultiRcvsCount()) - 1 - index;
-    const int code = GetMultiRcvsLineCode(SaturatedInt(place));
-    qint64 width = 1;
-    qint64 height = 1;
-    if (m_data->multiSize.width() == 0 || m_data->multiSize.height() == 0) {
-        Store(&TileData::multiSize, GetSize()); // a cabinet without a grid is repaired on first use
-    } else {
-        width = qint64(GetWidth()) / m_data->multiSize.width();
-        height = qint64(GetHeight()) / m_data->multiSize.height();
-    }
-    const int rows = m_data->multiSize.height() == 0 ? 1 : m_data->multiSize.height();
-    return SaturatedRect(code / rows * width, code % rows * height, width, height);
-}
-
-void CTile::SetMultiRcvDemarcateIndex(int index)
-{
-    Store(&TileData::demarcateIndex, index);
-}
-
-int CTile::GetMultiRcvDemarcateIndex() const
-{
-    return m_data->demarcateIndex;
 }
 
 int CTile::GetConnectionIndex() const
@@ -455,30 +302,6 @@ bool CTile::IsTileRotated() const
     return m_data->rotate.rotated && GetLayoutLookup()->IsRotateEnabled();
 }
 
-void CTile::SetData(const TileData* data)
-{
-    if (!data || data == m_data.constData())
-        return;
-    if (!m_data->IsSamePlace(*data))
-        ChangeJournal::places.Append(this);
-    ChangeJournal::data.Append(this);
-    if (m_data->handedOut)
-        static_cast<TileFields&>(*m_data) = *data;
-    else if (data->handedOut)
-        m_data = data->NewCopy();
-    else
-        m_data =
-            const_cast<TileData*>(data); // written to only through Write(), which leaves shared data alone
-}
-
-void CTile::Become(const TileData* data)
-{
-    SetData(data);
-    m_showColor = QColor();
-    m_gamutStatus = 0;
-    m_rcvSelected = 0;
-}
-
 TileData& CTile::Write()
 {
     if (m_data->ref.loadRelaxed() == 1)
@@ -488,18 +311,26 @@ TileData& CTile::Write()
     return *m_data;
 }
 
-/// Leaves a record that has the value already as it is, so that it stays shared; false then.
-template <class Member, class Value> bool CTile::Store(Member member, const Value& value)
+void TileAccess::SetData(CTile& tile, const TileData* data)
 {
-    if (m_data.constData()->*member == value)
-        return false;
-    Write().*member = value;
-    return true;
+    if (!data || data == tile.m_data.constData())
+        return;
+    if (!tile.m_data->IsSamePlace(*data))
+        ChangeJournal::places.Append(&tile);
+    ChangeJournal::data.Append(&tile);
+    if (tile.m_data->handedOut)
+        static_cast<TileFields&>(*tile.m_data) = *data;
+    else if (data->handedOut)
+        tile.m_data = data->NewCopy();
+    else
+        tile.m_data =
+            const_cast<TileData*>(data); // written to only through Write(), which leaves shared data alone
 }
 
-/// Of what decides where the cabinet lies.
-template <class Member, class Value> void CTile::StorePlace(Member member, const Value& value)
+void TileAccess::Become(CTile& tile, const TileData* data)
 {
-    if (Store(member, value))
-        ChangeJournal::places.Append(this);
+    SetData(tile, data);
+    tile.m_showColor = QColor();
+    tile.m_gamutStatus = 0;
+    tile.m_rcvSelected = 0;
 }

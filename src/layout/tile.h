@@ -12,6 +12,7 @@
 #include <QUuid>
 
 class CTileSet;
+class TileAccess;
 struct TileData;
 
 /// One cabinet on the canvas of an output port: one receiving card, or up to ten wired inside. Owned by the
@@ -26,7 +27,7 @@ public:
     CTile& operator=(const CTile& other); ///< keeps this tile's own view state
 
     bool operator==(const CTile& other) const; ///< view state takes no part
-    bool operator!=(const CTile& other) const;
+    bool operator!=(const CTile& other) const { return !(*this == other); }
 
     // place and size: canvas pixels, origin top left, y grows downwards
     /// Clamps the left edge, not the right one: a place on the canvas stays even where the cabinet reaches
@@ -47,8 +48,8 @@ public:
     void Offset(int dx, int dy); ///< unclamped; the rotation record moves along
     QPoint GetCenter() const;    ///< of the turned corners when rotated, else by integer division
     QRect GetBound() const;      ///< bounding box, of the turned corners when rotated
-    void
-    GetRotateArea(CPointEx<double>* corners) const; ///< four: left-top, right-top, right-bottom, left-bottom
+    /// Four corners: left-top, right-top, right-bottom, left-bottom.
+    void GetRotateArea(CPointEx<double>* corners) const;
 
     // identity, group and type
     void SetSenderId(const QUuid& id);
@@ -69,10 +70,10 @@ public:
     // view state
     bool IsTileVisible() const;
     void SetTileVisible(bool visible);
-    QColor GetTileShowColor() const;
-    void SetTileShowColor(const QColor& color);
-    int GetTileGamutStatus() const;
-    void SetTileGamutStatus(int status);
+    QColor GetTileShowColor() const { return m_showColor; }
+    void SetTileShowColor(const QColor& color) { m_showColor = color; }
+    int GetTileGamutStatus() const { return m_gamutStatus; }
+    void SetTileGamutStatus(int status) { m_gamutStatus = status; }
 
     // multi-receiver cabinets
     void SetBeMultiRcvsTile(bool multi); ///< false clears the ordered flag too
@@ -111,13 +112,8 @@ public:
     void SetTileRotateParam(const SRotateParam* param); ///< rotated too when the angle is above 0.0001
     bool IsTileRotated() const;                         ///< false while the rotation setting is off
 
-    // inside the library: the shared record, so that snapshots compare and share without copying
-    const TileData* GetData() const { return m_data.constData(); }
-    void SetData(const TileData* data); ///< shares it; copies into place where a pointer is out
-    void Become(const TileData* data);  ///< the same, without view state afterwards, as a copy is
-
 private:
-    friend class CTileSet; // marks what it frees
+    friend class TileAccess; // shares the record with snapshots, out of sight of hosts
 
     TileData& Write(); ///< the record, this tile's alone
     template <class Member, class Value> bool Store(Member member, const Value& value);

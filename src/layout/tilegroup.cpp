@@ -44,11 +44,6 @@ bool CTileGroup::operator==(const CTileGroup& other) const
     return m_fields == other.m_fields;
 }
 
-bool CTileGroup::operator!=(const CTileGroup& other) const
-{
-    return !(*this == other);
-}
-
 void CTileGroup::SetID(const QUuid& id)
 {
     m_fields.id = id;

@@ -33,7 +33,7 @@ public:
     virtual ~CTileGroup();
     CTileGroup& operator=(const CTileGroup& other);
     bool operator==(const CTileGroup& other) const; ///< visibility and sub-groups take no part
-    bool operator!=(const CTileGroup& other) const;
+    bool operator!=(const CTileGroup& other) const { return !(*this == other); }
 
     QUuid GetID() const { return m_fields.id; }
     void SetID(const QUuid& id); ///< the direct sub-groups follow as its children
@@ -52,8 +52,8 @@ public:
     void SetOffset(int dx, int dy);
 
     CTileGroupSet* GetSubGroupSet() const { return m_subGroups.get(); } ///< [ref]
-    int GetSubGroupCount() const;                              ///< direct ones
-    bool HasAnySubGroupInArray(const QList<QUuid>& ids) const; ///< this group or one below it
+    int GetSubGroupCount() const;                                       ///< direct ones
+    bool HasAnySubGroupInArray(const QList<QUuid>& ids) const;          ///< this group or one below it
     void ModifyIDAndRecord(QList<SGuidCompare>& records); ///< fresh ids for the whole subtree, in pre-order
 
     // inside the library: whole, as files take it

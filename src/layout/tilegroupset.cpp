@@ -44,11 +44,6 @@ bool CTileGroupSet::operator==(const CTileGroupSet& other) const
                       [](const CTileGroup* a, const CTileGroup* b) { return *a == *b; });
 }
 
-bool CTileGroupSet::operator!=(const CTileGroupSet& other) const
-{
-    return !(*this == other);
-}
-
 void CTileGroupSet::AddFromOther(const CTileGroupSet& other)
 {
     const QList<CTileGroup*> groups = other.m_groups;
@@ -61,16 +56,6 @@ bool CTileGroupSet::AddGroup(CTileGroup* group, bool force)
         return false;
     m_groups.append(group);
     return true;
-}
-
-int CTileGroupSet::GetDirectCount() const
-{
-    return m_groups.size();
-}
-
-CTileGroup* CTileGroupSet::GetDirectGroupByDirIndex(int index) const
-{
-    return m_groups.value(index);
 }
 
 int CTileGroupSet::GetDirectGroupIndex(const QUuid& id) const

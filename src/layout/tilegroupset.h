@@ -18,14 +18,14 @@ public:
     virtual ~CTileGroupSet();
     CTileGroupSet& operator=(const CTileGroupSet& other); ///< safe when `other` lies in this tree
     bool operator==(const CTileGroupSet& other) const;    ///< direct groups by position
-    bool operator!=(const CTileGroupSet& other) const;
+    bool operator!=(const CTileGroupSet& other) const { return !(*this == other); }
 
     // contents
     void AddFromOther(const CTileGroupSet& other); ///< shares the pointers
     bool AddGroup(CTileGroup* group, bool force);  ///< [own]; without force, false when the id is in the tree
-    int GetDirectCount() const;
-    CTileGroup* GetDirectGroupByDirIndex(int index) const; ///< null out of range
-    int GetDirectGroupIndex(const QUuid& id) const;        ///< -1 when absent
+    int GetDirectCount() const { return m_groups.size(); }
+    CTileGroup* GetDirectGroupByDirIndex(int index) const { return m_groups.value(index); } ///< or null
+    int GetDirectGroupIndex(const QUuid& id) const; ///< -1 when absent
     CTileGroup* GetDirectGroupByDirID(const QUuid& id) const;
     CTileGroup* GetSubGroupBySubID(const QUuid& id) const;    ///< anywhere below, depth first
     CTileGroup* GetDirectGroupBySubID(const QUuid& id) const; ///< the direct group that is or holds it

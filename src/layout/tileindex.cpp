@@ -2,8 +2,7 @@
 
 #include "common/saturated.h"
 #include "layout/layoutlookup.h"
-#include "layout/tile.h"
-#include "layout/tiledata.h"
+#include "layout/tileaccess.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,7 +20,7 @@ TileIndex::Extent TileIndex::ExtentOf(const CTile& tile, bool rotation)
     using Limits = std::numeric_limits<int>;
     const Extent everywhere{Limits::min(), Limits::min(), Limits::max(), Limits::max()};
     // Empty ones are hit by rules of their own, and a rotation that somebody may write to is never known.
-    if (tile.GetSize().isEmpty() || (rotation && tile.GetData()->rotateHandedOut))
+    if (tile.GetSize().isEmpty() || (rotation && TileAccess::Data(tile)->rotateHandedOut))
         return everywhere;
     if (!tile.IsTileRotated()) {
         const QRect bound = tile.GetBound();

@@ -4,7 +4,7 @@
 #include "common/saturated.h"
 #include "layout/layoutlookup.h"
 #include "layout/sender.h"
-#include "layout/tile.h"
+#include "layout/tileaccess.h"
 #include "layout/tileindex.h"
 
 #include <QSet>
@@ -68,21 +68,6 @@ bool CTileSet::operator==(const CTileSet& other) const
                          [](const CTile* a, const CTile* b) { return *a == *b; });
 }
 
-bool CTileSet::operator!=(const CTileSet& other) const
-{
-    return !(*this == other);
-}
-
-void CTileSet::SetOwnerShip(bool owning)
-{
-    m_owning = owning;
-}
-
-bool CTileSet::IsOwner() const
-{
-    return m_owning;
-}
-
 void CTileSet::AddTile(CTile* tile)
 {
     if (tile)
@@ -127,31 +112,16 @@ void CTileSet::DeleteSelected(int iface)
     for (CTile* tile : qAsConst(m_tiles)) {
         if (!tile->IsSelected(iface))
             staying.append(tile);
-        else if (m_owning && MarkLeaving(tile))
+        else if (m_owning && TileAccess::MarkLeaving(*tile))
             dropped.append(tile);
     }
     m_tiles = staying;
     qDeleteAll(dropped);
 }
 
-int CTileSet::GetCount() const
-{
-    return m_tiles.size();
-}
-
-CTile* CTileSet::GetTile(int index) const
-{
-    return m_tiles.value(index);
-}
-
 int CTileSet::GetTileIndex(const CTile* tile) const
 {
     return m_tiles.indexOf(const_cast<CTile*>(tile)); // only its address is compared
-}
-
-bool CTileSet::IsTileIn(const CTile* tile) const
-{
-    return GetTileIndex(tile) != -1;
 }
 
 void CTileSet::ExchangeTile(int i, int j)
@@ -289,16 +259,11 @@ void CTileSet::Replace(const QList<CTile*>& tiles, bool owning)
     QList<CTile*> dropped;
     if (m_owning && !m_tiles.isEmpty()) {
         const QSet<CTile*> kept(tiles.begin(), tiles.end());
-        dropped = Matching(m_tiles, [&](CTile* tile) { return !kept.contains(tile) && MarkLeaving(tile); });
+        dropped = Matching(
+            m_tiles, [&](CTile* tile) { return !kept.contains(tile) && TileAccess::MarkLeaving(*tile); });
     }
     m_tiles = tiles;
     m_owning = owning;
     m_index.reset();
     qDeleteAll(dropped);
-}
-
-/// True once for a tile that is to be freed, since it may be listed twice.
-bool CTileSet::MarkLeaving(CTile* tile)
-{
-    return !std::exchange(tile->m_leaving, true);
 }

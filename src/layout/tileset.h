@@ -41,11 +41,11 @@ public:
     virtual ~CTileSet();
     CTileSet& operator=(const CTileSet& other);
     bool operator==(const CTileSet& other) const; ///< order and ownership flag count
-    bool operator!=(const CTileSet& other) const;
+    bool operator!=(const CTileSet& other) const { return !(*this == other); }
 
     // contents
-    void SetOwnerShip(bool owning); ///< only the flag; nothing is copied or freed
-    bool IsOwner() const;
+    void SetOwnerShip(bool owning) { m_owning = owning; } ///< only the flag; nothing is copied or freed
+    bool IsOwner() const { return m_owning; }
     void AddTile(CTile* tile); ///< [own] in an owning set, else [keep]; null is ignored
     void AddFromOther(const CTileSet& other);
     void DeleteAllTiles();
@@ -54,10 +54,10 @@ public:
     void ExchangeTile(int i, int j);
     void Truncate(int count);       ///< drops the entries from `count` on, in one pass
     void DeleteSelected(int iface); ///< in one pass
-    int GetCount() const;
-    CTile* GetTile(int index) const;           ///< null out of range
-    int GetTileIndex(const CTile* tile) const; ///< -1 when absent
-    bool IsTileIn(const CTile* tile) const;
+    int GetCount() const { return m_tiles.size(); }
+    CTile* GetTile(int index) const { return m_tiles.value(index); } ///< null out of range
+    int GetTileIndex(const CTile* tile) const;                       ///< -1 when absent
+    bool IsTileIn(const CTile* tile) const { return GetTileIndex(tile) != -1; }
     bool IsSubset(const CTileSet* other) const; ///< by pointer; true for a null or empty `other`
     int GetRcvCount() const; ///< receiving cards of the tiles that have a begin receiver connection
     int GetCountInGroup(const QUuid& id) const; ///< a null id counts ungrouped tiles
@@ -132,7 +132,6 @@ private:
     template <class Test> QList<CTile*> FindFromTop(const QRect& area, const Test& takes) const;
     void SetResult(const QList<CTile*>& tiles);
     void Replace(const QList<CTile*>& tiles, bool owning);
-    static bool MarkLeaving(CTile* tile);
 
     QList<CTile*> m_tiles;
     bool m_owning = false;

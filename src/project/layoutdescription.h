@@ -38,15 +38,37 @@ constexpr int kLeastBytesOfGroup = 240;
 
 } // namespace layoutnames
 
-// The numbers of a place or a size, to be read or written as fields of their own.
-inline int& AcrossOf(QSize& size) { return size.rwidth(); }
-inline int AcrossOf(const QSize& size) { return size.width(); }
-inline int& DownOf(QSize& size) { return size.rheight(); }
-inline int DownOf(const QSize& size) { return size.height(); }
-inline int& AcrossOf(QPoint& place) { return place.rx(); }
-inline int AcrossOf(const QPoint& place) { return place.x(); }
-inline int& DownOf(QPoint& place) { return place.ry(); }
-inline int DownOf(const QPoint& place) { return place.y(); }
+// Values that a file holds in another form than the object.
+
+template <class Fields, class Size>
+void SizeFields(Fields& f, const char* widthName, const char* heightName, Size& size)
+{
+    int width = size.width();
+    int height = size.height();
+    f.Field(widthName, width);
+    f.Field(heightName, height);
+    if constexpr (!std::is_const_v<Size>)
+        size = QSize(width, height);
+}
+
+template <class Fields, class Point>
+void PointFields(Fields& f, const char* xName, const char* yName, Point& point)
+{
+    int x = point.x();
+    int y = point.y();
+    f.Field(xName, x);
+    f.Field(yName, y);
+    if constexpr (!std::is_const_v<Point>)
+        point = QPoint(x, y);
+}
+
+template <class Fields, class Color> void ColorField(Fields& f, const char* name, Color& color)
+{
+    QString text = CConstantData::GetColortoQString(color);
+    f.Field(name, text);
+    if constexpr (!std::is_const_v<Color>)
+        color = CConstantData::GetColorFromQString(text);
+}
 
 /// The device a sender stands for: told to whoever reads a project file, never taken from one. The files of a
 /// single sender do not carry it.
@@ -67,21 +89,16 @@ template <class Fields, class Record> void DescribeSender(Fields& f, Record& r)
     f.Field("BKImgShow", r.bkImgShow);
     f.Field("BKImgAlpha", r.bkImgAlpha);
     f.Field("BKImgStretch", r.bkImgStretch);
-    f.Field("XOffset", AcrossOf(r.offset));
-    f.Field("YOffset", DownOf(r.offset));
+    SizeFields(f, "XOffset", "YOffset", r.offset);
     f.Field("PortCount", r.portCount);
     f.Field("RecentPortIndex", r.recentPort);
-    f.Field("CanvasSizeWidth", AcrossOf(r.canvasSize));
-    f.Field("CanvasSizeHeight", DownOf(r.canvasSize));
+    SizeFields(f, "CanvasSizeWidth", "CanvasSizeHeight", r.canvasSize);
     f.Field("SignalFreq", r.signalFreq);
     f.Field("ColorDepth", r.colorDepth);
-    f.Field("MonitorRenderX", AcrossOf(r.monitorRenderPlace));
-    f.Field("MonitorRenderY", DownOf(r.monitorRenderPlace));
-    f.Field("MonitorRenderW", AcrossOf(r.monitorRenderSize));
-    f.Field("MonitorRenderH", DownOf(r.monitorRenderSize));
+    PointFields(f, "MonitorRenderX", "MonitorRenderY", r.monitorRenderPlace);
+    SizeFields(f, "MonitorRenderW", "MonitorRenderH", r.monitorRenderSize);
     f.Field("MonitorRenderPos", r.monitorRenderPos);
-    f.Field("MonitorRcvOffsetPtX", AcrossOf(r.monitorRcvOffset));
-    f.Field("MonitorRcvOffsetPtY", DownOf(r.monitorRcvOffset));
+    PointFields(f, "MonitorRcvOffsetPtX", "MonitorRcvOffsetPtY", r.monitorRcvOffset);
     f.Field("IPAddr", r.netIp);
 }
 
@@ -95,10 +112,7 @@ template <class Fields, class Record> void DescribePort(Fields& f, Record& r)
     f.Field("BkSenderIP", r.backup.ip);
     f.Field("IsVisable", r.view.visible);
     f.Field("Lock", r.view.locked);
-    QString color = CConstantData::GetColortoQString(r.color);
-    f.Field("PortColor", color);
-    if constexpr (!std::is_const_v<Record>)
-        r.color = CConstantData::GetColorFromQString(color);
+    ColorField(f, "PortColor", r.color);
 }
 
 template <class Fields, class Record> void DescribeRotation(Fields& f, Record& r)
@@ -129,11 +143,10 @@ template <class Fields, class Record> void DescribeTile(Fields& f, Record& r)
     f.Field("Width", r.width);
     f.Field("Height", r.height);
     // A file without these says nothing; the product type decides.
-    f.Field("IsMultiCabinet", SaysMulti(r), FieldUse::IfPresent);
-    f.Field("IsMultiFixed", SaysFixed(r), FieldUse::IfPresent);
-    f.Field("MultiRcvSizeX", AcrossOf(r.multiSize));
-    f.Field("MultiRcvSizeY", DownOf(r.multiSize));
-    f.Field("MultiOrdered", SaysOrdered(r), FieldUse::IfPresent);
+    f.Field("IsMultiCabinet", FlagInFile::Multi(r), FieldUse::IfPresent);
+    f.Field("IsMultiFixed", FlagInFile::Fixed(r), FieldUse::IfPresent);
+    SizeFields(f, "MultiRcvSizeX", "MultiRcvSizeY", r.multiSize);
+    f.Field("MultiOrdered", FlagInFile::Ordered(r), FieldUse::IfPresent);
     static constexpr const char* kLine[kMaxReceiversInTile] = {
         "MultiLine_0", "MultiLine_1", "MultiLine_2", "MultiLine_3", "MultiLine_4",
         "MultiLine_5", "MultiLine_6", "MultiLine_7", "MultiLine_8", "MultiLine_9"};

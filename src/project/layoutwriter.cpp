@@ -2,7 +2,7 @@
 
 #include "common/failure.h"
 #include "common/texts.h"
-#include "layout/tile.h"
+#include "layout/tileaccess.h"
 #include "project/layoutdescription.h"
 #include "project/readreport.h"
 
@@ -26,7 +26,7 @@ void WriteTiles(XmlWriter& writer, std::string_view name, const CTileSet& tiles)
     fields.Field(kTileCount, tiles.GetCount());
     for (int i = 0; i < tiles.GetCount(); ++i) {
         writer.BeginElement(Numbered(kTile, i + 1));
-        DescribeTile(fields, static_cast<const TileFields&>(*tiles.GetTile(i)->GetData()));
+        DescribeTile(fields, static_cast<const TileFields&>(*TileAccess::Data(*tiles.GetTile(i))));
         writer.EndElement();
     }
     writer.EndElement();

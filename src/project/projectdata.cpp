@@ -149,24 +149,23 @@ bool CProjectData::GetRcvParamGamma(const SMD5& type, float* gamma) const
 void CProjectData::DeleteRcvParamGamma(const SMD5& type)
 {
     const auto isType = [&type](const SRcvParamGamma& row) { return row.type == type; };
-    m_state.gamma.erase(std::remove_if(m_state.gamma.begin(), m_state.gamma.end(), isType), m_state.gamma.end());
+    m_state.gamma.erase(std::remove_if(m_state.gamma.begin(), m_state.gamma.end(), isType),
+                        m_state.gamma.end());
 }
 
-bool CProjectData::IsOpenDocument() const
+CProjectUndoRedo* CProjectData::History() const
 {
-    return GetProjectLookup()->IsOpenDocument(this);
+    return GetProjectLookup()->IsOpenDocument(this) ? GetProjectLookup()->History() : nullptr;
 }
 
 void CProjectData::MarkModified() const
 {
-    CProjectUndoRedo* history = IsOpenDocument() ? GetProjectLookup()->History() : nullptr;
-    if (history)
+    if (CProjectUndoRedo* history = History())
         history->PrjModify();
 }
 
 void CProjectData::RestartHistory() const
 {
-    CProjectUndoRedo* history = IsOpenDocument() ? GetProjectLookup()->History() : nullptr;
-    if (history)
+    if (CProjectUndoRedo* history = History())
         history->Init();
 }

@@ -12,6 +12,7 @@
 
 class CCustomProgressbar;
 class CPort;
+class CProjectUndoRedo;
 class CSender;
 class CTileGroupSet;
 class CTileSet;
@@ -39,13 +40,13 @@ public:
     void SetCurProjectName(const QString& name) { m_state.projectName = name; }
 
     // senders
-    CSender* NewSender();                ///< [ref] appended; current only when it is the first
-    void AddSender(CSender* sender);     ///< [own]
+    CSender* NewSender();            ///< [ref] appended; current only when it is the first
+    void AddSender(CSender* sender); ///< [own]
     CSender* GetSender(int index) const { return m_senders.value(index); } ///< [ref]
     int GetSenderCount() const { return m_senders.size(); }
     QList<CSender*> GetSenders() const { return m_senders; } ///< [ref]
     int GetScIndexByID(const QUuid& id) const;
-    void SetCurrentSender(int index);  ///< ignored out of range
+    void SetCurrentSender(int index);                                              ///< ignored out of range
     CSender* GetCurrentSender() const { return GetSender(m_state.currentSender); } ///< [ref]
     int GetCurSenderIndex() const { return m_state.currentSender; }
     int GetCurSenderIndexForRtCnnt() const; ///< 0 when the current index names no sender
@@ -231,7 +232,7 @@ public:
     static void InsertNodeAttribute(QDomElement* element, const QString& name, const QString& value);
 
 private:
-    bool IsOpenDocument() const;
+    CProjectUndoRedo* History() const; ///< [ref] of the open document, else null
     void MarkModified() const;
     void RestartHistory() const;
     void RemoveSenderAt(int index);

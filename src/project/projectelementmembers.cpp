@@ -92,7 +92,8 @@ void CProjectData::ReadDemoModeInfo(QDomDocument, QDomElement* element)
 
 void CProjectData::WriteSenderGroup(QDomDocument document, QDomElement* parent)
 {
-    WriteInto(document, parent, [this](XmlWriter& writer) { WriteList(writer, kSenderGroupList, m_state.groups); });
+    WriteInto(document, parent,
+              [this](XmlWriter& writer) { WriteList(writer, kSenderGroupList, m_state.groups); });
 }
 
 void CProjectData::ReadSenderGroup(QDomDocument, QDomElement* element)
@@ -122,7 +123,8 @@ void CProjectData::ReadPrintData(QDomDocument, QDomElement* element)
 
 void CProjectData::WriteMonitorSet(QDomDocument document, QDomElement* parent)
 {
-    WriteInto(document, parent, [this](XmlWriter& writer) { WriteMonitor(writer, MakeMonitorRecord(*this)); });
+    WriteInto(document, parent,
+              [this](XmlWriter& writer) { WriteMonitor(writer, MakeMonitorRecord(*this)); });
 }
 
 void CProjectData::ReadMonitorSet(QDomDocument, QDomElement* element)
@@ -146,9 +148,8 @@ void CProjectData::ReadParameterFileInfo(QDomDocument, QDomElement* element)
 
 void CProjectData::WriteSender(QDomDocument document, QDomElement* parent, CCustomProgressbar* progress)
 {
-    WriteInto(document, parent, [this, progress](XmlWriter& writer) {
-        WriteSenders(writer, m_senders, Reports(progress));
-    });
+    WriteInto(document, parent,
+              [this, progress](XmlWriter& writer) { WriteSenders(writer, m_senders, Reports(progress)); });
 }
 
 bool CProjectData::ReadSender(QDomDocument, QDomElement* element, QString&, CCustomProgressbar* progress)

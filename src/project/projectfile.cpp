@@ -101,8 +101,7 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     m_lastFileError.clear();
     const auto write = [&](XmlWriter& writer) { WriteDocument(writer, *this, m_state, progress); };
     QLockFile lock(parameterwork::LockPath());
-    if (!IsWithinLimits(m_senders, m_state, &m_lastFileError)
-        || !TakeWorkFolder(lock, path, &m_lastFileError)
+    if (!IsWithinLimits(m_senders, m_state, &m_lastFileError) || !TakeWorkFolder(lock, path, &m_lastFileError)
         || !WriteXml(parameterwork::ReplaceDocument, write, &m_lastFileError))
         return false;
 

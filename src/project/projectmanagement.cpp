@@ -45,21 +45,6 @@ void CProjectManagement::ClearProject()
         delete m_projects.takeLast();
 }
 
-int CProjectManagement::GetProjectCount() const
-{
-    return m_projects.size();
-}
-
-bool CProjectManagement::GetNeedSave() const
-{
-    return m_needSave;
-}
-
-void CProjectManagement::SetNeedSave(bool needSave)
-{
-    m_needSave = needSave;
-}
-
 bool CProjectManagement::SaveMutiProject(QProgressDialog* dialog)
 {
     QString folder =

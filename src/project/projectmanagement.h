@@ -18,15 +18,15 @@ public:
     CProjectManagement& operator=(const CProjectManagement&) = delete;
     ~CProjectManagement();
 
-    void
-    AddProject(const CProjectData* project); ///< a copy; one of the same id is overwritten; null is ignored
+    /// A copy; one of the same id is overwritten; null is ignored.
+    void AddProject(const CProjectData* project);
     CProjectData* GetProjectData(const QUuid& id) const; ///< [ref] null when absent
     void DeleteProject(const QUuid& id);
     void ClearProject();
-    int GetProjectCount() const;
+    int GetProjectCount() const { return m_projects.size(); }
 
-    bool GetNeedSave() const; ///< kept for the host
-    void SetNeedSave(bool needSave);
+    bool GetNeedSave() const { return m_needSave; } ///< kept for the host
+    void SetNeedSave(bool needSave) { m_needSave = needSave; }
 
     /// Lets the user choose a folder and saves every project that has a device-set name there, as that name +
     /// ".prj", a later one of the same name with " (2)" behind it. Files of the names are replaced. False

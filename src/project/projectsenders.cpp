@@ -146,8 +146,7 @@ void CProjectData::RemoveSenderAt(int index)
     CSender* sender = m_senders.takeAt(index);
     if (m_state.currentSender > index || m_state.currentSender >= m_senders.size())
         --m_state.currentSender;
-    CProjectUndoRedo* history = IsOpenDocument() ? GetProjectLookup()->History() : nullptr;
-    if (history)
+    if (CProjectUndoRedo* history = History())
         history->SenderUndoRedoRelease(sender->GetId());
     delete sender;
     MarkModified();
@@ -201,7 +200,7 @@ bool CProjectData::DeleteSender(int index, bool ask, bool keepImages, bool selec
     if (m_senders.size() == 1)
         m_senders.first()->SetOffset(QSize(0, 0));
     SetCurrentSender(qBound(0, selectPrevious ? index - 1 : index, m_senders.size() - 1));
-    if (IsOpenDocument() && GetProjectLookup()->CurSelectNode() != m_state.currentSender)
+    if (GetProjectLookup()->IsOpenDocument(this) && GetProjectLookup()->CurSelectNode() != m_state.currentSender)
         GetProjectLookup()->SetCurSelectNode(m_state.currentSender);
     RenameImages(index, countBefore, keepImages);
     return true;

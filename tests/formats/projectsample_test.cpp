@@ -17,8 +17,8 @@ const QUuid kLeft(QStringLiteral("{c95ad16b-6333-4764-bb20-9ee65602cbb4}"));
 const QUuid kRight(QStringLiteral("{0b6a8f0e-27a5-4c57-8f3c-6f3d1a4e9b21}"));
 
 /// The numbers of children are needed to reach them; a place says itself which port it is.
-const QRegularExpression
-    kStructure(QStringLiteral("^((Sender|SenderGroup|Port|Tile|Group|Item)?Count|PortIndex)$"));
+const QRegularExpression kStructure(
+    QStringLiteral("^((Sender|SenderGroup|Port|Tile|Group|Item)?Count|PortIndex)$"));
 
 std::string RotationRow(const SRotateParam& r)
 {

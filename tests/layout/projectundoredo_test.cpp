@@ -2,7 +2,7 @@
 
 #include "layout/layoutsnapshot.h"
 #include "layout/tile.h"
-#include "layout/tiledata.h"
+#include "layout/tileaccess.h"
 #include "layout/tilegroup.h"
 #include "support/wallbuilder.h"
 
@@ -59,7 +59,7 @@ struct PlainPort
     explicit PlainPort(CPort& port) : groups(GroupSnapshot::Take(GroupsOf(port), {}))
     {
         for (const CTile* tile : TilesOf(port).GetTiles())
-            tiles.push_back(*tile->GetData());
+            tiles.push_back(*TileAccess::Data(*tile));
     }
 
     bool operator==(const PlainPort& other) const
@@ -110,7 +110,7 @@ void EditAnyhow(CSender& sender, QRandomGenerator* random)
     CTile* tile = tiles.GetTile(value % count);
     const auto turnBehindPointers = [&] {
         for (CTile* each : tiles.GetTiles()) {
-            if (each->GetData()->handedOut)
+            if (TileAccess::Data(*each)->handedOut)
                 const_cast<SRotateParam&>(each->GetRotateRecord()).angle = value % 170;
         }
     };

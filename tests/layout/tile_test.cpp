@@ -3,7 +3,7 @@
 
 #include "common/interfacedlg.h"
 #include "layout/layouthelpers.h"
-#include "layout/tiledata.h"
+#include "layout/tileaccess.h"
 #include "layout/tileset.h"
 #include "support/wallbuilder.h"
 
@@ -106,7 +106,7 @@ TEST(TileTest, EveryFieldCountsInComparisonAndWritingItLeavesCopiesAlone)
     copy.SetMultiRcvsLine(line);
     copy.SetConnectionIndex(-1, nullptr);
     copy.Offset(0, 0);
-    EXPECT_EQ(copy.GetData(), source.GetData());
+    EXPECT_EQ(TileAccess::Data(copy), TileAccess::Data(source));
 }
 
 TEST(TileTest, ViewStateIsNeitherCopiedNorCompared)

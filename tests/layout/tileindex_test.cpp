@@ -1,4 +1,5 @@
 #include "layout/layouthelpers.h"
+#include "layout/tileaccess.h"
 #include "support/wallbuilder.h"
 
 #include <gtest/gtest.h>
@@ -125,7 +126,7 @@ private:
     void TakeBack(CTile* tile)
     {
         if (m_earlier)
-            tile->SetData(m_earlier->GetData());
+            TileAccess::SetData(*tile, TileAccess::Data(*m_earlier));
         m_earlier = std::make_unique<CTile>(*Any(m_all));
     }
 

@@ -74,12 +74,12 @@ std::unique_ptr<CSender> MakeWall(int columns, int rows, int ports)
 
 CTileSet& TilesOf(CPort& port)
 {
-    return *port.GetPortProject()->GetTileSet();
+    return port.GetTiles();
 }
 
 CTileGroupSet& GroupsOf(CPort& port)
 {
-    return *port.GetPortProject()->GetTileGroupSet();
+    return port.GetGroups();
 }
 
 void NestGroups(CPort& port, const QUuid& parent, std::initializer_list<QUuid> children)

@@ -13,7 +13,7 @@ CSender& ToolsTest::Build(const QSize& grid, int ports, int order)
 
 CTileSet& ToolsTest::Tiles(int port, int sender)
 {
-    return *Project().GetSender(sender)->GetPort(port)->GetPortProject()->GetTileSet();
+    return Project().GetSender(sender)->GetPort(port)->GetTiles();
 }
 
 void ToolsTest::Turn(int port, double angle)

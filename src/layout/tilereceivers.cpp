@@ -1,0 +1,136 @@
+// The receiving cards inside a cabinet: their grid, wiring and selection.
+#include "common/saturated.h"
+#include "layout/tileaccess.h"
+
+#include <cstring>
+#include <limits>
+
+namespace {
+
+bool IsReceiverIndex(int index)
+{
+    return index >= 0 && index < kMaxReceiversInTile;
+}
+
+} // namespace
+
+bool CTile::IsRcvSelected(int index) const
+{
+    return IsReceiverIndex(index) && (m_rcvSelected >> index & 1) != 0;
+}
+
+void CTile::SetRcvSelected(int index, bool selected)
+{
+    if (!IsReceiverIndex(index))
+        return;
+    const unsigned bit = 1U << index;
+    m_rcvSelected = static_cast<unsigned short>(selected ? m_rcvSelected | bit : m_rcvSelected & ~bit);
+}
+
+void CTile::SetBeMultiRcvsTile(bool multi)
+{
+    Store(&TileData::multi, multi);
+    if (!multi)
+        Store(&TileData::ordered, false);
+}
+
+bool CTile::IsMultiRcvTile() const
+{
+    return m_data->multi;
+}
+
+void CTile::SetBeMultiFixedLine(bool fixed)
+{
+    Store(&TileData::fixedLine, fixed && m_data->multi);
+}
+
+bool CTile::IsMultiFixedLine() const
+{
+    return m_data->fixedLine;
+}
+
+void CTile::SetMultiRcvsOrdered(bool ordered)
+{
+    Store(&TileData::ordered, ordered || m_data->fixedLine);
+}
+
+bool CTile::IsMultiRcvsOrdered() const
+{
+    return m_data->ordered;
+}
+
+void CTile::SetMultiRcvsSize(const QSize& size)
+{
+    Store(&TileData::multiSize, size);
+}
+
+QSize CTile::GetMultiRcvsSize() const
+{
+    return m_data->multiSize;
+}
+
+int CTile::GetMultiRcvsCount() const
+{
+    const QSize size = m_data->multiSize;
+    const qint64 count = qint64(size.width()) * size.height();
+    return size.width() < 0 || count < 0 || count > std::numeric_limits<int>::max() ? 0
+                                                                                    : static_cast<int>(count);
+}
+
+void CTile::SetMultiRcvsLine(const unsigned char* line)
+{
+    const auto count = static_cast<size_t>(qMin(GetMultiRcvsCount(), kMaxReceiversInTile));
+    if (line && count > 0 && std::memcmp(m_data->line, line, count) != 0)
+        std::memmove(Write().line, line, count);
+}
+
+unsigned char* CTile::GetMultiRcvsLine()
+{
+    TileData& data = Write();
+    data.handedOut = true;
+    return data.line;
+}
+
+unsigned char CTile::GetMultiRcvsLineCode(int index) const
+{
+    return IsReceiverIndex(index) ? m_data->line[index] : static_cast<unsigned char>(0);
+}
+
+QRect CTile::GetMultiRcvRect(int index)
+{
+    if (index < 0 || index >= GetMultiRcvsCount())
+        return QRect();
+    const QRect cell = CellRect(index);
+    return SaturatedRect(qint64(GetX()) + cell.x(), qint64(GetY()) + cell.y(), cell.width(), cell.height());
+}
+
+QRect CTile::GetMultiRcvRelativeRect(int index)
+{
+    return index < GetMultiRcvsCount() ? CellRect(index) : QRect();
+}
+
+QRect CTile::CellRect(int index)
+{
+    const qint64 place = m_data->ordered ? index : qint64(GetMultiRcvsCount()) - 1 - index;
+    const int code = GetMultiRcvsLineCode(SaturatedInt(place));
+    qint64 width = 1;
+    qint64 height = 1;
+    if (m_data->multiSize.width() == 0 || m_data->multiSize.height() == 0) {
+        Store(&TileData::multiSize, GetSize()); // a cabinet without a grid is repaired on first use
+    } else {
+        width = qint64(GetWidth()) / m_data->multiSize.width();
+        height = qint64(GetHeight()) / m_data->multiSize.height();
+    }
+    const int rows = m_data->multiSize.height() == 0 ? 1 : m_data->multiSize.height();
+    return SaturatedRect(code / rows * width, code % rows * height, width, height);
+}
+
+void CTile::SetMultiRcvDemarcateIndex(int index)
+{
+    Store(&TileData::demarcateIndex, index);
+}
+
+int CTile::GetMultiRcvDemarcateIndex() const
+{
+    return m_data->demarcateIndex;
+}
