@@ -36,7 +36,7 @@ const CTileGroup* GroupIndex::TopGroup(const QUuid& id) const
 
 namespace {
 
-// Appends the tiles of each id in turn; those of one id in list order.
+/// Appends the tiles of each id in turn; those of one id in list order.
 void AppendTilesOfIds(CTileSet& out, const CTileSet& tiles, const QList<QUuid>& ids)
 {
     QHash<QUuid, size_t> places;

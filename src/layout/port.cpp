@@ -99,8 +99,8 @@ QRect CPort::GetBound() const
 
 CTileSet* CPort::GetPortTileSetOrBackupSrc()
 {
-    // Only one step: the layout of a source that is a backup itself is its own, so that two ports that back
-    // up each other end here too.
+    // One step only: a source that is a backup itself shows its own layout. So two ports that back up each
+    // other end here too.
     CPort* source = this;
     if (IsBackupDest()) {
         const QUuid id = GetBackupSrcSenderId();

@@ -18,7 +18,8 @@ namespace {
 
 constexpr int kView = InterfaceDesign; ///< the view whose selection is edited
 
-QPoint Rounded(double x, double y) ///< half away from zero
+/// Half away from zero.
+QPoint Rounded(double x, double y)
 {
     constexpr double far = kFar;
     return QPoint(static_cast<int>(std::round(qBound(-far, x, far))),
@@ -47,7 +48,7 @@ SRotateParam TileRecord(const CTile& tile)
     return record;
 }
 
-// What all cabinets of the block have in common, so that the product is looked up once.
+/// What all cabinets of the block have in common, so that the product is looked up once.
 CTile BlockPattern(const SAddTileInfo& info, const QUuid& groupId)
 {
     CTile pattern;
@@ -65,7 +66,7 @@ CTile BlockPattern(const SAddTileInfo& info, const QUuid& groupId)
     return pattern;
 }
 
-// Deletes the selected groups with everything below them, and the selected ones below those that stay.
+/// Deletes the selected groups with everything below them, and the selected ones below those that stay.
 void DeleteSelectedGroups(CTileGroupSet& level)
 {
     CTileGroupSet doomed;
@@ -86,7 +87,7 @@ void DeleteSelectedGroups(CTileGroupSet& level)
     doomed.DeleteAll();
 }
 
-// Whether cabinets of one size fill a grid that starts at their common corner, one in each cell.
+/// Whether cabinets of one size fill a grid that starts at their common corner, one in each cell.
 bool FillGrid(const CTileSet& tiles)
 {
     CTile* first = tiles.GetTile(0);
@@ -126,8 +127,8 @@ bool FillGrid(const CTileSet& tiles)
     return true;
 }
 
-// Turns a cabinet, as it shows, by the angle of `turn` about the centre of `turn`. Its own centre turns along
-// unrounded, so that rounding of the place does not add up over many turns.
+/// Turns a cabinet by the angle of `turn` about the centre of `turn`. Its own centre is kept unrounded, so
+/// that rounding does not add up over many turns.
 void TurnTile(CTile& tile, const SRotateParam& turn)
 {
     SRotateParam record = tile.GetRotateRecord();
@@ -138,7 +139,7 @@ void TurnTile(CTile& tile, const SRotateParam& turn)
         if (onPivot || IsRotationAngle(record.angle)) {
             corner = QPointF(tile.GetX() - record.centerX, tile.GetY() - record.centerY);
         } else {
-            // Not turned yet, its centre is only left over from before a move or a change of size.
+            // Not turned yet: its centre is left over from before it was moved or resized.
             record.centerX = tile.GetX() - corner.x();
             record.centerY = tile.GetY() - corner.y();
         }
@@ -148,7 +149,7 @@ void TurnTile(CTile& tile, const SRotateParam& turn)
     record.centerY = centre.y;
     record.angle = NormalizedAngle(record.angle + turn.angle);
     record.rotated = IsRotationAngle(record.angle);
-    // Not clamped: what is turned may lie on the canvas while its left top, before turning, does not.
+    // Not clamped: a turned cabinet may lie on the canvas while its unturned left top does not.
     const QPoint place = Rounded(centre.x + corner.x(), centre.y + corner.y());
     tile.Offset(SaturatedInt(qint64(place.x()) - tile.GetX()), SaturatedInt(qint64(place.y()) - tile.GetY()));
     tile.SetTileRotateParam(&record);

@@ -6,8 +6,8 @@
 #include <QRect>
 #include <QSize>
 
-// Directions of numbering inside one strip of cells. Which of the two codes of one direction a pattern uses
-// tells the corner it began at.
+// Directions of numbering inside one strip of cells. Each has two codes; which one a pattern uses tells the
+// corner that it began at.
 constexpr int kDirectionCount = 8;
 
 /// Where a point stands along a direction code 0 to 7: 0 and 1 run right, 2 and 3 left, 4 and 5 down, 6 and 7

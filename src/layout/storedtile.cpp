@@ -1,6 +1,5 @@
 #include "layout/storedtile.h"
 
-#include "common/saturated.h"
 #include "layout/corners.h"
 #include "layout/tileaccess.h"
 #include "layout/tileset.h"
@@ -10,22 +9,15 @@
 
 namespace {
 
-constexpr int kLowestStoredPlace = -131072;
-
 /// A negative place stays, because the offset of a sender makes it legal.
-int StoredOnCanvas(int value, int canvas, int size)
-{
-    if (value < kLowestStoredPlace)
-        return 0;
-    return value < canvas ? value : SaturatedInt(qint64(canvas) - size);
-}
+constexpr int kLowestStoredPlace = -131072;
 
 void Place(TileFields& fields)
 {
     fields.width = std::min(fields.width, kMaxCabinetSize);
     fields.height = std::min(fields.height, kMaxCabinetSize);
-    fields.x = StoredOnCanvas(fields.x, kMaxCanvasWidth, fields.width);
-    fields.y = StoredOnCanvas(fields.y, kMaxCanvasHeight, fields.height);
+    fields.x = PlaceOnCanvas(fields.x, kMaxCanvasWidth, fields.width, kLowestStoredPlace);
+    fields.y = PlaceOnCanvas(fields.y, kMaxCanvasHeight, fields.height, kLowestStoredPlace);
     fields.rotate.rotated = IsRotationAngle(fields.rotate.angle);
 }
 
@@ -84,8 +76,8 @@ void DeriveBeginReceivers(const CTileSet& tiles)
     if (!std::is_sorted(chain.begin(), chain.end(), before))
         std::stable_sort(chain.begin(), chain.end(), before);
 
-    const CTile* previous = nullptr; // the first, in list order, of the place before in the chain
-    const CTile* first = nullptr;    // the same of the place itself
+    const CTile* previous = nullptr; // the first in the list that stands one place before in the chain
+    const CTile* first = nullptr;    // the first in the list at the place itself
     for (CTile* tile : chain) {
         const int index = tile->GetConnectionIndex();
         if (!first || first->GetConnectionIndex() != index) {
@@ -95,7 +87,6 @@ void DeriveBeginReceivers(const CTileSet& tiles)
         if (index == 0)
             tile->SetBeginRcvCnnt(0);
         else if (previous)
-            tile->SetBeginRcvCnnt(
-                SaturatedInt(qint64(previous->GetMultiRcvsCount()) + previous->GetBeginRcvCnnt()));
+            tile->SetBeginRcvCnnt(TileAccess::Data(*previous)->GetNextBegin());
     }
 }

@@ -43,6 +43,6 @@ private:
     bool m_known = false;
 };
 
-/// Begin receiver connections follow from the finished wiring: cabinets may be stored in any order, and each
-/// takes its predecessor's as CTile::SetConnectionIndex would, so they are derived along the chain.
+/// Derives the begin receiver connections along the chain, each as CTile::SetConnectionIndex would. This
+/// comes last, because a file may list cabinets in any order.
 void DeriveBeginReceivers(const CTileSet& tiles);

@@ -20,13 +20,6 @@ unsigned char ViewBit(int iface)
     return iface >= 0 && iface < kInterfaceCount ? kViewBits[iface] : static_cast<unsigned char>(0);
 }
 
-int OnCanvas(int value, int canvas, int size)
-{
-    if (value < 0)
-        return 0;
-    return value < canvas ? value : SaturatedInt(qint64(canvas) - size);
-}
-
 const CTileSet* SetOfOwnPort(const TileData& data)
 {
     const CSender* sender = GetLayoutLookup()->FindSender(data.senderId);
@@ -59,13 +52,13 @@ bool CTile::operator==(const CTile& other) const
 
 bool CTile::SetX(int x)
 {
-    StorePlace(&TileData::x, OnCanvas(x, kMaxCanvasWidth, GetWidth()));
+    StorePlace(&TileData::x, PlaceOnCanvas(x, kMaxCanvasWidth, GetWidth()));
     return x >= 0 && x < kMaxCanvasWidth;
 }
 
 bool CTile::SetY(int y)
 {
-    StorePlace(&TileData::y, OnCanvas(y, kMaxCanvasHeight, GetHeight()));
+    StorePlace(&TileData::y, PlaceOnCanvas(y, kMaxCanvasHeight, GetHeight()));
     return y >= 0 && y < kMaxCanvasHeight;
 }
 
@@ -259,7 +252,7 @@ void CTile::SetConnectionIndex(int index, CTileSet* set)
     const CTileSet* chain = set ? set : SetOfOwnPort(*m_data);
     const CTile* before = chain ? chain->GetTileByConnection(index - 1) : nullptr;
     if (before)
-        SetBeginRcvCnnt(SaturatedInt(qint64(before->GetMultiRcvsCount()) + before->GetBeginRcvCnnt()));
+        SetBeginRcvCnnt(before->m_data->GetNextBegin());
 }
 
 int CTile::GetBeginRcvCnnt() const
@@ -291,7 +284,7 @@ void CTile::SetTileRotateParam(const SRotateParam* param)
 {
     if (!param)
         return;
-    SRotateParam record = *param; // a copy: it may lie in the data that is left now
+    SRotateParam record = *param; // a copy: it may lie in the data that Write() leaves
     record.rotated = record.rotated || record.angle > kNoAngle;
     Write().rotate = record;
     ChangeJournal::places.Append(this);

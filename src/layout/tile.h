@@ -30,9 +30,8 @@ public:
     bool operator!=(const CTile& other) const { return !(*this == other); }
 
     // place and size: canvas pixels, origin top left, y grows downwards
-    /// Clamps the left edge, not the right one: a place on the canvas stays even where the cabinet reaches
-    /// beyond it. False for others: one left of it becomes 0, one right of it lets the present width end
-    /// there.
+    /// A place on the canvas is taken, even where the cabinet then reaches beyond the edge. False for others:
+    /// left of the canvas becomes 0, right of it the place at which the cabinet ends at the edge.
     bool SetX(int x);
     bool SetY(int y);           ///< the same with the top, and the present height
     void SetWidth(int width);   ///< at most 1024, no lower bound

@@ -1,6 +1,28 @@
 #include "layout/tiledata.h"
 
+#include "common/saturated.h"
+
 #include <cstring>
+#include <limits>
+
+int PlaceOnCanvas(int place, int canvas, int size, int lowest)
+{
+    if (place < lowest)
+        return 0;
+    return place < canvas ? place : SaturatedInt(qint64(canvas) - size);
+}
+
+int TileFields::GetReceiverCount() const
+{
+    const qint64 count = qint64(multiSize.width()) * multiSize.height();
+    const bool isCount = multiSize.width() >= 0 && count >= 0 && count <= std::numeric_limits<int>::max();
+    return isCount ? static_cast<int>(count) : 0;
+}
+
+int TileFields::GetNextBegin() const
+{
+    return SaturatedInt(qint64(GetReceiverCount()) + beginRcvCnnt);
+}
 
 bool TileFields::IsEqual(const TileFields& other) const
 {

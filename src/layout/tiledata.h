@@ -9,8 +9,12 @@
 #include <QSize>
 #include <QUuid>
 
-/// What a cabinet is made of, apart from view state. A wall holds one record a cabinet, so mind the size;
-/// what walks over whole walls read stands in front, within a line or two of the cache.
+/// A left or top edge brought onto the canvas: 0 when it is below `lowest`, and the place at which the
+/// cabinet ends at the edge when it is beyond the canvas.
+int PlaceOnCanvas(int place, int canvas, int size, int lowest = 0);
+
+/// What a cabinet is made of, apart from view state. Each cabinet of a wall has one, so mind the size. What
+/// walks over whole walls read stands in front, within a line or two of the cache.
 struct TileFields
 {
     int x = 0;
@@ -33,6 +37,8 @@ struct TileFields
     SMD5 type;
     unsigned char line[kMaxReceiversInTile] = {}; ///< cell code of each inner receiving card
 
+    int GetReceiverCount() const; ///< 0 when the size is negative or its product does not fit
+    int GetNextBegin() const;     ///< the begin receiver connection of the next cabinet in the chain
     bool IsEqual(const TileFields& other) const;
     bool IsSamePlace(const TileFields& other) const; ///< place, size and rotation, without tolerance
 };

@@ -3,7 +3,6 @@
 #include "layout/tileaccess.h"
 
 #include <cstring>
-#include <limits>
 
 namespace {
 
@@ -71,10 +70,7 @@ QSize CTile::GetMultiRcvsSize() const
 
 int CTile::GetMultiRcvsCount() const
 {
-    const QSize size = m_data->multiSize;
-    const qint64 count = qint64(size.width()) * size.height();
-    return size.width() < 0 || count < 0 || count > std::numeric_limits<int>::max() ? 0
-                                                                                    : static_cast<int>(count);
+    return m_data->GetReceiverCount();
 }
 
 void CTile::SetMultiRcvsLine(const unsigned char* line)

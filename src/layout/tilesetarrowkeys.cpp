@@ -9,8 +9,8 @@
 
 namespace {
 
-/// How far a rectangle lies from the place that an arrow key starts at; less is nearer. Gap, then squared
-/// distance of the centres in half pixels; real numbers, since a host may move tiles anywhere.
+/// How far a rectangle lies from the place that an arrow key starts at: first the gap, then the squared
+/// distance of the centres in half pixels. Real numbers, since a host may move tiles anywhere.
 using Distance = std::pair<double, double>;
 
 constexpr double kInfinite = std::numeric_limits<double>::infinity();

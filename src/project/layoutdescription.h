@@ -26,13 +26,13 @@ constexpr char kGroupCount[] = "GroupCount";
 constexpr char kGroup[] = "TileGroup";
 constexpr int kMaxGroupDepth = 1000;
 
-// What a file may hold, so that a hostile one does not fill the memory. Of cabinets and groups that is about
-// what a document of the largest size has room for once it is written again.
+// The most that a file may hold, so that a hostile one does not fill the memory. Of cabinets and groups it is
+// about what fits into a document of the largest size when it is written again.
 constexpr int kMaxSenders = 1024;
 constexpr int kMaxTilesOfFile = static_cast<int>(kMaxXmlBytes / 512);
 constexpr int kMaxGroupsOfFile = static_cast<int>(kMaxXmlBytes / 256);
 
-// Bytes that each takes at least when it is written.
+// The least bytes that each takes in a file.
 constexpr int kLeastBytesOfTile = 600;
 constexpr int kLeastBytesOfGroup = 240;
 
@@ -130,8 +130,8 @@ template <class Fields, class Record> void DescribeRotation(Fields& f, Record& r
 template <class Fields, class Record> void DescribeTile(Fields& f, Record& r)
 {
     f.Field("SenderId", r.senderId);
-    // Written under one name, looked for under another: files in the field rely on the port read in giving
-    // it.
+    // Written under one name, looked for under another: files in the field rely on a cabinet taking the index
+    // of the port that it is read into.
     f.Field("PortIndex", r.portIndex, FieldUse::NeverRead);
     f.Field("portIndexr", r.portIndex, FieldUse::NeverWritten);
     f.Field("index", r.connectionIndex);

@@ -69,8 +69,8 @@ bool WriteFile(const QString& path, const std::function<void(XmlWriter&)>& write
     return WriteXml(replace, write, &error);
 }
 
-/// Ids that are used elsewhere, and the fresh ones for those of them that are met: one for each, as a group
-/// may lie on several ports.
+/// Ids that are used elsewhere, and one fresh id for each of them that is met: a group may lie on several
+/// ports.
 struct GroupIds
 {
     QSet<QUuid> used;

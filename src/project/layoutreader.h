@@ -13,9 +13,9 @@
 #include <string>
 #include <vector>
 
-// Readers of the layout elements, for a stream and for a DOM tree alike. They fill what they are told to fill
-// when their element ends, and say in the report what they passed over. Once the report refuses the file they
-// fill nothing any more; what they filled before is for the caller to drop.
+// Readers of the layout elements, for a stream and for a DOM tree alike. A reader fills its target when
+// its element ends and tells the report what it passed over. Once the report refuses the file, layouts are no
+// longer written to; what was filled before is for the caller to drop.
 
 /// The cabinets of one port.
 class TileSetReader : public XmlHandler
@@ -67,7 +67,7 @@ public:
     /// [ref] `left`: how many groups of the file are still read.
     GroupLevelReader(ReadReport& report, int& left, int depth);
 
-    /// [ref] The group whose element is read, and the name of that: its children's begin with it.
+    /// [ref] The group to fill, and the name of its element, with which its children's names begin.
     void SetTarget(CTileGroup* group, std::string_view name);
     int GetCount() const { return m_children->GetCount(); } ///< what the element states
 

@@ -32,7 +32,7 @@ public:
     }
     int GetCount() const { return m_count; }
 
-    /// Whether a child of this name is wanted, which it is once; its number is that of the next item added.
+    /// Whether a child of this name is wanted, which it is once. The next item added has its number.
     bool Expect(std::string_view name)
     {
         if (m_report.IsRefused())

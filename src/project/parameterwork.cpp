@@ -38,7 +38,7 @@ bool IsParameterFile(const QString& name)
 /// Whether packing and unpacking put something of that name into the project folder.
 bool IsOurs(const QString& name)
 {
-    // What a copying or unpacking that was killed left.
+    // Left by a copying or unpacking that was killed.
     static const QRegularExpression leftovers(QStringLiteral("\\A(qt_temp\\.\\w{6}|\\..+\\.part)\\z"));
     return name == kDocument || IsParameterFile(name) || leftovers.match(name).hasMatch();
 }
@@ -89,8 +89,8 @@ bool Replace(const QString& source, const QString& target, QString* error)
     return OpenInput(file, error) && ReplaceWorkFile(target, copy, error);
 }
 
-/// How far a copy came. A file that cannot be read costs itself; where nothing can be written any more, the
-/// archive that is there keeps what it has.
+/// How far a copy came. A file that cannot be read is left out; when nothing can be written any more, the
+/// archive stays as it is.
 enum class Copied
 {
     Yes,
@@ -117,8 +117,8 @@ Copied CopyAnew(const QString& source, const QString& target, qint64 most, QStri
 }
 
 /// Copies the row's file to where it is packed: the project's own, or the library's when that is not of the
-/// row's type and the library's can be had. The copy is looked at: another program may replace the original.
-/// `error` stays empty when there is no file.
+/// row's type and the library's can be had. The digest is the copy's: another program may replace the
+/// original. `error` stays empty when there is no file.
 Copied CopyForPacking(const SParameterFileInfo& row, const CProductDirectorySet* products,
                       const QString& target, qint64 most, QString* error)
 {
@@ -136,7 +136,8 @@ Copied CopyForPacking(const SParameterFileInfo& row, const CProductDirectorySet*
     return takeOwn ? CopyAnew(own, target, most, error) : fromLibrary;
 }
 
-/// A product is told by its digest: the library keeps the file it has, and never loses one to another's name.
+/// Products are told apart by their digests. The library keeps each file it has, whatever the new one is
+/// named.
 bool OfferToLibrary(const QString& source, const SParameterFileInfo& row, QSet<SMD5>& known)
 {
     const SMD5 digest = CConstantData::GetMD5FromFile(source);
@@ -149,8 +150,8 @@ bool OfferToLibrary(const QString& source, const SParameterFileInfo& row, QSet<S
     return true;
 }
 
-/// The digests of all products in the product folder, as it is now: a copy of one of them would make the next
-/// scan take one of the two away.
+/// The digests of all products that are now in the product folder. Of two equal files the next scan would
+/// take one away.
 QSet<SMD5> DigestsInFolder(CProductDirectorySet& products)
 {
     QSet<SMD5> digests;
@@ -177,7 +178,7 @@ void ReportUnsaved(const SParameterFileInfo& row, const QString& why, ReadReport
     report.Add(Texts::tr("参数文件“%1”无法保存：%2").arg(row.name, why));
 }
 
-/// Unpacks what it can; why the others are not there, by the names of their entries.
+/// Unpacks what it can. Gives why the others are missing, by the names of their entries.
 QHash<QString, QString> UnpackParameterFiles(const QString& archive, ReadReport& report)
 {
     const auto isParameterFile = [](const QString& name) {
@@ -288,7 +289,7 @@ bool ReplaceDocument(const std::function<bool(QIODevice&)>& write, QString* erro
     const auto fail = [&next, error] {
         return Fail(error, CannotWrite(next.fileName(), next.errorString()));
     };
-    next.remove(); // a killed save's
+    next.remove(); // left by a save that was killed
     bool done =
         (next.open(QIODevice::WriteOnly | QIODevice::NewOnly) && write(next) && next.flush()) || fail();
     next.close();

@@ -4,6 +4,8 @@
 #include "monitor/monitorinterfacedata.h"
 #include "project/projectrecords.h"
 
+#include <type_traits>
+
 // What the elements of a project file hold, apart from the layout: each attribute named once, in the order
 // written. `Fields` is an attribute reader or writer, `Record` the record, constant when it is written.
 
@@ -58,15 +60,26 @@ template <class Fields, class Record> void DescribeParameterFile(Fields& f, Reco
     f.Field("Md5", r.type);
 }
 
-/// The monitoring settings as the file has them: lists as texts.
+// Lists that a file holds as one text.
+QString TextOf(const QList<SVideoInput>& inputs);      ///< "slot,sourceType,sourceIndex,enable;" an input
+QString TextOf(const QList<SMailReceiver>& receivers); ///< "address,name;" a receiver
+void ReadText(const QString& text, QList<SVideoInput>& inputs);
+void ReadText(const QString& text, QList<SMailReceiver>& receivers);
+
+template <class Fields, class List> void ListField(Fields& f, const char* name, List& list, FieldUse use)
+{
+    QString text = TextOf(list);
+    f.Field(name, text, use);
+    if constexpr (!std::is_const_v<List>)
+        ReadText(text, list);
+}
+
 struct MonitorRecord
 {
     int intervalTime = 10;
     SSenderSetting sender;
-    QString videoInputs;
     SRecevierSetting receiver;
     SEmailSetting mail;
-    QString mailReceivers;
     SLineSetting line;
 };
 
@@ -106,7 +119,7 @@ template <class Fields, class Record> void DescribeMonitor(Fields& f, Record& r)
     f.Field("SenderFreeze", r.sender.freeze, keep);
     f.Field("SenderBlackout", r.sender.blackout, keep);
     f.Field("SenderBrightneesZero", r.sender.brightnessZero, keep);
-    f.Field("SenderVideoInput", r.videoInputs, keep);
+    ListField(f, "SenderVideoInput", r.sender.videoInputs, keep);
     DescribeReceiverChecks(f, r.receiver);
     f.Field("MailEnable", r.mail.enable, keep);
     f.Field("MailErrorTimes", r.mail.errorTimes, keep);
@@ -116,7 +129,7 @@ template <class Fields, class Record> void DescribeMonitor(Fields& f, Record& r)
     f.Field("MailSenderServer", r.mail.server, keep);
     f.Field("MailSslEncryption", r.mail.sslEncryption, keep);
     f.Field("MailSenderPort", r.mail.serverPort, keep);
-    f.Field("MailReceivers", r.mailReceivers, keep);
+    ListField(f, "MailReceivers", r.mail.receivers, keep);
     f.Field("CableError", r.line.cableError, keep);
     f.Field("SelfBackup", r.line.selfBackup, keep);
 }

@@ -19,8 +19,8 @@
 namespace {
 
 constexpr int kLockTimeout = 30000; ///< milliseconds
-/// Milliseconds. No save takes that long, and it is less than the timeout: a program that was killed before
-/// it wrote its name into the lock file costs a wait.
+/// Milliseconds, longer than any save and less than the timeout. A program that was killed before it wrote
+/// its name into the lock file then costs no more than a wait.
 constexpr int kStaleLockTime = 20000;
 
 bool LockWorkFolder(QLockFile& lock)
@@ -28,7 +28,7 @@ bool LockWorkFolder(QLockFile& lock)
     lock.setStaleLockTime(kStaleLockTime);
     if (!lock.tryLock(kLockTimeout))
         return false;
-    // What a program left that was killed while it removed the lock of another one.
+    // Left by a program that was killed while it removed another one's lock.
     const QFileInfo info(parameterwork::LockPath());
     QDir folder(info.path());
     for (const QString& name : folder.entryList({info.fileName() + QStringLiteral(".rmlock*")}, QDir::Files))

@@ -11,7 +11,7 @@ struct ProjectContent
     MonitorRecord monitor;
 };
 
-/// Reads the document of a project file. What stands behind a version that is too new is passed over.
+/// Reads the document of a project file. Behind a version that is too new nothing is read.
 class ProjectReader : public XmlHandler
 {
 public:

@@ -64,7 +64,7 @@ struct ProjectFields
     QList<SParameterFileInfo> parameterFiles;
 };
 
-/// What a copy of a project takes beside the senders. Reading a file leaves who the project is.
+/// What a project holds beside its senders. A copy takes all of it; reading a file changes the fields alone.
 struct ProjectState : ProjectFields
 {
     QUuid id;

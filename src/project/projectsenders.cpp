@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Processors are looked for on the network, and the project follows, in this strategy alone.
+/// The one strategy in which the project follows the processors found on the network.
 constexpr int kStrategyFollowNetwork = 2;
 
 bool Confirms(QWidget* parent, const QString& question)
@@ -39,7 +39,7 @@ void RenameImages(int deleted, int countBefore, bool keep)
                       CConstantData::GetSenderBKImgName(i - 1, true));
 }
 
-/// What a sender that was found at an address is like, after the first sender of the project if there is one.
+/// Sets up a sender found at an address, like the first sender of the project if there is one.
 void SetUpDetected(CSender& sender, quint32 ip, const CSender* model)
 {
     if (model) {
@@ -200,7 +200,8 @@ bool CProjectData::DeleteSender(int index, bool ask, bool keepImages, bool selec
     if (m_senders.size() == 1)
         m_senders.first()->SetOffset(QSize(0, 0));
     SetCurrentSender(qBound(0, selectPrevious ? index - 1 : index, m_senders.size() - 1));
-    if (GetProjectLookup()->IsOpenDocument(this) && GetProjectLookup()->CurSelectNode() != m_state.currentSender)
+    if (GetProjectLookup()->IsOpenDocument(this)
+        && GetProjectLookup()->CurSelectNode() != m_state.currentSender)
         GetProjectLookup()->SetCurSelectNode(m_state.currentSender);
     RenameImages(index, countBefore, keepImages);
     return true;

@@ -19,32 +19,10 @@ QString WithoutSeparators(QString text)
 
 } // namespace
 
-QString CProjectData::GetMailReceiversString() const
-{
-    const CMonitorData* monitor = GetProjectLookup()->Monitor();
-    QString text;
-    if (!monitor)
-        return text;
-    const CMonitorInterfaceData data = monitor->GetInterfaceData();
-    for (const SMailReceiver& receiver : data.GetMailSetting().receivers)
-        text += WithoutSeparators(receiver.address) + QLatin1Char(',') + WithoutSeparators(receiver.name)
-                + QLatin1Char(';');
-    return text;
-}
-
-void CProjectData::SetReceiversFromString(SEmailSetting& setting, const QString& text)
-{
-    setting.receivers.clear();
-    for (const QString& receiver : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-        const int comma = receiver.indexOf(QLatin1Char(','));
-        setting.receivers.append({receiver.left(comma), comma < 0 ? QString() : receiver.mid(comma + 1)});
-    }
-}
-
-QString CProjectData::GetVideoInfoString() const
+QString TextOf(const QList<SVideoInput>& inputs)
 {
     QString text;
-    for (const SVideoInput& input : m_state.videoInputs)
+    for (const SVideoInput& input : inputs)
         text += QStringLiteral("%1,%2,%3,%4;")
                     .arg(input.slot)
                     .arg(input.sourceType)
@@ -53,16 +31,53 @@ QString CProjectData::GetVideoInfoString() const
     return text;
 }
 
-void CProjectData::SetVideoInfoFromString(SSenderSetting& setting, const QString& text)
+QString TextOf(const QList<SMailReceiver>& receivers)
 {
-    QList<SVideoInput> inputs;
+    QString text;
+    for (const SMailReceiver& receiver : receivers)
+        text += WithoutSeparators(receiver.address) + QLatin1Char(',') + WithoutSeparators(receiver.name)
+                + QLatin1Char(';');
+    return text;
+}
+
+void ReadText(const QString& text, QList<SVideoInput>& inputs)
+{
+    inputs.clear();
     for (const QString& record : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
         const QStringList fields = record.split(QLatin1Char(','));
         inputs.append({fields.value(0).toInt(), fields.value(1).toInt(), fields.value(2).toInt(),
                        fields.value(3).toInt() != 0});
     }
-    m_state.videoInputs = inputs;
-    setting.videoInputs = inputs;
+}
+
+void ReadText(const QString& text, QList<SMailReceiver>& receivers)
+{
+    receivers.clear();
+    for (const QString& receiver : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const int comma = receiver.indexOf(QLatin1Char(','));
+        receivers.append({receiver.left(comma), comma < 0 ? QString() : receiver.mid(comma + 1)});
+    }
+}
+
+QString CProjectData::GetMailReceiversString() const
+{
+    return TextOf(MakeMonitorRecord(*this).mail.receivers);
+}
+
+void CProjectData::SetReceiversFromString(SEmailSetting& setting, const QString& text)
+{
+    ReadText(text, setting.receivers);
+}
+
+QString CProjectData::GetVideoInfoString() const
+{
+    return TextOf(m_state.videoInputs);
+}
+
+void CProjectData::SetVideoInfoFromString(SSenderSetting& setting, const QString& text)
+{
+    ReadText(text, setting.videoInputs);
+    m_state.videoInputs = setting.videoInputs;
 }
 
 QString CProjectData::GetColorStr(int channel)
@@ -77,31 +92,22 @@ quint32 CProjectData::GetIntFromOctString(const QString& text)
 
 MonitorRecord MakeMonitorRecord(const CProjectData& project)
 {
-    MonitorRecord record;
     const CMonitorData* monitor = GetProjectLookup()->Monitor();
     const CMonitorInterfaceData data = monitor ? monitor->GetInterfaceData() : CMonitorInterfaceData();
-    record.intervalTime = data.GetIntervalTime();
-    record.sender = data.GetSenderSetting();
-    record.videoInputs = project.GetVideoInfoString();
-    record.receiver = data.GetReceiverSetting();
-    record.mail = data.GetMailSetting();
-    record.mailReceivers = project.GetMailReceiversString();
-    record.line = data.GetLineSetting();
-    return record;
+    SSenderSetting sender = data.GetSenderSetting();
+    sender.videoInputs = project.GetVideoInputs();
+    return {data.GetIntervalTime(), sender, data.GetReceiverSetting(), data.GetMailSetting(),
+            data.GetLineSetting()};
 }
 
 void TakeMonitorRecord(CProjectData& project, const MonitorRecord& record)
 {
-    SSenderSetting sender = record.sender;
-    project.SetVideoInfoFromString(sender, record.videoInputs);
-    SEmailSetting mail = record.mail;
-    CProjectData::SetReceiversFromString(mail, record.mailReceivers);
-
+    project.SetVideoInputs(record.sender.videoInputs);
     CMonitorInterfaceData data;
     data.SetIntervalTime(record.intervalTime);
-    data.SetSenderSetting(sender);
+    data.SetSenderSetting(record.sender);
     data.SetReceiverSetting(record.receiver);
-    data.SetMailSetting(mail);
+    data.SetMailSetting(record.mail);
     data.SetLineSetting(record.line);
     if (CMonitorData* monitor = GetProjectLookup()->Monitor())
         monitor->SetInterfaceData(data);

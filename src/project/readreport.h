@@ -11,8 +11,8 @@ QString ChildrenName(std::string_view prefix);
 /// Tells the user that a file holds more children of this prefix than there may be.
 QString TooManyToRead(std::string_view prefix, int most);
 
-/// What a reader passed over: a few lines for the user, never more than kMaxLines of a hostile file. Or why
-/// it refuses the file, of which nothing is taken then.
+/// What a reader passed over, in at most kMaxLines lines for the user, or why it refuses the file. Nothing is
+/// taken from a file that is refused.
 class ReadReport
 {
 public:

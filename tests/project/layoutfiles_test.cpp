@@ -42,6 +42,7 @@ TEST_F(LayoutFilesTest, SenderFileReplacesTheLayoutAndKeepsTheIdentity)
     EXPECT_EQ(target->GetSenderName(), QStringLiteral("Hall left"));
     EXPECT_EQ(TilesOf(*target->GetPort(0)).GetCount(), 12);
     EXPECT_EQ(TilesOf(*target->GetPort(0)).GetTile(0)->GetSenderId(), id);
+    EXPECT_TRUE(TilesOf(*target->GetPort(0)).GetTile(0)->GetTileShowColor().isValid()) << "as of any new one";
 }
 
 TEST_F(LayoutFilesTest, LockedPortsAreKeptWhenWanted)
