@@ -26,7 +26,7 @@ std::unique_ptr<CSender> MakeBenchWall(const WallKind& kind)
 
 CTileSet& TilesOf(CSender& sender, int port)
 {
-    return sender.GetPort(port)->GetTiles();
+    return sender.GetPort(port)->GetTileSet();
 }
 
 bool PlainCabinet::operator==(const PlainCabinet& other) const

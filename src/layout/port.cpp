@@ -94,7 +94,7 @@ bool CPort::SetVisible(bool visible)
 
 QRect CPort::GetBound() const
 {
-    return GetTiles().GetBound();
+    return GetTileSet().GetBound();
 }
 
 CTileSet* CPort::GetPortTileSetOrBackupSrc()
@@ -109,8 +109,8 @@ CTileSet* CPort::GetPortTileSetOrBackupSrc()
     }
     if (!source)
         return nullptr;
-    source->GetTiles().TileSetNormalization();
-    return &source->GetTiles();
+    source->GetTileSet().TileSetNormalization();
+    return &source->GetTileSet();
 }
 
 void CPort::GetPortTileSetOrBackupSrc(CTileSet& out)

@@ -47,7 +47,7 @@ public:
     virtual ~CPort();
     CPort& operator=(const CPort& other);
 
-    // copying: lock, visibility and area are never taken
+    // copying: all but the view, see PortFields
     bool Copy(const CPort& other, bool withoutLayout);
     bool LayoutCopy(const CPort& other);
     void UndoRedoCopy(const CPort& other); ///< clears this layout when only one of the two is a backup
@@ -81,10 +81,10 @@ public:
     // layout
     CPortProject* GetPortProject() { return &m_layout; } ///< [ref]
     const CPortProject* GetPortProject() const { return &m_layout; }
-    CTileSet& GetTiles() { return *m_layout.GetTileSet(); } ///< the port's own
-    const CTileSet& GetTiles() const { return *m_layout.GetTileSet(); }
-    CTileGroupSet& GetGroups() { return *m_layout.GetTileGroupSet(); }
-    const CTileGroupSet& GetGroups() const { return *m_layout.GetTileGroupSet(); }
+    CTileSet& GetTileSet() { return *m_layout.GetTileSet(); } ///< the port's own
+    const CTileSet& GetTileSet() const { return *m_layout.GetTileSet(); }
+    CTileGroupSet& GetTileGroupSet() { return *m_layout.GetTileGroupSet(); }
+    const CTileGroupSet& GetTileGroupSet() const { return *m_layout.GetTileGroupSet(); }
     QRect GetBound() const; ///< of this port's own tiles
     /// [ref] The tiles shown: the port's own, or those of the port it backs up, looked for by the id of its
     /// sender alone; null when there is none, so for every source named by its address. The set is normalised

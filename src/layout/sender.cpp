@@ -36,7 +36,7 @@ void CollectGroups(QSet<const CTileGroup*>& out, const CSender& sender)
 {
     QList<CTileGroup*> groups;
     for (const CPort& port : sender.GetPorts())
-        port.GetGroups().GetGroupListRecursive(groups);
+        port.GetTileGroupSet().GetGroupListRecursive(groups);
     for (const CTileGroup* group : qAsConst(groups))
         out.insert(group);
 }
@@ -143,7 +143,7 @@ bool CSender::GetTileSet(CTileSet& out) const
 {
     CTileSet found;
     for (int i = 0; i < m_fields.portCount; ++i)
-        found.AddFromOther(GetPort(i)->GetTiles());
+        found.AddFromOther(GetPort(i)->GetTileSet());
     out = found;
     return m_fields.portCount > 0;
 }
@@ -152,10 +152,10 @@ bool CSender::GetTileGroupSet(CTileGroupSet& out) const
 {
     CTileGroupSet found;
     for (const CPort& port : m_ports)
-        if (&out == &port.GetGroups())
+        if (&out == &port.GetTileGroupSet())
             return false;
     for (int i = 0; i < m_fields.portCount; ++i)
-        found.AddFromOther(GetPort(i)->GetGroups());
+        found.AddFromOther(GetPort(i)->GetTileGroupSet());
 
     CTileGroupSet dropped;
     if (out.GetDirectCount() > 0) {
@@ -243,7 +243,7 @@ QRect CSender::GetBound() const
     bool first = true;
     for (int i = 0; i < m_fields.portCount; ++i) {
         const CPort* port = GetPort(i);
-        if (port->GetTiles().GetCount() == 0)
+        if (port->GetTileSet().GetCount() == 0)
             continue;
         bound = first ? port->GetBound() : bound.united(port->GetBound());
         first = false;

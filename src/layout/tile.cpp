@@ -24,7 +24,7 @@ const CTileSet* SetOfOwnPort(const TileData& data)
 {
     const CSender* sender = GetLayoutLookup()->FindSender(data.senderId);
     const CPort* port = sender ? sender->GetPort(data.portIndex) : nullptr;
-    return port ? &port->GetTiles() : nullptr;
+    return port ? &port->GetTileSet() : nullptr;
 }
 
 } // namespace

@@ -92,7 +92,7 @@ bool Renew(const QUuid& id, GroupIds& ids, QUuid* fresh)
 QList<CTileGroup*> GroupsOf(const CPort& port)
 {
     QList<CTileGroup*> groups;
-    port.GetGroups().GetGroupListRecursive(groups);
+    port.GetTileGroupSet().GetGroupListRecursive(groups);
     return groups;
 }
 
@@ -103,7 +103,7 @@ void RenewGroupIds(const CPort& port, GroupIds& ids)
     for (CTileGroup* group : GroupsOf(port))
         if (Renew(group->GetID(), ids, &fresh))
             group->SetID(fresh);
-    const CTileSet& tiles = port.GetTiles();
+    const CTileSet& tiles = port.GetTileSet();
     for (int i = 0; i < tiles.GetCount(); ++i)
         if (Renew(tiles.GetTile(i)->GetGroupId(), ids, &fresh))
             tiles.GetTile(i)->SetGroupId(fresh);
@@ -113,7 +113,7 @@ void AddGroupIds(const CPort& port, QSet<QUuid>& ids)
 {
     for (const CTileGroup* group : GroupsOf(port))
         ids.insert(group->GetID());
-    const CTileSet& tiles = port.GetTiles();
+    const CTileSet& tiles = port.GetTileSet();
     for (int i = 0; i < tiles.GetCount(); ++i)
         ids.insert(tiles.GetTile(i)->GetGroupId());
 }

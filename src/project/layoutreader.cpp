@@ -192,8 +192,8 @@ void PortReader::Begin(XmlAttributes& attributes)
     m_fields.portIndex = m_portIndex;
     if (!m_target)
         return;
-    m_tiles.SetTarget(&m_target->GetTiles(), m_senderId, m_portIndex);
-    m_groups.SetTarget(&m_target->GetGroups());
+    m_tiles.SetTarget(&m_target->GetTileSet(), m_senderId, m_portIndex);
+    m_groups.SetTarget(&m_target->GetTileGroupSet());
 }
 
 XmlHandler* PortReader::Child(std::string_view name)

@@ -59,8 +59,8 @@ void WritePortElement(XmlWriter& writer, std::string_view name, const CPort& por
     writer.BeginElement(name);
     AttributeWriter fields(writer);
     DescribePort(fields, port.GetFields());
-    WriteTiles(writer, kTiles, port.GetTiles());
-    WriteGroups(writer, kGroups, port.GetGroups());
+    WriteTiles(writer, kTiles, port.GetTileSet());
+    WriteGroups(writer, kGroups, port.GetTileGroupSet());
     writer.EndElement();
 }
 
@@ -81,12 +81,12 @@ QString WhyTooLarge(const QList<const CPort*>& ports)
 {
     qint64 bytes = 0;
     for (const CPort* port : ports) {
-        const int tiles = port->GetTiles().GetCount();
+        const int tiles = port->GetTileSet().GetCount();
         if (tiles > kMaxTilesOfPort)
             return TooMany(kTile, kMaxTilesOfPort);
         QList<CTileGroup*> groups;
         bytes += qint64(tiles) * kLeastBytesOfTile
-                 + qint64(port->GetGroups().GetGroupListRecursive(groups)) * kLeastBytesOfGroup;
+                 + qint64(port->GetTileGroupSet().GetGroupListRecursive(groups)) * kLeastBytesOfGroup;
     }
     return bytes > kMaxXmlBytes ? DocumentTooLarge() : QString();
 }

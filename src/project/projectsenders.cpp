@@ -230,8 +230,8 @@ void CProjectData::CancelAllTileSelect(EInterfaceDlg iface)
 {
     for (CSender* sender : qAsConst(m_senders)) {
         for (CPort& port : sender->GetPorts()) {
-            port.GetTiles().UnSelectAll(iface);
-            port.GetGroups().CancelAllSelect(iface);
+            port.GetTileSet().UnSelectAll(iface);
+            port.GetTileGroupSet().CancelAllSelect(iface);
         }
     }
 }
@@ -240,16 +240,16 @@ void CProjectData::SelectAllTile()
 {
     for (CSender* sender : qAsConst(m_senders))
         for (CPort& port : sender->GetPorts())
-            port.GetTiles().SelectAll(InterfaceDesign);
+            port.GetTileSet().SelectAll(InterfaceDesign);
 }
 
 bool CProjectData::HasTileRotated() const
 {
-    const auto isRotated = [](const CTile* tile) { return tile->IsTileRotated(); };
     for (CSender* sender : m_senders)
         for (const CPort& port : sender->GetPorts())
-            if (std::any_of(port.GetTiles().GetTiles().begin(), port.GetTiles().GetTiles().end(), isRotated))
-                return true;
+            for (const CTile* tile : port.GetTileSet().GetTiles())
+                if (tile->IsTileRotated())
+                    return true;
     return false;
 }
 

@@ -79,7 +79,7 @@ TEST_F(ProjectFileTest, SavedProjectLoadsEqualAndSavesTheSameBytes)
     ASSERT_TRUE(other.SaveProjectToFile(path, nullptr));
     EXPECT_EQ(ReadFile(parameterwork::DocumentPath()), document);
     EXPECT_EQ(ReadFile(path), archive);
-    EXPECT_EQ(other.GetSender(0)->GetPort(1)->GetTiles().GetTile(0)->GetX(), -300)
+    EXPECT_EQ(other.GetSender(0)->GetPort(1)->GetTileSet().GetTile(0)->GetX(), -300)
         << "what an offset made legal is restored";
 }
 

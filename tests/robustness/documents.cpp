@@ -112,7 +112,7 @@ int SettingsVersion(Document document, const QString& path)
 int LayoutVersion(const CSender* sender)
 {
     for (int version : {1, 2})
-        if (sender && sender->GetPort(0)->GetTiles().GetCount() == kColumns[version] * 20
+        if (sender && sender->GetPort(0)->GetTileSet().GetCount() == kColumns[version] * 20
             && sender->GetSenderName() == NameOf(version))
             return version;
     return 0;

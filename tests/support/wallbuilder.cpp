@@ -74,12 +74,12 @@ std::unique_ptr<CSender> MakeWall(int columns, int rows, int ports)
 
 CTileSet& TilesOf(CPort& port)
 {
-    return port.GetTiles();
+    return port.GetTileSet();
 }
 
 CTileGroupSet& GroupsOf(CPort& port)
 {
-    return port.GetGroups();
+    return port.GetTileGroupSet();
 }
 
 void NestGroups(CPort& port, const QUuid& parent, std::initializer_list<QUuid> children)

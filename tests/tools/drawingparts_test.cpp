@@ -131,7 +131,7 @@ TEST_F(WallPictureTest, ReceivingCardsLieInTheirCabinet)
 TEST_F(WallPictureTest, AGroupIsOutlinedWithTheGroupsInsideIt)
 {
     Build(QSize(4, 2), 1);
-    CTileGroupSet& groups = Project().GetSender(0)->GetPort(0)->GetGroups();
+    CTileGroupSet& groups = Project().GetSender(0)->GetPort(0)->GetTileGroupSet();
     CTileGroup* outer = groups.GetDirectGroupByDirIndex(0);
     CTileGroup* inner = outer;
     for (int depth = 0; depth < 20; ++depth) { // deeper than is drawn

@@ -13,7 +13,7 @@ CSender& ToolsTest::Build(const QSize& grid, int ports, int order)
 
 CTileSet& ToolsTest::Tiles(int port, int sender)
 {
-    return Project().GetSender(sender)->GetPort(port)->GetTiles();
+    return Project().GetSender(sender)->GetPort(port)->GetTileSet();
 }
 
 void ToolsTest::Turn(int port, double angle)

@@ -65,7 +65,7 @@ private:
     void CheckLoad();
 
     const CPort& Port() const { return *m_project.GetSender(m_sender)->GetPort(m_port); }
-    const CTileSet& Tiles() const { return Port().GetTiles(); }
+    const CTileSet& Tiles() const { return Port().GetTileSet(); }
     void Add(FaultKind kind, int cabinet, const QString& text)
     {
         m_faults.push_back({kind, m_sender + 1, m_port + 1, cabinet + 1, text});
@@ -263,7 +263,7 @@ void Checker::CheckTypes()
 void Checker::CheckGroups()
 {
     QMap<QUuid, CTileGroup*> groups;
-    Port().GetGroups().GetGroupListRecursive(groups);
+    Port().GetTileGroupSet().GetGroupListRecursive(groups);
     for (int i = 0; i < Tiles().GetCount(); ++i) {
         const QUuid group = Tiles().GetTile(i)->GetGroupId();
         if (!group.isNull() && !groups.contains(group))

@@ -39,7 +39,7 @@ void BuildStrip(CProjectData& project, CPort& port, const NewProject& wanted, in
     block.height = wanted.cabinet.height();
     port.GetPortProject()->AddTile(block);
 
-    CTileSet& tiles = port.GetTiles();
+    CTileSet& tiles = port.GetTileSet();
     if (!wanted.types.isEmpty())
         TakeTypes(project, tiles, wanted);
     if (wanted.order != NewProject::kNotNumbered)

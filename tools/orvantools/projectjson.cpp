@@ -126,8 +126,8 @@ int NumberedCount(const CTileSet& tiles)
 
 QJsonObject DescribePort(const CPort& port, bool withTiles)
 {
-    const CTileSet& tiles = port.GetTiles();
-    const CTileGroupSet& groups = port.GetGroups();
+    const CTileSet& tiles = port.GetTileSet();
+    const CTileGroupSet& groups = port.GetTileGroupSet();
     QList<CTileGroup*> allGroups;
     QJsonObject object{{Key("index"), port.GetPortIndex()},
                        {Key("locked"), port.IsFlagLock()},
@@ -152,7 +152,7 @@ QJsonObject DescribeSender(const CProjectData& project, int index, bool withTile
     QRect bound;
     for (int i = 0; i < sender.GetPortCount(); ++i) {
         ports.append(DescribePort(*sender.GetPort(i), withTiles));
-        bound = bound.united(UnrotatedBound(sender.GetPort(i)->GetTiles()));
+        bound = bound.united(UnrotatedBound(sender.GetPort(i)->GetTileSet()));
     }
     return {{Key("id"), sender.GetId().toString()},
             {Key("name"), sender.GetSenderName()},

@@ -56,7 +56,7 @@ QString BackupText(const CProjectData& project, const CPort& port)
 
 QString PortRow(const CProjectData& project, const CPort& port)
 {
-    const CTileSet& tiles = port.GetTiles();
+    const CTileSet& tiles = port.GetTileSet();
     int numbered = 0;
     for (int i = 0; i < tiles.GetCount(); ++i)
         numbered += tiles.GetTile(i)->HasSetConnectIndex() ? 1 : 0;

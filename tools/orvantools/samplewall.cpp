@@ -19,7 +19,7 @@ constexpr double kTurn = 15; ///< degrees
 
 CTileSet& TilesOf(CSender& sender, int port)
 {
-    return sender.GetPort(port)->GetTiles();
+    return sender.GetPort(port)->GetTileSet();
 }
 
 CProjectUndoRedo& History()

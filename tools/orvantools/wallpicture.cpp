@@ -81,7 +81,7 @@ PicturePort MakePort(const CProjectData& project, const CPort& port, const Backu
     picture.index = port.GetPortIndex();
     picture.hidden = !port.IsVisible();
     picture.color = CConstantData::GetColorByPort(picture.index);
-    const CTileSet& tiles = port.GetTiles();
+    const CTileSet& tiles = port.GetTileSet();
     picture.cabinets.reserve(static_cast<size_t>(tiles.GetCount()));
     picture.shapes.reserve(static_cast<size_t>(tiles.GetCount()));
     for (int i = 0; i < tiles.GetCount(); ++i) {
@@ -92,7 +92,7 @@ PicturePort MakePort(const CProjectData& project, const CPort& port, const Backu
     }
     picture.receivers = tiles.GetRcvCount();
     picture.chain = MakeChain(picture.cabinets);
-    picture.groups = GroupOutlines(tiles, picture.shapes).Make(port.GetGroups());
+    picture.groups = GroupOutlines(tiles, picture.shapes).Make(port.GetTileGroupSet());
 
     QStringList notes;
     if (port.IsBackupDest())
