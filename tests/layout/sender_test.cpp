@@ -47,7 +47,6 @@ TEST(SenderTest, ACopyTakesThePortsWithTheirViewAndTheParameters)
     copy.CopySender(*source);
     copy.CopySender(copy);
     EXPECT_TRUE(copy.GetId() == source->GetId() && copy.GetDeviceClass() == 4);
-    EXPECT_EQ(copy.GetMonitorRenderArea(), QRect(6, 7, 8, 9));
     const CPort& last = *copy.GetPort(159);
     EXPECT_TRUE(last.IsFlagLock() && !last.IsVisible() && last.GetPortArea() == port.GetPortArea());
     for (int i = 0; i < kMaxPorts; ++i)
