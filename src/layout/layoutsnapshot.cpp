@@ -147,13 +147,13 @@ void GroupSnapshot::Restore(CTileGroupSet* groups, const List& snapshots)
 
 LayoutSnapshot::Pointer LayoutSnapshot::Take(CPort& port, const Pointer& before, const Positions& changed)
 {
-    const CTileGroupSet& liveGroups = *port.GetPortProject()->GetTileGroupSet();
+    const CTileGroupSet& liveGroups = port.GetTileGroupSet();
     const bool sameRest = before && before->IsOf(port) && GroupSnapshot::IsSame(before->m_groups, liveGroups);
     if (sameRest && changed && changed->empty())
         return before; // as most ports at most steps
     static const LayoutSnapshot empty;
     const LayoutSnapshot& old = before ? *before : empty;
-    const QList<CTile*>& tiles = port.GetPortProject()->GetTileSet()->GetTiles();
+    const QList<CTile*>& tiles = port.GetTileSet().GetTiles();
     QVector<Chunk> chunks = old.m_chunks;
     const bool resized = tiles.size() != old.m_count;
     if (resized)
@@ -195,7 +195,7 @@ bool LayoutSnapshot::IsOf(const CPort& port) const
 void LayoutSnapshot::Restore(CPort* port, const Positions& changed) const
 {
     port->SetSenderIdAndPortIndex(m_senderId, m_portIndex);
-    CTileSet* tiles = port->GetPortProject()->GetTileSet();
+    CTileSet* tiles = &port->GetTileSet();
     const int present = qMin(m_count, tiles->GetCount());
     ForEachPosition(changed, present, [&](int position) {
         CTile* tile = tiles->GetTiles().at(position);
@@ -213,7 +213,7 @@ void LayoutSnapshot::Restore(CPort* port, const Positions& changed) const
     });
     tiles->Truncate(m_count);
 
-    CTileGroupSet* groups = port->GetPortProject()->GetTileGroupSet();
+    CTileGroupSet* groups = &port->GetTileGroupSet();
     if (GroupSnapshot::IsSame(m_groups, *groups))
         return; // they keep their address and visibility
     groups->DeleteAll();

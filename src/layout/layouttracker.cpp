@@ -20,7 +20,7 @@ std::vector<int> HandedOutOf(const QList<CTile*>& tiles, const Positions& positi
 
 const LayoutSnapshot::Pointer& LayoutTracker::Take(CPort& port)
 {
-    const QList<CTile*>& tiles = port.GetPortProject()->GetTileSet()->GetTiles();
+    const QList<CTile*>& tiles = port.GetTileSet().GetTiles();
     const Positions changed = FindChanged(tiles);
     Agree(tiles, LayoutSnapshot::Take(port, m_known, changed), !changed);
     return m_known;
@@ -28,7 +28,7 @@ const LayoutSnapshot::Pointer& LayoutTracker::Take(CPort& port)
 
 void LayoutTracker::Restore(CPort* port, const LayoutSnapshot::Pointer& wanted)
 {
-    const QList<CTile*>& tiles = port->GetPortProject()->GetTileSet()->GetTiles();
+    const QList<CTile*>& tiles = port->GetTileSet().GetTiles();
     Positions changed = FindChanged(tiles);
     const Positions other = m_known ? wanted->FindOther(*m_known) : std::nullopt;
     if (changed && other)
