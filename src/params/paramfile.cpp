@@ -1,6 +1,7 @@
 #include "params/paramfile.h"
 
 #include "common/atomicfile.h"
+#include "common/dottedaddress.h"
 #include "common/failure.h"
 #include "common/texts.h"
 #include "common/xmldom.h"
@@ -197,22 +198,10 @@ Outcome ImportSingle(const Family& family, CSender* sender, const QString& path)
 
 quint32 GetIntFromOctString(const QString& text)
 {
-    const QStringList octets = text.trimmed().split(QLatin1Char('.'));
-    const auto isDecimal = [](const QString& digits) {
-        for (const QChar c : digits)
-            if (c < QLatin1Char('0') || c > QLatin1Char('9'))
-                return false;
-        return !digits.isEmpty();
-    };
-    quint32 ip = 0;
-    for (const QString& octet : octets) {
-        bool fits = false;
-        const quint32 value = octet.toUInt(&fits);
-        if (!isDecimal(octet) || !fits || (octets.size() == 4 && value > 255))
-            return 0;
-        ip = octets.size() == 4 ? ip << 8 | value : value;
-    }
-    return octets.size() == 4 || octets.size() == 1 ? ip : 0;
+    if (const auto ip = ReadDottedAddress(text))
+        return *ip;
+    const QString number = text.trimmed();
+    return number.startsWith(QLatin1Char('+')) ? 0 : number.toUInt();
 }
 
 } // namespace params

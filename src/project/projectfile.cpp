@@ -3,6 +3,7 @@
 #include "common/fileproblem.h"
 #include "common/inputfile.h"
 #include "common/texts.h"
+#include "common/turnlock.h"
 #include "common/xmlwriter.h"
 #include "products/productdirectoryset.h"
 #include "project/layoutwriter.h"
@@ -18,15 +19,9 @@
 
 namespace {
 
-constexpr int kLockTimeout = 30000; ///< milliseconds
-/// Milliseconds, longer than any save and less than the timeout. A program that was killed before it wrote
-/// its name into the lock file then costs no more than a wait.
-constexpr int kStaleLockTime = 20000;
-
 bool LockWorkFolder(QLockFile& lock)
 {
-    lock.setStaleLockTime(kStaleLockTime);
-    if (!lock.tryLock(kLockTimeout))
+    if (!LockInTurn(lock))
         return false;
     // Left by a program that was killed while it removed another one's lock.
     const QFileInfo info(parameterwork::LockPath());
