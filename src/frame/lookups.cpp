@@ -11,7 +11,7 @@
 #include "settings/configdata.h"
 #include "settings/settingslookup.h"
 
-#include <memory>
+#include <utility>
 
 namespace {
 
@@ -80,7 +80,7 @@ private:
     CMonitorData& m_monitor;
 };
 
-std::unique_ptr<Answers> g_answers;
+Answers* g_answers = nullptr; // for good where the process ends without a release
 
 void Install(Answers* answers)
 {
@@ -94,12 +94,13 @@ void Install(Answers* answers)
 
 void InstallLookups(const SharedObjects& objects)
 {
-    g_answers = std::make_unique<Answers>(objects);
-    Install(g_answers.get());
+    auto* answers = new Answers(objects);
+    Install(answers);
+    delete std::exchange(g_answers, answers); // other threads may ask meanwhile
 }
 
 void RemoveLookups()
 {
     Install(nullptr);
-    g_answers.reset();
+    delete std::exchange(g_answers, nullptr);
 }

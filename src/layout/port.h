@@ -34,7 +34,7 @@ struct PortFields
     QColor color; ///< copied, but no difference between two ports
     View view;
 
-    bool IsSameWiring(const PortFields& other) const; ///< all but colour and view
+    ORVANDATA_EXPORT bool IsSameWiring(const PortFields& other) const; ///< all but colour and view
 };
 
 /// One output (network) port of a sender, with the layout wired to it. A backup port shows and uses the

@@ -20,7 +20,7 @@ struct GroupFields
     SRotateParam rotate;
 };
 
-bool operator==(const GroupFields& a, const GroupFields& b);
+ORVANDATA_EXPORT bool operator==(const GroupFields& a, const GroupFields& b);
 
 /// One node of a port's group tree. Tiles name the group that holds them by its id. Owns its rotation record
 /// and the object that lists its sub-groups, but not the sub-groups themselves: whoever drops a tree calls

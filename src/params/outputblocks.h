@@ -116,6 +116,8 @@ inline void TakeLayers(const QList<SLayerWndParam>& layers, bool afresh, SenderP
         data.layers.fill(SLayerWndParam());
     auto free = data.layers.begin();
     for (const SLayerWndParam& layer : layers) {
+        if (layer.IsEmpty())
+            continue;
         free = std::find_if(free, data.layers.end(), [](const auto& entry) { return entry.IsEmpty(); });
         if (free == data.layers.end())
             return;

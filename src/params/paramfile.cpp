@@ -151,7 +151,7 @@ Outcome ReadByIp(const Family& family, ElementReader& reader, int count, const Q
 
 Outcome NoSender()
 {
-    return {kFailed, Texts::tr("找不到主控。")};
+    return {kFailed, Texts::tr("找不到主控。"), false};
 }
 
 Outcome Export(const Family& family, const QVector<Target>& targets, bool matchByIp, const QString& path)
@@ -160,7 +160,7 @@ Outcome Export(const Family& family, const QVector<Target>& targets, bool matchB
     QString refusal;
     const bool saved = ReplaceFile(
         path, [&](QIODevice& file) { return WriteFile(file, family, targets, matchByIp, &refusal); }, &error);
-    return saved ? Outcome() : Outcome{kFailed, refusal.isEmpty() ? error : refusal};
+    return saved ? Outcome() : Outcome{kFailed, refusal.isEmpty() ? error : refusal, false};
 }
 
 Outcome Import(const Family& family, const QVector<Target>& targets, CSender* single, bool matchByIp,
@@ -169,7 +169,7 @@ Outcome Import(const Family& family, const QVector<Target>& targets, CSender* si
     QDomDocument document;
     QString why;
     if (!Load(family, path, document, &why))
-        return {kFailed, why};
+        return {kFailed, why, false};
     const QDomElement root = document.documentElement();
     if (!root.hasAttribute(QLatin1String(kCheckValue)))
         return ReadSingle(family, document, single);
@@ -177,7 +177,7 @@ Outcome Import(const Family& family, const QVector<Target>& targets, CSender* si
         return Told(kFailed, Texts::tr("不可导入，无法匹配对应IP的主控参数。"));
     const int count = root.attribute(QLatin1String(kProcessorCount)).toInt();
     if (count < 1)
-        return {kFailed, Texts::tr("文件中没有主控参数。")};
+        return {kFailed, Texts::tr("文件中没有主控参数。"), false};
     for (const Target& target : targets)
         if (!target.sender)
             return NoSender();
@@ -192,7 +192,7 @@ Outcome ImportSingle(const Family& family, CSender* sender, const QString& path)
     QDomDocument document;
     QString why;
     if (!Load(family, path, document, &why))
-        return {kFailed, why};
+        return {kFailed, why, false};
     return ReadSingle(family, document, sender);
 }
 

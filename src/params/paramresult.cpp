@@ -11,13 +11,18 @@ Outcome Told(quint32 code)
         return Told(code, Texts::tr("导入失败，无法导入不同类型主控的参数。"));
     if (code == kImportFailed)
         return Told(code, Texts::tr("导入失败。"));
-    return {code, {}};
+    return {code, {}, false};
 }
 
 Outcome Told(quint32 code, const QString& why)
 {
-    CCustomMessageBox::information(nullptr, why);
-    return {code, why};
+    return {code, why, true};
+}
+
+void Show(const Outcome& outcome)
+{
+    if (outcome.told)
+        CCustomMessageBox::information(nullptr, outcome.why);
 }
 
 } // namespace params

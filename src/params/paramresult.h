@@ -13,11 +13,14 @@ constexpr quint32 kImportFailed = 0xE0830013; ///< the file does not hold what t
 struct Outcome
 {
     quint32 code = kDone;
-    QString why; ///< for the user; a code of success may have a reason too
+    QString why;       ///< for the user; a code of success may have a reason too
+    bool told = false; ///< in a message box
 };
 
-/// The user is told in a message box what the code means, unless he need not be.
-Outcome Told(quint32 code);
+Outcome Told(quint32 code); ///< by what the code means, if the user is to know
 Outcome Told(quint32 code, const QString& why);
+
+/// Shows the box of an outcome that has one. The host's code runs meanwhile.
+void Show(const Outcome& outcome);
 
 } // namespace params

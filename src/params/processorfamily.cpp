@@ -146,8 +146,9 @@ Outcome ReadAlone(ElementReader& reader, CSender& sender)
             ReadBlock(name, reader, sender);
     });
     // The code does not say which; the reason is in the message.
-    const QString why = Told(result).why;
-    return {result == kDone ? kDone : kFailed, why};
+    Outcome outcome = Told(result);
+    outcome.code = result == kDone ? kDone : kFailed;
+    return outcome;
 }
 
 } // namespace

@@ -182,7 +182,11 @@ template <class F, class Data> void DescribePicture(F& f, Data& data)
                 f.Field("SCBright", data.Picture().brightness);
                 f.Field("SCColorTemp", data.Picture().colorTemp);
                 f.Field("bAdjByColorTemp", data.adjByColorTemp);
+                const QColor before = data.curColorRgb;
                 DescribeRgb(f, "curColorRGB_R", "curColorRGB_G", "curColorRGB_B", data.curColorRgb);
+                if constexpr (F::kReads)
+                    if (data.curColorRgb.rgb() == before.rgb())
+                        data.curColorRgb = before; // of which the file has a part alone
             });
             f.Group("PortBright", [&] { f.List("Port", data.netPorts); });
         });

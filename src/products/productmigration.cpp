@@ -38,7 +38,10 @@ bool ReadProductList(const QString& path, QSet<SMD5>& digests)
         return false;
     for (int number = 1; number <= kMaxListedProducts; ++number) {
         const QString key = QStringLiteral("ProductListInfo/Product%1").arg(number);
-        const QString text = list.value(key, noFile).toString();
+        const QVariant entry = list.value(key, noFile);
+        if (!entry.isValid()) // of a type that is not read
+            return false;
+        const QString text = entry.toString();
         if (text.isEmpty() || text == noFile)
             break;
         const SMD5 md5 = SMD5::FromString(text.toLower());

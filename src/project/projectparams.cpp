@@ -77,10 +77,11 @@ Outcome ImportMulti(const Family& family, const CProjectData& project, const QSt
     return Import(family, Targets(project, id), SenderOf(project, id), MatchByIp(), path);
 }
 
-/// Keeps the reason of an outcome.
+/// Keeps the reason of an outcome before the user is told, while the host may close the project.
 quint32 Code(const Outcome& outcome, QString& fileError)
 {
     fileError = outcome.why;
+    Show(outcome);
     return outcome.code;
 }
 
@@ -125,7 +126,8 @@ quint32 CProjectData::LoadBasicInfoParam(QDomDocument&, QDomElement* element, CS
 {
     const quint32 result =
         Load(element, sender, [](auto& f, auto& s) { return CheckType(f, kDeviceType, s); });
-    return Told(result).code == kDone ? kDone : kFailed;
+    Show(Told(result));
+    return result == kDone ? kDone : kFailed;
 }
 
 quint32 CProjectData::SaveDeviceSetParam(QDomDocument& document, QDomElement* element, CSender* sender)

@@ -11,6 +11,8 @@
 #include <QDomElement>
 #include <QVector>
 
+#include <cmath>
+
 namespace {
 
 constexpr const char* kRootName = "LedControlConfig";
@@ -141,9 +143,11 @@ void RepairProjectRecords(SConfigItems* items)
         items->projectRecords[size_t(i)] = records.value(i);
 }
 
-void RepairNumbers(SConfigItems* items)
+void RepairNumbers(const SConfigItems& before, SConfigItems* items)
 {
-    if (items->attractionDis < 8 || items->attractionDis > 30)
+    if (std::isnan(items->attractionDis))
+        items->attractionDis = before.attractionDis;
+    else if (items->attractionDis < 8 || items->attractionDis > 30)
         items->attractionDis = SConfigItems().attractionDis;
     items->deviceInformationLayoutSize =
         qBound(kMinLayoutSize, items->deviceInformationLayoutSize, kMaxLayoutSize);
@@ -196,9 +200,10 @@ bool ReadConfigFile(const QString& path, SConfigItems* items)
     if (root.tagName() != QLatin1String(kRootName))
         return false;
     SConfigItems read = *items;
+    read.attractionDis = std::nan(""); // a host may have set what a file may not say
     ConfigReader reader(root.firstChildElement(QLatin1String(kConfigName)));
     DescribeConfig(reader, read);
-    RepairNumbers(&read);
+    RepairNumbers(*items, &read);
     RepairHotkeys(*items, &read);
     RepairStyles(&read, items->uiStyles);
     RepairProjectRecords(&read);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/export.h"
 #include "common/interfacedlg.h"
 #include "settings/languagetype.h"
 
@@ -52,8 +53,8 @@ struct SBrightTableInfo
 
 using HotkeyTable = std::array<std::array<SHotkey, kHotkeysInMode>, kHotkeyModes>;
 
-HotkeyTable GetDefaultHotkeys();
-QList<SUiStyle> GetDefaultUiStyles();
+ORVANDATA_EXPORT HotkeyTable GetDefaultHotkeys();
+ORVANDATA_EXPORT QList<SUiStyle> GetDefaultUiStyles();
 
 /// What the settings file holds, and what stands there at a first start.
 struct SConfigItems

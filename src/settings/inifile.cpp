@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int kNone = -1;
+constexpr int kMaxSectionBytes = 4096; ///< each key of a section is kept with its name
 
 struct Span
 {
@@ -109,7 +110,7 @@ bool Parse(IniText* ini)
         const bool isHeader = text[at] == '[';
         if (isHeader)
             keyEnd = text.indexOf(']', at);
-        if (keyEnd == kNone || keyEnd >= end)
+        if (keyEnd == kNone || keyEnd >= end || (isHeader && keyEnd - at > kMaxSectionBytes))
             return false;
         if (isHeader)
             section = SectionName(text.mid(at + 1, keyEnd - at - 1).trimmed());
