@@ -206,8 +206,8 @@ void LayoutSnapshot::Restore(CPort* port, const Positions& changed) const
         tiles->AddTile(NewTile(At(i)));
     // One that is listed twice cannot be as both places say: it stays at the last, and others take the rest.
     ForEachPosition(changed, present, [&](int position) {
-        if (ShareIfSame(tiles->GetTiles().at(position), At(position)))
-            return;
+        if (changed || ShareIfSame(tiles->GetTiles().at(position), At(position)))
+            return; // positions are known of a list without repeats alone
         tiles->AddTile(NewTile(At(position)));
         tiles->ExchangeTile(position, tiles->GetCount() - 1);
     });

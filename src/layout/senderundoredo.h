@@ -9,7 +9,8 @@
 class CSender;
 
 /// A step: what one sender's ports held after an edit. Steps of one history share whatever an edit left
-/// alone, so a step costs what its edit changed. Never changes once made.
+/// alone, so a step costs what its edit changed, and where cabinets came or went a pointer for each behind
+/// that place. Never changes once made.
 class ORVANDATA_EXPORT CSenderRecordItem
 {
 public:

@@ -1,6 +1,7 @@
 #include "layout/tileindex.h"
 
 #include "common/saturated.h"
+#include "layout/corners.h"
 #include "layout/layoutlookup.h"
 #include "layout/tileaccess.h"
 
@@ -28,8 +29,11 @@ TileIndex::Extent TileIndex::ExtentOf(const CTile& tile, bool rotation)
     }
     CPointEx<double> c[4];
     tile.GetRotateArea(c);
-    const auto isKnown = [](const CPointEx<double>& p) { return std::isfinite(p.x) && std::isfinite(p.y); };
-    if (!std::all_of(c, c + 4, isKnown))
+    // Corners far away, or that are no numbers, are too coarse for a bound.
+    const auto isNear = [](const CPointEx<double>& p) {
+        return std::abs(p.x) < kFar && std::abs(p.y) < kFar;
+    };
+    if (!std::all_of(c, c + 4, isNear))
         return everywhere;
     const auto [left, right] = std::minmax({c[0].x, c[1].x, c[2].x, c[3].x});
     const auto [top, bottom] = std::minmax({c[0].y, c[1].y, c[2].y, c[3].y});

@@ -140,7 +140,7 @@ public:
     bool ExportPort(const QString& path); ///< of the current sender's recent port
     bool ImportPort(const QString& path); ///< into the current sender's recent port
 
-    // parameter files: 0, or a result code of params/paramresult.h
+    // parameter files: 0, or a result code
     quint32 ExportMutiSenderParam(const QString& path, const QUuid& id);
     quint32 ExportMutiProcessorParam(const QString& path, const QUuid& id);
     quint32 ImportSenderParam(const QString& path, const QUuid& id);
