@@ -1,7 +1,8 @@
 #include "formats/samplexml.h"
 #include "frame/lednimbradata.h"
 #include "frame/runtimedata.h"
-#include "params/recordwalkers.h"
+#include "params/fieldname.h"
+#include "params/paramtext.h"
 #include "project/projectdata.h"
 #include "support/library.h"
 #include "support/testfolder.h"
@@ -15,6 +16,45 @@ namespace {
 const QRegularExpression kStructure(
     QStringLiteral("Count$|^(CheckValue|bSpecifyIP|SenderType|DeviceType|NetIP|ParamFileMainVersion|"
                    "DeviceReserveFlag|DeviceGuid|DeviceClass)$"));
+
+/// The values of a record in the order in which it declares them, which no name in a file decides; "-" stands
+/// for a record inside that is as it was made.
+class ValuesInOrder
+{
+public:
+    template <class R> static std::string Of(const R& record, const char* separator)
+    {
+        std::string text;
+        const auto add = [&](const auto& value) { text += (text.empty() ? "" : separator) + Text(value); };
+        std::apply([&](const auto&... values) { (add(values), ...); }, record.Values());
+        return text;
+    }
+
+private:
+    static std::string Text(const PortGroupName& name) { return name.data(); }
+    static std::string Text(const QColor& color) { return color.name().toStdString(); }
+    static std::string Text(const QPointF& point) { return Text(point.x()) + ',' + Text(point.y()); }
+    template <class T, size_t n> static std::string Text(const std::array<T, n>& values)
+    {
+        return All(values);
+    }
+    template <class T> static std::string Text(const QList<T>& values) { return '[' + All(values) + ']'; }
+    template <class T> static std::string Text(const QVector<T>& values) { return '[' + All(values) + ']'; }
+    template <class T> static std::string Text(const T& value)
+    {
+        if constexpr (params::kIsRecord<T>)
+            return value == T() ? "-" : Of(value, " ");
+        else
+            return paramtext::ToText(value);
+    }
+    template <class List> static std::string All(const List& values)
+    {
+        std::string text;
+        for (const auto& value : values)
+            text += (text.empty() ? "" : " ") + Text(value);
+        return text;
+    }
+};
 
 class ParamSampleTest : public testing::Test
 {
@@ -66,7 +106,6 @@ protected:
         ASSERT_EQ((project.*take)(hollow, QUuid()), 0U);
         ASSERT_EQ((project.*write)(path, QUuid()), 0U);
         const QByteArray empty = ReadFile(path);
-        EXPECT_EQ(NamesWithoutOwnValue(sample, empty, kStructure), "");
 
         ASSERT_EQ((project.*take)(folder.Write(QStringLiteral("b.xml"), sample), QUuid()), 0U);
         EXPECT_EQ(FirstDifference(Values(), Told(values)), "");

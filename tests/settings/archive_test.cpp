@@ -7,8 +7,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <QtEndian>
-
 #include <sys/stat.h>
 #include <zip.h>
 
@@ -44,24 +42,7 @@ void Patch(const QString& path, const QByteArray& signature, int offset, const Q
     QByteArray content = ReadFile(path);
     const int at = content.indexOf(signature);
     ASSERT_GE(at, 0);
-    content.replace(at + offset, bytes.size(), bytes);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-/// The archive with an end of the 64-bit kind, as those of many or large entries have.
-QByteArray WithEnd64(const QByteArray& archive)
-{
-    const int end = archive.lastIndexOf("PK\5\6");
-    const QByteArray none(4, '\0'), all(4, '\xFF'), count = archive.mid(end + 8, 2) + none + none.left(2);
-    const QByteArray record = "PK\6\6," + none + none.left(3) + "-" + none.left(1) + "-" + none.left(1) + none
-                              + none + count + count + archive.mid(end + 12, 4) + none
-                              + archive.mid(end + 16, 4) + none;
-    QByteArray place(8, '\0');
-    qToLittleEndian(quint64(end), place.data());
-    return archive.left(end) + record + "PK\6\7" + none + place + '\1' + none.left(3) + archive.mid(end, 8)
-           + all + all + all + none.left(2);
+    WriteFile(path, content.replace(at + offset, bytes.size(), bytes));
 }
 
 bool Unpack(const TestFolder& folder, const QString& path, QString* error = nullptr)
@@ -165,12 +146,12 @@ TEST(ArchiveTest, LinksAndEncryptedAndDamagedEntriesAreRefused)
     EXPECT_TRUE(QDir(folder.Path(QStringLiteral("in/out"))).isEmpty());
 }
 
-TEST(ArchiveTest, NulInANameIsSeenWhateverTheEndOfTheArchiveLooksLike)
+TEST(ArchiveTest, NulInANameIsSeenBeforeACommentToo)
 {
     TestFolder folder;
     const QByteArray plain = ReadFile(MakeArchive(folder, {{"a", "1"}, {"new#.txt", "2"}}));
     const QByteArray commented = QByteArray(plain).replace(plain.size() - 2, 2, QByteArray("\4\0PK\5\6", 6));
-    for (const QByteArray& archive : {plain, commented, WithEnd64(plain)}) {
+    for (const QByteArray& archive : {plain, commented}) {
         for (const char replacement : {' ', '\0'}) {
             const QByteArray content = QByteArray(archive).replace('#', replacement);
             EXPECT_EQ(Unpack(folder, folder.Write(QStringLiteral("a.zip"), content)), replacement == ' ');

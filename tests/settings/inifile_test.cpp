@@ -5,7 +5,6 @@
 
 #include <QColor>
 #include <QDateTime>
-#include <QFile>
 #include <QKeySequence>
 #include <QLineF>
 #include <QRect>

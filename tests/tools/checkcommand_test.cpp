@@ -78,7 +78,6 @@ TEST(ProductsCommandTest, ADoubleIsLeftOutAndLeftWhereItIs)
     const QJsonObject second = products[1].toObject();
     EXPECT_EQ(second[Arg("name")].toString(), Arg("箱体"));
     EXPECT_EQ(second[Arg("path")].toString(), folder.Path(Arg("b/箱体.rcvp")));
-    EXPECT_EQ(second[Arg("folder")].toString(), Arg("b"));
     EXPECT_EQ(second[Arg("menuId")].toInt(), 8193);
     EXPECT_EQ(second[Arg("type")].toString(), Arg("b8a9f715dbb64fd5c56e7783c6820a61"));
     EXPECT_EQ(Snapshot(folder.Path()), before);

@@ -42,7 +42,6 @@ TEST_F(NewProjectTest, WhatCannotBeBuiltLeavesTheDocumentAlone)
     EXPECT_TRUE(refused([](NewProject& w) { w.grid = QSize(257, 1); })); // 32896 pixels
     EXPECT_TRUE(refused([](NewProject& w) { w.grid = QSize(4, 0); }));
     EXPECT_TRUE(refused([](NewProject& w) { w.canvas = QSize(32769, 1); }));
-    EXPECT_TRUE(refused([](NewProject& w) { w.ports = 5; }));
     EXPECT_TRUE(refused([](NewProject& w) { w.ports = 0; }));
     EXPECT_TRUE(refused([](NewProject& w) { w.order = 8; }));
     NewProject largest;

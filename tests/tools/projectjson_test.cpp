@@ -12,11 +12,7 @@ protected:
     {
         const QJsonObject object =
             OrvanTools::DescribeProject(Project(), GetMonitorData()->GetInterfaceData(), true);
-        return object[QStringLiteral("senders")]
-            .toArray()[0]
-            .toObject()[QStringLiteral("ports")]
-            .toArray()[port]
-            .toObject();
+        return object[QStringLiteral("senders")][0][QStringLiteral("ports")][port].toObject();
     }
     static QString Key(const char* name) { return QString::fromLatin1(name); }
 };
