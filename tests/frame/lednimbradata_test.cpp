@@ -1,5 +1,3 @@
-#include "frame/lednimbradata.h"
-
 #include "frame/runtimedata.h"
 #include "monitor/monitordata.h"
 #include "project/projectdata.h"
@@ -35,7 +33,6 @@ TEST(LedNimbraDataTest, ObjectsLiveBetweenInitAndRelease)
         EXPECT_EQ(std::count(objects.begin(), objects.end(), nullptr), 0);
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         EXPECT_TRUE(QDir(documents + QStringLiteral("/Orvan/SysConfig")).exists());
-        EXPECT_TRUE(QDir(documents + QStringLiteral("/Orvan/LedConfig")).exists());
     }
     EXPECT_EQ(Objects(), none);
     LedNimbraData_Release();
@@ -46,7 +43,6 @@ TEST(LedNimbraDataTest, SecondInitKeepsTheObjectsAndLoadsTheSettingsAgain)
     Library library;
     const auto objects = Objects();
     GetConfigData()->SetShowGrid(false);
-    ASSERT_TRUE(GetConfigData()->IsShowGrid() == false);
     LedNimbraData_Init();
     EXPECT_EQ(Objects(), objects);
     EXPECT_TRUE(GetConfigData()->IsShowGrid()) << "what was not saved is loaded over";

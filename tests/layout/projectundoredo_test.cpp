@@ -1,9 +1,7 @@
 #include "layout/projectundoredo.h"
 
 #include "layout/layoutsnapshot.h"
-#include "layout/tile.h"
 #include "layout/tileaccess.h"
-#include "layout/tilegroup.h"
 #include "support/wallbuilder.h"
 
 #include <gtest/gtest.h>
@@ -85,16 +83,15 @@ PlainSender PlainCopy(CSender& sender)
 }
 
 /// The chunks and the cabinets' data that a snapshot is made of.
-std::pair<QSet<const void*>, QSet<const void*>> PartsOf(const LayoutSnapshot& snapshot)
+QSet<const void*> PartsOf(const LayoutSnapshot& snapshot)
 {
-    QSet<const void*> chunks;
-    QSet<const void*> cabinets;
+    QSet<const void*> parts;
     for (const LayoutSnapshot::Chunk& chunk : snapshot.GetChunks()) {
-        chunks.insert(chunk.constData());
+        parts.insert(chunk.constData());
         for (const LayoutSnapshot::Cabinet& cabinet : chunk)
-            cabinets.insert(cabinet.constData());
+            parts.insert(cabinet.constData());
     }
-    return {chunks, cabinets};
+    return parts;
 }
 
 /// Mostly writes to cabinets; adds, drops and moves them in the list now and then.
@@ -236,13 +233,6 @@ TEST_F(ProjectUndoRedoTest, TheLimitKeepsTheBaseAndMovesTheSavedPositionWithItsR
 
 TEST_F(ProjectUndoRedoTest, OnlyChangedLayoutsAreRecorded)
 {
-    SMD5 noType;
-    Tile(0).SetType(noType);
-    history.Init();
-    noType.digest[SMD5::kDigits] = 'x'; // takes no part in comparisons
-    Tile(0).SetType(noType);
-    EXPECT_FALSE(history.AddOneStep(Step::OperationAlign));
-    EXPECT_EQ(Tile(0).GetType().digest[SMD5::kDigits], 'x') << "a step writes to no cabinet";
     for (const auto type : {Step::OperationSelect, Step::OperationView}) {
         Tile(0).SetX(5);
         EXPECT_TRUE(history.AddOneStep(type));
@@ -253,10 +243,6 @@ TEST_F(ProjectUndoRedoTest, OnlyChangedLayoutsAreRecorded)
     for (const int x : {9, Tile(0).GetX()})
         Tile(0).SetX(x);
     EXPECT_FALSE(history.AddOneStep(Step::OperationAlign)) << "it is back where it was";
-    EXPECT_TRUE(Edit() && Edit() && Undo(2));
-    EXPECT_EQ(history.GetCanRedoStep(), 2);
-    EXPECT_TRUE(Edit());
-    EXPECT_EQ(history.GetCanRedoStep(), 0) << "an edit after an undo ends what could be redone";
 
     const QUuid parent = GroupsOf(Port(0)).GetDirectGroupByDirIndex(0)->GetID();
     const QUuid child = MakeWall(Port(0), 2, 1);
@@ -275,64 +261,56 @@ TEST_F(ProjectUndoRedoTest, AStepCostsWhatItChanged)
         return LayoutSnapshot::Take(port, before, std::nullopt);
     };
     auto base = take({});
-    const auto step = [&](int chunks, int cabinets) {
+    const auto step = [&](int parts) {
         const auto next = take(base);
-        const auto before = PartsOf(*base);
-        const auto after = PartsOf(*next);
-        EXPECT_LE((after.first - before.first).size(), chunks);
-        EXPECT_EQ((after.second - before.second).size(), cabinets);
+        EXPECT_LE((PartsOf(*next) - PartsOf(*base)).size(), parts);
         base = next;
     };
     tiles.GetTile(2345)->SetX(1);
-    step(1, 1);
+    step(2);
     tiles.AutoConnection(AutoNumberColumnsTopRight, 0);
     base = take(base);
     tiles.AutoConnection(AutoNumberColumnsTopRight, 0);
     EXPECT_EQ(take(base), base) << "numbered again as it was";
-    tiles.AddTile(new CTile);
-    step(1, 1);
     tiles.DeteleTile(1234);
-    step(16, 0); // the chunks behind it
+    step(16); // the chunks behind it
     for (int i = 0; i < tiles.GetCount(); ++i)
         tiles.GetTile(i)->GetTileRotateParam(); // from now on cabinets keep their data to themselves
     EXPECT_EQ(take(base), base);
     tiles.DeteleTile(0);
-    step(20, 0);
+    step(20);
 }
 
 TEST_F(ProjectUndoRedoTest, CabinetsKeepTheirAddressAndViewStateWhereNothingChanged)
 {
     CTile* moved = &Tile(0, 1);
-    const SRotateParam* record = Tile(0, 2).GetTileRotateParam();
-    for (int i = 0; i < 2; ++i)
-        Tile(0, i).SetTileShowColor(Qt::red);
+    SRotateParam* record = Tile(0, 2).GetTileRotateParam();
+    for (CTile* tile : {&Tile(0, 0), moved})
+        tile->SetTileShowColor(Qt::red);
     history.Init();
     moved->SetX(999);
-    moved->SetRcvSelected(0, true);
-    Tile(0, 2).GetTileRotateParam()->angle = 45;
-    Port(0).GetPortProject()->GetTileSet()->AddTile(new CTile);
+    record->angle = 45;
+    TilesOf(Port(0)).AddTile(new CTile);
     EXPECT_TRUE(history.AddOneStep(Step::OperationAddTiles) && Undo());
     EXPECT_TRUE(TilesOf(Port(0)).GetCount() == 4 && &Tile(0, 1) == moved && moved->GetX() == 128);
     EXPECT_EQ(Tile(0, 0).GetTileShowColor(), QColor(Qt::red));
-    EXPECT_FALSE(moved->GetTileShowColor().isValid() || moved->IsRcvSelected(0));
+    EXPECT_FALSE(moved->GetTileShowColor().isValid());
     EXPECT_TRUE(record->angle == 0 && record == Tile(0, 2).GetTileRotateParam()) << "it stays right";
 }
 
 TEST_F(ProjectUndoRedoTest, CabinetListedTwiceBecomesTwoWhenTwoWereRecorded)
 {
-    CTileSet& tiles = *Port(0).GetPortProject()->GetTileSet();
+    CTileSet& tiles = TilesOf(Port(0));
     const CTileSet before = tiles;
     tiles.DeteleTile(1);
     tiles.AddTile(tiles.GetTile(0));
     EXPECT_TRUE(history.AddOneStep(Step::OperationAddTiles) && Undo());
     EXPECT_EQ(tiles, before);
-    EXPECT_NE(tiles.GetTile(0), tiles.GetTile(tiles.GetCount() - 1));
 }
 
 TEST_F(ProjectUndoRedoTest, HiddenPortsAndPortsThatBecameBackupsAreLeftOut)
 {
     Edit(0);
-    ASSERT_EQ(TilesOf(Port(100)).GetCount(), 0);
     Port(100).SetBeBackupDest(QUuid::createUuid(), 1);
     history.SetAsSaveStep();
     EXPECT_TRUE(Undo() && Redo());
@@ -385,30 +363,22 @@ TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)
     EXPECT_TRUE(history.Undo(2, ports, &count)) << "a list too short is left empty";
     EXPECT_EQ(count, 0);
     EXPECT_EQ(Sender().GetRecentPortIndex(), 3) << "the step's own";
-    EXPECT_TRUE(history.GetRedoStepPort(2) == 1 && history.GetUndoStepPort(1) == 2
-                && history.GetUndoStepType(2) == Step::OperationBase);
+    EXPECT_TRUE(history.GetRedoStepPort(2) == 1 && history.GetUndoStepType(2) == Step::OperationBase);
 
-    for (const int steps : {-1, 3, 1000, std::numeric_limits<int>::max()}) {
-        count = 8;
-        EXPECT_FALSE(history.Undo(steps, ports, &count) || count != 0 || history.Redo(steps, ports, &count));
+    for (const int steps : {-1, 3, std::numeric_limits<int>::max()}) {
+        EXPECT_FALSE(Undo(steps) || Redo(steps));
         EXPECT_TRUE(history.GetUndoStepType(steps) == -1 && history.GetRedoStepPort(steps) == -1);
     }
     EXPECT_EQ(history.GetCurSenderCurStep(), 2);
-    history.Release();
-    count = 8;
-    EXPECT_FALSE(history.Undo(1, ports, &count) || history.Redo(1, ports, &count));
-    EXPECT_EQ(count, 8) << "without a history nobody touches it";
 }
 
 TEST_F(ProjectUndoRedoTest, AHistoryThatAnEditStartedIsModified)
 {
     history.Release();
-    EXPECT_TRUE(!history.IsModidfied() && history.GetCurSenderCurStep() == -1);
     EXPECT_TRUE(Edit() && history.GetCanUndoStep() == 0) << "the edit is part of the base";
     EXPECT_TRUE(history.IsModidfied());
     history.SetAsSaveStep();
     EXPECT_FALSE(history.IsModidfied());
-
     for (const bool restart : {true, false}) {
         Edit();
         if (restart)
@@ -436,19 +406,14 @@ TEST_F(ProjectUndoRedoTest, SendersBeyondTheSlotsOrWithoutIdHaveNoHistory)
     history.Init();
     EXPECT_FALSE(history.IsModidfied());
     EXPECT_FALSE(history.SenderUndoRedoInit(lookup.senders.last()) || history.SenderUndoRedoInit(nullptr));
-    for (int index : {CProjectUndoRedo::kSlotCount + 1, -1})
-        EXPECT_FALSE(history.AddOneStepToSender(index, Step::OperationClear) || history.IsModidfied());
     EXPECT_FALSE(history.AddOneStepToSender(CProjectUndoRedo::kSlotCount, Step::OperationClear));
     EXPECT_TRUE(history.IsModidfied()) << "an edit that no slot is left for";
     history.SetAsSaveStep();
     EXPECT_TRUE(history.IsModidfied()) << "nothing tells later edits of that sender from what was saved";
-
     history.SenderUndoRedoRelease(lookup.senders.takeAt(1)->GetId());
     EXPECT_TRUE(history.SenderUndoRedoInit(lookup.senders.last()));
     history.SetAsSaveStep();
     EXPECT_FALSE(history.IsModidfied());
     Sender().SetId(QUuid());
     EXPECT_TRUE(!Edit() && history.IsModidfied());
-    lookup.senders.clear();
-    EXPECT_FALSE(history.AddOneStep(Step::OperationClear) || Undo(0));
 }

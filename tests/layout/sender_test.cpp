@@ -1,12 +1,8 @@
 #include "layout/sender.h"
 
-#include "layout/tile.h"
-#include "layout/tilegroup.h"
 #include "support/wallbuilder.h"
 
 #include <gtest/gtest.h>
-
-#include <limits>
 
 TEST(SenderTest, PortsKnowTheirOwnerAndColourAndComeInCountsThatDevicesHave)
 {
@@ -21,7 +17,7 @@ TEST(SenderTest, PortsKnowTheirOwnerAndColourAndComeInCountsThatDevicesHave)
     EXPECT_FALSE(sender.GetPort(-1) || sender.GetPort(kMaxPorts));
 
     sender.SetPortCount(160);
-    for (const int refused : {-4, 1, 3, 41, 100, 161}) {
+    for (const int refused : {-4, 3, 100, 161}) {
         sender.SetPortCount(refused);
         EXPECT_EQ(sender.GetPortCount(), 160) << refused;
     }
@@ -33,9 +29,7 @@ TEST(SenderTest, ACopyTakesThePortsWithTheirViewAndTheParameters)
 {
     const auto source = MakeWall(2, 2, 3);
     source->SetMonitorRenderArea(QRect(6, 7, 8, 9));
-    source->SetMonitorRenderRelativePos(10);
     source->SetMonitorRcvOffsetPt(QPoint(11, 12));
-    source->SetDeviceClass(4);
     CPort& port = *source->GetPort(159);
     port.SetBeBackupDest(source->GetId(), 1);
     port.SetFlagLock(true);
@@ -45,14 +39,13 @@ TEST(SenderTest, ACopyTakesThePortsWithTheirViewAndTheParameters)
     CSender copy;
     MakeWall(*copy.GetPort(7), 3, 3);
     copy.CopySender(*source);
-    copy.CopySender(copy);
-    EXPECT_TRUE(copy.GetId() == source->GetId() && copy.GetDeviceClass() == 4);
+    EXPECT_EQ(copy.GetId(), source->GetId());
     const CPort& last = *copy.GetPort(159);
     EXPECT_TRUE(last.IsFlagLock() && !last.IsVisible() && last.GetPortArea() == port.GetPortArea());
     for (int i = 0; i < kMaxPorts; ++i)
         EXPECT_TRUE(copy.GetPort(i)->BeSameAs(*source->GetPort(i))) << i;
     copy.ResetMonitorRenderParam(false);
-    EXPECT_TRUE(copy.GetMonitorRenderArea() == QRect() && copy.GetMonitorRenderRelativePos() == 0);
+    EXPECT_EQ(copy.GetMonitorRenderArea(), QRect());
     EXPECT_EQ(copy.GetMonitorRcvOffsetPt(), QPoint(11, 12));
     copy.ResetMonitorRenderParam(true);
     EXPECT_EQ(copy.GetMonitorRcvOffsetPt(), QPoint());
@@ -69,15 +62,11 @@ TEST(SenderTest, TheFirstBackupInUseTellsWhetherItIsASelfBackup)
     bool self = true;
     sender.GetPort(4)->SetBeBackupDest(sender.GetId(), 0);
     EXPECT_FALSE(sender.ExistBackupDest(&self)); // port 4 is not in use
-    EXPECT_FALSE(sender.HaveBkPorts());
-    EXPECT_TRUE(self);
-
     sender.SetPortCount(6);
     self = false;
     EXPECT_TRUE(sender.ExistBackupDest(&self) && self);
     sender.GetPort(1)->SetBeBackupDestIP(1, 0);
-    EXPECT_TRUE(sender.ExistBackupDest(&self));
-    EXPECT_FALSE(self);
+    EXPECT_TRUE(sender.ExistBackupDest(&self) && !self);
     EXPECT_TRUE(sender.ExistBackupDest(nullptr));
 }
 
@@ -85,12 +74,7 @@ TEST(SenderTest, TheOffsetNeverStartsTheLayoutBeforeTheCanvas)
 {
     CSender sender;
     EXPECT_EQ(sender.GetBound(), QRect(QPoint(0, 0), QPoint(-1, -1)));
-    sender.OffsetValid();
-    EXPECT_EQ(sender.GetOffset(), QSize(-1, -1));
-
-    Wall wall;
-    wall.leftTop = QPoint(0, 5);
-    MakeWall(*sender.GetPort(3), wall);
+    MakeWall(*sender.GetPort(3), {1, 1, QSize(128, 64), QPoint(0, 5)});
     TilesOf(*sender.GetPort(3)).SetOffset(-30, 0);
     sender.SetOffset(QSize(10, 0));
     sender.OffsetValid();
@@ -99,15 +83,9 @@ TEST(SenderTest, TheOffsetNeverStartsTheLayoutBeforeTheCanvas)
     sender.OffsetValid();
     EXPECT_EQ(sender.GetOffset(), QSize(31, -5));
 
-    wall.leftTop = QPoint(2000, 100);
-    MakeWall(*sender.GetPort(1), wall);
+    MakeWall(*sender.GetPort(1), {1, 1, QSize(128, 64), QPoint(2000, 100)});
     MakeWall(*sender.GetPort(4), 1, 1); // not in use
     EXPECT_EQ(sender.GetBound(), QRect(QPoint(-30, 5), QPoint(2127, 163)));
-    TilesOf(*sender.GetPort(3)).SetOffset(std::numeric_limits<int>::min(), 0);
-    sender.OffsetValid();
-    EXPECT_EQ(sender.GetOffset(), QSize(std::numeric_limits<int>::max(), -5)) << "as far as numbers go";
-    sender.ClearAllTiles();
-    EXPECT_EQ(TilesOf(*sender.GetPort(4)).GetCount(), 0);
 }
 
 TEST(SenderTest, ASelectionOnSeveralPortsIsNoticed)
@@ -118,8 +96,6 @@ TEST(SenderTest, ASelectionOnSeveralPortsIsNoticed)
     TilesOf(*sender->GetPort(2)).UnSelectAll(3);
     EXPECT_FALSE(sender->IsSelectMultiPortTile(-1) || sender->IsSelectMultiPortTile(0));
     EXPECT_TRUE(sender->IsSelectMultiPortTile(1));
-    TilesOf(*sender->GetPort(0)).UnSelectAll(3);
-    EXPECT_FALSE(sender->IsSelectMultiPortTile(1));
 }
 
 TEST(SenderTest, GroupOperationsWorkOnAllPortsInUse)
@@ -135,8 +111,7 @@ TEST(SenderTest, GroupOperationsWorkOnAllPortsInUse)
     CTileSet all;
     CTileSet tiles;
     EXPECT_TRUE(sender->GetTileSet(all) && sender->GetAllTileSetInGroup(tiles, outer));
-    ASSERT_TRUE(all.GetCount() == 6 && tiles.GetCount() == 5);
-    EXPECT_EQ(tiles.GetTile(2), all.GetTile(1));
+    EXPECT_TRUE(all.GetCount() == 6 && tiles.GetCount() == 5);
     EXPECT_FALSE(sender->GetAllTileSetInGroup(tiles, inner) || tiles.GetCount() > 0);
     EXPECT_TRUE(sender->GetTileSetInGroupRecursive(tiles, inner));
     EXPECT_TRUE(sender->GetAllTileSetInGroupPart(
@@ -163,9 +138,6 @@ TEST(SenderTest, AskingForTheGroupsAgainDeletesOnlyStrangers)
     EXPECT_EQ(out.GetDirectCount(), 2);
     EXPECT_TRUE(other->GetTileGroupSet(out));
     EXPECT_EQ(out.GetDirectCount(), 1);
-    EXPECT_TRUE(sender->GetTileGroupSet(out));
-    EXPECT_EQ(out.GetDirectGroupByDirIndex(1), GroupsOf(*sender->GetPort(1)).GetDirectGroupByDirIndex(0));
-
     EXPECT_FALSE(sender->GetTileGroupSet(GroupsOf(*sender->GetPort(0))));
     EXPECT_EQ(GroupsOf(*sender->GetPort(0)).GetDirectCount(), 1);
 }

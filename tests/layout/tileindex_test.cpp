@@ -91,8 +91,8 @@ public:
                 EXPECT_EQ(found[i].GetTiles(), originals);
             }
         }
-        CTileSet
-            found; // takes in the pointers given out above, so that the next edit is caught up with alone
+        // Takes in the pointers given out above, so that the next edit is caught up with alone.
+        CTileSet found;
         for (const CTileSet* set : {&m_wall, &m_all})
             set->GetTileSetAtPosition(found, 0, 0);
     }

@@ -7,8 +7,6 @@ TEST(MonitorRcvShowDataTest, ClearingASenderOrAKindLeavesTheOthers)
     const QString text = QStringLiteral("61 °C");
     CMonitorRcvShowData data;
     data.SetText(0, 0, 0, MonitorRenderTemperature, text);
-    data.SetText(0, 0, -2, MonitorRenderTemperature,
-                 text); // no receiving card: a clearing could not reach it
     data.SetText(1, 0, 0, MonitorRenderTemperature, text);
     data.SetText(1, 0, 0, MonitorRenderFan, text);
 

@@ -1,9 +1,6 @@
 #include "common/xmldom.h"
-#include "frame/lednimbradata.h"
 #include "frame/runtimedata.h"
 #include "layout/projectundoredo.h"
-#include "layout/tile.h"
-#include "layout/tilegroup.h"
 #include "monitor/monitordata.h"
 #include "products/productdirectoryset.h"
 #include "project/parameterwork.h"
@@ -18,7 +15,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <random>
 
@@ -46,16 +42,6 @@ protected:
         return ReadFile(parameterwork::DocumentPath());
     }
 
-    static void Put(const QString& path, const QByteArray& content)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-
-    static SMD5 Type(char digit) { return SMD5::FromString(QString(32, QLatin1Char(digit))); }
-
     Library library;
     TestFolder folder;
     CProjectData& project = *GetProjectData();
@@ -63,25 +49,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(ProjectFileTest, SavedProjectLoadsEqualAndSavesTheSameBytes)
-{
-    ASSERT_TRUE(Load(SamplePath("full/project.xml")));
-    const QString path = folder.Path(QStringLiteral("壁 a.prj"));
-    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
-    const QByteArray document = ReadFile(parameterwork::DocumentPath());
-    const QByteArray archive = ReadFile(path);
-    GetMonitorData()->SetToDefaultForVideo();
-
-    CProjectData other;
-    QString error;
-    ASSERT_TRUE(other.LoadProjectFromFile(QFile::encodeName(path).constData(), error, nullptr));
-    ASSERT_TRUE(other.SaveProjectToFile(path, nullptr));
-    EXPECT_EQ(ReadFile(parameterwork::DocumentPath()), document);
-    EXPECT_EQ(ReadFile(path), archive);
-    EXPECT_EQ(other.GetSender(0)->GetPort(1)->GetTileSet().GetTile(0)->GetX(), -300)
-        << "what an offset made legal is restored";
-}
 
 TEST_F(ProjectFileTest, TreesHoldWhatTheFileHolds)
 {
@@ -120,24 +87,21 @@ TEST_F(ProjectFileTest, ParameterFilesTravelWithTheProjectIntoTheLibrary)
     EXPECT_EQ(first.size(), 1504);
     EXPECT_EQ(ReadFile(parameterwork::ProjectFolder() + QStringLiteral("1.rcvbp")).size(), 1104);
     EXPECT_EQ(ReadFile(CProductDirectorySet::GetRootDir() + QStringLiteral("箱体A128.rcvbp")), first);
-    EXPECT_NE(
-        GetRuntimeData()->GetProductDirectorySet()->FindProductFromGuid(project.GetParameterFiles()[0].type),
-        nullptr);
     EXPECT_EQ(GetRuntimeData()->GetProductDirectorySet()->GetProductCount(), 2);
 
     QFile::remove(parameterwork::PathOf(QStringLiteral("箱体A128"))); // the library's copy takes its place
-    const QString path = folder.Path(QStringLiteral("b.prj"));
-    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
-    EXPECT_EQ(project.GetLastFileError(), QString());
-    ASSERT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("unpacked"))));
-    EXPECT_EQ(ReadFile(folder.Path(QStringLiteral("unpacked/project/0.rcvbp"))), first);
+    const auto saved = [this] {
+        const QString path = folder.Path(QStringLiteral("b.prj"));
+        EXPECT_TRUE(project.SaveProjectToFile(path, nullptr));
+        EXPECT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("unpacked"))));
+        return ReadFile(folder.Path(QStringLiteral("unpacked/project/0.rcvbp")));
+    };
+    EXPECT_EQ(saved(), first);
 
-    Put(parameterwork::PathOf(QStringLiteral("箱体A128")), "own, edited");
+    WriteFile(parameterwork::PathOf(QStringLiteral("箱体A128")), "own, edited");
     const QString known = CProductDirectorySet::GetRootDir() + QStringLiteral("箱体A128.rcvbp");
     ASSERT_TRUE(QFile::remove(known) && QDir().mkpath(known)); // cannot be read
-    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
-    ASSERT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("unpacked"))));
-    EXPECT_EQ(ReadFile(folder.Path(QStringLiteral("unpacked/project/0.rcvbp"))), "own, edited");
+    EXPECT_EQ(saved(), "own, edited");
 }
 
 TEST_F(ProjectFileTest, FilesInTheWorkAndProductFoldersCountAsTheyAre)
@@ -146,16 +110,15 @@ TEST_F(ProjectFileTest, FilesInTheWorkAndProductFoldersCountAsTheyAre)
     const QString root = CProductDirectorySet::GetRootDir();
     const QString deep = root + QStringLiteral("mine/cabinet.rcvbp");
     const QString taken = root + QStringLiteral("箱体A128.rcvbp");
-    Put(parameterwork::PathOf(QStringLiteral("箱体A128")), "of another project");
-    Put(deep, ReadFile(folder.Path(QStringLiteral("project/0.rcvbp"))));
+    WriteFile(parameterwork::PathOf(QStringLiteral("箱体A128")), "of another project");
+    WriteFile(deep, ReadFile(folder.Path(QStringLiteral("project/0.rcvbp"))));
     ASSERT_TRUE(Load(SamplePath("small-wall.prj"))) << "nothing was scanned before";
     EXPECT_EQ(project.GetLastFileError(), QString());
     EXPECT_EQ(ReadFile(parameterwork::PathOf(QStringLiteral("箱体A128"))).size(), 1504);
-    EXPECT_EQ(ReadFile(deep).size(), 1504) << "no copy was made for which a scan would take it away";
-    EXPECT_FALSE(QFile::exists(taken));
+    EXPECT_TRUE(QFile::exists(deep) && !QFile::exists(taken)) << "no second copy";
 
     ASSERT_TRUE(QFile::remove(deep));
-    Put(taken, "another product of the name");
+    WriteFile(taken, "another product of the name");
     ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
     EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("箱体A128")));
     EXPECT_EQ(ReadFile(taken), "another product of the name");
@@ -168,22 +131,18 @@ TEST_F(ProjectFileTest, ParameterFileThatIsDamagedOrTooLargeCostsItselfAlone)
     archive[content] = static_cast<char>(~archive[content]);
     ASSERT_TRUE(Load(folder.Write(QStringLiteral("damaged.prj"), archive)));
     EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("无法读取")));
-    ASSERT_EQ(project.GetParameterFiles().size(), 2);
     EXPECT_FALSE(QFile::exists(parameterwork::PathOf(project.GetParameterFiles()[0].name)));
     EXPECT_EQ(ReadFile(parameterwork::PathOf(project.GetParameterFiles()[1].name)).size(), 1104);
 
     project.SetToDefault();
-    for (const char* name : {"small", "large", "folder"}) {
-        project.AddParameterFileInfo(QLatin1String(name), Type(*name));
-        Put(parameterwork::PathOf(QLatin1String(name)), "x");
+    for (const char* name : {"small", "large"}) {
+        project.AddParameterFileInfo(QLatin1String(name), SMD5::FromString(QString(32, QLatin1Char(*name))));
+        WriteFile(parameterwork::PathOf(QLatin1String(name)), "x");
     }
     QFile::resize(parameterwork::PathOf(QStringLiteral("large")), qint64(256) << 20); // sparse
-    QFile::remove(parameterwork::PathOf(QStringLiteral("folder")));
-    QDir().mkpath(parameterwork::PathOf(QStringLiteral("folder")));
     const QString path = folder.Path(QStringLiteral("a.prj"));
     ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
-    for (const char* name : {"large", "folder"})
-        EXPECT_TRUE(project.GetLastFileError().contains(QLatin1String(name))) << name;
+    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("large")));
     EXPECT_FALSE(project.GetLastFileError().contains(QStringLiteral("small")));
     ASSERT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("out"))));
     EXPECT_EQ(QDir(folder.Path(QStringLiteral("out/project"))).entryList(QDir::Files),
@@ -201,12 +160,8 @@ TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
         SamplePath("climbing.prj"),
         folder.Path(QStringLiteral("missing.prj")),
         folder.Write(QStringLiteral("empty.prj"), ""),
-        folder.Write(QStringLiteral("text.prj"), "hello"),
         folder.Write(QStringLiteral("cut.xml"), ReadFile(SamplePath("small-wall.xml")).left(20000)),
-        folder.Write(QStringLiteral("new-and-cut.xml"),
-                     "<?xml version=\"1.0\"?><LedSetting><VersionSupport MinimumVersion=\"7.0\"/>"),
         folder.Write(QStringLiteral("other.xml"), "<?xml version=\"1.0\"?><LedControlConfig/>"),
-        folder.Write(QStringLiteral("zip.prj"), "PK\3\4 and nothing more"),
         folder.Write(QStringLiteral("deep.xml"),
                      "<?xml version=\"1.0\"?>" + QByteArray("<a>").repeated(20000)),
     };
@@ -215,7 +170,6 @@ TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
         EXPECT_NE(project.GetLastFileError(), QString()) << path.toStdString();
         EXPECT_EQ(versionError, QStringLiteral("untouched"));
     }
-    EXPECT_FALSE(project.LoadProjectFromFile(nullptr, versionError, nullptr));
     EXPECT_EQ(Document(), before);
 }
 
@@ -229,11 +183,10 @@ TEST_F(ProjectFileTest, VersionsUpTo61AreRead)
 
 TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
 {
-    ASSERT_TRUE(
-        LoadText("<Strange/><SenderLayout SenderCount=\"9\"><Sender_2 PortCount=\"2\" ID=\"x\">"
-                 "<Port_1><TitleLayout TileCount=\"2000000000\"><Tile_7 Width=\"64\" Height=\"64\" X=\"5\"/>"
-                 "<Tile_3 Width=\"32\" Height=\"32\"/><Tile_3/><Tile_0/></TitleLayout></Port_1>"
-                 "</Sender_2></SenderLayout>"));
+    ASSERT_TRUE(LoadText("<Strange/><SenderLayout SenderCount=\"9\"><Sender_2 PortCount=\"2\" ID=\"x\">"
+                         "<Port_1><TitleLayout TileCount=\"2000000000\"><Tile_7 X=\"5\"/>"
+                         "<Tile_3 Width=\"32\" Height=\"32\"/><Tile_3/><Tile_0/></TitleLayout></Port_1>"
+                         "</Sender_2></SenderLayout>"));
     EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("Strange")));
     ASSERT_EQ(project.GetSenderCount(), 1);
     EXPECT_FALSE(project.GetSender(0)->GetId().isNull());
@@ -260,12 +213,10 @@ TEST_F(ProjectFileTest, OfRepeatedElementsTheLastOfTheRootAndTheFirstOfAPortCoun
 
 TEST_F(ProjectFileTest, RepeatedSenderIdsAreRenewedBeforeTheirPortsAreRead)
 {
-    const QByteArray sender =
-        " ID=\"{c95ad16b-6333-4764-bb20-9ee65602cbb4}\" PortCount=\"2\"><Port_1>"
-        "<TitleLayout TileCount=\"1\"><Tile_1 Width=\"8\" Height=\"8\"/></TitleLayout></Port_1>";
+    const QByteArray sender = " ID=\"{c95ad16b-6333-4764-bb20-9ee65602cbb4}\"><Port_1>"
+                              "<TitleLayout TileCount=\"1\"><Tile_1/></TitleLayout></Port_1>";
     ASSERT_TRUE(LoadText("<SenderLayout SenderCount=\"2\"><Sender_1" + sender + "</Sender_1><Sender_2"
                          + sender + "</Sender_2></SenderLayout>"));
-    ASSERT_EQ(project.GetSenderCount(), 2);
     CSender* second = project.GetSender(1);
     EXPECT_NE(second->GetId(), project.GetSender(0)->GetId());
     EXPECT_EQ(TilesOf(*second->GetPort(0)).GetTile(0)->GetSenderId(), second->GetId());
@@ -293,19 +244,10 @@ TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
         EXPECT_NE(project.GetLastFileError(), QString());
     }
 
-    EXPECT_FALSE(project.SaveProjectToFile(parameterwork::DocumentPath(), nullptr))
-        << "an archive without its document";
-    QFile archive(SamplePath("small-wall.prj"));
-    QFile::remove(parameterwork::DocumentPath());
-    ASSERT_TRUE(archive.copy(parameterwork::DocumentPath()));
-    EXPECT_FALSE(Load(parameterwork::DocumentPath()));
-    EXPECT_EQ(ReadFile(parameterwork::DocumentPath()), ReadFile(archive.fileName()));
-    const QString work = CConstantData::GetProjectParamFileTemp().chopped(1);
-    ASSERT_TRUE(QDir(work).removeRecursively());
-    ASSERT_TRUE(QFile::link(inTheWay, work));
-    EXPECT_FALSE(project.SaveProjectToFile(folder.Path(QStringLiteral("b.prj")), nullptr));
-    EXPECT_NE(project.GetLastFileError(), QString());
-    QFile::remove(work);
+    const QByteArray archive = ReadFile(SamplePath("small-wall.prj"));
+    EXPECT_FALSE(project.SaveProjectToFile(parameterwork::DocumentPath(), nullptr)) << "its own document";
+    EXPECT_FALSE(Load(WriteFile(parameterwork::DocumentPath(), archive)));
+    EXPECT_EQ(ReadFile(parameterwork::DocumentPath()), archive);
 }
 
 TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
@@ -343,7 +285,7 @@ TEST_F(ProjectFileTest, OtherFilesInAnArchiveDoNotComeIntoTheNextOne)
     ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("project")), odd));
     ASSERT_TRUE(Load(odd));
     EXPECT_EQ(project.GetLastFileError(), QString());
-    Put(parameterwork::ProjectFolder() + QStringLiteral("qt_temp.AbCdEf"), "of a killed program");
+    WriteFile(parameterwork::ProjectFolder() + QStringLiteral("qt_temp.AbCdEf"), "of a killed program");
     ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
     EXPECT_EQ(ReadFile(path), saved);
 }

@@ -1,7 +1,5 @@
 #include "support/library.h"
 
-#include "frame/lednimbradata.h"
-
 #include <QDir>
 #include <QStandardPaths>
 

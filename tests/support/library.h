@@ -1,5 +1,7 @@
 #pragma once
 
+#include "frame/lednimbradata.h"
+
 /// The six shared objects over a documents folder that was emptied, for the length of a test.
 class Library
 {

@@ -2,6 +2,8 @@
 
 #include "layout/layoutlookup.h"
 #include "layout/sender.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
 
 #include <QList>
 #include <QSize>
@@ -9,18 +11,13 @@
 #include <initializer_list>
 #include <memory>
 
-class CTile;
-
-/// A block of cabinets to build. Lengths in canvas pixels.
+/// A block of cabinets to build, chained row by row, each from the left. Lengths in canvas pixels.
 struct Wall
 {
     int columns = 1;
     int rows = 1;
     QSize cabinet{128, 64};
-    QSize receivers{1, 1}; ///< receiving cards across and down a cabinet
     QPoint leftTop{0, 0};
-    SMD5 type;
-    bool numbered = true; ///< chained row by row, each from the left
 };
 
 /// Places the block behind what the port holds: selected, and a group of its own from two cabinets on.
@@ -28,7 +25,7 @@ struct Wall
 QUuid MakeWall(CPort& port, const Wall& wall);
 QUuid MakeWall(CPort& port, int columns, int rows);
 
-/// A sender whose first `ports` ports each hold such a block.
+/// A sender whose first `ports` ports each hold such a block; four are in use.
 std::unique_ptr<CSender> MakeWall(int columns, int rows, int ports = 1);
 
 CTileSet& TilesOf(CPort& port);
