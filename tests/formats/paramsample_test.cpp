@@ -106,6 +106,7 @@ protected:
         ASSERT_EQ((project.*take)(hollow, QUuid()), 0U);
         ASSERT_EQ((project.*write)(path, QUuid()), 0U);
         const QByteArray empty = ReadFile(path);
+        EXPECT_EQ(NamesWithoutOwnValue(sample, empty, kStructure), "");
 
         ASSERT_EQ((project.*take)(folder.Write(QStringLiteral("b.xml"), sample), QUuid()), 0U);
         EXPECT_EQ(FirstDifference(Values(), Told(values)), "");

@@ -162,6 +162,7 @@ TEST_F(ProjectSampleTest, DocumentIsReadByTheValueAndWrittenByTheByte)
 
     Load(Hollow(sample, kStructure));
     const QRegularExpression passedOver(kStructure.pattern() + QStringLiteral("|^(Minimum|Current)Version$"));
+    EXPECT_EQ(NamesWithoutOwnValue(sample, Saved(), passedOver), "");
     // Monitoring keeps its defaults, a cabinet has one receiving card.
     EXPECT_EQ(
         ValuesBesideZero(Saved(), passedOver),

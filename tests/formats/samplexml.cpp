@@ -88,6 +88,23 @@ QByteArray Hollow(const QByteArray& sample, const QRegularExpression& kept)
     return document.toByteArray();
 }
 
+std::string NamesWithoutOwnValue(const QByteArray& sample, const QByteArray& hollow,
+                                 const QRegularExpression& passedOver)
+{
+    const Values values = ValuesOf(sample);
+    const Values without = ValuesOf(hollow);
+    std::string names;
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value) {
+        const QString name = value.key().section(QRegularExpression(QStringLiteral("[/@]")), -1);
+        const QStringList others = without.value(value.key());
+        const bool own = std::any_of(value->begin(), value->end(),
+                                     [&](const QString& text) { return !others.contains(text); });
+        if (!own && !passedOver.match(name).hasMatch())
+            names += value.key().toStdString() + ' ';
+    }
+    return names;
+}
+
 std::string ValuesBesideZero(const QByteArray& xml, const QRegularExpression& passedOver)
 {
     QStringList found;

@@ -18,6 +18,11 @@ std::string FirstDifference(const QByteArray& a, const QByteArray& b); ///< the 
 /// The document with no value but those of names that match: what reading it gives is what absent ones give.
 QByteArray Hollow(const QByteArray& sample, const QRegularExpression& kept);
 
+/// The names of the sample, but for those that match, all of whose values stand in `hollow` at the same place
+/// too. Objects that only a number tells apart count as one.
+std::string NamesWithoutOwnValue(const QByteArray& sample, const QByteArray& hollow,
+                                 const QRegularExpression& passedOver);
+
 /// The values that are neither empty nor 0, each "name=value" once, but for ids and names that match.
 std::string ValuesBesideZero(const QByteArray& xml, const QRegularExpression& passedOver);
 

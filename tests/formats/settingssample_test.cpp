@@ -1,5 +1,6 @@
 #include "formats/samplexml.h"
 #include "settings/configdata.h"
+#include "settings/configfile.h"
 #include "support/testfolder.h"
 
 #include <gtest/gtest.h>
@@ -46,6 +47,8 @@ TEST(SettingsSampleTest, FileIsReadByTheValueAndWrittenByTheByte)
     const QString path = folder.Path(QStringLiteral("c.xml"));
     ASSERT_TRUE(c.XmlSave(path));
     EXPECT_EQ(FirstDifference(ReadFile(path), sample), "");
+    ASSERT_TRUE(WriteConfigFile(path, SConfigItems()));
+    EXPECT_EQ(NamesWithoutOwnValue(sample, ReadFile(path), QRegularExpression(QStringLiteral("^$a"))), "");
 }
 
 TEST(SettingsSampleTest, FilesBesideItAreReadByTheValueAndWrittenByTheByte)

@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+
 #include <functional>
 
 #include <fcntl.h>
@@ -174,6 +176,10 @@ TEST_F(LimitsTest, WhatOnePortCanHoldIsSavedAndReadAndMoreIsRefused)
     ASSERT_EQ(TilesOf(*port).GetCount(), kMaxTilesOfPort);
     EXPECT_EQ(WhyTooLarge(QList<const CPort*>{port}), QString());
     EXPECT_EQ(WhyTooLarge(QList<const CPort*>{port, port}), DocumentTooLarge());
+    QList<const CSender*> senders;
+    for (int i = 0; i <= layoutnames::kMaxSenders; ++i)
+        senders.append(project.GetSender(0));
+    EXPECT_TRUE(WhyTooLarge(senders).contains(QString::number(layoutnames::kMaxSenders)));
 }
 
 TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
@@ -191,6 +197,14 @@ TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
     }
     EXPECT_FALSE(writer.Flush());
     EXPECT_EQ(writer.GetRefusal(), DocumentTooLarge());
+
+    StreamXmlWriter longTag(nowhere);
+    longTag.BeginElement("Sender_7");
+    for (const char* name : {"a", "b", "c", "d", "e", "f"}) {
+        EXPECT_EQ(longTag.GetRefusal(), QString());
+        longTag.Attribute(name, text);
+    }
+    EXPECT_TRUE(longTag.GetRefusal().contains(QStringLiteral("Sender_7")));
 
     CSender* sender = project.NewSender();
     SInputVideoColorCurveParam curve;
@@ -221,6 +235,12 @@ TEST_F(LimitsTest, ArchiveIsHeldToItsLimitsWhenPackedAndWhenUnpacked)
     EXPECT_FALSE(UnpackArchive(packed, out, {}, &error, limits(999)));
     EXPECT_EQ(error, QStringLiteral("压缩包内容过大: in/small"));
     EXPECT_TRUE(UnpackArchive(packed, out, {}, nullptr, limits(1000)));
+
+    const QString deepest = QStringLiteral("in/") + QStringLiteral("d/").repeated(100);
+    ASSERT_TRUE(QDir(folder.Path()).mkpath(deepest));
+    EXPECT_TRUE(PackFolder(in, packed));
+    EXPECT_TRUE(UnpackArchive(packed, out));
+    EXPECT_TRUE(QDir(out).exists(deepest));
 }
 
 TEST_F(LimitsTest, PipesAndDevicesAreRefusedAtEveryEntrance)

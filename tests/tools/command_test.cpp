@@ -16,8 +16,9 @@ namespace {
 void ExpectHolds(const QJsonValue& actual, const QJsonValue& expected, const QString& path)
 {
     EXPECT_EQ(actual.type(), expected.type()) << qPrintable(path);
-    if (!expected.isObject() && !expected.isArray())
+    if (!expected.isObject() && !expected.isArray()) {
         EXPECT_EQ(actual, expected) << qPrintable(path);
+    }
     for (const QString& key : expected.toObject().keys())
         ExpectHolds(actual[key], expected[key], path + QLatin1Char('/') + key);
     EXPECT_EQ(actual.toArray().size(), expected.toArray().size()) << qPrintable(path);
