@@ -142,6 +142,13 @@ TEST(ParamBlocksTest, LayersAreWrittenWithoutGapsAndReadIntoFreeEntries)
     sender.GetLayerInfo(layers.data());
     EXPECT_EQ(layers[1].height, 7);
     EXPECT_TRUE(layers[2].IsEmpty());
+
+    block.At("outputLayerParamRoot0/outputLayerParamRootBase2/outputLayerHeight")
+        .firstChild()
+        .setNodeValue(QStringLiteral("0"));
+    ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
+    sender.GetLayerInfo(layers.data());
+    EXPECT_EQ(layers[1], SLayerWndParam()) << "a layer without area is none";
 }
 
 TEST(ParamBlocksTest, MoreLayersThanTheTableHoldsAreCut)

@@ -37,7 +37,9 @@ TEST(ConfigDataTest, MissingItemsKeepTheirValuesOnReading)
     TestFolder folder;
     CConfigData config;
     config.SetDetectStrategy(2);
+    config.SetAttractionDis(50); // no file may say so
     EXPECT_TRUE(config.XmlLoad(folder.Write(QStringLiteral("a.xml"), kOneItem)));
+    EXPECT_EQ(config.GetAttractionDis(), 50);
     EXPECT_FALSE(config.IsShowGrid());
     EXPECT_EQ(config.GetDetectStrategy(), 2);
 }
