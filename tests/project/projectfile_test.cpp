@@ -245,7 +245,9 @@ TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
     }
 
     const QByteArray archive = ReadFile(SamplePath("small-wall.prj"));
-    EXPECT_FALSE(project.SaveProjectToFile(parameterwork::DocumentPath(), nullptr)) << "its own document";
+    const QString next = CConstantData::GetProjectParamFileTemp() + QStringLiteral("new.prj.part");
+    for (const QString& own : {parameterwork::DocumentPath(), next})
+        EXPECT_FALSE(project.SaveProjectToFile(own, nullptr)) << qPrintable(own);
     EXPECT_FALSE(Load(WriteFile(parameterwork::DocumentPath(), archive)));
     EXPECT_EQ(ReadFile(parameterwork::DocumentPath()), archive);
 }
@@ -270,6 +272,12 @@ TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
     EXPECT_FALSE(Load(folder.Path(QStringLiteral("odd.prj"))));
     EXPECT_TRUE(Load(SamplePath("small-wall.prj")));
     EXPECT_EQ(project.GetLastFileError(), QString());
+
+    const QString own = parameterwork::PathOf(project.GetParameterFiles()[0].name);
+    const QString equal = folder.Write(QStringLiteral("equal"), ReadFile(own));
+    ASSERT_TRUE(QFile::remove(own) && QFile::link(equal, own));
+    EXPECT_TRUE(Load(SamplePath("small-wall.prj")));
+    EXPECT_FALSE(QFileInfo(own).isSymLink()) << "what it leads to may change";
 }
 
 TEST_F(ProjectFileTest, OtherFilesInAnArchiveDoNotComeIntoTheNextOne)
