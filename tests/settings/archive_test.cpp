@@ -76,6 +76,10 @@ TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
     EXPECT_EQ(ReadFile(path), first);
     EXPECT_TRUE(first.contains("/\xD7\xD3/\xC4\xA3.txt")) << "GBK where that holds the name";
     EXPECT_TRUE(first.contains("/\xF0\x9F\x98\x80.txt"));
+    int marked = 0; // in the list at the end: the flags of an entry stand 8 bytes behind its begin
+    for (int at = first.indexOf("PK\1\2"); at >= 0; at = first.indexOf("PK\1\2", at + 1))
+        marked += (first.at(at + 9) & 8) != 0;
+    EXPECT_EQ(marked, 2) << "names in UTF-8 say so";
 
     const QString out = folder.Path(QStringLiteral("out"));
     ASSERT_TRUE(UnpackArchive(path, out, {}, &error)) << qPrintable(error);
