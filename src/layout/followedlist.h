@@ -24,8 +24,8 @@ template <class Visit> void ForEachPosition(const Positions& positions, int coun
             visit(i);
 }
 
-/// Tells which cabinets of a list a journal has noted since the list was last followed. That it is still the
-/// same list is seen from its being shared with the set until somebody writes to it.
+/// Tells which cabinets of a list a journal has noted since the list was last followed. The list is shared
+/// with the set until somebody writes to it; while it is shared, it is the same.
 class FollowedList
 {
 public:

@@ -158,7 +158,7 @@ LayoutSnapshot::Pointer LayoutSnapshot::Take(CPort& port, const Pointer& before,
     const bool resized = tiles.size() != old.m_count;
     if (resized)
         Resize(&chunks, tiles.size());
-    CabinetsByPlace byPlace; // to find again what others that came or went have moved in the list
+    CabinetsByPlace byPlace; // a cabinet that came or went moves others in the list; this finds them again
     ForEachPosition(changed, tiles.size(), [&](int position) {
         const int at = position / kChunkSize;
         const int place = position % kChunkSize;
@@ -204,7 +204,7 @@ void LayoutSnapshot::Restore(CPort* port, const Positions& changed) const
     });
     for (int i = present; i < m_count; ++i)
         tiles->AddTile(NewTile(At(i)));
-    // One that is listed twice cannot be as both places say: it stays at the last, and others take the rest.
+    // A cabinet that is listed twice keeps its last place; new ones take the others.
     ForEachPosition(changed, present, [&](int position) {
         if (changed || ShareIfSame(tiles->GetTiles().at(position), At(position)))
             return; // positions are known of a list without repeats alone

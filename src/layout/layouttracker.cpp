@@ -45,7 +45,7 @@ Positions LayoutTracker::FindChanged(const QList<CTile*>& tiles)
     Positions changed = m_known ? m_list.Changed(tiles) : std::nullopt;
     if (!changed || tiles.isEmpty())
         return changed;
-    if (!m_list.IsDistinct()) // what one place wants of a cabinet, another may not
+    if (!m_list.IsDistinct()) // a cabinet that is right for one of its places may be wrong for another
         return std::nullopt;
     if (!m_handedOut)
         m_handedOut = HandedOutOf(tiles, std::nullopt);

@@ -96,7 +96,7 @@ bool CSenderUndoRedo::Move(int steps)
     return true;
 }
 
-/// What was saved apart from the step is not what coming back to the step brings.
+/// A sender that was saved while it differed from its step has no step to come back to as saved.
 void CSenderUndoRedo::LeaveStep()
 {
     if (m_apart && m_saved == m_current)

@@ -17,7 +17,7 @@ struct StoredTile : TileFields
     int saysOrdered = -1;
 };
 
-/// What stands in the file for a flag: read with "says nothing", written from the cabinet itself.
+/// The flags as files hold them. They are read into what may be -1, and written from the cabinet itself.
 struct FlagInFile
 {
     static int& Multi(StoredTile& tile) { return tile.saysMulti; }

@@ -106,15 +106,15 @@ public:
 
     // rotation
     SRotateParam* GetTileRotateParam(); ///< [ref] the tile's own record, valid while the tile lives
-    /// To read; valid until the tile is next written to or recorded as an undo step.
+    /// To read; valid until the tile is next written to or an undo step is made.
     const SRotateParam& GetRotateRecord() const;
     void SetTileRotateParam(const SRotateParam* param); ///< rotated too when the angle is above 0.0001
     bool IsTileRotated() const;                         ///< false while the rotation setting is off
 
 private:
-    friend class TileAccess; // shares the record with snapshots, out of sight of hosts
+    friend class TileAccess; // shares the data with snapshots, out of sight of hosts
 
-    TileData& Write(); ///< the record, this tile's alone
+    TileData& Write(); ///< the data, from now on this tile's alone
     template <class Member, class Value> bool Store(Member member, const Value& value);
     template <class Member, class Value> void StorePlace(Member member, const Value& value);
     QRect CellRect(int index);

@@ -6,12 +6,12 @@
 
 #include <utility>
 
-/// What the library alone does with a cabinet: snapshots compare and share its record without copying.
+/// What the library alone does with a cabinet: snapshots compare and share its data without copying.
 class TileAccess
 {
 public:
     static const TileData* Data(const CTile& tile) { return tile.m_data.constData(); }
-    /// Shares the record; copies into place where a pointer is out.
+    /// Shares the data; copies into place where a pointer is out.
     static void SetData(CTile& tile, const TileData* data);
     static void Become(CTile& tile, const TileData* data); ///< the same, without view state, as a copy is
     /// True once for a cabinet that is to be freed, since it may be listed twice.
@@ -20,7 +20,7 @@ public:
 
 // Private functions of CTile, for its sources.
 
-/// Leaves a record that has the value already as it is, so that it stays shared; false then.
+/// Leaves data that have the value already as they are, so that they stay shared; false then.
 template <class Member, class Value> bool CTile::Store(Member member, const Value& value)
 {
     if (m_data.constData()->*member == value)

@@ -43,15 +43,15 @@ struct TileFields
     bool IsSamePlace(const TileFields& other) const; ///< place, size and rotation, without tolerance
 };
 
-/// The record that copies of a cabinet share until one is written to.
+/// The data that copies of a cabinet share until one is written to.
 struct TileData : QSharedData, TileFields
 {
-    /// A pointer into this record is out, so it stays this cabinet's alone and at its place.
+    /// A pointer into these data is out, so they stay this cabinet's alone and at their place.
     bool handedOut = false;
     bool rotateHandedOut = false; ///< that pointer is to the rotation: the cabinet moves without notice
 
     TileData* NewCopy() const; ///< [new] of which no pointer is out
 
-    /// Tiles that were not written to yet share one record, so that making many is cheap.
+    /// Tiles that were not written to yet share these, so that making many is cheap.
     static const QExplicitlySharedDataPointer<TileData>& Default();
 };
