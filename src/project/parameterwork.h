@@ -6,10 +6,7 @@
 #include <QList>
 #include <QString>
 
-#include <functional>
-
 class CProductDirectorySet;
-class QIODevice;
 class ReadReport;
 class UniqueNames;
 
@@ -39,8 +36,8 @@ bool Store(const QString& source, const QString& name, const SMD5& type, QString
 /// document and the numbered files that an earlier packing or unpacking left there.
 bool MakeProjectFolder(QString* error);
 
-/// The same with a new document in the folder. When `write` fails, nothing there has changed.
-bool ReplaceDocument(const std::function<bool(QIODevice&)>& write, QString* error);
+/// The same with a new document in the folder. When it cannot be written, nothing there has changed.
+bool ReplaceDocument(const QByteArray& document, QString* error);
 
 /// Whether the path leads to one of the files that saving and loading remove.
 bool IsInTheWay(const QString& path);
@@ -50,7 +47,8 @@ bool IsInTheWay(const QString& path);
 bool CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
                       ReadReport& report);
 
-bool Pack(const QString& archive, QString* error); ///< what lies in the project folder
+/// Packs what lies in the project folder. `document`: what is in its document, so that it is not read back.
+bool Pack(const QString& archive, const QByteArray& document, QString* error);
 
 /// Unpacks the document alone. Other entries than it and the parameter files are passed over: they would come
 /// into every project that is packed afterwards.

@@ -12,6 +12,7 @@
 #include "project/projectlookup.h"
 #include "project/projectreader.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -95,9 +96,15 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
 {
     m_lastFileError.clear();
     const auto write = [&](XmlWriter& writer) { WriteDocument(writer, *this, m_state, progress); };
+    QByteArray document;
+    const auto replace = [&document](const std::function<bool(QIODevice&)>& fill, QString* why) {
+        QBuffer buffer(&document);
+        return buffer.open(QIODevice::WriteOnly) && fill(buffer)
+               && parameterwork::ReplaceDocument(document, why);
+    };
     QLockFile lock(parameterwork::LockPath());
     if (!IsWithinLimits(m_senders, m_state, &m_lastFileError) || !TakeWorkFolder(lock, path, &m_lastFileError)
-        || !WriteXml(parameterwork::ReplaceDocument, write, &m_lastFileError))
+        || !WriteXml(replace, write, &m_lastFileError))
         return false;
 
     ReadReport report;
@@ -105,7 +112,7 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     const bool complete =
         parameterwork::CollectForSaving(m_state.parameterFiles, GetProjectLookup()->Products(), report);
     QString error;
-    const bool saved = complete && parameterwork::Pack(path, &error);
+    const bool saved = complete && parameterwork::Pack(path, document, &error);
     m_lastFileError = report.Text();
     if (!saved)
         m_lastFileError = Texts::tr("项目文件没有保存：%1").arg(complete ? error : report.GetRefusal());
