@@ -31,7 +31,7 @@ protected:
     static CheckOptions LargePorts()
     {
         CheckOptions options;
-        options.portPixels = 1LL << 40;
+        options.capacity.pixels = 1LL << 40;
         return options;
     }
     static SMD5 Type(char digit) { return SMD5::FromString(QString(32, QLatin1Char(digit))); }

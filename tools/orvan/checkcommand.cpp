@@ -1,3 +1,4 @@
+#include "capacityoptions.h"
 #include "command.h"
 #include "console.h"
 #include "openproject.h"
@@ -15,8 +16,7 @@ using OrvanTools::Fault;
 void AddOptions(QCommandLineParser& parser)
 {
     parser.addOption({QStringLiteral("json"), QStringLiteral("Print one JSON object.")});
-    parser.addOption({QStringLiteral("port-pixels"), QStringLiteral("Pixels that one port carries."),
-                      QStringLiteral("N"), QStringLiteral("655360")});
+    AddCapacityOptions(parser);
 }
 
 int PrintFaults(const OrvanTools::CheckOptions& options)
@@ -43,15 +43,13 @@ int PrintFaultsJson(const OrvanTools::CheckOptions& options)
 
 int Run(const Invocation& invocation)
 {
-    int portPixels = 0;
-    if (!ParseNumber(invocation.parser.value(QStringLiteral("port-pixels")), &portPixels))
-        return Fail(StatusUsage, QString(), QStringLiteral("--port-pixels takes a number"));
+    OrvanTools::CheckOptions options;
+    if (const int status = ReadCapacity(invocation.parser, &options.capacity))
+        return status;
     const QString file = invocation.files.first();
     if (!OpenProject(file))
         return StatusFile;
     OrvanTools::StoredReceivers stored;
-    OrvanTools::CheckOptions options;
-    options.portPixels = portPixels;
     options.stored = stored.Read(file) ? &stored : nullptr;
     if (!options.stored)
         Warn(file, QStringLiteral("its receiver numbers cannot be read and are not checked"));

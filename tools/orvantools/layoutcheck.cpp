@@ -288,11 +288,12 @@ void Checker::CheckLoad()
     qint64 pixels = 0;
     for (int i = 0; i < tiles.GetCount(); ++i)
         pixels += PixelsOf(*tiles.GetTile(i));
-    if (pixels > m_options.portPixels)
+    const PortCapacity& capacity = m_options.capacity;
+    if (pixels > capacity.Carried())
         Add(FaultKind::PortOverload, kNoCabinet,
-            QStringLiteral("port-overload: %1 pixels, the port carries %2")
-                .arg(pixels)
-                .arg(m_options.portPixels));
+            QStringLiteral("port-overload: %1 pixels, the port carries %2 (%3)")
+                .arg(QString::number(pixels), QString::number(capacity.Carried()),
+                     capacity.PercentText(pixels)));
 }
 
 void Checker::CheckParameterFiles()

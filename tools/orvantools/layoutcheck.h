@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvantools/portload.h"
+
 #include <QJsonObject>
 #include <QList>
 #include <QString>
@@ -46,7 +48,7 @@ struct Fault
 
 struct CheckOptions
 {
-    qint64 portPixels = 655360;              ///< that one port carries
+    PortCapacity capacity;
     const StoredReceivers* stored = nullptr; ///< [ref] of the file read; null: no receiver-mismatch
 };
 

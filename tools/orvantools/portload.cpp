@@ -1,0 +1,37 @@
+#include "orvantools/portload.h"
+
+#include <cmath>
+#include <limits>
+
+namespace OrvanTools {
+
+namespace {
+
+constexpr int kFramesPerSecond = 60;
+constexpr int kColorBits = 8;
+
+} // namespace
+
+qint64 PortCapacity::Carried() const
+{
+    return pixels * kFramesPerSecond * kColorBits / (qint64(framesPerSecond) * colorBits);
+}
+
+double PortCapacity::LoadOf(qint64 wanted) const
+{
+    if (wanted <= 0)
+        return 0;
+    if (pixels <= 0)
+        return std::numeric_limits<double>::infinity();
+    return double(wanted) / double(pixels) * framesPerSecond / kFramesPerSecond * colorBits / kColorBits;
+}
+
+QString PortCapacity::PercentText(qint64 wanted) const
+{
+    const double percent = LoadOf(wanted) * 100;
+    if (std::isinf(percent))
+        return QStringLiteral("∞ %");
+    return QString::number(std::ceil(percent - 1e-9), 'f', 0) + QStringLiteral(" %");
+}
+
+} // namespace OrvanTools

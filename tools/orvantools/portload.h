@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+namespace OrvanTools {
+
+/// What one output port carries. More frames a second or more bits a colour leave room for proportionally
+/// fewer pixels.
+struct PortCapacity
+{
+    qint64 pixels = 655360; ///< at 60 frames a second and 8 bits a colour
+    int framesPerSecond = 60;
+    int colorBits = 8;
+
+    qint64 Carried() const;             ///< pixels at these frames and bits, whole ones
+    double LoadOf(qint64 wanted) const; ///< 1: full; of no pixels 0; infinite when none are carried
+    /// The load in per cent, "62 %". Rounded up, so that more than fits is never told as 100 %.
+    QString PercentText(qint64 wanted) const;
+};
+
+} // namespace OrvanTools
