@@ -285,16 +285,18 @@ TEST_F(ProjectUndoRedoTest, CabinetsKeepTheirAddressAndViewStateWhereNothingChan
 {
     CTile* moved = &Tile(0, 1);
     SRotateParam* record = Tile(0, 2).GetTileRotateParam();
-    for (CTile* tile : {&Tile(0, 0), moved})
+    for (CTile* tile : {&Tile(0, 0), moved}) {
         tile->SetTileShowColor(Qt::red);
+        tile->SetRcvSelected(0, true);
+    }
     history.Init();
     moved->SetX(999);
     record->angle = 45;
     TilesOf(Port(0)).AddTile(new CTile);
     EXPECT_TRUE(history.AddOneStep(Step::OperationAddTiles) && Undo());
     EXPECT_TRUE(TilesOf(Port(0)).GetCount() == 4 && &Tile(0, 1) == moved && moved->GetX() == 128);
-    EXPECT_EQ(Tile(0, 0).GetTileShowColor(), QColor(Qt::red));
-    EXPECT_FALSE(moved->GetTileShowColor().isValid());
+    EXPECT_TRUE(Tile(0, 0).GetTileShowColor() == Qt::red && Tile(0, 0).IsRcvSelected(0));
+    EXPECT_FALSE(moved->GetTileShowColor().isValid() || moved->IsRcvSelected(0));
     EXPECT_TRUE(record->angle == 0 && record == Tile(0, 2).GetTileRotateParam()) << "it stays right";
 }
 
@@ -414,6 +416,8 @@ TEST_F(ProjectUndoRedoTest, SendersBeyondTheSlotsOrWithoutIdHaveNoHistory)
     EXPECT_TRUE(history.SenderUndoRedoInit(lookup.senders.last()));
     history.SetAsSaveStep();
     EXPECT_FALSE(history.IsModidfied());
+    CSenderUndoRedo* own = history.GetSenderUndoRedoFromID(Sender().GetId());
+    EXPECT_FALSE(own->AddStep(*lookup.senders.last(), Step::OperationClear)) << "not its sender";
     Sender().SetId(QUuid());
     EXPECT_TRUE(!Edit() && history.IsModidfied());
 }

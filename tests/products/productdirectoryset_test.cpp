@@ -119,6 +119,7 @@ TEST_F(ProductDirectorySetTest, LinksAreNeitherFollowedNorTaken)
 TEST_F(ProductDirectorySetTest, ScanningAListedFolderAgainDeletesNothing)
 {
     const QString path = Write("a.rcvp", "a");
+    Write("b.rcvp", "b");
     library.LoadProductInfo();
     CProductDirectory node;
     unsigned int menuId = 1;
@@ -128,7 +129,7 @@ TEST_F(ProductDirectorySetTest, ScanningAListedFolderAgainDeletesNothing)
     EXPECT_EQ(library.LoadProductInfoFolderEx(root, nullptr, menuId), 0);
 
     TestFolder other;
-    other.Write(QStringLiteral("b.rcvp"), "b");
+    other.Write(QStringLiteral("b.rcvp"), "other b");
     EXPECT_EQ(library.LoadProductInfoFolderEx(other.Path(), &node, menuId), 1); // no "/" at its end
     EXPECT_EQ(node.GetProducts().at(0)->GetParamPath(), other.Path(QStringLiteral("b.rcvp")));
     EXPECT_EQ(menuId, 2U);

@@ -59,6 +59,8 @@ TEST(OverlapFinderTest, TurnedShapesOverlapWhereTheyAreNotWhereTheirBoundsAre)
     EXPECT_FALSE(Overlaps(diamond, Rect(-20, -20, 20, 20)));
     EXPECT_TRUE(Overlaps(diamond, Rect(100, 40, 20, 20)));
     EXPECT_FALSE(Overlaps(diamond, Rect(120, 40, 20, 20))); // less than rounding makes
+    EXPECT_TRUE(Rect(0, 0, 1, 50).CanOverlap() && Turned(Rect(0, 0, 2, 50), 45).CanOverlap());
+    EXPECT_FALSE(Turned(Rect(0, 0, 1, 50), 45).CanOverlap() || Turned(Rect(0, 0, 50, 1), 45).CanOverlap());
 }
 
 TEST(OverlapFinderTest, FindsWhatComparingEveryPairFinds)
