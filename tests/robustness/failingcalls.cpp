@@ -70,45 +70,21 @@ ORVAN_OPEN(open)
 ORVAN_OPEN(open64)
 #undef ORVAN_OPEN
 
-ssize_t write(int file, const void* data, size_t size)
-{
-    static const auto real = Real(&write, "write");
-    return IsFile(file) && Fails() ? -1 : real(file, data, size);
-}
-
-int fsync(int file)
-{
-    static const auto real = Real(&fsync, "fsync");
-    return Fails(EIO) ? -1 : real(file);
-}
-
-int fdatasync(int file)
-{
-    static const auto real = Real(&fdatasync, "fdatasync");
-    return Fails(EIO) ? -1 : real(file);
-}
-
-int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned int flags) noexcept
-{
-    static const auto real = Real(&renameat2, "renameat2");
-    return Fails(EIO) ? -1 : real(fromFolder, from, toFolder, to, flags);
-}
-
-int rename(const char* from, const char* to)
-{
-    static const auto real = Real(&rename, "rename");
-    return Fails(EIO) ? -1 : real(from, to);
-}
-
-int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags)
-{
-    static const auto real = Real(&linkat, "linkat");
-    return Fails() ? -1 : real(fromFolder, from, toFolder, to, flags);
-}
-
-int mkdir(const char* path, mode_t mode) noexcept
-{
-    static const auto real = Real(&mkdir, "mkdir");
-    return Fails() ? -1 : real(path, mode);
-}
+#define ORVAN_CALL(result, name, parameters, arguments, fails)                                               \
+    result name parameters                                                                                   \
+    {                                                                                                        \
+        static const auto real = Real(&name, #name);                                                         \
+        return fails ? -1 : real arguments;                                                                  \
+    }
+ORVAN_CALL(ssize_t, write, (int file, const void* data, size_t size), (file, data, size),
+           IsFile(file) && Fails())
+ORVAN_CALL(int, fsync, (int file), (file), Fails(EIO))
+ORVAN_CALL(int, fdatasync, (int file), (file), Fails(EIO))
+ORVAN_CALL(int, renameat2, (int a, const char* from, int b, const char* to, unsigned int flags) noexcept,
+           (a, from, b, to, flags), Fails(EIO))
+ORVAN_CALL(int, rename, (const char* from, const char* to), (from, to), Fails(EIO))
+ORVAN_CALL(int, linkat, (int a, const char* from, int b, const char* to, int flags), (a, from, b, to, flags),
+           Fails())
+ORVAN_CALL(int, mkdir, (const char* path, mode_t mode) noexcept, (path, mode), Fails())
+#undef ORVAN_CALL
 }
