@@ -1,14 +1,9 @@
 #include "formats/samplexml.h"
-#include "frame/lednimbradata.h"
 #include "frame/runtimedata.h"
 #include "params/fieldname.h"
 #include "params/paramtext.h"
-#include "project/projectdata.h"
-#include "support/library.h"
-#include "support/testfolder.h"
+#include "support/projecttest.h"
 #include "support/wallbuilder.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -56,7 +51,7 @@ private:
     }
 };
 
-class ParamSampleTest : public testing::Test
+class ParamSampleTest : public ProjectTest
 {
 protected:
     /// Two senders as in the samples, one with picture values of its own.
@@ -134,10 +129,6 @@ protected:
         wall.leftTop = QPoint(300, 400);
         MakeWall(*sender.GetPort(1), wall);
     }
-
-    Library library;
-    TestFolder folder;
-    CProjectData& project = *GetProjectData();
 };
 
 } // namespace

@@ -1,15 +1,9 @@
 #include "formats/samplexml.h"
-#include "frame/lednimbradata.h"
 #include "layout/tile.h"
 #include "layout/tilegroup.h"
 #include "monitor/monitordata.h"
-#include "project/parameterwork.h"
-#include "project/projectdata.h"
-#include "support/library.h"
-#include "support/testfolder.h"
+#include "support/projecttest.h"
 #include "support/wallbuilder.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -100,22 +94,9 @@ std::string MonitorRows()
     return rows + '\n' + Row(data.GetLineSetting().cableError, data.GetLineSetting().selfBackup) + '\n';
 }
 
-class ProjectSampleTest : public testing::Test
+class ProjectSampleTest : public ProjectTest
 {
 protected:
-    void Load(const QByteArray& document)
-    {
-        QString version;
-        const QString path = folder.Write(QStringLiteral("a.xml"), document);
-        ASSERT_TRUE(project.LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr));
-    }
-
-    QByteArray Saved()
-    {
-        EXPECT_TRUE(project.SaveProjectToFile(folder.Path(QStringLiteral("a.prj")), nullptr));
-        return ReadFile(parameterwork::DocumentPath());
-    }
-
     QByteArray Values()
     {
         QList<SSenderGroupInfo> groups;
@@ -137,10 +118,6 @@ protected:
             rows += Row(file.name, file.type.ToString()) + '\n';
         return QByteArray::fromStdString(rows);
     }
-
-    Library library;
-    TestFolder folder;
-    CProjectData& project = *GetProjectData();
 };
 
 } // namespace
@@ -148,8 +125,8 @@ protected:
 TEST_F(ProjectSampleTest, DocumentIsReadByTheValueAndWrittenByTheByte)
 {
     const QByteArray sample = FullSample("project.xml");
-    Load(sample);
-    EXPECT_EQ(project.GetLastFileError(), QString());
+    ASSERT_TRUE(Load(SamplePath("full/project.xml")));
+    EXPECT_EQ(Error(), QString());
     EXPECT_EQ(FirstDifference(Values(), Told("project.txt")), "");
 
     // The device is written, never read.
@@ -158,14 +135,14 @@ TEST_F(ProjectSampleTest, DocumentIsReadByTheValueAndWrittenByTheByte)
         project.GetSender(i)->SetDeviceClass(2 + 2 * i);
         project.GetSender(i)->SetExportConfig(i == 0);
     }
-    EXPECT_EQ(FirstDifference(Saved(), sample), "");
+    EXPECT_EQ(FirstDifference(Document(), sample), "");
 
-    Load(Hollow(sample, kStructure));
+    ASSERT_TRUE(Load(folder.Write(QStringLiteral("a.xml"), Hollow(sample, kStructure))));
     const QRegularExpression passedOver(kStructure.pattern() + QStringLiteral("|^(Minimum|Current)Version$"));
-    EXPECT_EQ(NamesWithoutOwnValue(sample, Saved(), passedOver), "");
+    EXPECT_EQ(NamesWithoutOwnValue(sample, Document(), passedOver), "");
     // Monitoring keeps its defaults, a cabinet has one receiving card.
     EXPECT_EQ(
-        ValuesBesideZero(Saved(), passedOver),
+        ValuesBesideZero(Document(), passedOver),
         "BkPortIndex=-1 MailErrorTimes=3 MailSenderPort=465 MailSslEncryption=1 MultiOrdered=1 "
         "MultiRcvSizeX=1 MultiRcvSizeY=1 Name=param Name=param_2 ReceiverHumidity=1 ReceiverHumidityValue=85 "
         "ReceiverPower1=1 ReceiverPower2=1 ReceiverPower3=1 ReceiverPower4=1 ReceiverPower5=1 "

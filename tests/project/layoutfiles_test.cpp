@@ -1,13 +1,9 @@
-#include "project/projectdata.h"
-#include "support/library.h"
-#include "support/testfolder.h"
+#include "support/projecttest.h"
 #include "support/wallbuilder.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
-class LayoutFilesTest : public testing::Test
+class LayoutFilesTest : public ProjectTest
 {
 protected:
     LayoutFilesTest()
@@ -18,9 +14,6 @@ protected:
         project.SetCurrentSender(1);
     }
 
-    Library library;
-    TestFolder folder;
-    CProjectData& project = *GetProjectData();
     CSender* target = nullptr;
 };
 
@@ -87,7 +80,7 @@ TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
     const QString hollow = folder.Write(QStringLiteral("hollow.xml"), "<SenderLayout SenderCount=\"1\"/>");
     for (const QString& path : {port, cut, hollow}) {
         EXPECT_FALSE(project.ImportSender(path, target->GetId(), false, true));
-        EXPECT_NE(project.GetLastFileError(), QString());
+        EXPECT_NE(Error(), QString());
     }
     EXPECT_FALSE(project.ImportSender(sender, QUuid::createUuid(), false, true));
     EXPECT_FALSE(project.ImportPort(sender));

@@ -1,5 +1,3 @@
-#include "project/projectdata.h"
-
 #include "frame/runtimedata.h"
 #include "layout/projectundoredo.h"
 #include "monitor/monitordata.h"
@@ -7,19 +5,16 @@
 #include "project/parameterwork.h"
 #include "settings/configdata.h"
 #include "settings/constantdata.h"
-#include "support/library.h"
-#include "support/testfolder.h"
+#include "support/projecttest.h"
 #include "support/wallbuilder.h"
 
 #include "custommessagebox.h"
-
-#include <gtest/gtest.h>
 
 #include <QFile>
 
 namespace {
 
-class ProjectDataTest : public testing::Test
+class ProjectDataTest : public ProjectTest
 {
 protected:
     ~ProjectDataTest() override { CCustomMessageBox::SetHandler(handler); }
@@ -40,8 +35,6 @@ protected:
         return CConstantData::GetMD5FromFile(path);
     }
 
-    Library library;
-    CProjectData& project = *GetProjectData();
     QStringList boxes; ///< texts of those shown, each answered with `answer`
     QMessageBox::StandardButton answer = QMessageBox::No;
     CCustomMessageBox::Handler handler =

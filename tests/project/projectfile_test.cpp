@@ -4,51 +4,16 @@
 #include "monitor/monitordata.h"
 #include "products/productdirectoryset.h"
 #include "project/parameterwork.h"
-#include "project/projectdata.h"
 #include "settings/archive.h"
 #include "settings/constantdata.h"
-#include "support/library.h"
-#include "support/testfolder.h"
+#include "support/projecttest.h"
 #include "support/wallbuilder.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
-#include <QFile>
 
 #include <random>
 
-namespace {
-
-class ProjectFileTest : public testing::Test
-{
-protected:
-    bool Load(const QString& path)
-    {
-        versionError = QStringLiteral("untouched");
-        return project.LoadProjectFromFile(QFile::encodeName(path).constData(), versionError, nullptr);
-    }
-
-    bool LoadText(const QByteArray& elements)
-    {
-        return Load(folder.Write(QStringLiteral("a.xml"),
-                                 "<?xml version=\"1.0\"?><LedSetting>" + elements + "</LedSetting>"));
-    }
-
-    /// The document as it is written: equal texts are equal projects.
-    QByteArray Document()
-    {
-        EXPECT_TRUE(project.SaveProjectToFile(folder.Path(QStringLiteral("document.prj")), nullptr));
-        return ReadFile(parameterwork::DocumentPath());
-    }
-
-    Library library;
-    TestFolder folder;
-    CProjectData& project = *GetProjectData();
-    QString versionError;
-};
-
-} // namespace
+using ProjectFileTest = ProjectTest;
 
 TEST_F(ProjectFileTest, TreesHoldWhatTheFileHolds)
 {
@@ -68,12 +33,12 @@ TEST_F(ProjectFileTest, TreesHoldWhatTheFileHolds)
     QMap<QString, QDomElement> found;
     for (QDomElement child = root.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
         found.insert(child.tagName(), child);
-    EXPECT_TRUE(project.ReadVersionSupport(tree, &found[QStringLiteral("VersionSupport")], versionError));
+    EXPECT_TRUE(project.ReadVersionSupport(tree, &found[QStringLiteral("VersionSupport")], version));
     project.ReadDemoModeInfo(tree, &found[QStringLiteral("DemoModeInfo")]);
     project.ReadSenderGroup(tree, &found[QStringLiteral("SenderTreeGroup")]);
     project.ReadTileGamma(tree, &found[QStringLiteral("TileTypeGamma")]);
     project.ReadPrintData(tree, &found[QStringLiteral("PrintFormData")]);
-    project.ReadSender(tree, &found[QStringLiteral("SenderLayout")], versionError, nullptr);
+    project.ReadSender(tree, &found[QStringLiteral("SenderLayout")], version, nullptr);
     project.ReadMonitorSet(tree, &found[QStringLiteral("Monitor")]);
     project.ReadParameterFileInfo(tree, &found[QStringLiteral("ParameterFile")]);
     EXPECT_EQ(Document(), streamed);
@@ -82,7 +47,7 @@ TEST_F(ProjectFileTest, TreesHoldWhatTheFileHolds)
 TEST_F(ProjectFileTest, ParameterFilesTravelWithTheProjectIntoTheLibrary)
 {
     ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
-    EXPECT_EQ(project.GetLastFileError(), QString());
+    EXPECT_EQ(Error(), QString());
     const QByteArray first = ReadFile(parameterwork::PathOf(QStringLiteral("箱体A128")));
     EXPECT_EQ(first.size(), 1504);
     EXPECT_EQ(ReadFile(parameterwork::ProjectFolder() + QStringLiteral("1.rcvbp")).size(), 1104);
@@ -92,7 +57,7 @@ TEST_F(ProjectFileTest, ParameterFilesTravelWithTheProjectIntoTheLibrary)
     QFile::remove(parameterwork::PathOf(QStringLiteral("箱体A128"))); // the library's copy takes its place
     const auto saved = [this] {
         const QString path = folder.Path(QStringLiteral("b.prj"));
-        EXPECT_TRUE(project.SaveProjectToFile(path, nullptr));
+        EXPECT_TRUE(Save(path));
         EXPECT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("unpacked"))));
         return ReadFile(folder.Path(QStringLiteral("unpacked/project/0.rcvbp")));
     };
@@ -113,14 +78,14 @@ TEST_F(ProjectFileTest, FilesInTheWorkAndProductFoldersCountAsTheyAre)
     WriteFile(parameterwork::PathOf(QStringLiteral("箱体A128")), "of another project");
     WriteFile(deep, ReadFile(folder.Path(QStringLiteral("project/0.rcvbp"))));
     ASSERT_TRUE(Load(SamplePath("small-wall.prj"))) << "nothing was scanned before";
-    EXPECT_EQ(project.GetLastFileError(), QString());
+    EXPECT_EQ(Error(), QString());
     EXPECT_EQ(ReadFile(parameterwork::PathOf(QStringLiteral("箱体A128"))).size(), 1504);
     EXPECT_TRUE(QFile::exists(deep) && !QFile::exists(taken)) << "no second copy";
 
     ASSERT_TRUE(QFile::remove(deep));
     WriteFile(taken, "another product of the name");
     ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
-    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("箱体A128")));
+    EXPECT_TRUE(Error().contains(QStringLiteral("箱体A128")));
     EXPECT_EQ(ReadFile(taken), "another product of the name");
 }
 
@@ -130,7 +95,7 @@ TEST_F(ProjectFileTest, ParameterFileThatIsDamagedOrTooLargeCostsItselfAlone)
     const int content = archive.indexOf("project/0.rcvbp") + 40;
     archive[content] = static_cast<char>(~archive[content]);
     ASSERT_TRUE(Load(folder.Write(QStringLiteral("damaged.prj"), archive)));
-    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("无法读取")));
+    EXPECT_TRUE(Error().contains(QStringLiteral("无法读取")));
     EXPECT_FALSE(QFile::exists(parameterwork::PathOf(project.GetParameterFiles()[0].name)));
     EXPECT_EQ(ReadFile(parameterwork::PathOf(project.GetParameterFiles()[1].name)).size(), 1104);
 
@@ -141,9 +106,9 @@ TEST_F(ProjectFileTest, ParameterFileThatIsDamagedOrTooLargeCostsItselfAlone)
     }
     QFile::resize(parameterwork::PathOf(QStringLiteral("large")), qint64(256) << 20); // sparse
     const QString path = folder.Path(QStringLiteral("a.prj"));
-    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
-    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("large")));
-    EXPECT_FALSE(project.GetLastFileError().contains(QStringLiteral("small")));
+    ASSERT_TRUE(Save(path));
+    EXPECT_TRUE(Error().contains(QStringLiteral("large")));
+    EXPECT_FALSE(Error().contains(QStringLiteral("small")));
     ASSERT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("out"))));
     EXPECT_EQ(QDir(folder.Path(QStringLiteral("out/project"))).entryList(QDir::Files),
               QStringList({QStringLiteral("0.rcvbp"), QStringLiteral("new.prj")}));
@@ -154,7 +119,7 @@ TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
     ASSERT_TRUE(Load(SamplePath("full/project.xml")));
     const QByteArray before = Document();
     EXPECT_FALSE(Load(SamplePath("too-new.prj")));
-    EXPECT_EQ(versionError, QStringLiteral("7.0"));
+    EXPECT_EQ(version, QStringLiteral("7.0"));
     const QString files[] = {
         SamplePath("truncated.prj"),
         SamplePath("climbing.prj"),
@@ -167,8 +132,8 @@ TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
     };
     for (const QString& path : files) {
         EXPECT_FALSE(Load(path)) << path.toStdString();
-        EXPECT_NE(project.GetLastFileError(), QString()) << path.toStdString();
-        EXPECT_EQ(versionError, QStringLiteral("untouched"));
+        EXPECT_NE(Error(), QString()) << path.toStdString();
+        EXPECT_EQ(version, QStringLiteral("untouched"));
     }
     EXPECT_EQ(Document(), before);
 }
@@ -178,7 +143,7 @@ TEST_F(ProjectFileTest, VersionsUpTo61AreRead)
     EXPECT_TRUE(LoadText("<VersionSupport MinimumVersion=\"6.1\"/>"));
     EXPECT_TRUE(LoadText("<SenderLayout SenderCount=\"0\"/>")) << "no version asks for nothing";
     EXPECT_FALSE(LoadText("<VersionSupport MinimumVersion=\"6.2\"/>"));
-    EXPECT_EQ(versionError, QStringLiteral("6.2"));
+    EXPECT_EQ(version, QStringLiteral("6.2"));
 }
 
 TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
@@ -187,7 +152,7 @@ TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
                          "<Port_1><TitleLayout TileCount=\"2000000000\"><Tile_7 X=\"5\"/>"
                          "<Tile_3 Width=\"32\" Height=\"32\"/><Tile_3/><Tile_0/></TitleLayout></Port_1>"
                          "</Sender_2></SenderLayout>"));
-    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("Strange")));
+    EXPECT_TRUE(Error().contains(QStringLiteral("Strange")));
     ASSERT_EQ(project.GetSenderCount(), 1);
     EXPECT_FALSE(project.GetSender(0)->GetId().isNull());
     EXPECT_EQ(project.GetSender(0)->GetPortCount(), 2);
@@ -240,14 +205,14 @@ TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
     project.NewSender();
     const QString inTheWay = folder.Write(QStringLiteral("file"), "x");
     for (const QString& path : {inTheWay + QStringLiteral("/a.prj"), QString()}) {
-        EXPECT_TRUE(project.SaveProjectToFile(path, nullptr));
-        EXPECT_NE(project.GetLastFileError(), QString());
+        EXPECT_TRUE(Save(path));
+        EXPECT_NE(Error(), QString());
     }
 
     const QByteArray archive = ReadFile(SamplePath("small-wall.prj"));
     const QString next = CConstantData::GetProjectParamFileTemp() + QStringLiteral("new.prj.part");
     for (const QString& own : {parameterwork::DocumentPath(), next})
-        EXPECT_FALSE(project.SaveProjectToFile(own, nullptr)) << qPrintable(own);
+        EXPECT_FALSE(Save(own)) << qPrintable(own);
     EXPECT_FALSE(Load(WriteFile(parameterwork::DocumentPath(), archive)));
     EXPECT_EQ(ReadFile(parameterwork::DocumentPath()), archive);
 }
@@ -260,7 +225,7 @@ TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
     const QString work = parameterwork::ProjectFolder().chopped(1);
     QDir(work).removeRecursively();
     ASSERT_TRUE(QFile::link(folder.Path(QStringLiteral("linked")), work));
-    EXPECT_TRUE(project.SaveProjectToFile(path, nullptr));
+    EXPECT_TRUE(Save(path));
     EXPECT_EQ(ReadFile(precious), "precious") << "a link is replaced, what it leads to is not ours";
 
     const QString odd = folder.Path(QStringLiteral("project"));
@@ -268,10 +233,10 @@ TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
     folder.Write(QStringLiteral("project/0.rcvbp/a"), "folder");
     ASSERT_TRUE(PackFolder(odd, folder.Path(QStringLiteral("odd.prj"))));
     EXPECT_FALSE(Load(folder.Path(QStringLiteral("odd.prj"))));
-    EXPECT_TRUE(project.SaveProjectToFile(path, nullptr));
+    EXPECT_TRUE(Save(path));
     EXPECT_FALSE(Load(folder.Path(QStringLiteral("odd.prj"))));
     EXPECT_TRUE(Load(SamplePath("small-wall.prj")));
-    EXPECT_EQ(project.GetLastFileError(), QString());
+    EXPECT_EQ(Error(), QString());
 
     const QString own = parameterwork::PathOf(project.GetParameterFiles()[0].name);
     const QString equal = folder.Write(QStringLiteral("equal"), ReadFile(own));
@@ -284,7 +249,7 @@ TEST_F(ProjectFileTest, OtherFilesInAnArchiveDoNotComeIntoTheNextOne)
 {
     const QString path = folder.Path(QStringLiteral("a.prj"));
     ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
-    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
+    ASSERT_TRUE(Save(path));
     const QByteArray saved = ReadFile(path);
     const QString odd = folder.Path(QStringLiteral("odd.prj"));
     ASSERT_TRUE(UnpackArchive(path, folder.Path()));
@@ -292,9 +257,9 @@ TEST_F(ProjectFileTest, OtherFilesInAnArchiveDoNotComeIntoTheNextOne)
         folder.Write(QLatin1String(name), "of others");
     ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("project")), odd));
     ASSERT_TRUE(Load(odd));
-    EXPECT_EQ(project.GetLastFileError(), QString());
+    EXPECT_EQ(Error(), QString());
     WriteFile(parameterwork::ProjectFolder() + QStringLiteral("qt_temp.AbCdEf"), "of a killed program");
-    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
+    ASSERT_TRUE(Save(path));
     EXPECT_EQ(ReadFile(path), saved);
 }
 
@@ -302,7 +267,7 @@ TEST_F(ProjectFileTest, DamagedFilesAreReadOrRefusedWhole)
 {
     ASSERT_TRUE(Load(SamplePath("full/project.xml")));
     const QString original = folder.Path(QStringLiteral("original.prj"));
-    ASSERT_TRUE(project.SaveProjectToFile(original, nullptr));
+    ASSERT_TRUE(Save(original));
     const QByteArray before = Document();
     const QByteArray sample = ReadFile(SamplePath("small-wall.xml"));
     std::mt19937 random(4711);

@@ -1,20 +1,15 @@
 #include "common/xmldom.h"
 #include "common/xmlwriter.h"
-#include "frame/lednimbradata.h"
 #include "frame/runtimedata.h"
 #include "layout/sender.h"
 #include "layout/tile.h"
 #include "project/layoutdescription.h"
 #include "project/layoutwriter.h"
-#include "project/projectdata.h"
 #include "settings/archive.h"
 #include "settings/configdata.h"
 #include "settings/constantdata.h"
-#include "support/library.h"
-#include "support/testfolder.h"
+#include "support/projecttest.h"
 #include "support/wallbuilder.h"
-
-#include <gtest/gtest.h>
 
 #include <QDir>
 
@@ -25,29 +20,14 @@
 
 namespace {
 
-class LimitsTest : public testing::Test
-{
-protected:
-    bool Load(const QByteArray& elements)
-    {
-        const QString path = folder.Write(QStringLiteral("a.xml"),
-                                          "<?xml version=\"1.0\"?><LedSetting>" + elements + "</LedSetting>");
-        QString version;
-        return project.LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr);
-    }
-
-    Library library;
-    TestFolder folder;
-    CProjectData& project = *GetProjectData();
-};
+using LimitsTest = ProjectTest;
 
 TEST_F(LimitsTest, FilesBeyondTheirSizeAreRefused)
 {
     const QString xml = folder.Write(QStringLiteral("a.xml"), "<?xml version=\"1.0\"?><LedSetting/>");
     ASSERT_TRUE(QFile::resize(xml, kMaxXmlBytes + 1)); // sparse
-    QString version;
-    EXPECT_FALSE(project.LoadProjectFromFile(QFile::encodeName(xml).constData(), version, nullptr));
-    EXPECT_EQ(project.GetLastFileError(), QStringLiteral("文件过大。"));
+    EXPECT_FALSE(Load(xml));
+    EXPECT_EQ(Error(), QStringLiteral("文件过大。"));
 
     CConfigData config;
     for (const int beyond : {0, 1}) {
@@ -79,11 +59,9 @@ TEST_F(LimitsTest, LongTextIsKeptOrRefusedByName)
     const QString longest = QStringLiteral("a") + QString((kMaxXmlText - 1) / 3, QChar(0x5C4F));
     project.GetPrintSetData()->designer = {true, longest};
     const QString path = folder.Path(QStringLiteral("a.prj"));
-    ASSERT_TRUE(project.SaveProjectToFile(path, nullptr));
+    ASSERT_TRUE(Save(path));
     project.GetPrintSetData()->designer = {};
-    QString version;
-    ASSERT_TRUE(project.LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr))
-        << project.GetLastFileError().toStdString();
+    ASSERT_TRUE(Load(path)) << Error().toStdString();
     EXPECT_EQ(project.GetPrintSetData()->designer.text, longest);
 
     const QByteArray before = ReadFile(path);
@@ -91,10 +69,10 @@ TEST_F(LimitsTest, LongTextIsKeptOrRefusedByName)
     const qint64 size = QFileInfo(document).size();
     project.NewSender()->SetSenderName(longest + QStringLiteral("b"));
     const QString layout = folder.Path(QStringLiteral("a.xml"));
-    EXPECT_FALSE(project.SaveProjectToFile(path, nullptr));
-    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("Sender_1/Name")));
+    EXPECT_FALSE(Save(path));
+    EXPECT_TRUE(Error().contains(QStringLiteral("Sender_1/Name")));
     EXPECT_FALSE(project.ExportSender(layout, project.GetSender(0)->GetId()));
-    EXPECT_TRUE(project.GetLastFileError().contains(QStringLiteral("SenderLayout/Name")));
+    EXPECT_TRUE(Error().contains(QStringLiteral("SenderLayout/Name")));
     EXPECT_EQ(ReadFile(path), before);
     EXPECT_EQ(QFileInfo(document).size(), size);
     EXPECT_FALSE(QFile::exists(layout));
@@ -123,8 +101,8 @@ TEST_F(LimitsTest, FileThatHoldsTooMuchIsRefusedWhole)
         "<TileTypeGamma ItemCount=\"99999\">" + numbered("Gamma_", 65537) + "</TileTypeGamma>",
     };
     for (const QByteArray& elements : projects) {
-        EXPECT_FALSE(Load(elements));
-        EXPECT_FALSE(project.GetLastFileError().isEmpty());
+        EXPECT_FALSE(LoadText(elements));
+        EXPECT_FALSE(Error().isEmpty());
     }
     const QString senderFile = folder.Write(QStringLiteral("s.xml"), "<SenderLayout><SenderLayout" + ports
                                                                          + "</SenderLayout></SenderLayout>");
@@ -132,7 +110,7 @@ TEST_F(LimitsTest, FileThatHoldsTooMuchIsRefusedWhole)
         folder.Write(QStringLiteral("p.xml"), "<PortLayout Lock=\"1\">" + layout + "</PortLayout>");
     EXPECT_FALSE(project.ImportSender(senderFile, sender->GetId(), false, true));
     EXPECT_FALSE(project.ImportPort(portFile));
-    EXPECT_TRUE(project.GetLastFileError().contains(QString::number(kMaxTilesOfPort)));
+    EXPECT_TRUE(Error().contains(QString::number(kMaxTilesOfPort)));
     ASSERT_EQ(project.GetSender(0), sender);
     EXPECT_EQ(sender->GetSenderName(), QStringLiteral("a"));
     EXPECT_EQ(TilesOf(*sender->GetPort(0)).GetCount(), 2);
@@ -151,27 +129,26 @@ TEST_F(LimitsTest, WhatOnePortCanHoldIsSavedAndReadAndMoreIsRefused)
     EXPECT_FALSE(port->GetPortProject()->AddTile(block));
     ASSERT_EQ(TilesOf(*port).GetCount(), kMaxTilesOfPort);
     ASSERT_TRUE(TilesOf(*port).GetTile(0)->IsSelected(InterfaceDesign));
-    ASSERT_TRUE(project.SaveProjectToFile(saved, nullptr));
-    ASSERT_EQ(project.GetLastFileError(), QString());
+    ASSERT_TRUE(Save(saved));
+    ASSERT_EQ(Error(), QString());
     const QByteArray before = ReadFile(saved);
 
     TilesOf(*port).AddTile(new CTile);
     const QString other = folder.Path(QStringLiteral("other"));
     const std::function<bool()> saves[] = {
-        [&] { return project.SaveProjectToFile(saved, nullptr); },
+        [&] { return Save(saved); },
         [&] { return project.ExportSender(other, project.GetSender(0)->GetId()); },
         [&] { return project.ExportPort(other); },
     };
     for (const auto& save : saves) {
         EXPECT_FALSE(save());
-        EXPECT_TRUE(project.GetLastFileError().contains(QString::number(kMaxTilesOfPort)));
+        EXPECT_TRUE(Error().contains(QString::number(kMaxTilesOfPort)));
     }
     EXPECT_EQ(ReadFile(saved), before);
     EXPECT_FALSE(QFile::exists(other));
 
-    QString version;
-    ASSERT_TRUE(project.LoadProjectFromFile(QFile::encodeName(saved).constData(), version, nullptr));
-    EXPECT_EQ(project.GetLastFileError(), QString());
+    ASSERT_TRUE(Load(saved));
+    EXPECT_EQ(Error(), QString());
     port = project.GetSender(0)->GetPort(0);
     ASSERT_EQ(TilesOf(*port).GetCount(), kMaxTilesOfPort);
     EXPECT_EQ(WhyTooLarge(QList<const CPort*>{port}), QString());
@@ -217,7 +194,7 @@ TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
     sender->SetColorCurveParams(curves);
     const QString other = folder.Path(QStringLiteral("other"));
     EXPECT_NE(project.ExportMutiProcessorParam(other, sender->GetId()), 0U);
-    EXPECT_NE(project.GetLastFileError(), QString());
+    EXPECT_NE(Error(), QString());
     EXPECT_FALSE(QFile::exists(other));
 }
 
@@ -249,24 +226,21 @@ TEST_F(LimitsTest, PipesAndDevicesAreRefusedAtEveryEntrance)
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     const QUuid sender = project.NewSender()->GetId();
     GetRuntimeData()->GetImpExpPrepareInfo()->senders = {0};
-    QString version;
     const QString device = folder.Path(QStringLiteral("device"));
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/zero"), device));
     for (const QString& path : {pipe, device}) {
         const std::function<bool()> entrances[] = {
-            [&] {
-                return project.LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr);
-            },
+            [&] { return Load(path); },
             [&] { return project.ImportSender(path, sender, false, true); },
             [&] { return project.ImportPort(path); },
             [&] { return project.ImportMutiSenderParam(path, QUuid()) == 0; },
             [&] { return project.ImportProcessorParam(path, sender) == 0; },
         };
         for (const auto& entrance : entrances) {
-            ASSERT_TRUE(project.SaveProjectToFile(folder.Path(QStringLiteral("a.prj")), nullptr));
-            ASSERT_EQ(project.GetLastFileError(), QString());
+            ASSERT_TRUE(Save(folder.Path(QStringLiteral("a.prj"))));
+            ASSERT_EQ(Error(), QString());
             EXPECT_FALSE(entrance());
-            EXPECT_NE(project.GetLastFileError(), QString());
+            EXPECT_NE(Error(), QString());
         }
         CConfigData config;
         EXPECT_FALSE(config.Load(path));
