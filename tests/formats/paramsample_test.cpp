@@ -51,9 +51,8 @@ private:
     }
 };
 
-class ParamSampleTest : public ProjectTest
+struct ParamSampleTest : ProjectTest
 {
-protected:
     /// Two senders as in the samples, one with picture values of its own.
     ParamSampleTest()
     {

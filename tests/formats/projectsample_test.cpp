@@ -94,9 +94,8 @@ std::string MonitorRows()
     return rows + '\n' + Row(data.GetLineSetting().cableError, data.GetLineSetting().selfBackup) + '\n';
 }
 
-class ProjectSampleTest : public ProjectTest
+struct ProjectSampleTest : ProjectTest
 {
-protected:
     QByteArray Values()
     {
         QList<SSenderGroupInfo> groups;

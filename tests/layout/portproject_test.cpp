@@ -25,9 +25,8 @@ SAddTileInfo Block(int columns, int rows)
 
 } // namespace
 
-class PortProjectTest : public testing::Test
+struct PortProjectTest : testing::Test
 {
-protected:
     CPort port;
     CPortProject& layout = *port.GetPortProject();
     CTileSet& tiles = TilesOf(port);
@@ -137,9 +136,8 @@ TEST_F(PortProjectTest, DeletingTheSelectionTakesSelectedGroupsAtEveryDepth)
 }
 
 // Cabinets 0-1 lie in `left`, 2-3 in `right`, both below `above` with 4-5; 6-7 in `single`, 8 in none.
-class PortProjectGroupTest : public PortProjectTest
+struct PortProjectGroupTest : PortProjectTest
 {
-protected:
     PortProjectGroupTest()
     {
         left = MakeWall(port, 2, 1);

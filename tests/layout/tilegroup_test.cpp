@@ -22,9 +22,8 @@ CTileGroup* AddTo(CTileGroupSet& set, CTileGroup* parent = nullptr)
 }
 
 /// Two top-level groups; the first holds `below`, which holds `deep`.
-class TileGroupTest : public testing::Test
+struct TileGroupTest : testing::Test
 {
-protected:
     ~TileGroupTest() override
     {
         m_set.DeleteAll();

@@ -13,9 +13,8 @@ constexpr int kView = InterfaceDesign;
 using Tiles = QList<CTile*>;
 
 /// An owning set with tiles 0, 1, 2 side by side, each 100 x 100 pixels.
-class TileSetTest : public testing::Test
+struct TileSetTest : testing::Test
 {
-protected:
     TileSetTest()
     {
         m_set.SetOwnerShip(true);

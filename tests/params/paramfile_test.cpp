@@ -6,9 +6,8 @@
 #include "project/projectdata.h"
 #include "project/projectlookup.h"
 
+#include "support/messagerecorder.h"
 #include "support/testfolder.h"
-
-#include "custommessagebox.h"
 
 #include <gtest/gtest.h>
 
@@ -26,26 +25,6 @@ const QString kTypeDiffersText = QStringLiteral("导入失败，无法导入不�
 const QString kIpModeText = QStringLiteral("不可导入，无法匹配对应IP的主控参数。");
 
 using Transfer = quint32 (CProjectData::*)(const QString&, const QUuid&);
-
-/// Takes the texts of message boxes while it lives.
-class MessageRecorder
-{
-public:
-    MessageRecorder()
-    {
-        m_before = CCustomMessageBox::SetHandler([this](auto, const QString& text, auto) {
-            m_texts.append(text);
-            return QMessageBox::Ok;
-        });
-    }
-    ~MessageRecorder() { CCustomMessageBox::SetHandler(m_before); }
-
-    QStringList Take() { return std::exchange(m_texts, {}); }
-
-private:
-    QStringList m_texts;
-    CCustomMessageBox::Handler m_before;
-};
 
 /// A project of senders of type 17, all chosen.
 class TestProject : private ProjectLookup
@@ -87,28 +66,27 @@ private:
     CProjectData m_project;
 };
 
-constexpr Transfer kExportSender = &CProjectData::ExportMutiSenderParam;
-constexpr Transfer kImportSender = &CProjectData::ImportMutiSenderParam;
-constexpr Transfer kExportProcessor = &CProjectData::ExportMutiProcessorParam;
-constexpr Transfer kImportProcessor = &CProjectData::ImportMutiProcessorParam;
-
-struct FamilyCase
+struct FileKind
 {
-    const char* name;
-    Transfer exportFile;
-    Transfer importFile;
+    Transfer save;
+    Transfer load;
 };
 
-const FamilyCase kFamilies[] = {{"SenderParams", kExportSender, kImportSender},
-                                {"DeviceParams", kExportProcessor, kImportProcessor}};
+const FileKind kSenders{&CProjectData::ExportMutiSenderParam, &CProjectData::ImportMutiSenderParam};
+const FileKind kProcessors{&CProjectData::ExportMutiProcessorParam, &CProjectData::ImportMutiProcessorParam};
 
-QJsonObject Contents(const QString& path)
+struct ParamFileTest : testing::Test
 {
-    QString error;
-    const QJsonObject contents = ParamFileContents(path, &error);
-    EXPECT_TRUE(error.isEmpty()) << qPrintable(error);
-    return contents;
-}
+    QString Export(TestProject& project, const FileKind& kind)
+    {
+        const QString path = folder.Path(QStringLiteral("a.xml"));
+        EXPECT_EQ(project.Do(kind.save, path), kDone);
+        return path;
+    }
+
+    TestFolder folder;
+    MessageRecorder messages;
+};
 
 void Replace(const QString& path, const QByteArray& before, const QByteArray& after)
 {
@@ -119,127 +97,113 @@ void Replace(const QString& path, const QByteArray& before, const QByteArray& af
 
 } // namespace
 
-TEST(ParamFileTest, ElementsOfOneNameAreAList)
+TEST_F(ParamFileTest, ElementsOfOneNameAreAList)
 {
-    TestFolder folder;
-    const QString repeated =
+    const QString path =
         folder.Write(QStringLiteral("b.xml"), "<SenderParams a='1'><P><n>1</n><n>2</n></P></SenderParams>");
-    EXPECT_EQ(Contents(repeated)[QStringLiteral("P")].toObject()[QStringLiteral("n")].toArray(),
+    QString error;
+    EXPECT_EQ(ParamFileContents(path, &error)[QStringLiteral("P")].toObject()[QStringLiteral("n")].toArray(),
               (QJsonArray{QStringLiteral("1"), QStringLiteral("2")}));
 }
 
-TEST(ParamFileTest, RootSaysWhatTheFileHolds)
+TEST_F(ParamFileTest, RootSaysWhatTheFileHolds)
 {
-    TestFolder folder;
     TestProject project(3);
-    project.prepared.senders = {2, 9, 0};
-    for (const FamilyCase& family : kFamilies) {
-        const QString path = folder.Path(QString::fromLatin1(family.name));
-        ASSERT_EQ(project.Do(family.exportFile, path), kDone);
-        QJsonObject contents = Contents(path);
-        EXPECT_EQ(contents[QStringLiteral("ProcessorCount")].toString(), QStringLiteral("3"));
+    for (const FileKind& kind : {kSenders, kProcessors}) {
+        project.prepared = {false, {2, 9, 0}};
+        QString error;
+        const QString path = Export(project, kind);
+        QJsonObject contents = ParamFileContents(path, &error);
+        EXPECT_EQ(contents[QStringLiteral("ProcessorCount")], QStringLiteral("3"));
         EXPECT_TRUE(contents.contains(QStringLiteral("Processor_1")));
         EXPECT_FALSE(contents.contains(QStringLiteral("Processor_2"))) << "no such sender";
         EXPECT_TRUE(contents.contains(QStringLiteral("Processor_3")));
 
         project.prepared.matchByIp = true;
-        ASSERT_EQ(project.Do(family.exportFile, path, project.Sender(1).GetId()), kDone);
-        project.prepared.matchByIp = false;
-        contents = Contents(path);
-        EXPECT_EQ(contents[QStringLiteral("bSpecifyIP")].toString(), QStringLiteral("1"));
-        EXPECT_EQ(contents[QStringLiteral("ProcessorCount")].toString(), QStringLiteral("1"));
-        EXPECT_EQ(contents[QStringLiteral("Processor_1")].toObject()[QStringLiteral("NetIP")].toString(),
+        ASSERT_EQ(project.Do(kind.save, path, project.Sender(1).GetId()), kDone);
+        contents = ParamFileContents(path, &error);
+        EXPECT_EQ(contents[QStringLiteral("bSpecifyIP")], QStringLiteral("1"));
+        EXPECT_EQ(contents[QStringLiteral("ProcessorCount")], QStringLiteral("1"));
+        EXPECT_EQ(contents[QStringLiteral("Processor_1")].toObject()[QStringLiteral("NetIP")],
                   QStringLiteral("167772162"));
 
         const QByteArray before = ReadFile(path);
-        EXPECT_EQ(project.Do(family.exportFile, path, QUuid::createUuid()), kFailed);
+        EXPECT_EQ(project.Do(kind.save, path, QUuid::createUuid()), kFailed);
         EXPECT_EQ(ReadFile(path), before);
         EXPECT_FALSE(project.Error().isEmpty());
     }
 }
 
-TEST(ParamFileTest, SendersTakeProcessorsByPositionOfTheChoice)
+TEST_F(ParamFileTest, SendersTakeProcessorsByPositionOfTheChoice)
 {
-    TestFolder folder;
-    MessageRecorder messages;
-    for (const FamilyCase& family : kFamilies) {
+    for (const FileKind& kind : {kSenders, kProcessors}) {
         TestProject source(2);
-        const QString path = folder.Path(QString::fromLatin1(family.name));
-        ASSERT_EQ(source.Do(family.exportFile, path), kDone);
+        const QString path = Export(source, kind);
 
         TestProject target(3);
         target.prepared.senders = {2, 0};
-        EXPECT_EQ(target.Do(family.importFile, path), kDone);
+        EXPECT_EQ(target.Do(kind.load, path), kDone);
         EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 51, 50}));
         EXPECT_NE(target.Sender(2).GetId(), source.Sender(0).GetId());
         EXPECT_EQ(target.Sender(2).GetNetSenderIP(), 0x0A000003U) << "an address never comes from a file";
-        EXPECT_EQ(target.Do(family.importFile, path, target.Sender(1).GetId()), kDone);
+        EXPECT_EQ(target.Do(kind.load, path, target.Sender(1).GetId()), kDone);
         EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 50, 50}));
         EXPECT_TRUE(messages.Take().isEmpty());
 
         target.prepared.senders = {0, 1, 2};
-        EXPECT_EQ(target.Do(family.importFile, path), kImportFailed) << "no third processor";
+        EXPECT_EQ(target.Do(kind.load, path), kImportFailed) << "no third processor";
         EXPECT_EQ(messages.Take(), QStringList{kImportFailedText});
         target.prepared.senders = {0, 3};
-        EXPECT_EQ(target.Do(family.importFile, path), kFailed) << "no such sender";
-        EXPECT_EQ(target.Do(family.importFile, path, QUuid::createUuid()), kFailed);
+        EXPECT_EQ(target.Do(kind.load, path), kFailed) << "no such sender";
+        EXPECT_EQ(target.Do(kind.load, path, QUuid::createUuid()), kFailed);
         EXPECT_TRUE(messages.Take().isEmpty());
     }
 }
 
-TEST(ParamFileTest, OtherOrMissingTypeChangesNothingAndIsToldOnce)
+TEST_F(ParamFileTest, OtherOrMissingTypeChangesNothingAndIsToldOnce)
 {
-    TestFolder folder;
-    MessageRecorder messages;
-    for (const FamilyCase& family : kFamilies) {
+    for (const FileKind& kind : {kSenders, kProcessors}) {
         TestProject source(2);
         source.Sender(1).SetProcessorType(18);
-        const QString path = folder.Path(QString::fromLatin1(family.name));
-        ASSERT_EQ(source.Do(family.exportFile, path), kDone);
+        const QString path = Export(source, kind);
         TestProject target(2);
         target.Sender(1).SetSignalFreq(99);
-        EXPECT_EQ(target.Do(family.importFile, path), kTypeDiffers);
+        EXPECT_EQ(target.Do(kind.load, path), kTypeDiffers);
         EXPECT_EQ(target.SignalFreqs(), (QList<int>{50, 99}));
         EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
 
         Replace(path, "SenderType>", "AType>");
         if (ReadFile(path).contains("DeviceType"))
             Replace(path, "DeviceType>", "BType>");
-        EXPECT_EQ(target.Do(family.importFile, path), kImportFailed);
+        EXPECT_EQ(target.Do(kind.load, path), kImportFailed);
         EXPECT_EQ(messages.Take(), QStringList{kImportFailedText});
     }
 }
 
-TEST(ParamFileTest, ProcessorWithoutSenderTypeIsComparedByItsBasicBlock)
+TEST_F(ParamFileTest, ProcessorWithoutSenderTypeIsComparedByItsBasicBlock)
 {
-    TestFolder folder;
-    MessageRecorder messages;
     TestProject project(1);
-    const QString path = folder.Path(QStringLiteral("a.xml"));
-    ASSERT_EQ(project.Do(kExportProcessor, path), kDone);
+    const QString path = Export(project, kProcessors);
     Replace(path, "SenderType>", "AType>");
     Replace(path, "<DeviceType>17<", "<DeviceType> 17 <");
-    EXPECT_EQ(project.Do(kImportProcessor, path), kDone);
+    EXPECT_EQ(project.Do(kProcessors.load, path), kDone);
     Replace(path, "<DeviceType> 17 <", "<DeviceType>18<");
-    EXPECT_EQ(project.Do(kImportProcessor, path), kTypeDiffers);
+    EXPECT_EQ(project.Do(kProcessors.load, path), kTypeDiffers);
     EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
 }
 
-TEST(ParamFileTest, SendersTakeProcessorsOfTheirAddress)
+TEST_F(ParamFileTest, SendersTakeProcessorsOfTheirAddress)
 {
-    TestFolder folder;
-    MessageRecorder messages;
-    for (const FamilyCase& family : kFamilies) {
+    for (const FileKind& kind : {kSenders, kProcessors}) {
         TestProject source(4);
         source.prepared.matchByIp = true;
         source.Sender(2).SetNetSenderIP(0x0A000002);
         source.Sender(3).SetNetSenderIP(0);
-        const QString path = folder.Path(QString::fromLatin1(family.name));
-        ASSERT_EQ(source.Do(family.exportFile, path), kDone);
+        const QString path = Export(source, kind);
         Replace(path, "<NetIP>167772161<", "<NetIP> 10.000.00.1 <");
 
         TestProject target(3);
-        EXPECT_EQ(target.Do(family.importFile, path), kFailed);
+        EXPECT_EQ(target.Do(kind.load, path), kFailed);
         EXPECT_EQ(messages.Take(), QStringList{kIpModeText});
 
         target.prepared.matchByIp = true;
@@ -247,25 +211,22 @@ TEST(ParamFileTest, SendersTakeProcessorsOfTheirAddress)
         target.Sender(1).SetNetSenderIP(0x0A000001);
         target.Sender(2).SetNetSenderIP(0);
         target.Sender(2).SetSignalFreq(99);
-        EXPECT_EQ(target.Do(family.importFile, path), kDone);
+        EXPECT_EQ(target.Do(kind.load, path), kDone);
         EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 50, 99}));
         EXPECT_EQ(messages.Take(), QStringList{QStringLiteral("主控3未找到对应IP的主控参数。")});
     }
 }
 
-TEST(ParamFileTest, FourSendersWithoutTheirAddressAreNamedAtMost)
+TEST_F(ParamFileTest, FourSendersWithoutTheirAddressAreNamedAtMost)
 {
-    TestFolder folder;
-    MessageRecorder messages;
     TestProject source(1);
     source.prepared.matchByIp = true;
-    const QString path = folder.Path(QStringLiteral("a.xml"));
-    ASSERT_EQ(source.Do(kExportSender, path), kDone);
+    const QString path = Export(source, kSenders);
     const char* expected[] = {"", "2", "2,3", "2,3,4", "2,3,4,5...", "2,3,4,5..."};
     for (int unmatched = 1; unmatched <= 5; ++unmatched) {
         TestProject target(unmatched + 1);
         target.prepared.matchByIp = true;
-        EXPECT_EQ(target.Do(kImportSender, path), kDone);
+        EXPECT_EQ(target.Do(kSenders.load, path), kDone);
         EXPECT_EQ(
             messages.Take(),
             QStringList{
@@ -273,21 +234,19 @@ TEST(ParamFileTest, FourSendersWithoutTheirAddressAreNamedAtMost)
     }
 }
 
-TEST(ParamFileTest, FileWithoutMarkIsOneOfASingleSender)
+TEST_F(ParamFileTest, FileWithoutMarkIsOneOfASingleSender)
 {
-    TestFolder folder;
-    MessageRecorder messages;
     TestProject project(2);
     CSender& second = project.Sender(1);
     const QString path = folder.Write(
         QStringLiteral("a.xml"), "<SenderParams><SenderType>17</SenderType><OtherParam><AdvancedParam>"
                                  "<SignalFreq>144</SignalFreq></AdvancedParam></OtherParam></SenderParams>");
-    EXPECT_EQ(project.Do(kImportSender, path, second.GetId()), kDone);
+    EXPECT_EQ(project.Do(kSenders.load, path, second.GetId()), kDone);
     EXPECT_EQ(project.SignalFreqs(), (QList<int>{50, 144}));
     second.SetProcessorType(18);
-    EXPECT_EQ(project.Do(kImportSender, path, second.GetId()), kTypeDiffers);
+    EXPECT_EQ(project.Do(kSenders.load, path, second.GetId()), kTypeDiffers);
     EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
-    EXPECT_EQ(project.Do(kImportSender, path), kFailed);
+    EXPECT_EQ(project.Do(kSenders.load, path), kFailed);
 
     // Of a single processor only the blocks in front of one that does not fit are taken.
     const QString processor = folder.Write(
@@ -296,21 +255,19 @@ TEST(ParamFileTest, FileWithoutMarkIsOneOfASingleSender)
         "</DeviceOtherParamVideoAbnormalColseOut></DeviceOtherParamsXmlRoot><basicInfoParamsXmlRoot/>"
         "<DeviceSetParamsXmlRoot><DeviceSetParamsVSyncSource>3</DeviceSetParamsVSyncSource>"
         "</DeviceSetParamsXmlRoot></DeviceParams>");
-    EXPECT_EQ(project.Do(kImportProcessor, processor, second.GetId()), kFailed);
+    EXPECT_EQ(project.Do(kProcessors.load, processor, second.GetId()), kFailed);
     EXPECT_EQ(messages.Take(), QStringList{kImportFailedText});
     EXPECT_TRUE(second.IsSignalAbnormal());
     EXPECT_EQ(second.GetVSyncInfo().syncSource, 0);
     Replace(processor, "<basicInfoParamsXmlRoot/>",
             "<basicInfoParamsXmlRoot><DeviceType>17</DeviceType></basicInfoParamsXmlRoot>");
-    EXPECT_EQ(project.Do(kImportProcessor, processor, second.GetId()), kFailed);
+    EXPECT_EQ(project.Do(kProcessors.load, processor, second.GetId()), kFailed);
     EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
     EXPECT_EQ(project.Error(), kTypeDiffersText);
 }
 
-TEST(ParamFileTest, DamagedFilesFailWithTheirReason)
+TEST_F(ParamFileTest, DamagedFilesFailWithTheirReason)
 {
-    TestFolder folder;
-    MessageRecorder messages;
     TestProject project(1);
     const QByteArray sample = ReadFile(SamplePath("device-params.xml"));
     const QString paths[] = {
@@ -321,23 +278,21 @@ TEST(ParamFileTest, DamagedFilesFailWithTheirReason)
     };
     const CSenderParams before = project.Sender(0);
     for (const QString& path : paths) {
-        EXPECT_EQ(project.Do(kImportProcessor, path), kFailed) << qPrintable(path);
+        EXPECT_EQ(project.Do(kProcessors.load, path), kFailed) << qPrintable(path);
         EXPECT_FALSE(project.Error().isEmpty()) << qPrintable(path);
         EXPECT_EQ(project.Do(&CProjectData::ImportSenderParam, path, project.Sender(0).GetId()), kFailed);
     }
     const QString none = folder.Write(QStringLiteral("none.xml"),
                                       "<DeviceParams CheckValue='1' bSpecifyIP='0' ProcessorCount='0'/>");
-    EXPECT_EQ(project.Do(kImportProcessor, none), kFailed);
+    EXPECT_EQ(project.Do(kProcessors.load, none), kFailed);
     EXPECT_TRUE(messages.Take().isEmpty());
     EXPECT_TRUE(project.Sender(0) == before);
 }
 
-TEST(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
+TEST_F(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
 {
     const char* const kTexts[] = {"",           "-1",   "33",  "4096", "2147483647", "-2147483648",
                                   "4294967296", "1e39", "nan", "x"};
-    TestFolder folder;
-    MessageRecorder messages;
     std::mt19937 random(20240607);
     const auto below = [&](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };
     int imported = 0;
@@ -357,25 +312,23 @@ TEST(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
         }
         TestProject project(1);
         const QString damaged = folder.Write(QStringLiteral("damaged.xml"), document.toByteArray());
-        const quint32 result = project.Do(kImportProcessor, damaged);
+        const quint32 result = project.Do(kProcessors.load, damaged);
         EXPECT_TRUE(result == kDone || result == kTypeDiffers || result == kImportFailed) << result;
         imported += result == kDone;
 
         TestProject again(1);
-        for (const FamilyCase& family : kFamilies) {
-            const QString path = folder.Path(QStringLiteral("a.xml"));
-            ASSERT_EQ(project.Do(family.exportFile, path), kDone);
-            ASSERT_EQ(again.Do(family.importFile, path), kDone);
+        for (const FileKind& kind : {kSenders, kProcessors}) {
+            const QString path = Export(project, kind);
             const QByteArray first = ReadFile(path);
+            ASSERT_EQ(again.Do(kind.load, path), kDone);
             again.Sender(0).SetId(project.Sender(0).GetId());
-            ASSERT_EQ(again.Do(family.exportFile, path), kDone);
-            EXPECT_EQ(ReadFile(path), first) << "round " << round;
+            EXPECT_EQ(ReadFile(Export(again, kind)), first) << "round " << round;
         }
     }
     EXPECT_GT(imported, 20);
 }
 
-TEST(ParamFileTest, AddressIsFourDecimalOctetsOrOneNumber)
+TEST_F(ParamFileTest, AddressIsFourDecimalOctetsOrOneNumber)
 {
     EXPECT_EQ(GetIntFromOctString(QStringLiteral("192.168.1.10")), 0xC0A8010AU);
     EXPECT_EQ(GetIntFromOctString(QStringLiteral(" 010.0.0.09\n")), 0x0A000009U);

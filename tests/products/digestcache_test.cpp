@@ -11,9 +11,8 @@
 namespace {
 
 /// Counts how often it is asked and gives a digest made from that number.
-class DigestCacheTest : public testing::Test
+struct DigestCacheTest : testing::Test
 {
-protected:
     SMD5 Hash(const QString& path)
     {
         ++hashed;

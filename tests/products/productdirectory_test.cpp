@@ -18,9 +18,8 @@ CProduct* NewProduct(char digit, const char* path)
 }
 
 /// root: a; root/sub: b; root/sub/deep: c
-class ProductDirectoryTest : public testing::Test
+struct ProductDirectoryTest : testing::Test
 {
-protected:
     ProductDirectoryTest()
     {
         root.SetFolderPath(QStringLiteral("/root/"));

@@ -10,9 +10,8 @@
 namespace {
 
 /// A library whose product folder, in the test run's own documents folder, begins empty.
-class ProductDirectorySetTest : public testing::Test
+struct ProductDirectorySetTest : testing::Test
 {
-protected:
     ProductDirectorySetTest() : root(CProductDirectorySet::GetRootDir())
     {
         QDir(root).removeRecursively();

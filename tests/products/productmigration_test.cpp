@@ -10,9 +10,8 @@
 namespace {
 
 /// An older product folder beside the current one, both empty at the start.
-class ProductMigrationTest : public testing::Test
+struct ProductMigrationTest : testing::Test
 {
-protected:
     ProductMigrationTest()
         : root(CProductDirectorySet::GetRootDir()), old(root.chopped(1) + QStringLiteral("2/"))
     {

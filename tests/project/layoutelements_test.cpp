@@ -15,9 +15,8 @@ QDomElement Parsed(const QByteArray& xml)
     return document.documentElement();
 }
 
-class LayoutElementsTest : public testing::Test
+struct LayoutElementsTest : testing::Test
 {
-protected:
     void ReadTiles(const QByteArray& xml)
     {
         QDomElement element = Parsed(xml);

@@ -3,9 +3,8 @@
 
 namespace {
 
-class LayoutFilesTest : public ProjectTest
+struct LayoutFilesTest : ProjectTest
 {
-protected:
     LayoutFilesTest()
     {
         project.NewSender();

@@ -5,20 +5,16 @@
 #include "project/parameterwork.h"
 #include "settings/configdata.h"
 #include "settings/constantdata.h"
+#include "support/messagerecorder.h"
 #include "support/projecttest.h"
 #include "support/wallbuilder.h"
-
-#include "custommessagebox.h"
 
 #include <QFile>
 
 namespace {
 
-class ProjectDataTest : public ProjectTest
+struct ProjectDataTest : ProjectTest
 {
-protected:
-    ~ProjectDataTest() override { CCustomMessageBox::SetHandler(handler); }
-
     void AddSenders(int count)
     {
         for (int i = 0; i < count; ++i)
@@ -35,13 +31,7 @@ protected:
         return CConstantData::GetMD5FromFile(path);
     }
 
-    QStringList boxes; ///< texts of those shown, each answered with `answer`
-    QMessageBox::StandardButton answer = QMessageBox::No;
-    CCustomMessageBox::Handler handler =
-        CCustomMessageBox::SetHandler([this](auto, const QString& text, auto) {
-            boxes.append(text);
-            return answer;
-        });
+    MessageRecorder boxes;
 };
 
 } // namespace
@@ -60,7 +50,7 @@ TEST_F(ProjectDataTest, DeletionAsksAndRefusesAsTheBackupsAndLocksSay)
 {
     AddSenders(1);
     EXPECT_FALSE(project.DeleteSender(0, true, false, false, nullptr)) << "the last sender stays";
-    EXPECT_TRUE(boxes.isEmpty());
+    EXPECT_TRUE(boxes.texts.isEmpty());
 
     AddSenders(2);
     project.GetSender(1)->GetPort(2)->SetBeBackupDest(project.GetSender(0)->GetId(), 0);
@@ -71,11 +61,11 @@ TEST_F(ProjectDataTest, DeletionAsksAndRefusesAsTheBackupsAndLocksSay)
     project.GetSender(2)->GetPort(0)->SetFlagLock(false);
     EXPECT_TRUE(project.DeleteSenderBefore(2, false, nullptr));
     EXPECT_FALSE(project.DeleteSenderBefore(2, true, nullptr));
-    EXPECT_EQ(boxes, QStringList({QStringLiteral("选择主控为备份主控，请先取消备份。"),
+    EXPECT_EQ(boxes.texts, QStringList({QStringLiteral("选择主控为备份主控，请先取消备份。"),
                                   QStringLiteral("选择的主控存在备份主控，请先取消备份。"),
                                   QStringLiteral("主控存在输出口被锁住，您确定要删除选择的主控吗？"),
                                   QStringLiteral("您确定要删除选择的主控吗？")}));
-    answer = QMessageBox::Yes;
+    boxes.answer = QMessageBox::Yes;
     EXPECT_TRUE(project.DeleteSender(2, true, false, true, nullptr));
     EXPECT_EQ(project.GetCurSenderIndex(), 1);
 }

@@ -38,9 +38,8 @@ std::string Names(const QString& folder)
     return files.join(QLatin1Char(' ')).toStdString();
 }
 
-class CrashSafetyTest : public testing::Test
+struct CrashSafetyTest : testing::Test
 {
-protected:
     CrashSafetyTest() : folder(scratch.Path() + QLatin1Char('/')) { MakeProducts(); }
 
     void SaveAll(int version)

@@ -21,9 +21,8 @@ public:
     int subDialog = 0;
 };
 
-class DesignBackgroundTest : public testing::Test
+struct DesignBackgroundTest : testing::Test
 {
-protected:
     DesignBackgroundTest() { SetSettingsLookup(&windows); }
     ~DesignBackgroundTest() override { SetSettingsLookup(nullptr); }
 

@@ -7,9 +7,8 @@
 #include <gtest/gtest.h>
 
 /// The library at work with its open document, and a folder for files.
-class ProjectTest : public testing::Test
+struct ProjectTest : testing::Test
 {
-protected:
     bool Load(const QString& path);
     bool LoadText(const QByteArray& elements); ///< those of the root
     bool Save(const QString& path) { return project.SaveProjectToFile(path, nullptr); }
