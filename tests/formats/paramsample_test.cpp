@@ -104,8 +104,10 @@ struct ParamSampleTest : ProjectTest
 
         ASSERT_EQ((project.*take)(folder.Write(QStringLiteral("b.xml"), sample), QUuid()), 0U);
         EXPECT_EQ(FirstDifference(Values(), Told(values)), "");
-        for (CSender* sender : project.GetSenders())
-            AddCabinets(*sender);
+        for (CSender* sender : project.GetSenders()) { // the areas of the ports are the samples' then
+            MakeWall(*sender->GetPort(0), {2, 1, QSize(128, 64), QPoint(10, 20)});
+            MakeWall(*sender->GetPort(1), {1, 1, QSize(128, 64), QPoint(300, 400)});
+        }
         ASSERT_EQ((project.*write)(path, QUuid()), 0U);
         EXPECT_EQ(FirstDifference(ReadFile(path), sample), "");
 
@@ -115,18 +117,6 @@ struct ParamSampleTest : ProjectTest
         ASSERT_EQ((project.*take)(hollow, QUuid()), 0U);
         ASSERT_EQ((project.*write)(path, QUuid()), 0U);
         EXPECT_EQ(FirstDifference(ReadFile(path), empty), "") << "what a file lacks is not the last file's";
-    }
-
-    /// The areas of its ports are those of the samples then.
-    static void AddCabinets(CSender& sender)
-    {
-        Wall wall;
-        wall.columns = 2;
-        wall.leftTop = QPoint(10, 20);
-        MakeWall(*sender.GetPort(0), wall);
-        wall.columns = 1;
-        wall.leftTop = QPoint(300, 400);
-        MakeWall(*sender.GetPort(1), wall);
     }
 };
 

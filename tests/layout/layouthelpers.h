@@ -36,12 +36,18 @@ inline CTile* Add(CTileSet& set, const QRect& rect, QSize receivers = QSize(1, 1
     return tile;
 }
 
-inline void Turn(CTile& tile, double angle, double centerX, double centerY)
+inline SRotateParam Rotation(double angle, double centerX, double centerY)
 {
     SRotateParam record;
     record.rotated = true;
     record.angle = angle;
     record.centerX = centerX;
     record.centerY = centerY;
+    return record;
+}
+
+inline void Turn(CTile& tile, double angle, double centerX, double centerY)
+{
+    const SRotateParam record = Rotation(angle, centerX, centerY);
     tile.SetTileRotateParam(&record);
 }

@@ -1,5 +1,6 @@
 #include "layout/portproject.h"
 
+#include "layout/layouthelpers.h"
 #include "layout/rotation.h"
 #include "support/wallbuilder.h"
 
@@ -223,10 +224,7 @@ TEST_F(PortProjectTest, TheRotationCentreGoesToTheOneTileOrTheOneGroup)
 TEST_F(PortProjectTest, AQuarterTurnMovesTilesAboutTheGivenCentre)
 {
     ASSERT_TRUE(layout.AddTile(Block(2, 1)));
-    SRotateParam record;
-    record.centerX = 100;
-    record.centerY = 25;
-    record.angle = 90;
+    const SRotateParam record = Rotation(90, 100, 25);
     layout.SetTileGroupRotateParam(&record, tiles, 90);
     EXPECT_EQ(Tile(0)->GetPosition(), QPoint(50, -50)); // what shows begins at (75, -75)
     EXPECT_EQ(Tile(1)->GetPosition(), QPoint(50, 50));
@@ -271,10 +269,7 @@ TEST_F(PortProjectTest, TilesTurnAsTheyShowWhateverTheirOwnCentreIs)
     Tile(0)->GetTileRotateParam()->rotated = true;
     Tile(1)->SetWidth(300);
 
-    SRotateParam turn;
-    turn.centerX = 1200;
-    turn.centerY = 1100;
-    turn.angle = 60;
+    const SRotateParam turn = Rotation(60, 1200, 1100);
     for (const int index : {0, 1}) {
         CPointEx<double> old[4];
         CPointEx<double> now[4];

@@ -1,4 +1,5 @@
 #include "layout/corners.h"
+#include "layout/layouthelpers.h"
 #include "layout/rotation.h"
 
 #include <gtest/gtest.h>
@@ -8,11 +9,8 @@ TEST(RotationTest, QuarterTurnsAreExactAndClockwise)
     const double cases[][3] = {{0, 10, 3},     {90, -3, 10},     {180, -10, -3},  {270, 3, -10},
                                {360, 10, 3},   {-90, 3, -10},    {-180, -10, -3}, {450, -3, 10},
                                {-270, -3, 10}, {36000000, 10, 3}};
-    SRotateParam record;
-    record.centerX = 7;
-    record.centerY = 5;
     for (const auto& [angle, x, y] : cases) {
-        record.angle = angle;
+        const SRotateParam record = Rotation(angle, 7, 5);
         const CPointEx<double> point = GetRotatePoint(&record, 17, 8);
         EXPECT_TRUE(point.x == 7 + x && point.y == 5 + y) << angle << ": to the last bit";
     }

@@ -105,10 +105,10 @@ private:
 
     SRotateParam Record(const CTile& tile)
     {
-        SRotateParam record;
-        record.angle = Number(0, 9) == 0 ? qQNaN() : Number(0, 360);
-        record.centerX = tile.GetX() + Number(-64, 64);
-        record.centerY = Number(0, 9) == 0 ? qInf() : tile.GetY() + 32;
+        SRotateParam record =
+            Rotation(Number(0, 9) == 0 ? qQNaN() : Number(0, 360), tile.GetX() + Number(-64, 64),
+                     Number(0, 9) == 0 ? qInf() : tile.GetY() + 32);
+        record.rotated = Number(0, 1) != 0;
         return record;
     }
 
@@ -119,7 +119,6 @@ private:
         const auto [tile, record] = m_records[static_cast<size_t>(Number(0, int(m_records.size()) - 1))];
         m_edited = tile;
         *record = Record(*tile);
-        record->rotated = Number(0, 1) != 0;
     }
 
     /// As an undo step does, to the state at an earlier call.

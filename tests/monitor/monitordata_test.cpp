@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QSet>
+
 #include <atomic>
 #include <thread>
 #include <vector>
@@ -51,39 +53,10 @@ CMonitorDetectData DetectedBy(unsigned int writer)
 /// Whether every record of a copy comes from one writer.
 bool IsWhole(const CMonitorDetectData& data)
 {
-    for (int i = 0; i < data.GetRcvDataCount(); ++i) {
-        if (data.GetRcvDataByIndex(i)->firmwareVersion != data.GetRcvDataByIndex(0)->firmwareVersion)
-            return false;
-    }
-    return data.GetRcvDataCount() % kReceivers == 0;
-}
-
-void WriteRounds(CMonitorData& data, unsigned int writer)
-{
-    for (int round = 0; round < kRounds; ++round) {
-        data.SetDetectData(DetectedBy(writer));
-        CMonitorTipsData tips = data.GetTipData();
-        tips.SetTip(writer, 0, round, QStringLiteral("hot"));
-        data.SetTipData(tips);
-        if (round % 16 == 0)
-            data.SetToDefaultForVideo();
-    }
-}
-
-/// Number of copies that were a mixture of two writers' values.
-int ReadRounds(const CMonitorData& data)
-{
-    int mixed = 0;
-    for (int round = 0; round < kRounds; ++round) {
-        CMonitorDetectData detect;
-        CMonitorInterfaceData settings;
-        CMonitorWarningData warning;
-        CMonitorRcvShowData rcvShow;
-        CMonitorTipsData tips;
-        data.GetAllData(detect, settings, warning, rcvShow, tips);
-        mixed += IsWhole(detect) && IsWhole(data.GetDetectData()) ? 0 : 1;
-    }
-    return mixed;
+    QSet<QString> writers;
+    for (int i = 0; i < data.GetRcvDataCount(); ++i)
+        writers.insert(data.GetRcvDataByIndex(i)->firmwareVersion);
+    return writers.size() < 2 && data.GetRcvDataCount() % kReceivers == 0;
 }
 
 } // namespace
@@ -91,11 +64,32 @@ int ReadRounds(const CMonitorData& data)
 TEST(MonitorDataTest, ReadersSeeWholeMembersWhileOthersWrite)
 {
     CMonitorData data;
-    std::atomic<int> mixed{0};
+    std::atomic<int> mixed{0}; // copies that hold values of two writers
+    const auto write = [&data](unsigned int writer) {
+        for (int round = 0; round < kRounds; ++round) {
+            data.SetDetectData(DetectedBy(writer));
+            CMonitorTipsData tips = data.GetTipData();
+            tips.SetTip(writer, 0, round, QStringLiteral("hot"));
+            data.SetTipData(tips);
+            if (round % 16 == 0)
+                data.SetToDefaultForVideo();
+        }
+    };
+    const auto read = [&data, &mixed] {
+        for (int round = 0; round < kRounds; ++round) {
+            CMonitorDetectData detect;
+            CMonitorInterfaceData settings;
+            CMonitorWarningData warning;
+            CMonitorRcvShowData rcvShow;
+            CMonitorTipsData tips;
+            data.GetAllData(detect, settings, warning, rcvShow, tips);
+            mixed += IsWhole(detect) && IsWhole(data.GetDetectData()) ? 0 : 1;
+        }
+    };
     std::vector<std::thread> threads;
     for (unsigned int i = 0; i < 4; ++i) {
-        threads.emplace_back([&data, i] { WriteRounds(data, i); });
-        threads.emplace_back([&] { mixed += ReadRounds(data); });
+        threads.emplace_back(write, i);
+        threads.emplace_back(read);
     }
     for (std::thread& thread : threads)
         thread.join();

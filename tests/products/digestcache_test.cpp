@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
@@ -56,11 +55,7 @@ TEST_F(DigestCacheTest, OnlyChangedFilesAreHashedAgain)
     // Another file under the same name, with the old one's modification time.
     const QDateTime time = QFileInfo(path).lastModified();
     const QString other = folder.Write(QStringLiteral("b"), "six");
-    QFile file(other);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
-    file.close();
-    ASSERT_TRUE(QFile::remove(path) && QFile::rename(other, path));
+    ASSERT_TRUE(SetFileTime(other, time) && QFile::remove(path) && QFile::rename(other, path));
     Digest(path);
     EXPECT_EQ(hashed, 3);
 }
@@ -68,10 +63,8 @@ TEST_F(DigestCacheTest, OnlyChangedFilesAreHashedAgain)
 TEST_F(DigestCacheTest, FreshOrUnreadableFilesAreNotRemembered)
 {
     const QString path = folder.Write(QStringLiteral("a"), "one");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite)); // a time to come is fresh however slow the test runs
-    ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addDays(1), QFileDevice::FileModificationTime));
-    file.close();
+    // A time to come is fresh however slow the test runs.
+    ASSERT_TRUE(SetFileTime(path, QDateTime::currentDateTime().addDays(1)));
     Digest(path);
     Digest(path);
     EXPECT_EQ(hashed, 2);

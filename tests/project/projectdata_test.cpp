@@ -62,9 +62,9 @@ TEST_F(ProjectDataTest, DeletionAsksAndRefusesAsTheBackupsAndLocksSay)
     EXPECT_TRUE(project.DeleteSenderBefore(2, false, nullptr));
     EXPECT_FALSE(project.DeleteSenderBefore(2, true, nullptr));
     EXPECT_EQ(boxes.texts, QStringList({QStringLiteral("选择主控为备份主控，请先取消备份。"),
-                                  QStringLiteral("选择的主控存在备份主控，请先取消备份。"),
-                                  QStringLiteral("主控存在输出口被锁住，您确定要删除选择的主控吗？"),
-                                  QStringLiteral("您确定要删除选择的主控吗？")}));
+                                        QStringLiteral("选择的主控存在备份主控，请先取消备份。"),
+                                        QStringLiteral("主控存在输出口被锁住，您确定要删除选择的主控吗？"),
+                                        QStringLiteral("您确定要删除选择的主控吗？")}));
     boxes.answer = QMessageBox::Yes;
     EXPECT_TRUE(project.DeleteSender(2, true, false, true, nullptr));
     EXPECT_EQ(project.GetCurSenderIndex(), 1);

@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDateTime>
 #include <QDirIterator>
 #include <QProcess>
 #include <QThread>
@@ -94,10 +93,8 @@ TEST_F(CrashSafetyTest, KilledSaveLeavesTheOldFileOrTheNewOne)
 TEST_F(CrashSafetyTest, LockFileWithoutANameIsTakenOverBeforeTheWaitForItEnds)
 {
     SaveAll(1);
-    QFile lock(CConstantData::GetProjectParamFileTemp().chopped(1) + QLatin1String(".lock"));
-    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(
-        lock.setFileTime(QDateTime::currentDateTime().addSecs(-25), QFileDevice::FileModificationTime));
+    const QString lock = CConstantData::GetProjectParamFileTemp().chopped(1) + QLatin1String(".lock");
+    ASSERT_TRUE(SetFileTime(lock, QDateTime::currentDateTime().addSecs(-25)));
     EXPECT_EQ(VersionOf(Document::Project, folder), 1);
 }
 

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDateTime>
 #include <QDir>
 #include <QProcess>
 
@@ -36,11 +35,9 @@ TEST(ProjectLockTest, LockFileWithoutAHolderIsTakenOverOnceItIsOld)
 {
     TestFolder folder;
     const QString project = folder.Path(QStringLiteral("a.prj"));
-    QFile abandoned(folder.Write(QStringLiteral("a.prj.lock"), QByteArray()));
+    const QString abandoned = folder.Write(QStringLiteral("a.prj.lock"), QByteArray());
     CProjectLock lock(project);
     EXPECT_FALSE(lock.Lock());
-    ASSERT_TRUE(abandoned.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(
-        abandoned.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFileDevice::FileModificationTime));
+    ASSERT_TRUE(SetFileTime(abandoned, QDateTime::currentDateTime().addSecs(-60)));
     EXPECT_TRUE(lock.Lock());
 }

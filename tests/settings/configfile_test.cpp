@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QSize>
+
 namespace {
 
 QByteArray Wrapped(const QByteArray& items)
@@ -30,26 +32,19 @@ QByteArray Written(const SConfigItems& items)
 
 TEST(ConfigFileTest, ValuesOutOfBoundsArePutRight)
 {
-    EXPECT_EQ(Read("<BeaconNoBorder>0</BeaconNoBorder>").beaconNoBorder, 2);
-    EXPECT_EQ(Read("<BeaconNoBorder>1</BeaconNoBorder>").beaconNoBorder, 1);
-    const auto layoutSize = [](const QByteArray& text) {
-        return Read("<DeviceInformationLayoutSize>" + text + "</DeviceInformationLayoutSize>")
-            .deviceInformationLayoutSize;
-    };
-    EXPECT_EQ(layoutSize("3312"), 33.12f);
-    EXPECT_EQ(layoutSize("1000"), 30);
-    const auto attraction = [](const QByteArray& text) {
-        return Read("<AttractionDis>" + text + "</AttractionDis>").attractionDis;
-    };
-    EXPECT_EQ(attraction("30"), 30);
-    EXPECT_EQ(attraction("7"), 20);
-    const SConfigItems size =
-        Read("<CustomerTileSize><Width>-4</Width><Height>5000</Height></CustomerTileSize>");
-    EXPECT_EQ(size.customerTileWidth, 1);
-    EXPECT_EQ(size.customerTileHeight, 1024);
-    const SConfigItems gain = Read("<CurrenGain><CurrenGain_2 Red=\"nan\" Green=\"0.5\"/></CurrenGain>");
-    EXPECT_EQ(gain.currentGains[1].red, 1);
-    EXPECT_EQ(gain.currentGains[1].green, 0.5f);
+    const SConfigItems kept = Read("<BeaconNoBorder>1</BeaconNoBorder><AttractionDis>30</AttractionDis>"
+                                   "<DeviceInformationLayoutSize>3312</DeviceInformationLayoutSize>");
+    EXPECT_TRUE(kept.beaconNoBorder == 1 && kept.attractionDis == 30);
+    EXPECT_EQ(kept.deviceInformationLayoutSize, 33.12f);
+    const SConfigItems repaired =
+        Read("<BeaconNoBorder>0</BeaconNoBorder><AttractionDis>7</AttractionDis>"
+             "<DeviceInformationLayoutSize>1000</DeviceInformationLayoutSize>"
+             "<CustomerTileSize><Width>-4</Width><Height>5000</Height></CustomerTileSize>"
+             "<CurrenGain><CurrenGain_2 Red=\"nan\" Green=\"0.5\"/></CurrenGain>");
+    EXPECT_TRUE(repaired.beaconNoBorder == 2 && repaired.attractionDis == 20);
+    EXPECT_EQ(repaired.deviceInformationLayoutSize, 30);
+    EXPECT_EQ(QSize(repaired.customerTileWidth, repaired.customerTileHeight), QSize(1, 1024));
+    EXPECT_TRUE(repaired.currentGains[1].red == 1 && repaired.currentGains[1].green == 0.5f);
 }
 
 TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)

@@ -28,23 +28,15 @@ TEST(ConstantDataTest, FileNamesThatDoNotExistYetBecomeFolders)
     EXPECT_EQ(CConstantData::GetSenderBKImgName(-1, false), QStringLiteral("/Layout.png"));
 }
 
-TEST(ConstantDataTest, PortColorsRepeatAndNegativePortsHaveTheirOwn)
+TEST(ConstantDataTest, ColorsAndBrightnessKeepTheirOddRules)
 {
-    EXPECT_EQ(CConstantData::GetColorByPort(-20), QColor(204, 94, 16));
+    EXPECT_EQ(CConstantData::GetColorByPort(-20), QColor(204, 94, 16)) << "repeated also below 0";
     EXPECT_EQ(CConstantData::GetColorByPort(-1), QColor(65, 100, 150));
-}
-
-TEST(ConstantDataTest, ColorTextReadsBackOnlyBelowHalfOpacity)
-{
-    const QColor half(1, 2, 3, 127);
+    const QColor half(1, 2, 3, 127); // only below half opacity a text reads back
     EXPECT_EQ(CConstantData::GetColorFromQString(CConstantData::GetColortoQString(half)), half);
     EXPECT_EQ(CConstantData::GetColortoQString(Qt::black), QStringLiteral("4278190080"));
     EXPECT_EQ(CConstantData::GetColorFromQString(QStringLiteral("4278190080")), QColor(0, 0, 0, 0));
-}
-
-TEST(ConstantDataTest, BrightnessRoundsHalfAwayFromZero)
-{
-    EXPECT_EQ(CConstantData::GetBightnessFromPercent(50, true), 128);
+    EXPECT_EQ(CConstantData::GetBightnessFromPercent(50, true), 128) << "rounded half away from zero";
     EXPECT_EQ(CConstantData::GetBightnessFromPercent(-50, true), -128);
     EXPECT_EQ(CConstantData::GetBightnessFromPercent(50, false), 193); // 0.5 ^ 0.4 is 0.7579
 }

@@ -49,20 +49,16 @@ TEST_F(DesignBackgroundTest, EveryWindowHasItsViewAndCanvas)
 
 TEST_F(DesignBackgroundTest, WheelVisitsTheStepsOfItsDirection)
 {
-    const auto wheel = [this](float from, bool zoomIn) {
-        background.SetClientRect(0, QRect(0, 0, 100, 100));
+    const std::tuple<float, bool, float> cases[] = {
+        {1, true, 1.2f},     {1, false, 0.9f}, {0.055f, true, 0.06f}, {0.06f, false, 0.05f},
+        {0.47f, true, 0.5f}, {10, false, 9},   {10, true, -1},        {20, false, -1}};
+    background.SetClientRect(0, QRect(0, 0, 100, 100));
+    for (const auto& [from, zoomIn, to] : cases) {
         background.ResetViewScaling();
         background.SetViewScaling(from, noFix);
-        return background.MouseScalingModify(zoomIn, noFix) ? background.GetViewScaling() : -1;
-    };
-    EXPECT_FLOAT_EQ(wheel(1.0f, true), 1.2f);
-    EXPECT_FLOAT_EQ(wheel(1.0f, false), 0.9f);
-    EXPECT_FLOAT_EQ(wheel(0.055f, true), 0.06f);
-    EXPECT_FLOAT_EQ(wheel(0.06f, false), 0.05f);
-    EXPECT_FLOAT_EQ(wheel(0.47f, true), 0.5f);
-    EXPECT_FLOAT_EQ(wheel(10.0f, false), 9.0f);
-    EXPECT_FLOAT_EQ(wheel(10.0f, true), -1);
-    EXPECT_FLOAT_EQ(wheel(20.0f, false), -1);
+        const bool done = background.MouseScalingModify(zoomIn, noFix);
+        EXPECT_FLOAT_EQ(done ? background.GetViewScaling() : -1, to) << from;
+    }
 }
 
 TEST_F(DesignBackgroundTest, ScalingIsBoundByTheCanvas)
@@ -128,16 +124,17 @@ TEST_F(DesignBackgroundTest, StartIsClampedAndChangesAreNotified)
 
 TEST_F(DesignBackgroundTest, AdaptiveScalingIsTheLargestPercentageThatFits)
 {
-    const QSize client(1920, 1080);
-    const auto adapted = [&](QSize content, int margin) {
+    const std::tuple<QSize, int, float> cases[] = {
+        {QSize(1000, 500), 0, 1.0f},
+        {QSize(1920, 1079), 0, 0.99f}, // equal does not fit
+        {QSize(3000, 500), 0, 0.63f},  // 0.64 fills the client exactly
+        {QSize(3000, 500), 100, 0.6f},
+        {QSize(96000, 500), 0, -1}};
+    for (const auto& [content, margin, scaling] : cases) {
         background.ResetViewScaling();
-        return background.SetAdaptiveScaling(client, content, margin) ? background.GetViewScaling() : -1;
-    };
-    EXPECT_FLOAT_EQ(adapted(QSize(1000, 500), 0), 1.0f);
-    EXPECT_FLOAT_EQ(adapted(QSize(1920, 1079), 0), 0.99f); // equal does not fit
-    EXPECT_FLOAT_EQ(adapted(QSize(3000, 500), 0), 0.63f);  // 0.64 fills the client exactly
-    EXPECT_FLOAT_EQ(adapted(QSize(3000, 500), 100), 0.6f);
-    EXPECT_FLOAT_EQ(adapted(QSize(96000, 500), 0), -1);
+        const bool done = background.SetAdaptiveScaling(QSize(1920, 1080), content, margin);
+        EXPECT_FLOAT_EQ(done ? background.GetViewScaling() : -1, scaling) << content.width();
+    }
 }
 
 TEST_F(DesignBackgroundTest, NewProjectAdaptsEveryInterfaceAndRestoresTheWindows)

@@ -12,8 +12,9 @@ struct MessageRecorder
 
     QStringList texts;
     QMessageBox::StandardButton answer = QMessageBox::No;
-    CCustomMessageBox::Handler before = CCustomMessageBox::SetHandler([this](auto, const QString& text, auto) {
-        texts.append(text);
-        return answer;
-    });
+    CCustomMessageBox::Handler before =
+        CCustomMessageBox::SetHandler([this](auto, const QString& text, auto) {
+            texts.append(text);
+            return answer;
+        });
 };

@@ -29,6 +29,12 @@ QString WriteFile(const QString& path, const QByteArray& content)
     return path;
 }
 
+bool SetFileTime(const QString& path, const QDateTime& modified)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadWrite) && file.setFileTime(modified, QFileDevice::FileModificationTime);
+}
+
 QByteArray ReadFile(const QString& path)
 {
     QFile file(path);

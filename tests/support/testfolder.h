@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -20,5 +21,6 @@ private:
 };
 
 QString WriteFile(const QString& path, const QByteArray& content); ///< makes its folders; returns the path
-QByteArray ReadFile(const QString& path);                          ///< empty when the file cannot be read
+bool SetFileTime(const QString& path, const QDateTime& modified);
+QByteArray ReadFile(const QString& path); ///< empty when the file cannot be read
 QString SamplePath(const char* name);
