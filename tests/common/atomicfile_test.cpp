@@ -17,7 +17,7 @@
 TEST(AtomicFileTest, FailedWriteKeepsTheOldFileAndLeavesNothingBeside)
 {
     TestFolder folder;
-    const QString path = folder.Write(QStringLiteral("a.txt"), "old");
+    const QString path = folder.Write("a.txt"_s, "old");
     QString error;
     EXPECT_FALSE(ReplaceFile(
         path,
@@ -34,8 +34,8 @@ TEST(AtomicFileTest, FailedWriteKeepsTheOldFileAndLeavesNothingBeside)
 TEST(AtomicFileTest, LinkStaysAndItsTargetIsReplaced)
 {
     TestFolder folder;
-    const QString target = folder.Write(QStringLiteral("target.txt"), "old");
-    const QString link = folder.Path(QStringLiteral("link.txt"));
+    const QString target = folder.Write("target.txt"_s, "old");
+    const QString link = folder.Path("link.txt"_s);
     ASSERT_TRUE(QFile::link(target, link));
     EXPECT_TRUE(ReplaceFile(link, QByteArray("new")));
     EXPECT_EQ(ReadFile(target), "new");
@@ -45,10 +45,10 @@ TEST(AtomicFileTest, LinkStaysAndItsTargetIsReplaced)
 TEST(AtomicFileTest, WaitingForAnotherSaveLeavesNoDescriptorOpen)
 {
     const auto descriptors = [] {
-        return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System).size();
+        return QDir("/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size();
     };
     TestFolder folder;
-    const QString part = folder.Write(QStringLiteral(".a.txt.part"), "of another save");
+    const QString part = folder.Write(".a.txt.part"_s, "of another save");
     const int before = descriptors();
     const int other = open(QFile::encodeName(part).constData(), O_RDWR | O_CLOEXEC);
     ASSERT_EQ(flock(other, LOCK_EX), 0);
@@ -56,7 +56,7 @@ TEST(AtomicFileTest, WaitingForAnotherSaveLeavesNoDescriptorOpen)
         QThread::msleep(100);
         close(other);
     });
-    EXPECT_TRUE(ReplaceFile(folder.Path(QStringLiteral("a.txt")), QByteArray("new")));
+    EXPECT_TRUE(ReplaceFile(folder.Path("a.txt"_s), QByteArray("new")));
     ending.join();
     EXPECT_EQ(descriptors(), before);
     EXPECT_FALSE(QFile::exists(part));
@@ -68,5 +68,5 @@ TEST(AtomicFileTest, OnlyRegularFilesAreReplaced)
     QString error;
     EXPECT_FALSE(ReplaceFile(folder.Path(), QByteArray("new"), &error));
     EXPECT_FALSE(error.isEmpty());
-    EXPECT_FALSE(ReplaceFile(QStringLiteral("/dev/null"), QByteArray("new"), &error));
+    EXPECT_FALSE(ReplaceFile("/dev/null"_s, QByteArray("new"), &error));
 }

@@ -1,4 +1,5 @@
 #include "common/fieldtext.h"
+#include "support/text.h"
 
 #include <gtest/gtest.h>
 
@@ -58,11 +59,11 @@ TEST(FieldTextTest, DigestsCarryTheirClosingNulAndReadWithAndWithoutIt)
 
 TEST(FieldTextTest, TextLosesWhatNoFileCanHold)
 {
-    QString text = QStringLiteral("a\tb屏\U0001F600");
+    QString text = "a\tb屏\U0001F600"_s;
     text.append(QChar(0xD800))
         .append(QChar(0xFFFE))
         .append(QChar(0))
         .append(QChar(0x1b))
         .append(QLatin1Char('z'));
-    EXPECT_EQ(Text(text), QStringLiteral("a\tb屏\U0001F600z").toStdString());
+    EXPECT_EQ(Text(text), "a\tb屏\U0001F600z"_s.toStdString());
 }

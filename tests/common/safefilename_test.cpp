@@ -1,10 +1,11 @@
 #include "common/safefilename.h"
+#include "support/text.h"
 
 #include <gtest/gtest.h>
 
 TEST(SafeFileNameTest, LongNameIsCutBetweenCharacters)
 {
-    const QString face = QString::fromUtf8("\U0001F600");
+    const QString face = "\U0001F600"_s;
     const QString letters(119, QLatin1Char('a'));
     EXPECT_EQ(SafeFileName(letters + face, QString()), letters);
     EXPECT_EQ(SafeFileName(QLatin1Char('.') + letters + face, QString()), letters);
@@ -13,6 +14,6 @@ TEST(SafeFileNameTest, LongNameIsCutBetweenCharacters)
 
 TEST(SafeFileNameTest, NothingLeadsOutOfTheFolderOrBreaksALine)
 {
-    EXPECT_EQ(SafeFileName(QStringLiteral("../a\\b:\u0085c\n. ."), QString()), QStringLiteral("_a_b__c_"));
-    EXPECT_EQ(SafeFileName(QStringLiteral(".. "), QStringLiteral("param")), QStringLiteral("param"));
+    EXPECT_EQ(SafeFileName("../a\\b:\u0085c\n. ."_s, QString()), "_a_b__c_"_s);
+    EXPECT_EQ(SafeFileName(".. "_s, "param"_s), "param"_s);
 }

@@ -1,6 +1,7 @@
 #include "common/xmldom.h"
 #include "common/xmlreader.h"
 #include "common/xmlwriter.h"
+#include "support/text.h"
 
 #include <gtest/gtest.h>
 
@@ -96,7 +97,7 @@ TEST(XmlReaderTest, OnlyValuesInATagCountAsItsAttributes)
 
 TEST(XmlReaderTest, EncodingIsThatOfTheMarkAndTheDeclaration)
 {
-    const QString text = QStringLiteral("<?xml version='1.0' encoding='UTF-16'?><r a='屏\U0001F600'/>");
+    const QString text = "<?xml version='1.0' encoding='UTF-16'?><r a='屏\U0001F600'/>"_s;
     QByteArray little(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
     QByteArray big = little;
     for (int i = 0; i < little.size(); ++i)

@@ -24,14 +24,14 @@ namespace {
 template <class T> QString TypeOf(const T&)
 {
     if (std::is_same_v<T, bool>)
-        return QStringLiteral("flag");
+        return "flag"_s;
     if (std::is_same_v<T, QUuid>)
-        return QStringLiteral("id");
+        return "id"_s;
     if (std::is_same_v<T, SMD5>)
-        return QStringLiteral("digest");
+        return "digest"_s;
     if (std::is_floating_point_v<T>)
-        return QStringLiteral("fraction");
-    return std::is_same_v<T, QString> ? QStringLiteral("text") : QStringLiteral("number");
+        return "fraction"_s;
+    return std::is_same_v<T, QString> ? "text"_s : "number"_s;
 }
 
 std::string Lines(const QStringList& rows)
@@ -48,11 +48,10 @@ public:
         static const char* const kUses[] = {"", "never read", "never written", "if present"};
         const QString quoted = QLatin1Char('`') + name.Text() + QLatin1Char('`');
         // What a record holds in another form than the file.
-        static const QHash<QString, QString> kForms{
-            {QStringLiteral("PortColor"), QStringLiteral("colour")},
-            {QStringLiteral("IsMultiCabinet"), QStringLiteral("flag")},
-            {QStringLiteral("IsMultiFixed"), QStringLiteral("flag")},
-            {QStringLiteral("MultiOrdered"), QStringLiteral("flag")}};
+        static const QHash<QString, QString> kForms{{"PortColor"_s, "colour"_s},
+                                                    {"IsMultiCabinet"_s, "flag"_s},
+                                                    {"IsMultiFixed"_s, "flag"_s},
+                                                    {"MultiOrdered"_s, "flag"_s}};
         m_rows.append(quoted + QLatin1Char(' ') + kForms.value(name.Text(), TypeOf(value)));
         if (use != FieldUse::Both)
             m_deviations.append(m_element + QLatin1Char(' ') + quoted + QLatin1Char(' ')
@@ -80,8 +79,8 @@ std::string Table(const QString& heading, int columns)
     bool here = false;
     for (const QString& line : document.split(QLatin1Char('\n'))) {
         if (line.startsWith(QLatin1Char('#')))
-            here = line.section(QRegularExpression(QStringLiteral("^#+ (Groups: )?")), 1).startsWith(heading);
-        else if (here && line.startsWith(QLatin1String("| ")))
+            here = line.section(QRegularExpression("^#+ (Groups: )?"_s), 1).startsWith(heading);
+        else if (here && line.startsWith("| "_s))
             rows.append(line.section(QLatin1Char('|'), 1, columns).remove(QLatin1Char('|')).simplified());
     }
     return Lines(rows.mid(1));
@@ -114,27 +113,27 @@ TEST(DocumentTablesTest, AttributesAndDeviationsAreThoseOfTheDescriptions)
         l.Field(layoutnames::kGroupCount, 0);
     });
     expect("Monitor", MonitorRecord(), [](auto& l, auto& r) { DescribeMonitor(l, r); });
-    EXPECT_EQ(Table(QStringLiteral("Deviations between"), 3), f.TakeDeviations());
+    EXPECT_EQ(Table("Deviations between"_s, 3), f.TakeDeviations());
 
     SenderParamData data;
     f.Begin("AdvancedParam");
     params::DescribeAdvanced(f, data);
     params::DescribeProcessorAdvanced(f, data);
-    EXPECT_EQ(Table(QStringLiteral("Deviations in parameter files"), 3), f.TakeDeviations());
+    EXPECT_EQ(Table("Deviations in parameter files"_s, 3), f.TakeDeviations());
 }
 
 TEST(DocumentTablesTest, SettingsAndTheirDefaultsAreThoseOfANewInstallation)
 {
     TestFolder folder;
-    ASSERT_TRUE(WriteConfigFile(folder.Path(QStringLiteral("c.xml")), SConfigItems()));
+    ASSERT_TRUE(WriteConfigFile(folder.Path("c.xml"_s), SConfigItems()));
     QDomDocument written;
-    ASSERT_TRUE(ParseXmlDom(ReadFile(folder.Path(QStringLiteral("c.xml"))), written, nullptr));
+    ASSERT_TRUE(ParseXmlDom(ReadFile(folder.Path("c.xml"_s)), written, nullptr));
     QDomElement item = written.documentElement().firstChildElement().firstChildElement();
-    const QString table = QString::fromStdString(Table(QStringLiteral("Settings file"), 3));
-    static const QRegularExpression further(QStringLiteral("ProjectRecord[2-5]")); // share a row
+    const QString table = QString::fromStdString(Table("Settings file"_s, 3));
+    static const QRegularExpression further("ProjectRecord[2-5]"_s); // share a row
     for (const QString& row : table.split(QLatin1Char('\n'))) {
         EXPECT_EQ(row.section(QLatin1Char('`'), 1, 1), item.tagName()) << qPrintable(row);
-        const bool ofMachine = item.tagName() == QLatin1String("Language");
+        const bool ofMachine = item.tagName() == "Language"_s;
         if (item.firstChildElement().isNull() && !item.text().isEmpty() && !ofMachine) {
             EXPECT_EQ(row.section(QLatin1Char(' '), -1), item.text()) << qPrintable(row);
         }
@@ -148,17 +147,16 @@ TEST(DocumentTablesTest, SettingsAndTheirDefaultsAreThoseOfANewInstallation)
 TEST(DocumentTablesTest, LimitsAreThoseOfTheCode)
 {
     const auto row = [](const char* what, qint64 limit, const char* unit = "") {
-        return QStringLiteral("%1 %2%3").arg(QLatin1String(what)).arg(limit).arg(QString::fromUtf8(unit));
+        return "%1 %2%3"_s.arg(QLatin1String(what)).arg(limit).arg(QString::fromUtf8(unit));
     };
     const auto mebibytes = [&row](const char* what, qint64 bytes) { return row(what, bytes >> 20, " MiB"); };
-    QString portCounts = QStringLiteral("ports of a sender");
+    QString portCounts = "ports of a sender"_s;
     for (int count = 1; count <= kMaxPorts; ++count)
         if (CSender::IsPortCountAccepted(count))
             portCounts += QLatin1Char(' ') + QString::number(count);
-    const QString limits = QLatin1Char('\n')
-                           + QString::fromStdString(Table(QStringLiteral("Limits"), 2))
-                                 .remove(QLatin1Char(','))
-                                 .replace(QLatin1String(" or "), QLatin1String(" "));
+    const QString limits =
+        QLatin1Char('\n')
+        + QString::fromStdString(Table("Limits"_s, 2)).remove(QLatin1Char(',')).replace(" or "_s, " "_s);
     for (const QString& limit :
          {mebibytes("XML file", kMaxXmlBytes),
           row("XML file of parameters settings", kMaxTreeNodes, " elements"),
@@ -180,9 +178,8 @@ TEST(DocumentTablesTest, LimitsAreThoseOfTheCode)
           row("receiving cards of a cabinet with an order of its own", kMaxReceiversInTile),
           mebibytes("INI file", kMaxIniBytes),
           mebibytes("JSON file", kMaxJsonBytes),
-          mebibytes("list of addresses", kMaxIpListBytes)
-              + QStringLiteral(" %1 addresses").arg(kMaxSpecifiedIps),
+          mebibytes("list of addresses", kMaxIpListBytes) + " %1 addresses"_s.arg(kMaxSpecifiedIps),
           row("name that becomes a file name", kMaxFileNameBytes, " bytes")})
-        EXPECT_TRUE(limits.contains(QRegularExpression(limit + QStringLiteral("(?!\\d)"))))
+        EXPECT_TRUE(limits.contains(QRegularExpression(limit + "(?!\\d)"_s)))
             << limit.toStdString() << "\nis not in:" << limits.toStdString();
 }

@@ -9,8 +9,8 @@ namespace {
 
 /// Counts and what tells processors apart are needed to reach the values. The rest is the sender's own.
 const QRegularExpression kStructure(
-    QStringLiteral("Count$|^(CheckValue|bSpecifyIP|SenderType|DeviceType|NetIP|ParamFileMainVersion|"
-                   "DeviceReserveFlag|DeviceGuid|DeviceClass)$"));
+    "Count$|^(CheckValue|bSpecifyIP|SenderType|DeviceType|NetIP|ParamFileMainVersion|"
+    "DeviceReserveFlag|DeviceGuid|DeviceClass)$"_s);
 
 /// The values of a record in the order in which it declares them, which no name in a file decides; "-" stands
 /// for a record inside that is as it was made.
@@ -56,8 +56,8 @@ struct ParamSampleTest : ProjectTest
     /// Two senders as in the samples, one with picture values of its own.
     ParamSampleTest()
     {
-        const QUuid ids[] = {QUuid(QStringLiteral("{513c9595-dafb-4d1e-9f00-fce30301cab7}")),
-                             QUuid(QStringLiteral("{d3cbe907-e273-42d7-9f07-5f0244d56622}"))};
+        const QUuid ids[] = {QUuid("{513c9595-dafb-4d1e-9f00-fce30301cab7}"_s),
+                             QUuid("{d3cbe907-e273-42d7-9f07-5f0244d56622}"_s)};
         for (int i = 0; i < 2; ++i) {
             CSender& sender = *project.NewSender();
             sender.SetId(ids[i]);
@@ -95,14 +95,14 @@ struct ParamSampleTest : ProjectTest
     void ExpectSample(const char* name, const char* values, Transfer take, Transfer write)
     {
         const QByteArray sample = FullSample(name);
-        const QString hollow = folder.Write(QStringLiteral("hollow.xml"), Hollow(sample, kStructure));
-        const QString path = folder.Path(QStringLiteral("a.xml"));
+        const QString hollow = folder.Write("hollow.xml"_s, Hollow(sample, kStructure));
+        const QString path = folder.Path("a.xml"_s);
         ASSERT_EQ((project.*take)(hollow, QUuid()), 0U);
         ASSERT_EQ((project.*write)(path, QUuid()), 0U);
         const QByteArray empty = ReadFile(path);
         EXPECT_EQ(NamesWithoutOwnValue(sample, empty, kStructure), "");
 
-        ASSERT_EQ((project.*take)(folder.Write(QStringLiteral("b.xml"), sample), QUuid()), 0U);
+        ASSERT_EQ((project.*take)(folder.Write("b.xml"_s, sample), QUuid()), 0U);
         EXPECT_EQ(FirstDifference(Values(), Told(values)), "");
         for (CSender* sender : project.GetSenders()) { // the areas of the ports are the samples' then
             MakeWall(*sender->GetPort(0), {2, 1, QSize(128, 64), QPoint(10, 20)});

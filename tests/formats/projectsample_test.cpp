@@ -7,12 +7,11 @@
 
 namespace {
 
-const QUuid kLeft(QStringLiteral("{c95ad16b-6333-4764-bb20-9ee65602cbb4}"));
-const QUuid kRight(QStringLiteral("{0b6a8f0e-27a5-4c57-8f3c-6f3d1a4e9b21}"));
+const QUuid kLeft("{c95ad16b-6333-4764-bb20-9ee65602cbb4}"_s);
+const QUuid kRight("{0b6a8f0e-27a5-4c57-8f3c-6f3d1a4e9b21}"_s);
 
 /// The numbers of children are needed to reach them; a place says itself which port it is.
-const QRegularExpression kStructure(
-    QStringLiteral("^((Sender|SenderGroup|Port|Tile|Group|Item)?Count|PortIndex)$"));
+const QRegularExpression kStructure("^((Sender|SenderGroup|Port|Tile|Group|Item)?Count|PortIndex)$"_s);
 
 std::string RotationRow(const SRotateParam& r)
 {
@@ -136,8 +135,8 @@ TEST_F(ProjectSampleTest, DocumentIsReadByTheValueAndWrittenByTheByte)
     }
     EXPECT_EQ(FirstDifference(Document(), sample), "");
 
-    ASSERT_TRUE(Load(folder.Write(QStringLiteral("a.xml"), Hollow(sample, kStructure))));
-    const QRegularExpression passedOver(kStructure.pattern() + QStringLiteral("|^(Minimum|Current)Version$"));
+    ASSERT_TRUE(Load(folder.Write("a.xml"_s, Hollow(sample, kStructure))));
+    const QRegularExpression passedOver(kStructure.pattern() + "|^(Minimum|Current)Version$"_s);
     EXPECT_EQ(NamesWithoutOwnValue(sample, Document(), passedOver), "");
     // Monitoring keeps its defaults, a cabinet has one receiving card.
     EXPECT_EQ(
@@ -156,8 +155,8 @@ TEST_F(ProjectSampleTest, LayoutFilesAreReadAndWrittenByTheByte)
     CSender& target = *project.NewSender();
     target.SetId(kLeft); // of the identity nothing comes from a file
     target.SetNetSenderIP(3232235786);
-    target.SetBelongGroup(QUuid(QStringLiteral("{d3cbe907-e273-42d7-9f07-5f0244d56622}")));
-    const QString path = folder.Path(QStringLiteral("a.xml"));
+    target.SetBelongGroup(QUuid("{d3cbe907-e273-42d7-9f07-5f0244d56622}"_s));
+    const QString path = folder.Path("a.xml"_s);
 
     ASSERT_TRUE(project.ImportSender(SamplePath("full/sender-layout.xml"), kLeft, false, true));
     ASSERT_TRUE(project.ExportSender(path, kLeft));

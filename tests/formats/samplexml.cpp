@@ -23,7 +23,7 @@ QDomDocument Parsed(const QByteArray& xml)
 
 void Collect(const QDomElement& element, const QString& parent, Values& values)
 {
-    static const QRegularExpression number(QStringLiteral("[_\\d]*$"));
+    static const QRegularExpression number("[_\\d]*$"_s);
     const QString path = parent + QLatin1Char('/') + element.tagName().remove(number);
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.count(); ++i)
@@ -65,8 +65,7 @@ QByteArray FullSample(const char* name)
 
 QByteArray Told(const char* name)
 {
-    static const QRegularExpression lineName(QStringLiteral("^[^:\\n]*: ?"),
-                                             QRegularExpression::MultilineOption);
+    static const QRegularExpression lineName("^[^:\\n]*: ?"_s, QRegularExpression::MultilineOption);
     return QString::fromUtf8(FullSample(name)).remove(lineName).toUtf8();
 }
 
@@ -95,7 +94,7 @@ std::string NamesWithoutOwnValue(const QByteArray& sample, const QByteArray& hol
     const Values without = ValuesOf(hollow);
     std::string names;
     for (auto value = values.constBegin(); value != values.constEnd(); ++value) {
-        const QString name = value.key().section(QRegularExpression(QStringLiteral("[/@]")), -1);
+        const QString name = value.key().section(QRegularExpression("[/@]"_s), -1);
         const QStringList others = without.value(value.key());
         const bool own = std::any_of(value->begin(), value->end(),
                                      [&](const QString& text) { return !others.contains(text); });
@@ -110,10 +109,10 @@ std::string ValuesBesideZero(const QByteArray& xml, const QRegularExpression& pa
     QStringList found;
     const Values values = ValuesOf(xml);
     for (auto value = values.constBegin(); value != values.constEnd(); ++value) {
-        const QString name = value.key().section(QRegularExpression(QStringLiteral("[/@]")), -1);
+        const QString name = value.key().section(QRegularExpression("[/@]"_s), -1);
         for (const QString& text : *value)
-            if (!text.isEmpty() && text != QLatin1String("0") && QUuid(text).isNull()
-                && !text.startsWith(QLatin1String("{0000")) && !passedOver.match(name).hasMatch())
+            if (!text.isEmpty() && text != "0"_s && QUuid(text).isNull() && !text.startsWith("{0000"_s)
+                && !passedOver.match(name).hasMatch())
                 found.append(name + QLatin1Char('=') + text);
     }
     found.removeDuplicates();

@@ -23,10 +23,10 @@ TEST(SettingsSampleTest, FileIsReadByTheValueAndWrittenByTheByte)
         const SCurrentGain gain = c.GetCurrentGain(i);
         const double tenth = 0.1 * (i + 1);
         EXPECT_EQ(Row(gain.red, gain.green, gain.blue, gain.tip),
-                  Row(tenth + 0.01, tenth + 0.02, tenth + 0.03, QStringLiteral("增益 %1").arg(i + 1)));
+                  Row(tenth + 0.01, tenth + 0.02, tenth + 0.03, "增益 %1"_s.arg(i + 1)));
     }
     for (int i = 0; i < 5; ++i)
-        EXPECT_EQ(c.GetProjectRecordPath(i), QStringLiteral("/home/屏/%1 & a.prj").arg(i + 1));
+        EXPECT_EQ(c.GetProjectRecordPath(i), "/home/屏/%1 & a.prj"_s.arg(i + 1));
     const SBrightTableInfo table = c.GetBrightTableInfo();
     EXPECT_EQ(Row(table.gamma, table.sensitivity, table.sensorMin, table.sensorMax, table.yStart, table.yEnd),
               "2.85|51|1.5|99|2.5|98|");
@@ -37,18 +37,17 @@ TEST(SettingsSampleTest, FileIsReadByTheValueAndWrittenByTheByte)
     for (int i = 0; i < 40; ++i) {
         const SHotkey hotkey = c.GetHotkey(1 + i / 20, i % 20);
         EXPECT_EQ(Row(hotkey.enable, hotkey.operation, hotkey.hotkey, hotkey.description),
-                  Row(false, QStringLiteral("operation %1").arg(i + 1),
-                      QStringLiteral("Ctrl+Alt+") + QChar('A' + i % 20),
-                      QStringLiteral("动作 %1").arg(i + 1)));
+                  Row(false, "operation %1"_s.arg(i + 1), "Ctrl+Alt+"_s + QChar('A' + i % 20),
+                      "动作 %1"_s.arg(i + 1)));
     }
     for (int i = 0; i < kInterfaceCount; ++i)
         EXPECT_TRUE(c.GetReadOnlyState(i)) << i;
 
-    const QString path = folder.Path(QStringLiteral("c.xml"));
+    const QString path = folder.Path("c.xml"_s);
     ASSERT_TRUE(c.XmlSave(path));
     EXPECT_EQ(FirstDifference(ReadFile(path), sample), "");
     ASSERT_TRUE(WriteConfigFile(path, SConfigItems()));
-    EXPECT_EQ(NamesWithoutOwnValue(sample, ReadFile(path), QRegularExpression(QStringLiteral("^$a"))), "");
+    EXPECT_EQ(NamesWithoutOwnValue(sample, ReadFile(path), QRegularExpression("^$a"_s)), "");
 }
 
 TEST(SettingsSampleTest, FilesBesideItAreReadByTheValueAndWrittenByTheByte)
@@ -66,17 +65,16 @@ TEST(SettingsSampleTest, FilesBesideItAreReadByTheValueAndWrittenByTheByte)
     ASSERT_TRUE(c.Load_UI(ui));
     ASSERT_TRUE(c.LoadCustomizeConfig(edition));
     ASSERT_TRUE(c.LoadSpecifiedIP(addresses));
-    EXPECT_EQ(Row(c.IsEnableRotate(), c.GetUIValue(QStringLiteral("Window/Title")).toString(),
-                  c.GetUIValue(QStringLiteral("Window/State")).toByteArray() == QByteArray("\0\xff", 2)),
+    EXPECT_EQ(Row(c.IsEnableRotate(), c.GetUIValue("Window/Title"_s).toString(),
+                  c.GetUIValue("Window/State"_s).toByteArray() == QByteArray("\0\xff", 2)),
               "1|屏 “A”|1|");
-    EXPECT_EQ(Row(c.GetCustomizeValue(QStringLiteral("Logo")).toInt(),
-                  c.GetCustomizeValue(QStringLiteral("Missing"), 3).toInt(),
-                  c.GetCustomizeValue(QStringLiteral("Pages"))[QStringLiteral("深")][1].toString()),
+    EXPECT_EQ(Row(c.GetCustomizeValue("Logo"_s).toInt(), c.GetCustomizeValue("Missing"_s, 3).toInt(),
+                  c.GetCustomizeValue("Pages"_s)["深"_s][1].toString()),
               "2|3|b|");
     EXPECT_EQ(c.GetSpecifiedIPList().join(QLatin1Char(' ')).toStdString(), "192.0.2.9 10.1.2.3 203.0.113.1");
 
     c.SetEnableRotate(false);
-    c.SetCustomizeValue(QStringLiteral("Logo"), 5);
+    c.SetCustomizeValue("Logo"_s, 5);
     ASSERT_TRUE(c.Save_UI() && c.SaveCustomizeConfig() && c.SaveSpecifiedIP());
     EXPECT_EQ(FirstDifference(ReadFile(ui), FullSample("SystemConfigUI.ini").replace("Rotate=1", "Rotate=0")),
               "");

@@ -4,6 +4,7 @@
 #include "settings/configdata.h"
 #include "settings/constantdata.h"
 #include "support/library.h"
+#include "support/text.h"
 
 #include <gtest/gtest.h>
 
@@ -32,7 +33,7 @@ TEST(LedNimbraDataTest, ObjectsLiveBetweenInitAndRelease)
         const auto objects = Objects();
         EXPECT_EQ(std::count(objects.begin(), objects.end(), nullptr), 0);
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-        EXPECT_TRUE(QDir(documents + QStringLiteral("/Orvan/SysConfig")).exists());
+        EXPECT_TRUE(QDir(documents + "/Orvan/SysConfig"_s).exists());
     }
     EXPECT_EQ(Objects(), none);
     LedNimbraData_Release();

@@ -86,7 +86,7 @@ TEST_F(PortProjectTest, AddTileLetsTheBlockOverruleTheProductAndRegistersIt)
 {
     TestLookup lookup;
     lookup.productType = SMD5::FromString(QString(32, QLatin1Char('a')));
-    lookup.product = {QStringLiteral("cabinet"), false, false};
+    lookup.product = {"cabinet"_s, false, false};
 
     SAddTileInfo info = Block(2, 1);
     info.type = lookup.productType;
@@ -99,7 +99,7 @@ TEST_F(PortProjectTest, AddTileLetsTheBlockOverruleTheProductAndRegistersIt)
     ASSERT_TRUE(layout.AddTile(info));
     EXPECT_TRUE(Tile(1)->IsMultiRcvTile() && Tile(1)->IsMultiRcvsOrdered()) << "as every fixed line";
     EXPECT_TRUE(Tile(1)->GetMultiRcvsCount() == 4 && Tile(1)->GetMultiRcvsLineCode(2) == 3);
-    EXPECT_EQ(lookup.parameterFiles, QList<QString>{QStringLiteral("cabinet")});
+    EXPECT_EQ(lookup.parameterFiles, QList<QString>{"cabinet"_s});
 }
 
 TEST_F(PortProjectTest, CopiesAreEqualAndStandAlone)

@@ -2,6 +2,7 @@
 
 #include "common/interfacedlg.h"
 #include "monitor/monitorlookup.h"
+#include "support/text.h"
 
 #include <gtest/gtest.h>
 
@@ -69,7 +70,7 @@ TEST(MonitorDataTest, ReadersSeeWholeMembersWhileOthersWrite)
         for (int round = 0; round < kRounds; ++round) {
             data.SetDetectData(DetectedBy(writer));
             CMonitorTipsData tips = data.GetTipData();
-            tips.SetTip(writer, 0, round, QStringLiteral("hot"));
+            tips.SetTip(writer, 0, round, "hot"_s);
             data.SetTipData(tips);
             if (round % 16 == 0)
                 data.SetToDefaultForVideo();
@@ -122,7 +123,7 @@ TEST(MonitorDataTest, DefaultsEmptyEveryMemberAndKeepTheRunningState)
     warning.SetSenderWarning(1, SenderWarningFreeze);
     data.SetWarningData(warning);
     CMonitorRcvShowData texts;
-    texts.SetText(1, 0, 0, MonitorRenderTemperature, QStringLiteral("61"));
+    texts.SetText(1, 0, 0, MonitorRenderTemperature, "61"_s);
     data.SetRcvShowData(texts);
 
     data.SetToDefaultForVideo();

@@ -1,4 +1,5 @@
 #include "monitor/monitorinterfacedata.h"
+#include "support/text.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +30,7 @@ TEST(MonitorInterfaceDataTest, OneDifferentMemberMakesUnequal)
 {
     CMonitorInterfaceData base;
     SEmailSetting mail;
-    mail.receivers = {{QStringLiteral("ann@example.test"), QStringLiteral("Ann")}};
+    mail.receivers = {{"ann@example.test"_s, "Ann"_s}};
     base.SetMailSetting(mail);
     CMonitorInterfaceData other = base;
     EXPECT_FALSE(base != other);

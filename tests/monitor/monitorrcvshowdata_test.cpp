@@ -1,10 +1,11 @@
 #include "monitor/monitorrcvshowdata.h"
+#include "support/text.h"
 
 #include <gtest/gtest.h>
 
 TEST(MonitorRcvShowDataTest, ClearingASenderOrAKindLeavesTheOthers)
 {
-    const QString text = QStringLiteral("61 °C");
+    const QString text = "61 °C"_s;
     CMonitorRcvShowData data;
     data.SetText(0, 0, 0, MonitorRenderTemperature, text);
     data.SetText(1, 0, 0, MonitorRenderTemperature, text);

@@ -3,6 +3,7 @@
 #include "params/paramresult.h"
 #include "params/paramtext.h"
 #include "project/projectdata.h"
+#include "support/text.h"
 
 #include <gtest/gtest.h>
 
@@ -61,7 +62,7 @@ TEST(ParamBlocksTest, NullArgumentFailsAndWritesNothing)
     sender.SetInputVideoInfo({});
     EXPECT_EQ(Project::SaveInputParam(document, &block.root, &sender), kFailed) << "no inputs";
     ASSERT_EQ(Project::WriteSingleProcessorParam(document, &block.root, &sender), kDone);
-    EXPECT_TRUE(block.root.firstChildElement(QStringLiteral("inputParamXmlRoot")).firstChild().isNull());
+    EXPECT_TRUE(block.root.firstChildElement("inputParamXmlRoot"_s).firstChild().isNull());
     EXPECT_TRUE(block.At("OutputParamsXmlRoot/OutPortGroupAdjBrightParamXmlRoot").isNull())
         << "no such feature";
 }
@@ -75,7 +76,7 @@ TEST(ParamBlocksTest, InputsAreWrittenByCardAndReadBackWhereTheyAre)
         video.cardSlot = slot;
         video.videoIndexOnCard = videos.size();
         video.cropX = -7;
-        video.name = QStringLiteral("摄像机 <%1>").arg(slot);
+        video.name = "摄像机 <%1>"_s.arg(slot);
         videos.append(video);
     }
     sender.SetInputVideoInfo(videos);
@@ -123,21 +124,20 @@ TEST(ParamBlocksTest, LayersAreWrittenWithoutGapsAndReadIntoFreeEntries)
     sender.SetLayerInfo(layers.data());
     Block block;
     ASSERT_EQ(Project::SaveOneGroupParam(block.document, &block.root, 0, &sender), kDone);
-    EXPECT_EQ(block.At("outputLayerParamRoot0/outputLayerCount").text(), QStringLiteral("2"));
-    EXPECT_EQ(block.At("outputLayerParamRoot0/outputLayerParamRootBase2/outputLayerHeight").text(),
-              QStringLiteral("7"));
+    EXPECT_EQ(block.At("outputLayerParamRoot0/outputLayerCount").text(), "2"_s);
+    EXPECT_EQ(block.At("outputLayerParamRoot0/outputLayerParamRootBase2/outputLayerHeight").text(), "7"_s);
 
     layers.fill(SLayerWndParam());
     layers[1].width = layers[1].height = 50;
     sender.SetLayerInfo(layers.data());
-    QDomElement root = block.root.firstChildElement(QStringLiteral("outputLayerParamRoot0"));
-    root.setTagName(QStringLiteral("outputLayerParamRoot1"));
+    QDomElement root = block.root.firstChildElement("outputLayerParamRoot0"_s);
+    root.setTagName("outputLayerParamRoot1"_s);
     ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 1, &sender), kDone);
     sender.GetLayerInfo(layers.data());
     EXPECT_EQ(layers[0].height, 3);
     EXPECT_EQ(layers[1].height, 50);
     EXPECT_EQ(layers[2].height, 7);
-    root.setTagName(QStringLiteral("outputLayerParamRoot0"));
+    root.setTagName("outputLayerParamRoot0"_s);
     ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
     sender.GetLayerInfo(layers.data());
     EXPECT_EQ(layers[1].height, 7);
@@ -145,7 +145,7 @@ TEST(ParamBlocksTest, LayersAreWrittenWithoutGapsAndReadIntoFreeEntries)
 
     block.At("outputLayerParamRoot0/outputLayerParamRootBase2/outputLayerHeight")
         .firstChild()
-        .setNodeValue(QStringLiteral("0"));
+        .setNodeValue("0"_s);
     ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
     sender.GetLayerInfo(layers.data());
     EXPECT_EQ(layers[1], SLayerWndParam()) << "a layer without area is none";
@@ -200,9 +200,8 @@ TEST(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
     sender.SetPortGroupInfo(groups);
     Block block;
     ASSERT_EQ(Project::SaveOutputParam(block.document, &sender, &block.root), kDone);
-    const QString base = QStringLiteral("OutPortGroupAdjBrightParamXmlRoot/OutPortGroupAdjBrightGroupIndex");
-    EXPECT_EQ(block.At(qPrintable(base + QStringLiteral("0/OutPortGroupAdjBrightGroupName"))).text(),
-              QStringLiteral("Group 1"));
+    const QString base = "OutPortGroupAdjBrightParamXmlRoot/OutPortGroupAdjBrightGroupIndex"_s;
+    EXPECT_EQ(block.At(qPrintable(base + "0/OutPortGroupAdjBrightGroupName"_s)).text(), "Group 1"_s);
 
     const QByteArray longName = QString(22, QChar(0x5C4F)).toUtf8(); // 66 bytes
     Block read("<OutPortGroupAdjBrightParamXmlRoot>"
@@ -222,7 +221,7 @@ TEST(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
     EXPECT_EQ(groups.groups[7].portFlags[1], 0);
     EXPECT_EQ(groups.groups[7].portFlags[2], 0xFF);
     EXPECT_EQ(groups.groups[7].portFlags[31], 2);
-    paramtext::FromText(QStringLiteral("a") + QString(21, QChar(0x5C4F)), groups.groups[0].name);
+    paramtext::FromText("a"_s + QString(21, QChar(0x5C4F)), groups.groups[0].name);
     EXPECT_EQ(qstrlen(groups.groups[0].name.data()), 61U) << "no half character";
 }
 

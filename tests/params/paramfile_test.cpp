@@ -20,9 +20,9 @@ using namespace params;
 
 namespace {
 
-const QString kImportFailedText = QStringLiteral("导入失败。");
-const QString kTypeDiffersText = QStringLiteral("导入失败，无法导入不同类型主控的参数。");
-const QString kIpModeText = QStringLiteral("不可导入，无法匹配对应IP的主控参数。");
+const QString kImportFailedText = "导入失败。"_s;
+const QString kTypeDiffersText = "导入失败，无法导入不同类型主控的参数。"_s;
+const QString kIpModeText = "不可导入，无法匹配对应IP的主控参数。"_s;
 
 using Transfer = quint32 (CProjectData::*)(const QString&, const QUuid&);
 
@@ -79,7 +79,7 @@ struct ParamFileTest : testing::Test
 {
     QString Export(TestProject& project, const FileKind& kind)
     {
-        const QString path = folder.Path(QStringLiteral("a.xml"));
+        const QString path = folder.Path("a.xml"_s);
         EXPECT_EQ(project.Do(kind.save, path), kDone);
         return path;
     }
@@ -100,10 +100,9 @@ void Replace(const QString& path, const QByteArray& before, const QByteArray& af
 TEST_F(ParamFileTest, ElementsOfOneNameAreAList)
 {
     const QString path =
-        folder.Write(QStringLiteral("b.xml"), "<SenderParams a='1'><P><n>1</n><n>2</n></P></SenderParams>");
+        folder.Write("b.xml"_s, "<SenderParams a='1'><P><n>1</n><n>2</n></P></SenderParams>");
     QString error;
-    EXPECT_EQ(ParamFileContents(path, &error)[QStringLiteral("P")].toObject()[QStringLiteral("n")].toArray(),
-              (QJsonArray{QStringLiteral("1"), QStringLiteral("2")}));
+    EXPECT_EQ(ParamFileContents(path, &error)["P"_s].toObject()["n"_s].toArray(), (QJsonArray{"1"_s, "2"_s}));
 }
 
 TEST_F(ParamFileTest, RootSaysWhatTheFileHolds)
@@ -114,18 +113,17 @@ TEST_F(ParamFileTest, RootSaysWhatTheFileHolds)
         QString error;
         const QString path = Export(project, kind);
         QJsonObject contents = ParamFileContents(path, &error);
-        EXPECT_EQ(contents[QStringLiteral("ProcessorCount")], QStringLiteral("3"));
-        EXPECT_TRUE(contents.contains(QStringLiteral("Processor_1")));
-        EXPECT_FALSE(contents.contains(QStringLiteral("Processor_2"))) << "no such sender";
-        EXPECT_TRUE(contents.contains(QStringLiteral("Processor_3")));
+        EXPECT_EQ(contents["ProcessorCount"_s], "3"_s);
+        EXPECT_TRUE(contents.contains("Processor_1"_s));
+        EXPECT_FALSE(contents.contains("Processor_2"_s)) << "no such sender";
+        EXPECT_TRUE(contents.contains("Processor_3"_s));
 
         project.prepared.matchByIp = true;
         ASSERT_EQ(project.Do(kind.save, path, project.Sender(1).GetId()), kDone);
         contents = ParamFileContents(path, &error);
-        EXPECT_EQ(contents[QStringLiteral("bSpecifyIP")], QStringLiteral("1"));
-        EXPECT_EQ(contents[QStringLiteral("ProcessorCount")], QStringLiteral("1"));
-        EXPECT_EQ(contents[QStringLiteral("Processor_1")].toObject()[QStringLiteral("NetIP")],
-                  QStringLiteral("167772162"));
+        EXPECT_EQ(contents["bSpecifyIP"_s], "1"_s);
+        EXPECT_EQ(contents["ProcessorCount"_s], "1"_s);
+        EXPECT_EQ(contents["Processor_1"_s].toObject()["NetIP"_s], "167772162"_s);
 
         const QByteArray before = ReadFile(path);
         EXPECT_EQ(project.Do(kind.save, path, QUuid::createUuid()), kFailed);
@@ -213,7 +211,7 @@ TEST_F(ParamFileTest, SendersTakeProcessorsOfTheirAddress)
         target.Sender(2).SetSignalFreq(99);
         EXPECT_EQ(target.Do(kind.load, path), kDone);
         EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 50, 99}));
-        EXPECT_EQ(messages.Take(), QStringList{QStringLiteral("主控3未找到对应IP的主控参数。")});
+        EXPECT_EQ(messages.Take(), QStringList{"主控3未找到对应IP的主控参数。"_s});
     }
 }
 
@@ -227,10 +225,8 @@ TEST_F(ParamFileTest, FourSendersWithoutTheirAddressAreNamedAtMost)
         TestProject target(unmatched + 1);
         target.prepared.matchByIp = true;
         EXPECT_EQ(target.Do(kSenders.load, path), kDone);
-        EXPECT_EQ(
-            messages.Take(),
-            QStringList{
-                QStringLiteral("主控%1未找到对应IP的主控参数。").arg(QLatin1String(expected[unmatched]))});
+        EXPECT_EQ(messages.Take(),
+                  QStringList{"主控%1未找到对应IP的主控参数。"_s.arg(QLatin1String(expected[unmatched]))});
     }
 }
 
@@ -238,9 +234,9 @@ TEST_F(ParamFileTest, FileWithoutMarkIsOneOfASingleSender)
 {
     TestProject project(2);
     CSender& second = project.Sender(1);
-    const QString path = folder.Write(
-        QStringLiteral("a.xml"), "<SenderParams><SenderType>17</SenderType><OtherParam><AdvancedParam>"
-                                 "<SignalFreq>144</SignalFreq></AdvancedParam></OtherParam></SenderParams>");
+    const QString path =
+        folder.Write("a.xml"_s, "<SenderParams><SenderType>17</SenderType><OtherParam><AdvancedParam>"
+                                "<SignalFreq>144</SignalFreq></AdvancedParam></OtherParam></SenderParams>");
     EXPECT_EQ(project.Do(kSenders.load, path, second.GetId()), kDone);
     EXPECT_EQ(project.SignalFreqs(), (QList<int>{50, 144}));
     second.SetProcessorType(18);
@@ -250,7 +246,7 @@ TEST_F(ParamFileTest, FileWithoutMarkIsOneOfASingleSender)
 
     // Of a single processor only the blocks in front of one that does not fit are taken.
     const QString processor = folder.Write(
-        QStringLiteral("b.xml"),
+        "b.xml"_s,
         "<DeviceParams><DeviceOtherParamsXmlRoot><DeviceOtherParamVideoAbnormalColseOut>2"
         "</DeviceOtherParamVideoAbnormalColseOut></DeviceOtherParamsXmlRoot><basicInfoParamsXmlRoot/>"
         "<DeviceSetParamsXmlRoot><DeviceSetParamsVSyncSource>3</DeviceSetParamsVSyncSource>"
@@ -271,10 +267,10 @@ TEST_F(ParamFileTest, DamagedFilesFailWithTheirReason)
     TestProject project(1);
     const QByteArray sample = ReadFile(SamplePath("device-params.xml"));
     const QString paths[] = {
-        folder.Path(QStringLiteral("absent.xml")),
-        folder.Write(QStringLiteral("cut.xml"), sample.left(sample.size() / 2)),
-        folder.Write(QStringLiteral("empty.xml"), QByteArray()),
-        folder.Write(QStringLiteral("other.xml"), "<SystemConfig CheckValue='1' ProcessorCount='1'/>"),
+        folder.Path("absent.xml"_s),
+        folder.Write("cut.xml"_s, sample.left(sample.size() / 2)),
+        folder.Write("empty.xml"_s, QByteArray()),
+        folder.Write("other.xml"_s, "<SystemConfig CheckValue='1' ProcessorCount='1'/>"),
     };
     const CSenderParams before = project.Sender(0);
     for (const QString& path : paths) {
@@ -282,8 +278,8 @@ TEST_F(ParamFileTest, DamagedFilesFailWithTheirReason)
         EXPECT_FALSE(project.Error().isEmpty()) << qPrintable(path);
         EXPECT_EQ(project.Do(&CProjectData::ImportSenderParam, path, project.Sender(0).GetId()), kFailed);
     }
-    const QString none = folder.Write(QStringLiteral("none.xml"),
-                                      "<DeviceParams CheckValue='1' bSpecifyIP='0' ProcessorCount='0'/>");
+    const QString none =
+        folder.Write("none.xml"_s, "<DeviceParams CheckValue='1' bSpecifyIP='0' ProcessorCount='0'/>");
     EXPECT_EQ(project.Do(kProcessors.load, none), kFailed);
     EXPECT_TRUE(messages.Take().isEmpty());
     EXPECT_TRUE(project.Sender(0) == before);
@@ -307,11 +303,11 @@ TEST_F(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
             QDomElement element = all[1 + below(all.size() - 1)];
             if (element.firstChildElement().isNull() && !element.firstChild().isNull())
                 element.firstChild().setNodeValue(QLatin1String(kTexts[below(std::size(kTexts))]));
-            else if (element.tagName() != QLatin1String("Processor_1"))
+            else if (element.tagName() != "Processor_1"_s)
                 element.parentNode().removeChild(element);
         }
         TestProject project(1);
-        const QString damaged = folder.Write(QStringLiteral("damaged.xml"), document.toByteArray());
+        const QString damaged = folder.Write("damaged.xml"_s, document.toByteArray());
         const quint32 result = project.Do(kProcessors.load, damaged);
         EXPECT_TRUE(result == kDone || result == kTypeDiffers || result == kImportFailed) << result;
         imported += result == kDone;
@@ -330,9 +326,9 @@ TEST_F(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
 
 TEST_F(ParamFileTest, AddressIsFourDecimalOctetsOrOneNumber)
 {
-    EXPECT_EQ(GetIntFromOctString(QStringLiteral("192.168.1.10")), 0xC0A8010AU);
-    EXPECT_EQ(GetIntFromOctString(QStringLiteral(" 010.0.0.09\n")), 0x0A000009U);
-    EXPECT_EQ(GetIntFromOctString(QStringLiteral("4294967295")), 0xFFFFFFFFU);
+    EXPECT_EQ(GetIntFromOctString("192.168.1.10"_s), 0xC0A8010AU);
+    EXPECT_EQ(GetIntFromOctString(" 010.0.0.09\n"_s), 0x0A000009U);
+    EXPECT_EQ(GetIntFromOctString("4294967295"_s), 0xFFFFFFFFU);
     for (const char* text :
          {"4294967296", "-1", "+1", "1.2.3", "1.2.3.256", "1.2..4", "1.2.3.4.5", "0x10", ""})
         EXPECT_EQ(GetIntFromOctString(QString::fromLatin1(text)), 0U) << text;

@@ -43,18 +43,18 @@ struct DigestCacheTest : testing::Test
 
 TEST_F(DigestCacheTest, OnlyChangedFilesAreHashedAgain)
 {
-    const QString path = WriteSettled(QStringLiteral("a"), "one");
+    const QString path = WriteSettled("a"_s, "one");
     const SMD5 first = Digest(path);
     EXPECT_EQ(Digest(path), first);
     EXPECT_EQ(hashed, 1);
 
-    WriteSettled(QStringLiteral("a"), "two"); // same size
+    WriteSettled("a"_s, "two"); // same size
     EXPECT_NE(Digest(path), first);
     EXPECT_EQ(hashed, 2);
 
     // Another file under the same name, with the old one's modification time.
     const QDateTime time = QFileInfo(path).lastModified();
-    const QString other = folder.Write(QStringLiteral("b"), "six");
+    const QString other = folder.Write("b"_s, "six");
     ASSERT_TRUE(SetFileTime(other, time) && QFile::remove(path) && QFile::rename(other, path));
     Digest(path);
     EXPECT_EQ(hashed, 3);
@@ -62,14 +62,14 @@ TEST_F(DigestCacheTest, OnlyChangedFilesAreHashedAgain)
 
 TEST_F(DigestCacheTest, FreshOrUnreadableFilesAreNotRemembered)
 {
-    const QString path = folder.Write(QStringLiteral("a"), "one");
+    const QString path = folder.Write("a"_s, "one");
     // A time to come is fresh however slow the test runs.
     ASSERT_TRUE(SetFileTime(path, QDateTime::currentDateTime().addDays(1)));
     Digest(path);
     Digest(path);
     EXPECT_EQ(hashed, 2);
 
-    const QString missing = folder.Path(QStringLiteral("missing"));
+    const QString missing = folder.Path("missing"_s);
     EXPECT_TRUE(Digest(missing).IsNull());
     EXPECT_TRUE(Digest(missing).IsNull());
     EXPECT_EQ(hashed, 4);
@@ -77,8 +77,8 @@ TEST_F(DigestCacheTest, FreshOrUnreadableFilesAreNotRemembered)
 
 TEST_F(DigestCacheTest, FilesNotAskedForInARoundAreForgotten)
 {
-    const QString kept = folder.Write(QStringLiteral("kept"), "one");
-    const QString left = WriteSettled(QStringLiteral("left"), "two");
+    const QString kept = folder.Write("kept"_s, "one");
+    const QString left = WriteSettled("left"_s, "two");
     Digest(kept);
     Digest(left);
     cache.BeginRound();

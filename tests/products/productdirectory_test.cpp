@@ -1,4 +1,5 @@
 #include "products/productdirectory.h"
+#include "support/text.h"
 
 #include <gtest/gtest.h>
 
@@ -22,9 +23,9 @@ struct ProductDirectoryTest : testing::Test
 {
     ProductDirectoryTest()
     {
-        root.SetFolderPath(QStringLiteral("/root/"));
-        sub->SetFolderPath(QStringLiteral("/root/sub/"));
-        deep->SetFolderPath(QStringLiteral("/root/sub/deep/"));
+        root.SetFolderPath("/root/"_s);
+        sub->SetFolderPath("/root/sub/"_s);
+        deep->SetFolderPath("/root/sub/deep/"_s);
         root.AddProduct(NewProduct('a', "/root/first.rcvp"));
         sub->AddProduct(NewProduct('b', "/root/sub/二.v2.rcvbp"));
         deep->AddProduct(NewProduct('c', "/root/sub/deep/third.rcvp"));
@@ -50,13 +51,13 @@ TEST_F(ProductDirectoryTest, SearchesGoDepthFirst)
     EXPECT_EQ(root.GetProductCount(), 4);
     EXPECT_EQ(root.FindProductFromGuid(Digest('c')), deep->GetProducts().at(0));
     EXPECT_EQ(root.FindeProductFromMenuID(7), late);
-    EXPECT_EQ(root.FindProductByFileName(QStringLiteral("third.rcvp")), deep->GetProducts().at(0));
+    EXPECT_EQ(root.FindProductByFileName("third.rcvp"_s), deep->GetProducts().at(0));
     QString path;
     EXPECT_TRUE(root.GetProductAbsolutePath(Digest('b'), path));
     EXPECT_FALSE(root.GetProductAbsolutePath(Digest('d'), path));
     EXPECT_EQ(path, sub->GetProducts().at(0)->GetParamPath());
-    EXPECT_EQ(sub->GetProducts().at(0)->GetName(), QStringLiteral("二.v2"));
-    EXPECT_EQ(sub->GetFileDirName(), QStringLiteral("sub"));
+    EXPECT_EQ(sub->GetProducts().at(0)->GetName(), "二.v2"_s);
+    EXPECT_EQ(sub->GetFileDirName(), "sub"_s);
 }
 
 TEST_F(ProductDirectoryTest, WhatLiesDeepIsDeletedFromAbove)
@@ -86,7 +87,7 @@ TEST_F(ProductDirectoryTest, CopyIsDeepAndSafeWithinOneTree)
     product->SetMenuID(9);
 
     root.CopyOtherProductDirectory(deep); // frees deep
-    EXPECT_EQ(root.GetFolderPath(), QStringLiteral("/root/sub/deep/"));
+    EXPECT_EQ(root.GetFolderPath(), "/root/sub/deep/"_s);
     EXPECT_TRUE(root.IsExpanded());
     EXPECT_TRUE(root.GetSubDirs().isEmpty());
     const CProduct* copy = root.FindProductFromGuid(Digest('c'));

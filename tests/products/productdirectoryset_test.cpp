@@ -44,26 +44,26 @@ TEST_F(ProductDirectorySetTest, ProductsAreNumberedInOrderOfTheListing)
     Write("c.rcvbp", "c");
     Write("x.RCVP", "x");
     Write("x.rcvpx", "y");
-    QDir().mkpath(root + QStringLiteral("empty"));
+    QDir().mkpath(root + "empty"_s);
 
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(library.LoadProductInfo(), 4);
         EXPECT_EQ(library.GetSubDirs().at(0)->IsExpanded(), round == 1)
             << "folders stay expanded over a rescan";
         library.GetSubDirs().at(0)->SetExpanded(true);
-        EXPECT_EQ(library.FindProductFromFileName(QStringLiteral(".hidden.rcvp"))->GetMenuID(), 8192U);
-        EXPECT_EQ(library.FindProductFromFileName(QStringLiteral("z.rcvbp"))->GetMenuID(), 8193U);
-        EXPECT_EQ(library.FindProductFromFileName(QStringLiteral("b.rcvp"))->GetMenuID(), 8194U);
-        EXPECT_EQ(library.FindProductFromFileName(QStringLiteral("c.rcvbp"))->GetMenuID(), 8195U);
+        EXPECT_EQ(library.FindProductFromFileName(".hidden.rcvp"_s)->GetMenuID(), 8192U);
+        EXPECT_EQ(library.FindProductFromFileName("z.rcvbp"_s)->GetMenuID(), 8193U);
+        EXPECT_EQ(library.FindProductFromFileName("b.rcvp"_s)->GetMenuID(), 8194U);
+        EXPECT_EQ(library.FindProductFromFileName("c.rcvbp"_s)->GetMenuID(), 8195U);
         EXPECT_EQ(library.SnatchMenuID(), 8196U);
         EXPECT_EQ(library.GetScannedFolder(), root);
     }
     int position = -1;
-    const CProductDirectory* empty = library.FindProductDirectoryByName(QStringLiteral("empty"), &position);
+    const CProductDirectory* empty = library.FindProductDirectoryByName("empty"_s, &position);
     ASSERT_TRUE(empty);
     EXPECT_EQ(position, 1);
-    EXPECT_EQ(empty->GetFolderPath(), root + QStringLiteral("empty/"));
-    EXPECT_EQ(library.FindProductDirectoryByName(QStringLiteral("none"), nullptr), nullptr);
+    EXPECT_EQ(empty->GetFolderPath(), root + "empty/"_s);
+    EXPECT_EQ(library.FindProductDirectoryByName("none"_s, nullptr), nullptr);
 }
 
 TEST_F(ProductDirectorySetTest, EqualFileIsDeletedWhereverItLies)
@@ -103,14 +103,14 @@ TEST_F(ProductDirectorySetTest, FilesOfOneDigestButDifferentContentAllStay)
 TEST_F(ProductDirectorySetTest, LinksAreNeitherFollowedNorTaken)
 {
     TestFolder outside;
-    const QString target = outside.Write(QStringLiteral("far/a.rcvp"), "far");
-    ASSERT_TRUE(QFile::link(outside.Path(QStringLiteral("far")), root + QStringLiteral("folder")));
-    ASSERT_TRUE(QFile::link(target, root + QStringLiteral("file.rcvp")));
-    ASSERT_TRUE(QFile::link(root, root + QStringLiteral("ring")));
+    const QString target = outside.Write("far/a.rcvp"_s, "far");
+    ASSERT_TRUE(QFile::link(outside.Path("far"_s), root + "folder"_s));
+    ASSERT_TRUE(QFile::link(target, root + "file.rcvp"_s));
+    ASSERT_TRUE(QFile::link(root, root + "ring"_s));
     Write("own.rcvp", "far");
 
     EXPECT_EQ(library.LoadProductInfo(), 1);
-    EXPECT_EQ(Names(), QStringList(QStringLiteral("own.rcvp")));
+    EXPECT_EQ(Names(), QStringList("own.rcvp"_s));
     EXPECT_TRUE(library.GetSubDirs().isEmpty());
     EXPECT_TRUE(QFile::exists(target));
 }
@@ -128,9 +128,9 @@ TEST_F(ProductDirectorySetTest, ScanningAListedFolderAgainDeletesNothing)
     EXPECT_EQ(library.LoadProductInfoFolderEx(root, nullptr, menuId), 0);
 
     TestFolder other;
-    other.Write(QStringLiteral("b.rcvp"), "other b");
+    other.Write("b.rcvp"_s, "other b");
     EXPECT_EQ(library.LoadProductInfoFolderEx(other.Path(), &node, menuId), 1); // no "/" at its end
-    EXPECT_EQ(node.GetProducts().at(0)->GetParamPath(), other.Path(QStringLiteral("b.rcvp")));
+    EXPECT_EQ(node.GetProducts().at(0)->GetParamPath(), other.Path("b.rcvp"_s));
     EXPECT_EQ(menuId, 2U);
 }
 
@@ -169,9 +169,9 @@ TEST_F(ProductDirectorySetTest, PixelSizeScansAnEmptyLibraryAndHasADefault)
     library.FindProductFromGuid(md5)->SetPixelHeight(96);
     EXPECT_EQ(library.GetProductTypePixelSizeFromGuid(md5), QSize(128, 96));
 
-    QString name = QStringLiteral("kept");
+    QString name = "kept"_s;
     EXPECT_FALSE(library.GetProductTypeNameFromGuid(SMD5::FromString(QString(32, QLatin1Char('f'))), name));
-    EXPECT_EQ(name, QStringLiteral("kept"));
+    EXPECT_EQ(name, "kept"_s);
     EXPECT_TRUE(library.GetProductTypeNameFromGuid(md5, name));
-    EXPECT_EQ(name, QStringLiteral("a"));
+    EXPECT_EQ(name, "a"_s);
 }

@@ -20,7 +20,7 @@ struct LayoutElementsTest : testing::Test
     void ReadTiles(const QByteArray& xml)
     {
         QDomElement element = Parsed(xml);
-        project.ReadTileSet(QDomDocument(), QStringLiteral("TitleLayout"), &tiles, &element, sender, 3);
+        project.ReadTileSet(QDomDocument(), "TitleLayout"_s, &tiles, &element, sender, 3);
     }
 
     CProjectData project;
@@ -65,7 +65,7 @@ TEST_F(LayoutElementsTest, AttributesAreTakenAsTheirRulesSay)
     EXPECT_TRUE(first.GetRotateRecord().rotated);
     EXPECT_EQ(first.GetRotateRecord().centerX, -100) << "a number that is none leaves the default";
     const CTile& second = *tiles.GetTile(1);
-    EXPECT_EQ(second.GetType().ToString(), QStringLiteral("6a68bac7e613028bb11b40c35340e863"));
+    EXPECT_EQ(second.GetType().ToString(), "6a68bac7e613028bb11b40c35340e863"_s);
     EXPECT_EQ(second.GetMultiRcvsSize(), QSize(1, 1));
     EXPECT_TRUE(second.IsMultiRcvsOrdered()) << "a fixed line is always ordered";
 }
@@ -98,8 +98,7 @@ TEST_F(LayoutElementsTest, BackupsAreTakenOnlyWhenThePortSaysItIsOne)
     CPort port;
     const auto read = [&](const QByteArray& attributes, bool keepLocked = false) {
         QDomElement element = Parsed("<PortLayout" + attributes + "/>");
-        EXPECT_TRUE(project.ReadPort(QDomDocument(), QStringLiteral("PortLayout"), &port, &element, sender, 1,
-                                     keepLocked));
+        EXPECT_TRUE(project.ReadPort(QDomDocument(), "PortLayout"_s, &port, &element, sender, 1, keepLocked));
     };
     read(source + " IsBackupDest=\"1\"");
     EXPECT_EQ(port.GetBackupSrcPortIndex(), 2);
@@ -125,17 +124,17 @@ TEST_F(LayoutElementsTest, GroupTreesLoseRepeatedIdsAndWhatLiesTooDeep)
     const CTileGroup* second =
         deep.GetDirectGroupByDirIndex(0)->GetSubGroupSet()->GetDirectGroupByDirIndex(0);
     QDomDocument document;
-    QDomElement root = document.createElement(QStringLiteral("Port_1"));
-    project.WriteTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &deep, &root);
+    QDomElement root = document.createElement("Port_1"_s);
+    project.WriteTileGroupSet(document, "TitleGroupLayout"_s, &deep, &root);
     QDomElement layout = root.firstChildElement();
-    EXPECT_EQ(layout.firstChildElement().firstChildElement().tagName(), QStringLiteral("TileGroup_1_1"));
-    layout.setAttribute(QStringLiteral("GroupCount"), 2);
-    QDomElement repeated = document.createElement(QStringLiteral("TileGroup_2"));
-    repeated.setAttribute(QStringLiteral("GroupId"), second->GetID().toString());
+    EXPECT_EQ(layout.firstChildElement().firstChildElement().tagName(), "TileGroup_1_1"_s);
+    layout.setAttribute("GroupCount"_s, 2);
+    QDomElement repeated = document.createElement("TileGroup_2"_s);
+    repeated.setAttribute("GroupId"_s, second->GetID().toString());
     layout.appendChild(repeated);
 
     CTileGroupSet read;
-    project.ReadTileGroupSet(document, QStringLiteral("TitleGroupLayout"), &tiles, &read, &root);
+    project.ReadTileGroupSet(document, "TitleGroupLayout"_s, &tiles, &read, &root);
     EXPECT_EQ(read.GetDirectCount(), 1);
     ASSERT_NE(read.GetSubGroupBySubID(second->GetID()), nullptr);
     EXPECT_EQ(read.GetSubGroupBySubID(second->GetID())->GetParentGroupID(),
@@ -149,19 +148,19 @@ TEST_F(LayoutElementsTest, GroupTreesLoseRepeatedIdsAndWhatLiesTooDeep)
 TEST_F(LayoutElementsTest, SingleSenderKeepsItsIdentity)
 {
     CSender source;
-    source.SetSenderName(QStringLiteral("file"));
+    source.SetSenderName("file"_s);
     source.SetNetSenderIP(5);
     source.SetRecentPortIndex(160);
     QDomDocument document;
-    QDomElement root = document.createElement(QStringLiteral("SenderLayout"));
+    QDomElement root = document.createElement("SenderLayout"_s);
     project.WriteSingleSender(document, &root, &source);
     QDomElement element = root.firstChildElement();
-    EXPECT_FALSE(element.hasAttribute(QStringLiteral("SenderType")));
+    EXPECT_FALSE(element.hasAttribute("SenderType"_s));
     for (const bool attributes : {false, true}) {
         CSender target;
         project.ReadSingleSender(document, &element, &target, sender, false, attributes);
         EXPECT_TRUE(target.GetId() == sender && target.GetNetSenderIP() == 0);
         EXPECT_EQ(target.GetRecentPortIndex(), 0);
-        EXPECT_EQ(target.GetSenderName() == QStringLiteral("file"), attributes);
+        EXPECT_EQ(target.GetSenderName() == "file"_s, attributes);
     }
 }

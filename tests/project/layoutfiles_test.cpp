@@ -26,7 +26,7 @@ TEST_F(LayoutFilesTest, SenderFileReplacesTheLayoutAndKeepsTheIdentity)
     EXPECT_EQ(target->GetId(), id);
     EXPECT_EQ(target->GetNetSenderIP(), 9u);
     EXPECT_EQ(TilesOf(*target->GetPort(100)).GetCount(), 0);
-    EXPECT_EQ(target->GetSenderName(), QStringLiteral("Hall left"));
+    EXPECT_EQ(target->GetSenderName(), "Hall left"_s);
     EXPECT_EQ(TilesOf(*target->GetPort(0)).GetTile(0)->GetSenderId(), id);
     EXPECT_TRUE(TilesOf(*target->GetPort(0)).GetTile(0)->GetTileShowColor().isValid()) << "as of any new one";
 }
@@ -51,7 +51,7 @@ TEST_F(LayoutFilesTest, GroupIdsUsedElsewhereAreRenewedOverTheWholeSender)
     NestGroups(*target->GetPort(0), outer, {inner});
     MakeWall(*target->GetPort(1), 1, 1);
     TilesOf(*target->GetPort(1)).GetTile(0)->SetGroupId(inner); // the group itself lies on the first port
-    const QString path = folder.Path(QStringLiteral("a.xml"));
+    const QString path = folder.Path("a.xml"_s);
     target->SetRecentPortIndex(1);
     ASSERT_TRUE(project.ExportPort(path));
     target->SetRecentPortIndex(2);
@@ -75,8 +75,8 @@ TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
     MakeWall(*target->GetPort(0), 2, 2);
     const QString port = SamplePath("port-layout.xml");
     const QString sender = SamplePath("sender-layout.xml");
-    const QString cut = folder.Write(QStringLiteral("cut.xml"), ReadFile(sender).left(9000));
-    const QString hollow = folder.Write(QStringLiteral("hollow.xml"), "<SenderLayout SenderCount=\"1\"/>");
+    const QString cut = folder.Write("cut.xml"_s, ReadFile(sender).left(9000));
+    const QString hollow = folder.Write("hollow.xml"_s, "<SenderLayout SenderCount=\"1\"/>");
     for (const QString& path : {port, cut, hollow}) {
         EXPECT_FALSE(project.ImportSender(path, target->GetId(), false, true));
         EXPECT_NE(Error(), QString());

@@ -25,7 +25,7 @@ struct ProjectDataTest : ProjectTest
 
     SMD5 AddProduct(const QString& name, const QByteArray& content)
     {
-        const QString path = CProductDirectorySet::GetRootDir() + name + QStringLiteral(".rcvbp");
+        const QString path = CProductDirectorySet::GetRootDir() + name + ".rcvbp"_s;
         WriteFile(path, content);
         GetRuntimeData()->GetProductDirectorySet()->LoadProductInfo();
         return CConstantData::GetMD5FromFile(path);
@@ -39,10 +39,10 @@ struct ProjectDataTest : ProjectTest
 TEST_F(ProjectDataTest, NamelessSendersShowTheirNumber)
 {
     AddSenders(3);
-    project.GetSender(0)->SetSenderName(QStringLiteral("A"));
-    EXPECT_EQ(project.GetShowSenderName(2, true), QStringLiteral("Processor 3"));
-    EXPECT_EQ(project.GetShowSenderName(2, false), QStringLiteral("Processor"));
-    EXPECT_EQ(project.GetPortDescription(0, 1), QStringLiteral("主控 1(A),输出口 2 "));
+    project.GetSender(0)->SetSenderName("A"_s);
+    EXPECT_EQ(project.GetShowSenderName(2, true), "Processor 3"_s);
+    EXPECT_EQ(project.GetShowSenderName(2, false), "Processor"_s);
+    EXPECT_EQ(project.GetPortDescription(0, 1), "主控 1(A),输出口 2 "_s);
     EXPECT_EQ(project.GetPortDescription(3, 0), QString());
 }
 
@@ -61,10 +61,10 @@ TEST_F(ProjectDataTest, DeletionAsksAndRefusesAsTheBackupsAndLocksSay)
     project.GetSender(2)->GetPort(0)->SetFlagLock(false);
     EXPECT_TRUE(project.DeleteSenderBefore(2, false, nullptr));
     EXPECT_FALSE(project.DeleteSenderBefore(2, true, nullptr));
-    EXPECT_EQ(boxes.texts, QStringList({QStringLiteral("选择主控为备份主控，请先取消备份。"),
-                                        QStringLiteral("选择的主控存在备份主控，请先取消备份。"),
-                                        QStringLiteral("主控存在输出口被锁住，您确定要删除选择的主控吗？"),
-                                        QStringLiteral("您确定要删除选择的主控吗？")}));
+    EXPECT_EQ(
+        boxes.texts,
+        QStringList({"选择主控为备份主控，请先取消备份。"_s, "选择的主控存在备份主控，请先取消备份。"_s,
+                     "主控存在输出口被锁住，您确定要删除选择的主控吗？"_s, "您确定要删除选择的主控吗？"_s}));
     boxes.answer = QMessageBox::Yes;
     EXPECT_TRUE(project.DeleteSender(2, true, false, true, nullptr));
     EXPECT_EQ(project.GetCurSenderIndex(), 1);
@@ -103,7 +103,7 @@ TEST_F(ProjectDataTest, RemovalKeepsTheCurrentSenderAndReleasesTheHistory)
     const QUuid last = current->GetId();
     EXPECT_NE(history->GetSenderUndoRedoFromID(last), nullptr);
 
-    QDomElement none = QDomDocument().createElement(QStringLiteral("SenderLayout"));
+    QDomElement none = QDomDocument().createElement("SenderLayout"_s);
     QString error;
     project.ReadSender(QDomDocument(), &none, error, nullptr);
     EXPECT_EQ(history->GetSenderUndoRedoFromID(last), nullptr);
@@ -146,7 +146,7 @@ TEST_F(ProjectDataTest, NetworkUpdateAppendsWhatIsNewAndDeletesNothing)
     project.GetSender(0)->SetNetSenderIP(5);
     EXPECT_FALSE(project.UpdateProjectSenders({6}, {})) << "only in the strategy that follows the network";
     GetConfigData()->SetDetectStrategy(2);
-    const QUuid group = project.AddGroupInfo(QStringLiteral("new"));
+    const QUuid group = project.AddGroupInfo("new"_s);
     GetRuntimeData()->SetAddGroupId(group);
     EXPECT_TRUE(project.UpdateProjectSenders({6, 0, 5, 6}, {7}));
     ASSERT_EQ(project.GetSenderCount(), 3);
@@ -163,21 +163,21 @@ TEST_F(ProjectDataTest, NetworkUpdateAppendsWhatIsNewAndDeletesNothing)
 
 TEST_F(ProjectDataTest, ParameterFilesAreKeptUnderSafeNamesOnceAType)
 {
-    const SMD5 type = AddProduct(QStringLiteral("a"), "cabinet a");
-    const SMD5 other = AddProduct(QStringLiteral("b"), "cabinet b");
-    project.AddParameterFileInfo(QStringLiteral("../a:b"), type);
-    project.AddParameterFileInfo(QStringLiteral("again"), type);
-    project.AddParameterFileInfo(QStringLiteral("_A_b"), other);
+    const SMD5 type = AddProduct("a"_s, "cabinet a");
+    const SMD5 other = AddProduct("b"_s, "cabinet b");
+    project.AddParameterFileInfo("../a:b"_s, type);
+    project.AddParameterFileInfo("again"_s, type);
+    project.AddParameterFileInfo("_A_b"_s, other);
     ASSERT_EQ(project.GetParameterFiles().size(), 2);
-    EXPECT_EQ(project.GetParameterFiles()[0].name, QStringLiteral("_a_b"));
-    EXPECT_EQ(project.GetParameterFiles()[1].name, QStringLiteral("_A_b_2"));
-    EXPECT_EQ(ReadFile(parameterwork::PathOf(QStringLiteral("_a_b"))), "cabinet a");
+    EXPECT_EQ(project.GetParameterFiles()[0].name, "_a_b"_s);
+    EXPECT_EQ(project.GetParameterFiles()[1].name, "_A_b_2"_s);
+    EXPECT_EQ(ReadFile(parameterwork::PathOf("_a_b"_s)), "cabinet a");
 
-    project.ExchangeNameByMD5(type, QStringLiteral("c"));
-    EXPECT_EQ(ReadFile(parameterwork::PathOf(QStringLiteral("c"))), "cabinet a");
-    EXPECT_FALSE(QFile::exists(parameterwork::PathOf(QStringLiteral("_a_b"))));
+    project.ExchangeNameByMD5(type, "c"_s);
+    EXPECT_EQ(ReadFile(parameterwork::PathOf("c"_s)), "cabinet a");
+    EXPECT_FALSE(QFile::exists(parameterwork::PathOf("_a_b"_s)));
     project.DeleteParameterFileInfo(type);
-    EXPECT_FALSE(QFile::exists(parameterwork::PathOf(QStringLiteral("c"))));
+    EXPECT_FALSE(QFile::exists(parameterwork::PathOf("c"_s)));
     EXPECT_EQ(project.GetParameterFiles().size(), 1);
 }
 
@@ -185,22 +185,21 @@ TEST_F(ProjectDataTest, ListsInTextsComeBackAndLoseOnlyTheirSeparators)
 {
     CMonitorInterfaceData data;
     SEmailSetting mail;
-    mail.receivers = {{QStringLiteral("a@x.test"), QStringLiteral("A;B,C")},
-                      {QStringLiteral("b@x.test"), {}}};
+    mail.receivers = {{"a@x.test"_s, "A;B,C"_s}, {"b@x.test"_s, {}}};
     data.SetMailSetting(mail);
     GetMonitorData()->SetInterfaceData(data);
     const QString text = project.GetMailReceiversString();
-    EXPECT_EQ(text, QStringLiteral("a@x.test,A B C;b@x.test,;"));
+    EXPECT_EQ(text, "a@x.test,A B C;b@x.test,;"_s);
     SEmailSetting read;
     CProjectData::SetReceiversFromString(read, text);
     ASSERT_EQ(read.receivers.size(), 2);
-    EXPECT_EQ(read.receivers[0].name, QStringLiteral("A B C"));
+    EXPECT_EQ(read.receivers[0].name, "A B C"_s);
 
     SSenderSetting setting;
-    project.SetVideoInfoFromString(setting, QStringLiteral("1,2,3,1;4,5,6,0;"));
-    EXPECT_EQ(project.GetVideoInfoString(), QStringLiteral("1,2,3,1;4,5,6,0;"));
+    project.SetVideoInfoFromString(setting, "1,2,3,1;4,5,6,0;"_s);
+    EXPECT_EQ(project.GetVideoInfoString(), "1,2,3,1;4,5,6,0;"_s);
     EXPECT_EQ(CProjectData::GetColorStr(-5) + CProjectData::GetColorStr(3) + CProjectData::GetColorStr(4),
-              QStringLiteral("ColorRedColorWrite"));
+              "ColorRedColorWrite"_s);
 }
 
 TEST_F(ProjectDataTest, GammaOfATypeIsSetOnceAndDeletedAlone)

@@ -20,7 +20,7 @@ TEST_F(ProjectFileTest, TreesHoldWhatTheFileHolds)
     ASSERT_TRUE(Load(SamplePath("full/project.xml")));
     const QByteArray streamed = Document();
     QDomDocument tree;
-    QDomElement root = tree.createElement(QStringLiteral("LedSetting"));
+    QDomElement root = tree.createElement("LedSetting"_s);
     project.WriteVersionSupport(tree, &root);
     project.WriteDemoModeInfo(tree, &root);
     project.WriteSenderGroup(tree, &root);
@@ -33,14 +33,14 @@ TEST_F(ProjectFileTest, TreesHoldWhatTheFileHolds)
     QMap<QString, QDomElement> found;
     for (QDomElement child = root.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
         found.insert(child.tagName(), child);
-    EXPECT_TRUE(project.ReadVersionSupport(tree, &found[QStringLiteral("VersionSupport")], version));
-    project.ReadDemoModeInfo(tree, &found[QStringLiteral("DemoModeInfo")]);
-    project.ReadSenderGroup(tree, &found[QStringLiteral("SenderTreeGroup")]);
-    project.ReadTileGamma(tree, &found[QStringLiteral("TileTypeGamma")]);
-    project.ReadPrintData(tree, &found[QStringLiteral("PrintFormData")]);
-    project.ReadSender(tree, &found[QStringLiteral("SenderLayout")], version, nullptr);
-    project.ReadMonitorSet(tree, &found[QStringLiteral("Monitor")]);
-    project.ReadParameterFileInfo(tree, &found[QStringLiteral("ParameterFile")]);
+    EXPECT_TRUE(project.ReadVersionSupport(tree, &found["VersionSupport"_s], version));
+    project.ReadDemoModeInfo(tree, &found["DemoModeInfo"_s]);
+    project.ReadSenderGroup(tree, &found["SenderTreeGroup"_s]);
+    project.ReadTileGamma(tree, &found["TileTypeGamma"_s]);
+    project.ReadPrintData(tree, &found["PrintFormData"_s]);
+    project.ReadSender(tree, &found["SenderLayout"_s], version, nullptr);
+    project.ReadMonitorSet(tree, &found["Monitor"_s]);
+    project.ReadParameterFileInfo(tree, &found["ParameterFile"_s]);
     EXPECT_EQ(Document(), streamed);
 }
 
@@ -48,23 +48,23 @@ TEST_F(ProjectFileTest, ParameterFilesTravelWithTheProjectIntoTheLibrary)
 {
     ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
     EXPECT_EQ(Error(), QString());
-    const QByteArray first = ReadFile(parameterwork::PathOf(QStringLiteral("箱体A128")));
+    const QByteArray first = ReadFile(parameterwork::PathOf("箱体A128"_s));
     EXPECT_EQ(first.size(), 1504);
-    EXPECT_EQ(ReadFile(parameterwork::ProjectFolder() + QStringLiteral("1.rcvbp")).size(), 1104);
-    EXPECT_EQ(ReadFile(CProductDirectorySet::GetRootDir() + QStringLiteral("箱体A128.rcvbp")), first);
+    EXPECT_EQ(ReadFile(parameterwork::ProjectFolder() + "1.rcvbp"_s).size(), 1104);
+    EXPECT_EQ(ReadFile(CProductDirectorySet::GetRootDir() + "箱体A128.rcvbp"_s), first);
     EXPECT_EQ(GetRuntimeData()->GetProductDirectorySet()->GetProductCount(), 2);
 
-    QFile::remove(parameterwork::PathOf(QStringLiteral("箱体A128"))); // the library's copy takes its place
+    QFile::remove(parameterwork::PathOf("箱体A128"_s)); // the library's copy takes its place
     const auto saved = [this] {
-        const QString path = folder.Path(QStringLiteral("b.prj"));
+        const QString path = folder.Path("b.prj"_s);
         EXPECT_TRUE(Save(path));
-        EXPECT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("unpacked"))));
-        return ReadFile(folder.Path(QStringLiteral("unpacked/project/0.rcvbp")));
+        EXPECT_TRUE(UnpackArchive(path, folder.Path("unpacked"_s)));
+        return ReadFile(folder.Path("unpacked/project/0.rcvbp"_s));
     };
     EXPECT_EQ(saved(), first);
 
-    WriteFile(parameterwork::PathOf(QStringLiteral("箱体A128")), "own, edited");
-    const QString known = CProductDirectorySet::GetRootDir() + QStringLiteral("箱体A128.rcvbp");
+    WriteFile(parameterwork::PathOf("箱体A128"_s), "own, edited");
+    const QString known = CProductDirectorySet::GetRootDir() + "箱体A128.rcvbp"_s;
     ASSERT_TRUE(QFile::remove(known) && QDir().mkpath(known)); // cannot be read
     EXPECT_EQ(saved(), "own, edited");
 }
@@ -73,19 +73,19 @@ TEST_F(ProjectFileTest, FilesInTheWorkAndProductFoldersCountAsTheyAre)
 {
     ASSERT_TRUE(UnpackArchive(SamplePath("small-wall.prj"), folder.Path()));
     const QString root = CProductDirectorySet::GetRootDir();
-    const QString deep = root + QStringLiteral("mine/cabinet.rcvbp");
-    const QString taken = root + QStringLiteral("箱体A128.rcvbp");
-    WriteFile(parameterwork::PathOf(QStringLiteral("箱体A128")), "of another project");
-    WriteFile(deep, ReadFile(folder.Path(QStringLiteral("project/0.rcvbp"))));
+    const QString deep = root + "mine/cabinet.rcvbp"_s;
+    const QString taken = root + "箱体A128.rcvbp"_s;
+    WriteFile(parameterwork::PathOf("箱体A128"_s), "of another project");
+    WriteFile(deep, ReadFile(folder.Path("project/0.rcvbp"_s)));
     ASSERT_TRUE(Load(SamplePath("small-wall.prj"))) << "nothing was scanned before";
     EXPECT_EQ(Error(), QString());
-    EXPECT_EQ(ReadFile(parameterwork::PathOf(QStringLiteral("箱体A128"))).size(), 1504);
+    EXPECT_EQ(ReadFile(parameterwork::PathOf("箱体A128"_s)).size(), 1504);
     EXPECT_TRUE(QFile::exists(deep) && !QFile::exists(taken)) << "no second copy";
 
     ASSERT_TRUE(QFile::remove(deep));
     WriteFile(taken, "another product of the name");
     ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
-    EXPECT_TRUE(Error().contains(QStringLiteral("箱体A128")));
+    EXPECT_TRUE(Error().contains("箱体A128"_s));
     EXPECT_EQ(ReadFile(taken), "another product of the name");
 }
 
@@ -94,8 +94,8 @@ TEST_F(ProjectFileTest, ParameterFileThatIsDamagedOrTooLargeCostsItselfAlone)
     QByteArray archive = ReadFile(SamplePath("small-wall.prj"));
     const int content = archive.indexOf("project/0.rcvbp") + 40;
     archive[content] = static_cast<char>(~archive[content]);
-    ASSERT_TRUE(Load(folder.Write(QStringLiteral("damaged.prj"), archive)));
-    EXPECT_TRUE(Error().contains(QStringLiteral("无法读取")));
+    ASSERT_TRUE(Load(folder.Write("damaged.prj"_s, archive)));
+    EXPECT_TRUE(Error().contains("无法读取"_s));
     EXPECT_FALSE(QFile::exists(parameterwork::PathOf(project.GetParameterFiles()[0].name)));
     EXPECT_EQ(ReadFile(parameterwork::PathOf(project.GetParameterFiles()[1].name)).size(), 1104);
 
@@ -104,14 +104,14 @@ TEST_F(ProjectFileTest, ParameterFileThatIsDamagedOrTooLargeCostsItselfAlone)
         project.AddParameterFileInfo(QLatin1String(name), SMD5::FromString(QString(32, QLatin1Char(*name))));
         WriteFile(parameterwork::PathOf(QLatin1String(name)), "x");
     }
-    QFile::resize(parameterwork::PathOf(QStringLiteral("large")), qint64(256) << 20); // sparse
-    const QString path = folder.Path(QStringLiteral("a.prj"));
+    QFile::resize(parameterwork::PathOf("large"_s), qint64(256) << 20); // sparse
+    const QString path = folder.Path("a.prj"_s);
     ASSERT_TRUE(Save(path));
-    EXPECT_TRUE(Error().contains(QStringLiteral("large")));
-    EXPECT_FALSE(Error().contains(QStringLiteral("small")));
-    ASSERT_TRUE(UnpackArchive(path, folder.Path(QStringLiteral("out"))));
-    EXPECT_EQ(QDir(folder.Path(QStringLiteral("out/project"))).entryList(QDir::Files),
-              QStringList({QStringLiteral("0.rcvbp"), QStringLiteral("new.prj")}));
+    EXPECT_TRUE(Error().contains("large"_s));
+    EXPECT_FALSE(Error().contains("small"_s));
+    ASSERT_TRUE(UnpackArchive(path, folder.Path("out"_s)));
+    EXPECT_EQ(QDir(folder.Path("out/project"_s)).entryList(QDir::Files),
+              QStringList({"0.rcvbp"_s, "new.prj"_s}));
 }
 
 TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
@@ -119,21 +119,20 @@ TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
     ASSERT_TRUE(Load(SamplePath("full/project.xml")));
     const QByteArray before = Document();
     EXPECT_FALSE(Load(SamplePath("too-new.prj")));
-    EXPECT_EQ(version, QStringLiteral("7.0"));
+    EXPECT_EQ(version, "7.0"_s);
     const QString files[] = {
         SamplePath("truncated.prj"),
         SamplePath("climbing.prj"),
-        folder.Path(QStringLiteral("missing.prj")),
-        folder.Write(QStringLiteral("empty.prj"), ""),
-        folder.Write(QStringLiteral("cut.xml"), ReadFile(SamplePath("small-wall.xml")).left(20000)),
-        folder.Write(QStringLiteral("other.xml"), "<?xml version=\"1.0\"?><LedControlConfig/>"),
-        folder.Write(QStringLiteral("deep.xml"),
-                     "<?xml version=\"1.0\"?>" + QByteArray("<a>").repeated(20000)),
+        folder.Path("missing.prj"_s),
+        folder.Write("empty.prj"_s, ""),
+        folder.Write("cut.xml"_s, ReadFile(SamplePath("small-wall.xml")).left(20000)),
+        folder.Write("other.xml"_s, "<?xml version=\"1.0\"?><LedControlConfig/>"),
+        folder.Write("deep.xml"_s, "<?xml version=\"1.0\"?>" + QByteArray("<a>").repeated(20000)),
     };
     for (const QString& path : files) {
         EXPECT_FALSE(Load(path)) << path.toStdString();
         EXPECT_NE(Error(), QString()) << path.toStdString();
-        EXPECT_EQ(version, QStringLiteral("untouched"));
+        EXPECT_EQ(version, "untouched"_s);
     }
     EXPECT_EQ(Document(), before);
 }
@@ -143,7 +142,7 @@ TEST_F(ProjectFileTest, VersionsUpTo61AreRead)
     EXPECT_TRUE(LoadText("<VersionSupport MinimumVersion=\"6.1\"/>"));
     EXPECT_TRUE(LoadText("<SenderLayout SenderCount=\"0\"/>")) << "no version asks for nothing";
     EXPECT_FALSE(LoadText("<VersionSupport MinimumVersion=\"6.2\"/>"));
-    EXPECT_EQ(version, QStringLiteral("6.2"));
+    EXPECT_EQ(version, "6.2"_s);
 }
 
 TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
@@ -152,7 +151,7 @@ TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
                          "<Port_1><TitleLayout TileCount=\"2000000000\"><Tile_7 X=\"5\"/>"
                          "<Tile_3 Width=\"32\" Height=\"32\"/><Tile_3/><Tile_0/></TitleLayout></Port_1>"
                          "</Sender_2></SenderLayout>"));
-    EXPECT_TRUE(Error().contains(QStringLiteral("Strange")));
+    EXPECT_TRUE(Error().contains("Strange"_s));
     ASSERT_EQ(project.GetSenderCount(), 1);
     EXPECT_FALSE(project.GetSender(0)->GetId().isNull());
     EXPECT_EQ(project.GetSender(0)->GetPortCount(), 2);
@@ -170,7 +169,7 @@ TEST_F(ProjectFileTest, OfRepeatedElementsTheLastOfTheRootAndTheFirstOfAPortCoun
                                + "<TitleLayout TileCount=\"2\"/></Port_1></Sender_1></SenderLayout>";
     ASSERT_TRUE(LoadText("<Monitor RefreshDisTime=\"30\"/><Monitor/>" + senders + senders
                          + "<ParameterFile Count=\"1\"><File1 Name=\"../../x/..\"/></ParameterFile>"));
-    EXPECT_EQ(project.GetParameterFiles()[0].name, QStringLiteral("_.._x_"));
+    EXPECT_EQ(project.GetParameterFiles()[0].name, "_.._x_"_s);
     EXPECT_EQ(project.GetSender(0)->GetId().toByteArray(), id);
     EXPECT_EQ(TilesOf(*project.GetSender(0)->GetPort(0)).GetCount(), 1);
     EXPECT_EQ(GetMonitorData()->GetInterfaceData().GetIntervalTime(), 10);
@@ -203,14 +202,14 @@ TEST_F(ProjectFileTest, LoadingKeepsTheCurrentSenderAndStartsAnUnmodifiedHistory
 TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
 {
     project.NewSender();
-    const QString inTheWay = folder.Write(QStringLiteral("file"), "x");
-    for (const QString& path : {inTheWay + QStringLiteral("/a.prj"), QString()}) {
+    const QString inTheWay = folder.Write("file"_s, "x");
+    for (const QString& path : {inTheWay + "/a.prj"_s, QString()}) {
         EXPECT_TRUE(Save(path));
         EXPECT_NE(Error(), QString());
     }
 
     const QByteArray archive = ReadFile(SamplePath("small-wall.prj"));
-    const QString next = CConstantData::GetProjectParamFileTemp() + QStringLiteral("new.prj.part");
+    const QString next = CConstantData::GetProjectParamFileTemp() + "new.prj.part"_s;
     for (const QString& own : {parameterwork::DocumentPath(), next})
         EXPECT_FALSE(Save(own)) << qPrintable(own);
     EXPECT_FALSE(Load(WriteFile(parameterwork::DocumentPath(), archive)));
@@ -220,26 +219,26 @@ TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
 TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
 {
     project.NewSender();
-    const QString precious = folder.Write(QStringLiteral("linked/0.rcvbp"), "precious");
-    const QString path = folder.Path(QStringLiteral("a.prj"));
+    const QString precious = folder.Write("linked/0.rcvbp"_s, "precious");
+    const QString path = folder.Path("a.prj"_s);
     const QString work = parameterwork::ProjectFolder().chopped(1);
     QDir(work).removeRecursively();
-    ASSERT_TRUE(QFile::link(folder.Path(QStringLiteral("linked")), work));
+    ASSERT_TRUE(QFile::link(folder.Path("linked"_s), work));
     EXPECT_TRUE(Save(path));
     EXPECT_EQ(ReadFile(precious), "precious") << "a link is replaced, what it leads to is not ours";
 
-    const QString odd = folder.Path(QStringLiteral("project"));
-    folder.Write(QStringLiteral("project/new.prj/a"), "folder");
-    folder.Write(QStringLiteral("project/0.rcvbp/a"), "folder");
-    ASSERT_TRUE(PackFolder(odd, folder.Path(QStringLiteral("odd.prj"))));
-    EXPECT_FALSE(Load(folder.Path(QStringLiteral("odd.prj"))));
+    const QString odd = folder.Path("project"_s);
+    folder.Write("project/new.prj/a"_s, "folder");
+    folder.Write("project/0.rcvbp/a"_s, "folder");
+    ASSERT_TRUE(PackFolder(odd, folder.Path("odd.prj"_s)));
+    EXPECT_FALSE(Load(folder.Path("odd.prj"_s)));
     EXPECT_TRUE(Save(path));
-    EXPECT_FALSE(Load(folder.Path(QStringLiteral("odd.prj"))));
+    EXPECT_FALSE(Load(folder.Path("odd.prj"_s)));
     EXPECT_TRUE(Load(SamplePath("small-wall.prj")));
     EXPECT_EQ(Error(), QString());
 
     const QString own = parameterwork::PathOf(project.GetParameterFiles()[0].name);
-    const QString equal = folder.Write(QStringLiteral("equal"), ReadFile(own));
+    const QString equal = folder.Write("equal"_s, ReadFile(own));
     ASSERT_TRUE(QFile::remove(own) && QFile::link(equal, own));
     EXPECT_TRUE(Load(SamplePath("small-wall.prj")));
     EXPECT_FALSE(QFileInfo(own).isSymLink()) << "what it leads to may change";
@@ -247,18 +246,18 @@ TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
 
 TEST_F(ProjectFileTest, OtherFilesInAnArchiveDoNotComeIntoTheNextOne)
 {
-    const QString path = folder.Path(QStringLiteral("a.prj"));
+    const QString path = folder.Path("a.prj"_s);
     ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
     ASSERT_TRUE(Save(path));
     const QByteArray saved = ReadFile(path);
-    const QString odd = folder.Path(QStringLiteral("odd.prj"));
+    const QString odd = folder.Path("odd.prj"_s);
     ASSERT_TRUE(UnpackArchive(path, folder.Path()));
     for (const char* name : {"project/note", "project/sub/0.rcvbp", "project/0.rcvbp.old"})
         folder.Write(QLatin1String(name), "of others");
-    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("project")), odd));
+    ASSERT_TRUE(PackFolder(folder.Path("project"_s), odd));
     ASSERT_TRUE(Load(odd));
     EXPECT_EQ(Error(), QString());
-    WriteFile(parameterwork::ProjectFolder() + QStringLiteral("qt_temp.AbCdEf"), "of a killed program");
+    WriteFile(parameterwork::ProjectFolder() + "qt_temp.AbCdEf"_s, "of a killed program");
     ASSERT_TRUE(Save(path));
     EXPECT_EQ(ReadFile(path), saved);
 }
@@ -266,7 +265,7 @@ TEST_F(ProjectFileTest, OtherFilesInAnArchiveDoNotComeIntoTheNextOne)
 TEST_F(ProjectFileTest, DamagedFilesAreReadOrRefusedWhole)
 {
     ASSERT_TRUE(Load(SamplePath("full/project.xml")));
-    const QString original = folder.Path(QStringLiteral("original.prj"));
+    const QString original = folder.Path("original.prj"_s);
     ASSERT_TRUE(Save(original));
     const QByteArray before = Document();
     const QByteArray sample = ReadFile(SamplePath("small-wall.xml"));
@@ -280,11 +279,11 @@ TEST_F(ProjectFileTest, DamagedFilesAreReadOrRefusedWhole)
             damaged[2 + below(damaged.size() - 2)] = static_cast<char>(random());
         if (below(4) == 0)
             damaged.remove(2 + below(damaged.size() - 2), below(200));
-        if (!Load(folder.Write(QStringLiteral("damaged.xml"), damaged))) {
+        if (!Load(folder.Write("damaged.xml"_s, damaged))) {
             ASSERT_EQ(Document(), before) << "round " << round;
         }
         Document(); // whatever was read can be written and read again
-        ASSERT_TRUE(Load(folder.Path(QStringLiteral("document.prj")))) << "round " << round;
+        ASSERT_TRUE(Load(folder.Path("document.prj"_s))) << "round " << round;
         ASSERT_TRUE(Load(original));
     }
 }

@@ -23,8 +23,8 @@ bool SaveInto(CProjectManagement& management, const QString& folder, QProgressDi
         auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         if (!chooser)
             return;
-        EXPECT_EQ(chooser->windowTitle(), QStringLiteral("选取"));
-        chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(folder);
+        EXPECT_EQ(chooser->windowTitle(), "选取"_s);
+        chooser->findChild<QLineEdit*>("fileNameEdit"_s)->setText(folder);
         QMetaObject::invokeMethod(chooser, folder.isEmpty() ? "reject" : "accept");
     });
     user.start(20);
@@ -38,11 +38,11 @@ TEST(ProjectManagementTest, SameProjectTwiceIsOneCopyOfTheLaterContent)
     CProjectManagement management;
     CProjectData project;
     management.AddProject(&project);
-    project.SetDeviceSetName(QStringLiteral("second"));
+    project.SetDeviceSetName("second"_s);
     management.AddProject(&project);
     management.AddProject(nullptr);
     ASSERT_EQ(management.GetProjectCount(), 1);
-    EXPECT_EQ(management.GetProjectData(project.GetID())->GetDeviceSetName(), QStringLiteral("second"));
+    EXPECT_EQ(management.GetProjectData(project.GetID())->GetDeviceSetName(), "second"_s);
     management.DeleteProject(project.GetID());
     EXPECT_EQ(management.GetProjectCount(), 0);
 }
@@ -62,8 +62,7 @@ TEST(ProjectManagementTest, AllNamedProjectsAreSavedIntoTheChosenFolder)
     QProgressDialog dialog;
     EXPECT_TRUE(SaveInto(management, folder.Path(), &dialog));
     EXPECT_EQ(dialog.value(), 75);
-    const QStringList files = {QStringLiteral("_Wall.prj"), QStringLiteral("wall (2).prj"),
-                               QStringLiteral("wall.prj")};
+    const QStringList files = {"_Wall.prj"_s, "wall (2).prj"_s, "wall.prj"_s};
     EXPECT_EQ(QDir(folder.Path()).entryList(QDir::Files), files);
     const int types[] = {2, 3, 0};
     for (int i = 0; i < files.size(); ++i) {

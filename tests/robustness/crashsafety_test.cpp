@@ -56,16 +56,15 @@ struct CrashSafetyTest : testing::Test
         EXPECT_EQ(Names(CConstantData::GetProjectParamFileTemp()),
                   "cabinet.rcvbp project/0.rcvbp project/new.prj");
         EXPECT_EQ(Names(CProductDirectorySet::GetRootDir()), "ProductList.ini product1.rcvbp product2.rcvbp");
-        EXPECT_FALSE(
-            QFile::exists(CConstantData::GetProjectParamFileTemp().chopped(1) + QLatin1String(".lock")));
-        EXPECT_EQ(QDir(QDir::homePath() + QLatin1String("/Documents")).entryList(QDir::Files | QDir::Hidden),
+        EXPECT_FALSE(QFile::exists(CConstantData::GetProjectParamFileTemp().chopped(1) + ".lock"_s));
+        EXPECT_EQ(QDir(QDir::homePath() + "/Documents"_s).entryList(QDir::Files | QDir::Hidden),
                   QStringList());
     }
 
     static void KillAfter(int milliseconds, const QString& folder)
     {
         QProcess saver;
-        saver.start(QStringLiteral(ORVAN_SAVER), {QStringLiteral("loop"), folder});
+        saver.start(QStringLiteral(ORVAN_SAVER), {"loop"_s, folder});
         ASSERT_TRUE(saver.waitForReadyRead());
         QThread::msleep(static_cast<unsigned long>(milliseconds));
         saver.kill();
@@ -93,7 +92,7 @@ TEST_F(CrashSafetyTest, KilledSaveLeavesTheOldFileOrTheNewOne)
 TEST_F(CrashSafetyTest, LockFileWithoutANameIsTakenOverBeforeTheWaitForItEnds)
 {
     SaveAll(1);
-    const QString lock = CConstantData::GetProjectParamFileTemp().chopped(1) + QLatin1String(".lock");
+    const QString lock = CConstantData::GetProjectParamFileTemp().chopped(1) + ".lock"_s;
     ASSERT_TRUE(SetFileTime(lock, QDateTime::currentDateTime().addSecs(-25)));
     EXPECT_EQ(VersionOf(Document::Project, folder), 1);
 }
@@ -102,7 +101,7 @@ TEST_F(CrashSafetyTest, FailingCallLeavesTheOldFileAndIsToldOrTheNewOne)
 {
     for (int document = 0; document < kDocuments; ++document) {
         SaveAll(1);
-        const QString packed = CConstantData::GetProjectParamFileTemp() + QLatin1String("project/0.rcvbp");
+        const QString packed = CConstantData::GetProjectParamFileTemp() + "project/0.rcvbp"_s;
         const qint64 whole = QFileInfo(packed).size();
         for (const int more : {0, kAllOthers}) {
             int calls = 1;
@@ -125,7 +124,7 @@ TEST_F(CrashSafetyTest, FailingCallLeavesTheOldFileAndIsToldOrTheNewOne)
 
 TEST_F(CrashSafetyTest, CopyThatFailsWhileHashingDoesNotChangeTheDigest)
 {
-    const QString file = scratch.Write(QStringLiteral("a"), QByteArray(300000, 'a'));
+    const QString file = scratch.Write("a"_s, QByteArray(300000, 'a'));
     const SMD5 digest = CConstantData::GetMD5FromFile(file);
     EXPECT_FALSE(digest.IsNull());
     for (int failing = 1, calls = 1; failing <= calls; ++failing) {
@@ -143,8 +142,7 @@ TEST_F(CrashSafetyTest, TwoProcessesWithOneWorkFolderDoNotMixTheirFiles)
         const QString own = scratch.Path(QString::number(i)) + QLatin1Char('/');
         QDir().mkpath(own);
         savers[i].setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        savers[i].start(QStringLiteral(ORVAN_SAVER),
-                        {QStringLiteral("project"), own, QString::number(i + 1), QStringLiteral("25")});
+        savers[i].start(QStringLiteral(ORVAN_SAVER), {"project"_s, own, QString::number(i + 1), "25"_s});
     }
     for (QProcess& saver : savers) {
         ASSERT_TRUE(saver.waitForFinished(120000));

@@ -21,13 +21,13 @@ constexpr int kAddresses[] = {0, 5, 400};
 
 QString NameOf(int version)
 {
-    return QStringLiteral("version %1").arg(version);
+    return "version %1"_s.arg(version);
 }
 
 /// The versions use different products, by the same name.
 SMD5 ProductOf(int version)
 {
-    const QString file = QStringLiteral("product%1.rcvbp").arg(version);
+    const QString file = "product%1.rcvbp"_s.arg(version);
     const CProduct* product = GetRuntimeData()->GetProductDirectorySet()->FindProductFromFileName(file);
     return product ? product->GetMd5() : SMD5();
 }
@@ -46,7 +46,7 @@ CSender* Build(CProjectData& project, int version)
 
 bool SaveProject(CProjectData& project, const QString& path, int version)
 {
-    project.AddParameterFileInfo(QStringLiteral("cabinet"), ProductOf(version));
+    project.AddParameterFileInfo("cabinet"_s, ProductOf(version));
     return project.SaveProjectToFile(path, nullptr) && project.GetLastFileError().isEmpty();
 }
 
@@ -55,13 +55,13 @@ bool SaveProject(CProjectData& project, const QString& path, int version)
 bool LoadProject(CProjectData& project, const QString& path)
 {
     QString refused;
-    if (QProcess::execute(QStringLiteral("unzip"), {QStringLiteral("-tqq"), path}) != 0
+    if (QProcess::execute("unzip"_s, {"-tqq"_s, path}) != 0
         || !project.LoadProjectFromFile(QFile::encodeName(path).constData(), refused, nullptr)
         || !project.GetLastFileError().isEmpty() || project.GetParameterFiles().size() != 1)
         return false;
     TestFolder folder;
     return UnpackArchive(path, folder.Path())
-           && CConstantData::GetMD5FromFile(folder.Path(QStringLiteral("project/0.rcvbp")))
+           && CConstantData::GetMD5FromFile(folder.Path("project/0.rcvbp"_s))
                   == project.GetParameterFiles().first().type;
 }
 
@@ -78,13 +78,13 @@ bool SaveSettings(Document document, const QString& path, int version)
         return config.Save_UI();
     case Document::Customization:
         config.LoadCustomizeConfig(path);
-        config.SetCustomizeValue(QStringLiteral("version"), version);
+        config.SetCustomizeValue("version"_s, version);
         return config.SaveCustomizeConfig();
     default:
         config.LoadSpecifiedIP(path);
         config.ClearSpecifiedIP();
         for (int i = 0; i < kAddresses[version]; ++i)
-            config.AddSpecifiedIP(QStringLiteral("10.%1.%2.%3").arg(version).arg(i / 250).arg(i % 250));
+            config.AddSpecifiedIP("10.%1.%2.%3"_s.arg(version).arg(i / 250).arg(i % 250));
         return config.SaveSpecifiedIP();
     }
 }
@@ -98,8 +98,7 @@ int SettingsVersion(Document document, const QString& path)
     case Document::InterfaceSettings:
         return config.Load_UI(path) ? 1 + int(config.IsEnableRotate()) : 0;
     case Document::Customization:
-        return config.LoadCustomizeConfig(path) ? config.GetCustomizeValue(QStringLiteral("version")).toInt()
-                                                : 0;
+        return config.LoadCustomizeConfig(path) ? config.GetCustomizeValue("version"_s).toInt() : 0;
     default:
         if (config.LoadSpecifiedIP(path))
             for (int version : {1, 2})
@@ -129,7 +128,7 @@ QString PathOf(Document document, const QString& folder)
 
 void MakeProducts()
 {
-    const QString path = CProductDirectorySet::GetRootDir() + QStringLiteral("product%1.rcvbp");
+    const QString path = CProductDirectorySet::GetRootDir() + "product%1.rcvbp"_s;
     for (int version : {1, 2}) {
         QFile file(path.arg(version));
         if (!file.exists() && file.open(QIODevice::WriteOnly))

@@ -24,18 +24,16 @@ using LimitsTest = ProjectTest;
 
 TEST_F(LimitsTest, FilesBeyondTheirSizeAreRefused)
 {
-    const QString xml = folder.Write(QStringLiteral("a.xml"), "<?xml version=\"1.0\"?><LedSetting/>");
+    const QString xml = folder.Write("a.xml"_s, "<?xml version=\"1.0\"?><LedSetting/>");
     ASSERT_TRUE(QFile::resize(xml, kMaxXmlBytes + 1)); // sparse
     EXPECT_FALSE(Load(xml));
-    EXPECT_EQ(Error(), QStringLiteral("文件过大。"));
+    EXPECT_EQ(Error(), "文件过大。"_s);
 
     CConfigData config;
     for (const int beyond : {0, 1}) {
-        const QString ini =
-            folder.Write(QStringLiteral("a.ini"), "a=1" + QByteArray((4 << 20) - 3 + beyond, '\n'));
+        const QString ini = folder.Write("a.ini"_s, "a=1" + QByteArray((4 << 20) - 3 + beyond, '\n'));
         EXPECT_EQ(config.Load_UI(ini), beyond == 0);
-        const QString json =
-            folder.Write(QStringLiteral("a.json"), "{}" + QByteArray((16 << 20) - 2 + beyond, ' '));
+        const QString json = folder.Write("a.json"_s, "{}" + QByteArray((16 << 20) - 2 + beyond, ' '));
         EXPECT_EQ(config.LoadCustomizeConfig(json), beyond == 0);
     }
 }
@@ -56,27 +54,27 @@ TEST_F(LimitsTest, TreeIsNotBuiltOfTooManyNodes)
 
 TEST_F(LimitsTest, LongTextIsKeptOrRefusedByName)
 {
-    const QString longest = QStringLiteral("a") + QString((kMaxXmlText - 1) / 3, QChar(0x5C4F));
+    const QString longest = "a"_s + QString((kMaxXmlText - 1) / 3, QChar(0x5C4F));
     project.GetPrintSetData()->designer = {true, longest};
-    const QString path = folder.Path(QStringLiteral("a.prj"));
+    const QString path = folder.Path("a.prj"_s);
     ASSERT_TRUE(Save(path));
     project.GetPrintSetData()->designer = {};
     ASSERT_TRUE(Load(path)) << Error().toStdString();
     EXPECT_EQ(project.GetPrintSetData()->designer.text, longest);
 
     const QByteArray before = ReadFile(path);
-    const QString document = CConstantData::GetProjectParamFileTemp() + QStringLiteral("project/new.prj");
+    const QString document = CConstantData::GetProjectParamFileTemp() + "project/new.prj"_s;
     const qint64 size = QFileInfo(document).size();
-    project.NewSender()->SetSenderName(longest + QStringLiteral("b"));
-    const QString layout = folder.Path(QStringLiteral("a.xml"));
+    project.NewSender()->SetSenderName(longest + "b"_s);
+    const QString layout = folder.Path("a.xml"_s);
     EXPECT_FALSE(Save(path));
-    EXPECT_TRUE(Error().contains(QStringLiteral("Sender_1/Name")));
+    EXPECT_TRUE(Error().contains("Sender_1/Name"_s));
     EXPECT_FALSE(project.ExportSender(layout, project.GetSender(0)->GetId()));
-    EXPECT_TRUE(Error().contains(QStringLiteral("SenderLayout/Name")));
+    EXPECT_TRUE(Error().contains("SenderLayout/Name"_s));
     EXPECT_EQ(ReadFile(path), before);
     EXPECT_EQ(QFileInfo(document).size(), size);
     EXPECT_FALSE(QFile::exists(layout));
-    EXPECT_FALSE(QFile::exists(CConstantData::GetProjectParamFileTemp() + QStringLiteral("new.prj.part")));
+    EXPECT_FALSE(QFile::exists(CConstantData::GetProjectParamFileTemp() + "new.prj.part"_s));
 }
 
 TEST_F(LimitsTest, FileThatHoldsTooMuchIsRefusedWhole)
@@ -91,7 +89,7 @@ TEST_F(LimitsTest, FileThatHoldsTooMuchIsRefusedWhole)
         "<TitleLayout TileCount=\"999999\">" + numbered("Tile_", kMaxTilesOfPort + 1) + "</TitleLayout>";
     const QByteArray ports = " PortCount=\"2\" Name=\"b\"><Port_1/><Port_2>" + layout + "</Port_2>";
     CSender* sender = project.NewSender();
-    sender->SetSenderName(QStringLiteral("a"));
+    sender->SetSenderName("a"_s);
     MakeWall(*sender->GetPort(0), 2, 1);
     sender->SetRecentPortIndex(0);
     const QByteArray projects[] = {
@@ -104,22 +102,21 @@ TEST_F(LimitsTest, FileThatHoldsTooMuchIsRefusedWhole)
         EXPECT_FALSE(LoadText(elements));
         EXPECT_FALSE(Error().isEmpty());
     }
-    const QString senderFile = folder.Write(QStringLiteral("s.xml"), "<SenderLayout><SenderLayout" + ports
-                                                                         + "</SenderLayout></SenderLayout>");
-    const QString portFile =
-        folder.Write(QStringLiteral("p.xml"), "<PortLayout Lock=\"1\">" + layout + "</PortLayout>");
+    const QString senderFile =
+        folder.Write("s.xml"_s, "<SenderLayout><SenderLayout" + ports + "</SenderLayout></SenderLayout>");
+    const QString portFile = folder.Write("p.xml"_s, "<PortLayout Lock=\"1\">" + layout + "</PortLayout>");
     EXPECT_FALSE(project.ImportSender(senderFile, sender->GetId(), false, true));
     EXPECT_FALSE(project.ImportPort(portFile));
     EXPECT_TRUE(Error().contains(QString::number(kMaxTilesOfPort)));
     ASSERT_EQ(project.GetSender(0), sender);
-    EXPECT_EQ(sender->GetSenderName(), QStringLiteral("a"));
+    EXPECT_EQ(sender->GetSenderName(), "a"_s);
     EXPECT_EQ(TilesOf(*sender->GetPort(0)).GetCount(), 2);
     EXPECT_FALSE(sender->GetPort(0)->IsFlagLock());
 }
 
 TEST_F(LimitsTest, WhatOnePortCanHoldIsSavedAndReadAndMoreIsRefused)
 {
-    const QString saved = folder.Path(QStringLiteral("a.prj"));
+    const QString saved = folder.Path("a.prj"_s);
     CPort* port = project.NewSender()->GetPort(0);
     SAddTileInfo block;
     block.columns = 1024;
@@ -134,7 +131,7 @@ TEST_F(LimitsTest, WhatOnePortCanHoldIsSavedAndReadAndMoreIsRefused)
     const QByteArray before = ReadFile(saved);
 
     TilesOf(*port).AddTile(new CTile);
-    const QString other = folder.Path(QStringLiteral("other"));
+    const QString other = folder.Path("other"_s);
     const std::function<bool()> saves[] = {
         [&] { return Save(saved); },
         [&] { return project.ExportSender(other, project.GetSender(0)->GetId()); },
@@ -161,7 +158,7 @@ TEST_F(LimitsTest, WhatOnePortCanHoldIsSavedAndReadAndMoreIsRefused)
 
 TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
 {
-    QFile nowhere(QStringLiteral("/dev/null"));
+    QFile nowhere("/dev/null"_s);
     ASSERT_TRUE(nowhere.open(QIODevice::WriteOnly));
     StreamXmlWriter writer(nowhere);
     writer.BeginElement("a");
@@ -181,7 +178,7 @@ TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
         EXPECT_EQ(longTag.GetRefusal(), QString());
         longTag.Attribute(name, text);
     }
-    EXPECT_TRUE(longTag.GetRefusal().contains(QStringLiteral("Sender_7")));
+    EXPECT_TRUE(longTag.GetRefusal().contains("Sender_7"_s));
 
     CSender* sender = project.NewSender();
     SInputVideoColorCurveParam curve;
@@ -192,7 +189,7 @@ TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
     for (int i = 0; i < 20; ++i)
         curves.append(curve);
     sender->SetColorCurveParams(curves);
-    const QString other = folder.Path(QStringLiteral("other"));
+    const QString other = folder.Path("other"_s);
     EXPECT_NE(project.ExportMutiProcessorParam(other, sender->GetId()), 0U);
     EXPECT_NE(Error(), QString());
     EXPECT_FALSE(QFile::exists(other));
@@ -200,20 +197,20 @@ TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
 
 TEST_F(LimitsTest, ArchiveIsHeldToItsLimitsWhenPackedAndWhenUnpacked)
 {
-    const QString packed = folder.Path(QStringLiteral("a.zip"));
-    folder.Write(QStringLiteral("in/large"), QByteArray(3000, 'x'));
-    folder.Write(QStringLiteral("in/small"), QByteArray(1000, 'x'));
-    const auto limits = [](qint64 total) { return ArchiveLimits{total, QStringLiteral("in/large")}; };
-    const QString in = folder.Path(QStringLiteral("in"));
-    const QString out = folder.Path(QStringLiteral("out"));
+    const QString packed = folder.Path("a.zip"_s);
+    folder.Write("in/large"_s, QByteArray(3000, 'x'));
+    folder.Write("in/small"_s, QByteArray(1000, 'x'));
+    const auto limits = [](qint64 total) { return ArchiveLimits{total, "in/large"_s}; };
+    const QString in = folder.Path("in"_s);
+    const QString out = folder.Path("out"_s);
     QString error;
     EXPECT_FALSE(PackFolder(in, packed, nullptr, limits(999)));
     ASSERT_TRUE(PackFolder(in, packed, nullptr, limits(1000)));
     EXPECT_FALSE(UnpackArchive(packed, out, {}, &error, limits(999)));
-    EXPECT_EQ(error, QStringLiteral("压缩包内容过大: in/small"));
+    EXPECT_EQ(error, "压缩包内容过大: in/small"_s);
     EXPECT_TRUE(UnpackArchive(packed, out, {}, nullptr, limits(1000)));
 
-    const QString deepest = QStringLiteral("in/") + QStringLiteral("d/").repeated(100);
+    const QString deepest = "in/"_s + "d/"_s.repeated(100);
     ASSERT_TRUE(QDir(folder.Path()).mkpath(deepest));
     EXPECT_TRUE(PackFolder(in, packed));
     EXPECT_TRUE(UnpackArchive(packed, out));
@@ -222,12 +219,12 @@ TEST_F(LimitsTest, ArchiveIsHeldToItsLimitsWhenPackedAndWhenUnpacked)
 
 TEST_F(LimitsTest, PipesAndDevicesAreRefusedAtEveryEntrance)
 {
-    const QString pipe = folder.Path(QStringLiteral("pipe"));
+    const QString pipe = folder.Path("pipe"_s);
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     const QUuid sender = project.NewSender()->GetId();
     GetRuntimeData()->GetImpExpPrepareInfo()->senders = {0};
-    const QString device = folder.Path(QStringLiteral("device"));
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/zero"), device));
+    const QString device = folder.Path("device"_s);
+    ASSERT_TRUE(QFile::link("/dev/zero"_s, device));
     for (const QString& path : {pipe, device}) {
         const std::function<bool()> entrances[] = {
             [&] { return Load(path); },
@@ -237,7 +234,7 @@ TEST_F(LimitsTest, PipesAndDevicesAreRefusedAtEveryEntrance)
             [&] { return project.ImportProcessorParam(path, sender) == 0; },
         };
         for (const auto& entrance : entrances) {
-            ASSERT_TRUE(Save(folder.Path(QStringLiteral("a.prj"))));
+            ASSERT_TRUE(Save(folder.Path("a.prj"_s)));
             ASSERT_EQ(Error(), QString());
             EXPECT_FALSE(entrance());
             EXPECT_NE(Error(), QString());
@@ -249,7 +246,7 @@ TEST_F(LimitsTest, PipesAndDevicesAreRefusedAtEveryEntrance)
         EXPECT_FALSE(config.LoadCustomizeConfig(path));
         EXPECT_FALSE(config.LoadSpecifiedIP(path));
         EXPECT_TRUE(CConstantData::GetMD5FromFile(path).IsNull());
-        EXPECT_FALSE(UnpackArchive(path, folder.Path(QStringLiteral("out"))));
+        EXPECT_FALSE(UnpackArchive(path, folder.Path("out"_s)));
         EXPECT_FALSE(config.Save() || config.SaveCustomizeConfig() || config.SaveSpecifiedIP());
         EXPECT_TRUE(QFileInfo::exists(path)) << "set aside";
     }

@@ -10,12 +10,12 @@
 TEST(ProjectLockTest, LockOfAnotherProgramIsRespectedUntilThatDies)
 {
     TestFolder folder;
-    const QString project = folder.Write(QStringLiteral("a.prj"), "PK");
+    const QString project = folder.Write("a.prj"_s, "PK");
     QProcess other;
-    other.start(QStringLiteral(ORVAN_SAVER), {QStringLiteral("lock"), project});
+    other.start(QStringLiteral(ORVAN_SAVER), {"lock"_s, project});
     ASSERT_TRUE(other.waitForReadyRead());
 
-    const QString link = folder.Path(QStringLiteral("link.prj"));
+    const QString link = folder.Path("link.prj"_s);
     ASSERT_TRUE(QFile::link(project, link));
     CProjectLock lock(link);
     QString holder;
@@ -34,8 +34,8 @@ TEST(ProjectLockTest, LockOfAnotherProgramIsRespectedUntilThatDies)
 TEST(ProjectLockTest, LockFileWithoutAHolderIsTakenOverOnceItIsOld)
 {
     TestFolder folder;
-    const QString project = folder.Path(QStringLiteral("a.prj"));
-    const QString abandoned = folder.Write(QStringLiteral("a.prj.lock"), QByteArray());
+    const QString project = folder.Path("a.prj"_s);
+    const QString abandoned = folder.Write("a.prj.lock"_s, QByteArray());
     CProjectLock lock(project);
     EXPECT_FALSE(lock.Lock());
     ASSERT_TRUE(SetFileTime(abandoned, QDateTime::currentDateTime().addSecs(-60)));

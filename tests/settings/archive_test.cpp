@@ -23,7 +23,7 @@ struct Raw
 /// An archive as somebody else's program would write it, hostile ones included.
 QString MakeArchive(const TestFolder& folder, const QList<Raw>& entries)
 {
-    const QString path = folder.Path(QStringLiteral("made.zip"));
+    const QString path = folder.Path("made.zip"_s);
     zip_t* archive = zip_open(QFile::encodeName(path).constData(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
     for (const Raw& entry : entries) {
         zip_source_t* source = zip_source_buffer(archive, entry.content.constData(), entry.content.size(), 0);
@@ -47,7 +47,7 @@ void Patch(const QString& path, const QByteArray& signature, int offset, const Q
 
 bool Unpack(const TestFolder& folder, const QString& path, QString* error = nullptr)
 {
-    return UnpackArchive(path, folder.Path(QStringLiteral("in/out")), {}, error);
+    return UnpackArchive(path, folder.Path("in/out"_s), {}, error);
 }
 
 } // namespace
@@ -56,23 +56,22 @@ TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
 {
     TestFolder folder;
     // Plain, Chinese, outside GBK, outside the basic plane, and GBK bytes that happen to be valid UTF-8.
-    const QStringList names = {QStringLiteral("x.txt"),        QString::fromUtf8("箱体 1.rcvbp"),
-                               QString::fromUtf8("ģ ñ.txt"),   QString::fromUtf8("😀.txt"),
-                               QString::fromUtf8("子/模.txt"), QStringLiteral(".x.txt.part")};
+    const QStringList names = {"x.txt"_s, "箱体 1.rcvbp"_s, "ģ ñ.txt"_s,
+                               "😀.txt"_s, "子/模.txt"_s,    ".x.txt.part"_s};
     for (const QString& name : names)
-        folder.Write(QStringLiteral("屏幕B/") + name, name.toUtf8().repeated(100));
-    folder.Write(QStringLiteral("屏幕B/empty"), QByteArray());
-    QDir().mkpath(folder.Path(QStringLiteral("屏幕B/void")));
-    QFile::link(folder.Path(QStringLiteral("屏幕B/x.txt")), folder.Path(QStringLiteral("屏幕B/link")));
+        folder.Write("屏幕B/"_s + name, name.toUtf8().repeated(100));
+    folder.Write("屏幕B/empty"_s, QByteArray());
+    QDir().mkpath(folder.Path("屏幕B/void"_s));
+    QFile::link(folder.Path("屏幕B/x.txt"_s), folder.Path("屏幕B/link"_s));
 
     // The archive lies in the folder that it packs and must not pack itself.
-    const QString path = folder.Path(QStringLiteral("屏幕B/a.zip"));
+    const QString path = folder.Path("屏幕B/a.zip"_s);
     QString error;
-    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("屏幕B/")), path, &error)) << qPrintable(error);
+    ASSERT_TRUE(PackFolder(folder.Path("屏幕B/"_s), path, &error)) << qPrintable(error);
     const QByteArray first = ReadFile(path);
-    folder.Write(QStringLiteral("屏幕B/x.txt"), ReadFile(folder.Path(QStringLiteral("屏幕B/x.txt"))));
-    QFile::setPermissions(folder.Path(QStringLiteral("屏幕B/x.txt")), QFile::ReadOwner | QFile::WriteOwner);
-    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("屏幕B")), path, &error)) << qPrintable(error);
+    folder.Write("屏幕B/x.txt"_s, ReadFile(folder.Path("屏幕B/x.txt"_s)));
+    QFile::setPermissions(folder.Path("屏幕B/x.txt"_s), QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_TRUE(PackFolder(folder.Path("屏幕B"_s), path, &error)) << qPrintable(error);
     EXPECT_EQ(ReadFile(path), first);
     EXPECT_TRUE(first.contains("/\xD7\xD3/\xC4\xA3.txt")) << "GBK where that holds the name";
     EXPECT_TRUE(first.contains("/\xF0\x9F\x98\x80.txt"));
@@ -81,30 +80,29 @@ TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
         marked += (first.at(at + 9) & 8) != 0;
     EXPECT_EQ(marked, 2) << "names in UTF-8 say so";
 
-    const QString out = folder.Path(QStringLiteral("out"));
+    const QString out = folder.Path("out"_s);
     ASSERT_TRUE(UnpackArchive(path, out, {}, &error)) << qPrintable(error);
     for (const QString& name : names)
-        EXPECT_EQ(ReadFile(out + QStringLiteral("/屏幕B/") + name), name.toUtf8().repeated(100))
-            << qPrintable(name);
-    EXPECT_TRUE(QFileInfo(out + QStringLiteral("/屏幕B/empty")).isFile());
-    EXPECT_TRUE(QFileInfo(out + QStringLiteral("/屏幕B/void")).isDir());
+        EXPECT_EQ(ReadFile(out + "/屏幕B/"_s + name), name.toUtf8().repeated(100)) << qPrintable(name);
+    EXPECT_TRUE(QFileInfo(out + "/屏幕B/empty"_s).isFile());
+    EXPECT_TRUE(QFileInfo(out + "/屏幕B/void"_s).isDir());
     const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    EXPECT_EQ(QDir(out + QStringLiteral("/屏幕B")).entryList(all).size(), 8);
+    EXPECT_EQ(QDir(out + "/屏幕B"_s).entryList(all).size(), 8);
 }
 
 TEST(ArchiveTest, FailedPackingKeepsTheOldArchiveAndAnEmptyFolderIsOne)
 {
     TestFolder folder;
-    const QString path = folder.Write(QStringLiteral("a.zip"), "old");
+    const QString path = folder.Write("a.zip"_s, "old");
     QString error;
-    EXPECT_FALSE(PackFolder(folder.Path(QStringLiteral("missing")), path, &error));
-    QFile large(folder.Write(QStringLiteral("B/large"), "1"));
+    EXPECT_FALSE(PackFolder(folder.Path("missing"_s), path, &error));
+    QFile large(folder.Write("B/large"_s, "1"));
     ASSERT_TRUE(large.resize(kMaxArchiveEntrySize + 1)); // sparse
-    EXPECT_FALSE(PackFolder(folder.Path(QStringLiteral("B")), path, &error));
+    EXPECT_FALSE(PackFolder(folder.Path("B"_s), path, &error));
     EXPECT_FALSE(error.isEmpty());
     EXPECT_EQ(ReadFile(path), "old");
     ASSERT_TRUE(large.remove());
-    ASSERT_TRUE(PackFolder(folder.Path(QStringLiteral("B")), path));
+    ASSERT_TRUE(PackFolder(folder.Path("B"_s), path));
     EXPECT_TRUE(Unpack(folder, path));
 }
 
@@ -117,11 +115,10 @@ TEST(ArchiveTest, EntryThatLeadsOutStopsUnpackingAndWritesNothing)
         TestFolder folder;
         const QString path = MakeArchive(folder, {{"good", "1"}, {name, "evil"}, {"late", "1"}});
         EXPECT_FALSE(Unpack(folder, path)) << name;
-        const QDir out(folder.Path(QStringLiteral("in/out")));
-        EXPECT_EQ(out.entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-                  QStringList(QStringLiteral("good")));
-        EXPECT_FALSE(QFileInfo::exists(folder.Path(QStringLiteral("in/evil")))) << name;
-        EXPECT_FALSE(QFileInfo::exists(folder.Path(QStringLiteral("evil")))) << name;
+        const QDir out(folder.Path("in/out"_s));
+        EXPECT_EQ(out.entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("good"_s));
+        EXPECT_FALSE(QFileInfo::exists(folder.Path("in/evil"_s))) << name;
+        EXPECT_FALSE(QFileInfo::exists(folder.Path("evil"_s))) << name;
     }
 }
 
@@ -130,8 +127,8 @@ TEST(ArchiveTest, LinksAndEncryptedAndDamagedEntriesAreRefused)
     TestFolder folder;
     EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"link", "/etc", S_IFLNK | 0777}})));
     EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"secret", "text", S_IFREG, "key"}})));
-    EXPECT_FALSE(Unpack(folder, folder.Write(QStringLiteral("empty.zip"), QByteArray())));
-    EXPECT_FALSE(Unpack(folder, folder.Write(QStringLiteral("text.zip"), "no archive at all")));
+    EXPECT_FALSE(Unpack(folder, folder.Write("empty.zip"_s, QByteArray())));
+    EXPECT_FALSE(Unpack(folder, folder.Write("text.zip"_s, "no archive at all")));
 
     const std::pair<int, QByteArray> lies[] = {{24, QByteArray("\x10\0\0\0", 4)}, // declares 16 bytes
                                                {24, QByteArray("\0\0\0\x7F", 4)}, // declares 2 GiB
@@ -142,7 +139,7 @@ TEST(ArchiveTest, LinksAndEncryptedAndDamagedEntriesAreRefused)
         Patch(path, "PK\3\4", offset - 2, bytes);
         EXPECT_FALSE(Unpack(folder, path)) << offset;
     }
-    EXPECT_TRUE(QDir(folder.Path(QStringLiteral("in/out"))).isEmpty());
+    EXPECT_TRUE(QDir(folder.Path("in/out"_s)).isEmpty());
 }
 
 TEST(ArchiveTest, NulInANameIsSeenBeforeACommentToo)
@@ -153,7 +150,7 @@ TEST(ArchiveTest, NulInANameIsSeenBeforeACommentToo)
     for (const QByteArray& archive : {plain, commented}) {
         for (const char replacement : {' ', '\0'}) {
             const QByteArray content = QByteArray(archive).replace('#', replacement);
-            EXPECT_EQ(Unpack(folder, folder.Write(QStringLiteral("a.zip"), content)), replacement == ' ');
+            EXPECT_EQ(Unpack(folder, folder.Write("a.zip"_s, content)), replacement == ' ');
         }
     }
 }
@@ -161,38 +158,38 @@ TEST(ArchiveTest, NulInANameIsSeenBeforeACommentToo)
 TEST(ArchiveTest, DamagedEntryCostsNoOldFileAndEachFailureNamesWhatItIsOf)
 {
     TestFolder folder;
-    const QString old = folder.Write(QStringLiteral("in/out/file"), "old");
+    const QString old = folder.Write("in/out/file"_s, "old");
     const QString damaged = MakeArchive(folder, {{"file", "new"}});
     Patch(damaged, "PK\1\2", 16, "abcd"); // checksum
     QString error;
     EXPECT_FALSE(Unpack(folder, damaged, &error));
-    EXPECT_TRUE(error.endsWith(QLatin1String(" file"))) << error.toStdString();
+    EXPECT_TRUE(error.endsWith(" file"_s)) << error.toStdString();
     EXPECT_EQ(ReadFile(old), "old");
-    EXPECT_EQ(QDir(folder.Path(QStringLiteral("in/out"))).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    EXPECT_EQ(QDir(folder.Path("in/out"_s)).entryList(QDir::Files | QDir::Hidden).size(), 1);
 
-    QDir().mkpath(folder.Path(QStringLiteral("in/out/folder")));
+    QDir().mkpath(folder.Path("in/out/folder"_s));
     EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"folder", "new"}}), &error));
-    EXPECT_TRUE(error.contains(QStringLiteral("/in/out/folder”：Is a directory"))) << error.toStdString();
+    EXPECT_TRUE(error.contains("/in/out/folder”：Is a directory"_s)) << error.toStdString();
     EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"file/x", "new"}}), &error));
-    EXPECT_TRUE(error.contains(QStringLiteral("/in/out/file”：Not a directory"))) << error.toStdString();
+    EXPECT_TRUE(error.contains("/in/out/file”：Not a directory"_s)) << error.toStdString();
     EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{QByteArray("d/").repeated(3000) + 'x', "1"}}), &error));
-    EXPECT_TRUE(error.endsWith(QLatin1String("File name too long"))) << error.right(40).toStdString();
-    EXPECT_FALSE(Unpack(folder, folder.Path(QStringLiteral("missing.zip")), &error));
-    EXPECT_TRUE(error.contains(QStringLiteral("/missing.zip”：No such file"))) << error.toStdString();
+    EXPECT_TRUE(error.endsWith("File name too long"_s)) << error.right(40).toStdString();
+    EXPECT_FALSE(Unpack(folder, folder.Path("missing.zip"_s), &error));
+    EXPECT_TRUE(error.contains("/missing.zip”：No such file"_s)) << error.toStdString();
 }
 
 TEST(ArchiveTest, NothingIsWrittenThroughALinkAndOldFilesAreReplaced)
 {
     TestFolder folder;
-    const QString outside = folder.Write(QStringLiteral("outside/file"), "old");
-    folder.Write(QStringLiteral("in/out/plain"), "a longer old text");
-    QFile::link(outside, folder.Path(QStringLiteral("in/out/file")));
+    const QString outside = folder.Write("outside/file"_s, "old");
+    folder.Write("in/out/plain"_s, "a longer old text");
+    QFile::link(outside, folder.Path("in/out/file"_s));
     ASSERT_TRUE(Unpack(folder, MakeArchive(folder, {{"file", "new"}, {"plain", "new"}})));
     EXPECT_EQ(ReadFile(outside), "old");
-    EXPECT_EQ(ReadFile(folder.Path(QStringLiteral("in/out/file"))), "new");
-    EXPECT_EQ(ReadFile(folder.Path(QStringLiteral("in/out/plain"))), "new");
+    EXPECT_EQ(ReadFile(folder.Path("in/out/file"_s)), "new");
+    EXPECT_EQ(ReadFile(folder.Path("in/out/plain"_s)), "new");
 
-    QFile::link(folder.Path(QStringLiteral("outside")), folder.Path(QStringLiteral("in/out/sub")));
+    QFile::link(folder.Path("outside"_s), folder.Path("in/out/sub"_s));
     EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"sub/file", "new"}})));
     EXPECT_EQ(ReadFile(outside), "old");
 }
@@ -202,9 +199,9 @@ TEST(ArchiveTest, OnlyTheWantedEntriesAreUnpacked)
     TestFolder folder;
     const QString path =
         MakeArchive(folder, {{"other/x", "1"}, {"project\\new.prj", "2"}, {"projects", "3"}});
-    const QString out = folder.Path(QStringLiteral("out"));
-    const auto below = [](const QString& name) { return name.startsWith(QLatin1String("project/")); };
+    const QString out = folder.Path("out"_s);
+    const auto below = [](const QString& name) { return name.startsWith("project/"_s); };
     EXPECT_TRUE(UnpackArchive(path, out, below));
-    EXPECT_EQ(ReadFile(out + QStringLiteral("/project/new.prj")), "2");
+    EXPECT_EQ(ReadFile(out + "/project/new.prj"_s), "2");
     EXPECT_EQ(QDir(out).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
 }

@@ -21,13 +21,13 @@ TEST(ConfigDataTest, FileThatIsNoSettingsDocumentIsKeptBesideTheDefaults)
 {
     for (const QByteArray& content : {QByteArray(), QByteArray("<Other/>"), kOneItem.left(60)}) {
         TestFolder folder;
-        const QString path = folder.Write(QStringLiteral("SystemConfig.xml"), content);
-        folder.Write(QStringLiteral("SystemConfig.xml.bak"), "an older one");
+        const QString path = folder.Write("SystemConfig.xml"_s, content);
+        folder.Write("SystemConfig.xml.bak"_s, "an older one");
         CConfigData config;
         config.SetShowGrid(false);
         EXPECT_FALSE(config.Load(path)) << content.left(40).constData();
         EXPECT_TRUE(config.IsShowGrid());
-        EXPECT_EQ(ReadFile(path + QStringLiteral(".bak")), content.isEmpty() ? "an older one" : content);
+        EXPECT_EQ(ReadFile(path + ".bak"_s), content.isEmpty() ? "an older one" : content);
         EXPECT_TRUE(CConfigData().Load(path));
     }
 }
@@ -38,7 +38,7 @@ TEST(ConfigDataTest, MissingItemsKeepTheirValuesOnReading)
     CConfigData config;
     config.SetDetectStrategy(2);
     config.SetAttractionDis(50); // no file may say so
-    EXPECT_TRUE(config.XmlLoad(folder.Write(QStringLiteral("a.xml"), kOneItem)));
+    EXPECT_TRUE(config.XmlLoad(folder.Write("a.xml"_s, kOneItem)));
     EXPECT_EQ(config.GetAttractionDis(), 50);
     EXPECT_FALSE(config.IsShowGrid());
     EXPECT_EQ(config.GetDetectStrategy(), 2);
@@ -46,27 +46,27 @@ TEST(ConfigDataTest, MissingItemsKeepTheirValuesOnReading)
 
 TEST(ConfigDataTest, DefaultsWriteTheWatermarkBesideOtherKeys)
 {
-    const QString path = QDir::homePath() + QStringLiteral("/Documents/Orvan/LedConfig/ProductList.ini");
-    QSettings(path, QSettings::IniFormat).setValue(QStringLiteral("ProductListInfo/Product1"), 1);
+    const QString path = QDir::homePath() + "/Documents/Orvan/LedConfig/ProductList.ini"_s;
+    QSettings(path, QSettings::IniFormat).setValue("ProductListInfo/Product1"_s, 1);
     EXPECT_TRUE(CConfigData().SetToDefault());
     const QSettings file(path, QSettings::IniFormat);
-    EXPECT_EQ(file.value(QStringLiteral("Setup/PrintWatermark")).toString(), QStringLiteral("Vantrel"));
-    EXPECT_EQ(file.value(QStringLiteral("ProductListInfo/Product1")).toInt(), 1);
+    EXPECT_EQ(file.value("Setup/PrintWatermark"_s).toString(), "Vantrel"_s);
+    EXPECT_EQ(file.value("ProductListInfo/Product1"_s).toInt(), 1);
 }
 
 TEST(ConfigDataTest, FirstLanguageAfterEachLoadKeepsTheOneLoaded)
 {
     TestFolder folder;
-    const QString path = folder.Write(QStringLiteral("a.xml"), kOneItem);
+    const QString path = folder.Write("a.xml"_s, kOneItem);
     CConfigData config;
     for (int round = 0; round < 2; ++round) {
         ASSERT_TRUE(config.Load(path));
         config.SetLanguage(LanguageChinese);
         EXPECT_EQ(config.GetLanguageType(), LanguageJapanese);
-        EXPECT_TRUE(config.GetLanguageFilePath().endsWith(QLatin1String("/Language/orvandata_ja.qm")));
+        EXPECT_TRUE(config.GetLanguageFilePath().endsWith("/Language/orvandata_ja.qm"_s));
         config.SetLanguage(LanguageChinese);
         EXPECT_EQ(config.GetLanguageType(), LanguageChinese);
-        EXPECT_TRUE(config.GetLanguageFilePath().endsWith(QLatin1String("/Language/orvandata_zh_CN.qm")));
+        EXPECT_TRUE(config.GetLanguageFilePath().endsWith("/Language/orvandata_zh_CN.qm"_s));
     }
 }
 
@@ -79,7 +79,7 @@ TEST(ConfigDataTest, LanguageFollowsTheLocaleWhenAsked)
     EXPECT_EQ(config.GetLanguageType(), LanguagePortuguese);
     QByteArray content = kOneItem;
     content.replace("<Language>", "<AutoSelectLanguage>1</AutoSelectLanguage><Language>");
-    ASSERT_TRUE(config.Load(folder.Write(QStringLiteral("a.xml"), content)));
+    ASSERT_TRUE(config.Load(folder.Write("a.xml"_s, content)));
     EXPECT_EQ(config.GetLanguageType(), LanguagePortuguese);
     QLocale::setDefault(QLocale(QLocale::Finnish));
     EXPECT_EQ(GetSystemLanguage(), LanguageEnglish);
@@ -94,7 +94,7 @@ TEST(ConfigDataTest, SavingWhileMonitoringWritesTheStatesFromBefore)
         bool StoredReadOnly(int interface) const override { return interface == InterfaceControl; }
     } monitoring;
     TestFolder folder;
-    const QString path = folder.Path(QStringLiteral("a.xml"));
+    const QString path = folder.Path("a.xml"_s);
     CConfigData config;
     config.Load(path);
     for (int i = 0; i < kInterfaceCount; ++i)
@@ -118,7 +118,7 @@ TEST(ConfigDataTest, RecentProjectsAreFiveDifferentOnesNewestFirst)
     QString all;
     for (int i = -1; i <= config.GetProjectRecordCount(); ++i)
         all += config.GetProjectRecordPath(i);
-    EXPECT_EQ(all, QStringLiteral("fcedb"));
+    EXPECT_EQ(all, "fcedb"_s);
 }
 
 TEST(ConfigDataTest, SettersKeepValuesThatAFileCanHold)
@@ -128,7 +128,7 @@ TEST(ConfigDataTest, SettersKeepValuesThatAFileCanHold)
     EXPECT_FLOAT_EQ(config.GetDeviceInformationLayoutSize(), 45.68f);
     config.SetCustomerTileSize(QSize(0, 4000));
     EXPECT_EQ(config.GetCustomerTileSize(), QSize(1, 1024));
-    config.SetUiStyles({{QStringLiteral("A"), QString()}});
+    config.SetUiStyles({{"A"_s, QString()}});
     EXPECT_EQ(config.GetCurrentUiStyle(), 0);
 }
 
@@ -136,16 +136,16 @@ TEST(ConfigDataTest, HotkeyIsRefusedWhenItsKeyIsUnknownOrTaken)
 {
     CConfigData config;
     const SHotkey undo = config.GetHotkey(1, 4);
-    EXPECT_EQ(config.FindHotkey(1, QStringLiteral("ctrl+z")), 4);
+    EXPECT_EQ(config.FindHotkey(1, "ctrl+z"_s), 4);
     EXPECT_FALSE(config.SetHotkey(1, 5, undo));
     EXPECT_TRUE(config.SetHotkey(2, 5, undo));
     SHotkey changed = undo;
-    changed.hotkey = QStringLiteral("Ctrl+Nothing");
+    changed.hotkey = "Ctrl+Nothing"_s;
     EXPECT_FALSE(config.SetHotkey(1, 4, changed));
     changed.enable = false;
-    changed.hotkey = QStringLiteral("F5");
+    changed.hotkey = "F5"_s;
     EXPECT_TRUE(config.SetHotkey(1, 4, changed));
-    EXPECT_EQ(config.FindHotkey(1, QStringLiteral("F5")), -1);
+    EXPECT_EQ(config.FindHotkey(1, "F5"_s), -1);
     config.SetHotkeysToDefault();
     EXPECT_EQ(config.GetHotkey(1, 4).hotkey, undo.hotkey);
 }
@@ -169,14 +169,14 @@ TEST(ConfigDataTest, BrokenFileIsNotOverwrittenBeforeItIsKeptBeside)
     for (const auto& file : files) {
         TestFolder folder;
         const QString path = folder.Write(QLatin1String(file.name), file.broken);
-        const QString kept = path + QStringLiteral(".bak");
+        const QString kept = path + ".bak"_s;
         QDir().mkpath(kept);
         config.SetEnableRotate(true);
         EXPECT_FALSE(file.load(config, path));
-        EXPECT_EQ(config.IsEnableRotate(), !path.endsWith(QLatin1String("ini")));
+        EXPECT_EQ(config.IsEnableRotate(), !path.endsWith("ini"_s));
         config.SetEnableRotate(true);
         EXPECT_FALSE(file.save(config)) << file.name;
-        EXPECT_FALSE(path.endsWith(QLatin1String("xml")) && config.XmlSave(path));
+        EXPECT_FALSE(path.endsWith("xml"_s) && config.XmlSave(path));
         EXPECT_TRUE(ReadFile(path) == file.broken) << file.name;
         QDir().rmdir(kept);
         EXPECT_TRUE(file.save(config));

@@ -17,15 +17,15 @@ SConfigItems Read(const QByteArray& items)
 {
     TestFolder folder;
     SConfigItems read;
-    EXPECT_TRUE(ReadConfigFile(folder.Write(QStringLiteral("c.xml"), Wrapped(items)), &read));
+    EXPECT_TRUE(ReadConfigFile(folder.Write("c.xml"_s, Wrapped(items)), &read));
     return read;
 }
 
 QByteArray Written(const SConfigItems& items)
 {
     TestFolder folder;
-    EXPECT_TRUE(WriteConfigFile(folder.Path(QStringLiteral("c.xml")), items));
-    return ReadFile(folder.Path(QStringLiteral("c.xml")));
+    EXPECT_TRUE(WriteConfigFile(folder.Path("c.xml"_s), items));
+    return ReadFile(folder.Path("c.xml"_s));
 }
 
 } // namespace
@@ -51,22 +51,22 @@ TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)
 {
     const SConfigItems records = Read("<ProjectRecord1/><ProjectRecord2>b</ProjectRecord2>"
                                       "<ProjectRecord3>b</ProjectRecord3><ProjectRecord5>c</ProjectRecord5>");
-    EXPECT_EQ(records.projectRecords[0], QStringLiteral("b"));
-    EXPECT_EQ(records.projectRecords[1], QStringLiteral("c"));
+    EXPECT_EQ(records.projectRecords[0], "b"_s);
+    EXPECT_EQ(records.projectRecords[1], "c"_s);
 
     const SConfigItems styles = Read("<UiStyleEx><UiCount>2000000000</UiCount><UiCurrent>7</UiCurrent>"
                                      "<UiStyle1 Path=\"StyleDark\" Name=\"Style A\"/><UiStyle2 Path=\"\"/>"
                                      "<UiStyle3 Path=\"C\"/><UiStyle4 Path=\"D\"/></UiStyleEx>");
     ASSERT_EQ(styles.uiStyles.size(), 3);
-    EXPECT_EQ(styles.uiStyles[0].name, QStringLiteral("Style Dark"));
-    EXPECT_EQ(styles.uiStyles[1].name, QStringLiteral("C"));
+    EXPECT_EQ(styles.uiStyles[0].name, "Style Dark"_s);
+    EXPECT_EQ(styles.uiStyles[1].name, "C"_s);
     EXPECT_FALSE(Written(styles).contains("Name="));
     EXPECT_EQ(styles.currentUiStyle, 0);
 
     const SConfigItems hotkeys = Read("<HotkeyQT><Item1 Enable=\"true\" HotKeyValue=\"ctrl+shift+q\"/>"
                                       "<Item2 Enable=\"no\" HotKeyValue=\"no key\"/></HotkeyQT>");
     EXPECT_TRUE(hotkeys.hotkeys[0][0].enable);
-    EXPECT_EQ(hotkeys.hotkeys[0][0].hotkey, QStringLiteral("Ctrl+Shift+Q"));
+    EXPECT_EQ(hotkeys.hotkeys[0][0].hotkey, "Ctrl+Shift+Q"_s);
     EXPECT_FALSE(hotkeys.hotkeys[0][1].enable);
     EXPECT_EQ(hotkeys.hotkeys[0][1].hotkey, SConfigItems().hotkeys[0][1].hotkey);
 }

@@ -18,14 +18,13 @@ TEST(ConstantDataTest, FileNamesThatDoNotExistYetBecomeFolders)
     SetSettingsLookup(&english);
     const QString log = CConstantData::GetLogPath();
     SetSettingsLookup(nullptr);
-    EXPECT_TRUE(log.endsWith(QLatin1String("/Documents/Orvan/SysConfig/ReleaseNotesEN.txt")))
-        << qPrintable(log);
+    EXPECT_TRUE(log.endsWith("/Documents/Orvan/SysConfig/ReleaseNotesEN.txt"_s)) << qPrintable(log);
     EXPECT_TRUE(QFileInfo(log).isDir());
     EXPECT_FALSE(QFileInfo::exists(CConstantData::GetLatestProjectDir()));
     const QString images = CConstantData::GetBKImagePath();
     EXPECT_TRUE(QFileInfo(images).isDir());
-    EXPECT_EQ(CConstantData::GetSenderBKImgName(0, true), images + QStringLiteral("/Sender_1.png"));
-    EXPECT_EQ(CConstantData::GetSenderBKImgName(-1, false), QStringLiteral("/Layout.png"));
+    EXPECT_EQ(CConstantData::GetSenderBKImgName(0, true), images + "/Sender_1.png"_s);
+    EXPECT_EQ(CConstantData::GetSenderBKImgName(-1, false), "/Layout.png"_s);
 }
 
 TEST(ConstantDataTest, ColorsAndBrightnessKeepTheirOddRules)
@@ -34,8 +33,8 @@ TEST(ConstantDataTest, ColorsAndBrightnessKeepTheirOddRules)
     EXPECT_EQ(CConstantData::GetColorByPort(-1), QColor(65, 100, 150));
     const QColor half(1, 2, 3, 127); // only below half opacity a text reads back
     EXPECT_EQ(CConstantData::GetColorFromQString(CConstantData::GetColortoQString(half)), half);
-    EXPECT_EQ(CConstantData::GetColortoQString(Qt::black), QStringLiteral("4278190080"));
-    EXPECT_EQ(CConstantData::GetColorFromQString(QStringLiteral("4278190080")), QColor(0, 0, 0, 0));
+    EXPECT_EQ(CConstantData::GetColortoQString(Qt::black), "4278190080"_s);
+    EXPECT_EQ(CConstantData::GetColorFromQString("4278190080"_s), QColor(0, 0, 0, 0));
     EXPECT_EQ(CConstantData::GetBightnessFromPercent(50, true), 128) << "rounded half away from zero";
     EXPECT_EQ(CConstantData::GetBightnessFromPercent(-50, true), -128);
     EXPECT_EQ(CConstantData::GetBightnessFromPercent(50, false), 193); // 0.5 ^ 0.4 is 0.7579
@@ -44,18 +43,16 @@ TEST(ConstantDataTest, ColorsAndBrightnessKeepTheirOddRules)
 TEST(ConstantDataTest, FilesAreHashedWithAndWithoutTheScratchName)
 {
     TestFolder folder;
-    const QString empty = folder.Write(QStringLiteral("空.rcvbp"), QByteArray());
-    const QString abc = folder.Write(QStringLiteral("abc.rcvbp"), "abc");
-    const QString scratch = QDir::homePath() + QStringLiteral("/Documents/tmpfile");
-    EXPECT_EQ(CConstantData::GetMD5FromFile(empty).ToString(),
-              QStringLiteral("d41d8cd98f00b204e9800998ecf8427e"));
+    const QString empty = folder.Write("空.rcvbp"_s, QByteArray());
+    const QString abc = folder.Write("abc.rcvbp"_s, "abc");
+    const QString scratch = QDir::homePath() + "/Documents/tmpfile"_s;
+    EXPECT_EQ(CConstantData::GetMD5FromFile(empty).ToString(), "d41d8cd98f00b204e9800998ecf8427e"_s);
     EXPECT_FALSE(QFileInfo::exists(scratch));
 
     for (const QByteArray& others : {QByteArray("somebody else's"), QByteArray()}) {
         WriteFile(scratch, others);
-        EXPECT_EQ(CConstantData::GetMD5FromFile(abc).ToString(),
-                  QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
-        EXPECT_TRUE(CConstantData::GetMD5FromFile(folder.Path(QStringLiteral("missing"))).IsNull());
+        EXPECT_EQ(CConstantData::GetMD5FromFile(abc).ToString(), "900150983cd24fb0d6963f7d28e17f72"_s);
+        EXPECT_TRUE(CConstantData::GetMD5FromFile(folder.Path("missing"_s)).IsNull());
         EXPECT_TRUE(QFile::exists(scratch));
         EXPECT_EQ(ReadFile(scratch), others);
     }
@@ -65,19 +62,19 @@ TEST(ConstantDataTest, FilesAreHashedWithAndWithoutTheScratchName)
 TEST(ConstantDataTest, TemporaryProjectNeverShowsAnEarlierOne)
 {
     TestFolder folder;
-    folder.Write(QStringLiteral("SaveProject/card.prj"), "first");
-    const QString archive = folder.Path(QStringLiteral("a.prj"));
-    CConstantData::ZipFile(folder.Path(QStringLiteral("SaveProject")), archive);
+    folder.Write("SaveProject/card.prj"_s, "first");
+    const QString archive = folder.Path("a.prj"_s);
+    CConstantData::ZipFile(folder.Path("SaveProject"_s), archive);
     const QString document = CConstantData::GetTmpProjectDataPath(archive);
     EXPECT_EQ(ReadFile(document), "first");
-    EXPECT_EQ(CConstantData::GetTmpProjectDataPath(folder.Path(QStringLiteral("missing"))), document);
+    EXPECT_EQ(CConstantData::GetTmpProjectDataPath(folder.Path("missing"_s)), document);
     EXPECT_FALSE(QFileInfo::exists(document));
 }
 
 TEST(ConstantDataTest, ClearingLeavesALinkInTheTemporaryFoldersPlace)
 {
     TestFolder folder;
-    const QString kept = folder.Write(QStringLiteral("kept"), "1");
+    const QString kept = folder.Write("kept"_s, "1");
     const QString temporary = CConstantData::GetTmpFilePath();
     CConstantData::ClearTmpFilePath();
     EXPECT_FALSE(QFileInfo::exists(temporary));

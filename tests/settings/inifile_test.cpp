@@ -25,24 +25,24 @@ QVariantMap Read(const QString& path)
 TEST(IniFileTest, QSettingsAndWeReadWhatTheOtherWrote)
 {
     const QVariantMap values = {
-        {QStringLiteral("General/bool"), true},
-        {QStringLiteral("bytes"), QByteArray("\0\xff\"(,", 5)},
-        {QStringLiteral("colour"), QColor(1, 2, 3)},
-        {QStringLiteral("float"), QVariant::fromValue(1.5F)},
-        {QStringLiteral("keys"), QKeySequence(Qt::CTRL + Qt::Key_A)},
-        {QStringLiteral("line"), QLineF(1, 2, 3, 4)},
-        {QStringLiteral("list"), QVariantList{QDate(2026, 1, 2), QTime(3, 4), QStringLiteral("@a")}},
-        {QStringLiteral("nothing"), QVariant()},
-        {QStringLiteral("rect"), QRect(-1, 2, 3, 4)},
-        {QStringLiteral("s/屏 %=;[/point"), QPoint(1, -2)},
-        {QStringLiteral("s/size"), QSize(3, 4)},
-        {QStringLiteral("text"), QStringLiteral(" é屏@b, \\@c\n\"d\"=;\x01"
-                                                "1\x7f")},
-        {QStringLiteral("text that looks typed"), QStringLiteral("@Variant(b)")},
-        {QStringLiteral("text with NUL"), QStringLiteral("@DateTime(") + QChar(0)},
-        {QStringLiteral("texts"), QStringList{QString(), QStringLiteral(" a "), QStringLiteral("@b")}},
-        {QStringLiteral("time"), QDateTime(QDate(2026, 1, 2), QTime(3, 4), Qt::UTC)},
-        {QStringLiteral("url"), QUrl(QStringLiteral("http://a.example/b"))},
+        {"General/bool"_s, true},
+        {"bytes"_s, QByteArray("\0\xff\"(,", 5)},
+        {"colour"_s, QColor(1, 2, 3)},
+        {"float"_s, QVariant::fromValue(1.5F)},
+        {"keys"_s, QKeySequence(Qt::CTRL + Qt::Key_A)},
+        {"line"_s, QLineF(1, 2, 3, 4)},
+        {"list"_s, QVariantList{QDate(2026, 1, 2), QTime(3, 4), "@a"_s}},
+        {"nothing"_s, QVariant()},
+        {"rect"_s, QRect(-1, 2, 3, 4)},
+        {"s/屏 %=;[/point"_s, QPoint(1, -2)},
+        {"s/size"_s, QSize(3, 4)},
+        {"text"_s, " é屏@b, \\@c\n\"d\"=;\x01"
+                   "1\x7f"_s},
+        {"text that looks typed"_s, "@Variant(b)"_s},
+        {"text with NUL"_s, "@DateTime("_s + QChar(0)},
+        {"texts"_s, QStringList{QString(), " a "_s, "@b"_s}},
+        {"time"_s, QDateTime(QDate(2026, 1, 2), QTime(3, 4), Qt::UTC)},
+        {"url"_s, QUrl("http://a.example/b"_s)},
     };
     for (const char* codec : {static_cast<const char*>(nullptr), "UTF-8"}) {
         const TestFolder folder;
@@ -56,9 +56,9 @@ TEST(IniFileTest, QSettingsAndWeReadWhatTheOtherWrote)
         for (auto value = values.begin(); value != values.end(); ++value)
             theirs->setValue(value.key(), *value);
         theirs.reset();
-        ASSERT_TRUE(WriteIniValues(folder.Path(QStringLiteral("ours.ini")), values));
-        const QVariantMap read = Read(folder.Path(QStringLiteral("theirs.ini")));
-        EXPECT_EQ(read, Read(folder.Path(QStringLiteral("ours.ini"))));
+        ASSERT_TRUE(WriteIniValues(folder.Path("ours.ini"_s), values));
+        const QVariantMap read = Read(folder.Path("theirs.ini"_s));
+        EXPECT_EQ(read, Read(folder.Path("ours.ini"_s)));
         const auto ours = settings("ours.ini");
         for (auto value = values.begin(); value != values.end(); ++value) {
             EXPECT_EQ(ours->value(value.key()), read.value(value.key())) << value.key().toStdString();
@@ -72,28 +72,23 @@ TEST(IniFileTest, LinesStayAsTheyAreButForTheValueThatChanges)
     const TestFolder folder;
     const QByteArray before = "\xef\xbb\xbf; first\r\na = 1 ; why\n\n[s]\nb=\\x35\nb=\"x;\\\ny\";last\n"
                               "/=2\nt=@Variant(\\0\\0\\0\\t\\0\\0\\0\\0)\n[%GENERAL]\nc=1\n[empty]";
-    const QString path = folder.Write(QStringLiteral("a.ini"), before);
+    const QString path = folder.Write("a.ini"_s, before);
     QVariantMap values = Read(path);
-    EXPECT_EQ(values.keys().join(QLatin1Char(' ')), QStringLiteral("GENERAL/c a s/b s/t"));
+    EXPECT_EQ(values.keys().join(QLatin1Char(' ')), "GENERAL/c a s/b s/t"_s);
     ASSERT_TRUE(WriteIniValues(path, values));
     EXPECT_EQ(ReadFile(path), before + '\n');
 
-    values = {{QStringLiteral("a"), QStringLiteral("屏")},
-              {QStringLiteral("/s//b/"), 3},
-              {QStringLiteral("s/new"), 4},
-              {QStringLiteral("empty/d"), 5},
-              {QStringLiteral("x/y/z"), 6},
-              {QStringLiteral("e"), 7},
-              {QStringLiteral("GENERAL/f"), 8}};
+    values = {{"a"_s, "屏"_s}, {"/s//b/"_s, 3}, {"s/new"_s, 4},    {"empty/d"_s, 5},
+              {"x/y/z"_s, 6},  {"e"_s, 7},      {"GENERAL/f"_s, 8}};
     ASSERT_TRUE(WriteIniValues(path, values));
     EXPECT_EQ(ReadFile(path).toStdString(),
               "\xef\xbb\xbf; first\r\na =\\x5c4f; why\ne=7\n\n[s]\nb=\\x35\nb=3;last\n"
               "/=2\nt=@Variant(\\0\\0\\0\\t\\0\\0\\0\\0)\nnew=4\n[%GENERAL]\nc=1\nf=8\n[empty]\nd=5\n"
               "\n[x]\ny\\z=6\n");
-    EXPECT_FALSE(WriteIniValues(path, {{QStringLiteral("a"), QVariantMap()}}));
-    EXPECT_FALSE(WriteIniValues(path, {{QStringLiteral("//"), 1}}));
-    EXPECT_FALSE(WriteIniValues(path, {{QStringLiteral("a"), QString(1 << 22, QLatin1Char('a'))}}));
-    EXPECT_EQ(Read(path).value(QStringLiteral("a")), QStringLiteral("屏"));
+    EXPECT_FALSE(WriteIniValues(path, {{"a"_s, QVariantMap()}}));
+    EXPECT_FALSE(WriteIniValues(path, {{"//"_s, 1}}));
+    EXPECT_FALSE(WriteIniValues(path, {{"a"_s, QString(1 << 22, QLatin1Char('a'))}}));
+    EXPECT_EQ(Read(path).value("a"_s), "屏"_s);
 }
 
 TEST(IniFileTest, NoValueIsBuiltOfATypeThatAFileNames)
@@ -115,8 +110,7 @@ TEST(IniFileTest, NoValueIsBuiltOfATypeThatAFileNames)
                  {"@Variant(\\0\\0\\0\\x11\\0\\0\\0\\x1z)", QMetaType::QUrl}};
     for (const auto& given : cases) {
         const TestFolder folder;
-        const QVariant read =
-            Read(folder.Write(QStringLiteral("a.ini"), "a=" + given.value)).value(QStringLiteral("a"));
+        const QVariant read = Read(folder.Write("a.ini"_s, "a=" + given.value)).value("a"_s);
         EXPECT_EQ(read.userType(), given.type) << given.value.left(40).toStdString();
         EXPECT_TRUE(read.toList().isEmpty() || !read.toList().last().isValid());
     }
@@ -127,9 +121,9 @@ TEST(IniFileTest, WhatIsNoIniTextIsRefused)
     const TestFolder folder;
     for (const char* text : {"a", "[s\n]", "a=\"1\n[s]\n", "a=1\\\n", "a=1\\", "[s;]\n"}) {
         QVariantMap values;
-        const QString path = folder.Write(QStringLiteral("a.ini"), text);
+        const QString path = folder.Write("a.ini"_s, text);
         EXPECT_FALSE(ReadIniValues(path, &values)) << text;
-        EXPECT_FALSE(WriteIniValues(path, {{QStringLiteral("a"), 1}})) << text;
+        EXPECT_FALSE(WriteIniValues(path, {{"a"_s, 1}})) << text;
         EXPECT_EQ(ReadFile(path), text);
     }
 }

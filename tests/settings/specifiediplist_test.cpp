@@ -6,21 +6,19 @@
 TEST(SpecifiedIpListTest, OnlyDottedAddressesAreReadOnceAndInOrder)
 {
     TestFolder folder;
-    const QString path =
-        folder.Write(QStringLiteral("SpecifiedIPs.txt"),
-                     "\xEF\xBB\xBF"
-                     "192.0.2.9\r\n# 备注\n\n 010.1.2.3 \n192.0.2.9\n256.1.1.1\n1.2.3\n1.2.3.4.5\n"
-                     "1.2.3.-4\n1.2.3.0x4\n::1\nhost\n1.2.3.٤\n1..2.3\n203.0.113.1");
+    const QString path = folder.Write(
+        "SpecifiedIPs.txt"_s, "\xEF\xBB\xBF"
+                              "192.0.2.9\r\n# 备注\n\n 010.1.2.3 \n192.0.2.9\n256.1.1.1\n1.2.3\n1.2.3.4.5\n"
+                              "1.2.3.-4\n1.2.3.0x4\n::1\nhost\n1.2.3.٤\n1..2.3\n203.0.113.1");
     SpecifiedIpList list;
     EXPECT_FALSE(list.Save());
     ASSERT_TRUE(list.Load(path));
-    const QStringList expected = {QStringLiteral("192.0.2.9"), QStringLiteral("10.1.2.3"),
-                                  QStringLiteral("203.0.113.1")};
+    const QStringList expected = {"192.0.2.9"_s, "10.1.2.3"_s, "203.0.113.1"_s};
     EXPECT_EQ(list.Addresses(), expected);
-    EXPECT_TRUE(list.Remove(QStringLiteral("10.1.2.03")));
+    EXPECT_TRUE(list.Remove("10.1.2.03"_s));
     ASSERT_TRUE(list.Save());
     EXPECT_EQ(ReadFile(path), "192.0.2.9\n203.0.113.1\n");
-    EXPECT_FALSE(list.Load(folder.Path(QStringLiteral("missing"))));
+    EXPECT_FALSE(list.Load(folder.Path("missing"_s)));
     EXPECT_EQ(list.Addresses().size(), 2);
 }
 
@@ -28,8 +26,8 @@ TEST(SpecifiedIpListTest, ListEndsAt1024Addresses)
 {
     SpecifiedIpList list;
     for (int i = 0; i < 1024; ++i)
-        EXPECT_TRUE(list.Add(QStringLiteral("10.0.%1.%2").arg(i / 256).arg(i % 256)));
-    EXPECT_FALSE(list.Add(QStringLiteral("10.1.0.0")));
+        EXPECT_TRUE(list.Add("10.0.%1.%2"_s.arg(i / 256).arg(i % 256)));
+    EXPECT_FALSE(list.Add("10.1.0.0"_s));
 }
 
 TEST(SpecifiedIpListTest, AddressesOutsideEveryNetworkAreErrors)
@@ -39,7 +37,7 @@ TEST(SpecifiedIpListTest, AddressesOutsideEveryNetworkAreErrors)
         list.Add(QLatin1String(address));
     const QVector<Ipv4Network> networks = {
         {0x0A010001, 0xFFFF0000}, {0xC0A807FE, 0xFFFFFF80}, {0x0A080001, 0}};
-    const QStringList expected = {QStringLiteral("10.2.2.3"), QStringLiteral("192.168.7.127")};
+    const QStringList expected = {"10.2.2.3"_s, "192.168.7.127"_s};
     EXPECT_EQ(list.Outside(networks), expected);
     EXPECT_EQ(list.Outside({}), list.Addresses());
 }

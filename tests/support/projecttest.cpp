@@ -6,18 +6,18 @@
 
 bool ProjectTest::Load(const QString& path)
 {
-    version = QStringLiteral("untouched");
+    version = "untouched"_s;
     return project.LoadProjectFromFile(QFile::encodeName(path).constData(), version, nullptr);
 }
 
 bool ProjectTest::LoadText(const QByteArray& elements)
 {
     const QByteArray document = "<?xml version=\"1.0\"?><LedSetting>" + elements + "</LedSetting>";
-    return Load(folder.Write(QStringLiteral("a.xml"), document));
+    return Load(folder.Write("a.xml"_s, document));
 }
 
 QByteArray ProjectTest::Document()
 {
-    EXPECT_TRUE(Save(folder.Path(QStringLiteral("document.prj"))));
+    EXPECT_TRUE(Save(folder.Path("document.prj"_s)));
     return ReadFile(parameterwork::DocumentPath());
 }

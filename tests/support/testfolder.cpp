@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-TestFolder::TestFolder() : m_folder(QDir::tempPath() + QStringLiteral("/orvan 屏XXXXXX"))
+TestFolder::TestFolder() : m_folder(QDir::tempPath() + "/orvan 屏XXXXXX"_s)
 {
     Q_ASSERT(m_folder.isValid());
 }

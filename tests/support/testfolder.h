@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/text.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>

@@ -4,6 +4,7 @@
 #include "layout/sender.h"
 #include "layout/tile.h"
 #include "layout/tilegroup.h"
+#include "support/text.h"
 
 #include <QList>
 #include <QSize>
