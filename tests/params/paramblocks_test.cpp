@@ -12,14 +12,15 @@ using Project = CProjectData;
 
 namespace {
 
-struct Block
+struct ParamBlocksTest : testing::Test
 {
-    explicit Block(const QByteArray& content = QByteArray())
+    ParamBlocksTest() { Parse(QByteArray()); }
+
+    void Parse(const QByteArray& content)
     {
         EXPECT_TRUE(ParseXmlDom("<root>" + content + "</root>", document, nullptr));
         root = document.documentElement();
     }
-    QByteArray Text() const { return document.toByteArray(-1); }
     QDomElement At(const char* path) const
     {
         QDomElement element = root;
@@ -30,20 +31,18 @@ struct Block
 
     QDomDocument document;
     QDomElement root;
+    CSender sender;
 };
 
 } // namespace
 
-TEST(ParamBlocksTest, NullArgumentFailsAndWritesNothing)
+TEST_F(ParamBlocksTest, NullArgumentFailsAndWritesNothing)
 {
-    CSender sender;
     sender.SetInputVideoInfo({SInputVideoParam()});
-    Block block;
-    QDomDocument& document = block.document;
-    const QByteArray before = block.Text();
+    const QByteArray before = document.toByteArray();
     // Of two arguments that must be there one is null in turn.
     for (CSender* s : {static_cast<CSender*>(nullptr), &sender}) {
-        QDomElement* e = s ? nullptr : &block.root;
+        QDomElement* e = s ? nullptr : &root;
         QDomElement null = e ? *e : QDomElement();
         const quint32 results[] = {Project::SaveBasicInfoParam(document, s, e),
                                    Project::LoadBasicInfoParam(document, e, s),
@@ -58,18 +57,16 @@ TEST(ParamBlocksTest, NullArgumentFailsAndWritesNothing)
         EXPECT_EQ(Project::ReadSingleSenderParam(document, e, s), kImportFailed);
         EXPECT_EQ(Project::ReadSingleProcessorParam(document, e, s), kImportFailed);
     }
-    EXPECT_EQ(block.Text(), before);
+    EXPECT_EQ(document.toByteArray(), before);
     sender.SetInputVideoInfo({});
-    EXPECT_EQ(Project::SaveInputParam(document, &block.root, &sender), kFailed) << "no inputs";
-    ASSERT_EQ(Project::WriteSingleProcessorParam(document, &block.root, &sender), kDone);
-    EXPECT_TRUE(block.root.firstChildElement("inputParamXmlRoot"_s).firstChild().isNull());
-    EXPECT_TRUE(block.At("OutputParamsXmlRoot/OutPortGroupAdjBrightParamXmlRoot").isNull())
-        << "no such feature";
+    EXPECT_EQ(Project::SaveInputParam(document, &root, &sender), kFailed) << "no inputs";
+    ASSERT_EQ(Project::WriteSingleProcessorParam(document, &root, &sender), kDone);
+    EXPECT_TRUE(At("inputParamXmlRoot").firstChild().isNull());
+    EXPECT_TRUE(At("OutputParamsXmlRoot/OutPortGroupAdjBrightParamXmlRoot").isNull()) << "no such feature";
 }
 
-TEST(ParamBlocksTest, InputsAreWrittenByCardAndReadBackWhereTheyAre)
+TEST_F(ParamBlocksTest, InputsAreWrittenByCardAndReadBackWhereTheyAre)
 {
-    CSender sender;
     QList<SInputVideoParam> videos;
     for (const int slot : {5, 2, 5}) {
         SInputVideoParam video;
@@ -80,28 +77,26 @@ TEST(ParamBlocksTest, InputsAreWrittenByCardAndReadBackWhereTheyAre)
         videos.append(video);
     }
     sender.SetInputVideoInfo(videos);
-    Block block;
-    ASSERT_EQ(Project::SaveInputParam(block.document, &block.root, &sender), kDone);
+    ASSERT_EQ(Project::SaveInputParam(document, &root, &sender), kDone);
     CSender target;
-    ASSERT_EQ(Project::LoadInputParam(block.document, &block.root, &target), kDone);
+    ASSERT_EQ(Project::LoadInputParam(document, &root, &target), kDone);
     EXPECT_EQ(target.GetInputVideoInfo(), (QList<SInputVideoParam>{videos[1], videos[0], videos[2]}));
 }
 
-TEST(ParamBlocksTest, InputsThatAreAbsentOrIncompleteAreReadAsFarAsTheyGo)
+TEST_F(ParamBlocksTest, InputsThatAreAbsentOrIncompleteAreReadAsFarAsTheyGo)
 {
-    CSender sender;
-    Block block("<inputBoardCardCount>2000000000</inputBoardCardCount>"
-                "<inputBoardOneCardParmXmlRootBase3><inputBoardVideoCountOnCard>2000000000"
-                "</inputBoardVideoCountOnCard>"
-                "<inputBoardOneVideoParmXmlRootBase9><inputVideoCropParamXmlRoot>"
-                "<inputVideoCropX>65535</inputVideoCropX><inputVideoCropY>nine</inputVideoCropY>"
-                "</inputVideoCropParamXmlRoot></inputBoardOneVideoParmXmlRootBase9>"
-                "<inputBoardOneVideoParmXmlRootBase2><inputVideoSignalParamXmlRoot>"
-                "<inputVideoSignalVideoCardSlot>4</inputVideoSignalVideoCardSlot>"
-                "</inputVideoSignalParamXmlRoot></inputBoardOneVideoParmXmlRootBase2>"
-                "<inputBoardOneVideoParmXmlRootBase02/>"
-                "</inputBoardOneCardParmXmlRootBase3>");
-    ASSERT_EQ(Project::LoadInputParam(block.document, &block.root, &sender), kDone);
+    Parse("<inputBoardCardCount>2000000000</inputBoardCardCount>"
+          "<inputBoardOneCardParmXmlRootBase3><inputBoardVideoCountOnCard>2000000000"
+          "</inputBoardVideoCountOnCard>"
+          "<inputBoardOneVideoParmXmlRootBase9><inputVideoCropParamXmlRoot>"
+          "<inputVideoCropX>65535</inputVideoCropX><inputVideoCropY>nine</inputVideoCropY>"
+          "</inputVideoCropParamXmlRoot></inputBoardOneVideoParmXmlRootBase9>"
+          "<inputBoardOneVideoParmXmlRootBase2><inputVideoSignalParamXmlRoot>"
+          "<inputVideoSignalVideoCardSlot>4</inputVideoSignalVideoCardSlot>"
+          "</inputVideoSignalParamXmlRoot></inputBoardOneVideoParmXmlRootBase2>"
+          "<inputBoardOneVideoParmXmlRootBase02/>"
+          "</inputBoardOneCardParmXmlRootBase3>");
+    ASSERT_EQ(Project::LoadInputParam(document, &root, &sender), kDone);
     const QList<SInputVideoParam> videos = sender.GetInputVideoInfo();
     ASSERT_EQ(videos.size(), 2);
     EXPECT_EQ(videos[0].cardSlot, 4);
@@ -112,108 +107,91 @@ TEST(ParamBlocksTest, InputsThatAreAbsentOrIncompleteAreReadAsFarAsTheyGo)
     EXPECT_EQ(videos[1], expected);
 }
 
-TEST(ParamBlocksTest, LayersAreWrittenWithoutGapsAndReadIntoFreeEntries)
+TEST_F(ParamBlocksTest, LayersAreWrittenWithoutGapsAndReadIntoFreeEntries)
 {
-    CSender sender;
     std::array<SLayerWndParam, kMaxLayers> layers;
-    for (const size_t i : {3, 7}) {
+    for (const size_t i : {3, 5, 7}) {
         layers[i].width = 100;
-        layers[i].height = static_cast<int>(i);
+        layers[i].height = i == 5 ? 0 : static_cast<int>(i);
     }
-    layers[5].width = 100;
     sender.SetLayerInfo(layers.data());
-    Block block;
-    ASSERT_EQ(Project::SaveOneGroupParam(block.document, &block.root, 0, &sender), kDone);
-    EXPECT_EQ(block.At("outputLayerParamRoot0/outputLayerCount").text(), "2"_s);
-    EXPECT_EQ(block.At("outputLayerParamRoot0/outputLayerParamRootBase2/outputLayerHeight").text(), "7"_s);
+    ASSERT_EQ(Project::SaveOneGroupParam(document, &root, 0, &sender), kDone);
+    EXPECT_EQ(At("outputLayerParamRoot0/outputLayerCount").text(), "2"_s);
+    EXPECT_EQ(At("outputLayerParamRoot0/outputLayerParamRootBase2/outputLayerHeight").text(), "7"_s);
 
     layers.fill(SLayerWndParam());
     layers[1].width = layers[1].height = 50;
     sender.SetLayerInfo(layers.data());
-    QDomElement root = block.root.firstChildElement("outputLayerParamRoot0"_s);
-    root.setTagName("outputLayerParamRoot1"_s);
-    ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 1, &sender), kDone);
-    sender.GetLayerInfo(layers.data());
-    EXPECT_EQ(layers[0].height, 3);
-    EXPECT_EQ(layers[1].height, 50);
-    EXPECT_EQ(layers[2].height, 7);
-    root.setTagName("outputLayerParamRoot0"_s);
-    ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
-    sender.GetLayerInfo(layers.data());
-    EXPECT_EQ(layers[1].height, 7);
-    EXPECT_TRUE(layers[2].IsEmpty());
+    const auto& read = sender.Params().layers;
+    QDomElement group = At("outputLayerParamRoot0");
+    group.setTagName("outputLayerParamRoot1"_s);
+    ASSERT_EQ(Project::LoadOneGroupParam(document, &root, 1, &sender), kDone);
+    EXPECT_TRUE(read[0].height == 3 && read[1].height == 50 && read[2].height == 7);
+    group.setTagName("outputLayerParamRoot0"_s);
+    ASSERT_EQ(Project::LoadOneGroupParam(document, &root, 0, &sender), kDone);
+    EXPECT_TRUE(read[1].height == 7 && read[2].IsEmpty());
 
-    block.At("outputLayerParamRoot0/outputLayerParamRootBase2/outputLayerHeight")
-        .firstChild()
-        .setNodeValue("0"_s);
-    ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
-    sender.GetLayerInfo(layers.data());
-    EXPECT_EQ(layers[1], SLayerWndParam()) << "a layer without area is none";
+    At("outputLayerParamRoot0/outputLayerParamRootBase2/outputLayerHeight").firstChild().setNodeValue("0"_s);
+    ASSERT_EQ(Project::LoadOneGroupParam(document, &root, 0, &sender), kDone);
+    EXPECT_EQ(read[1], SLayerWndParam()) << "a layer without area is none";
 }
 
-TEST(ParamBlocksTest, MoreLayersThanTheTableHoldsAreCut)
+TEST_F(ParamBlocksTest, MoreLayersThanTheTableHoldsAreCut)
 {
-    QByteArray content = "<outputLayerParamRoot0><outputLayerCount>70</outputLayerCount>";
-    for (int i = 1; i <= 70; ++i) {
-        const QByteArray name = "outputLayerParamRootBase" + QByteArray::number(i);
-        content += "<" + name + "><outputLayerIndex>" + QByteArray::number(i)
-                   + "</outputLayerIndex><outputLayerWidth>1</outputLayerWidth>"
-                     "<outputLayerHeight>1</outputLayerHeight></"
-                   + name + ">";
-    }
-    Block block(content + "</outputLayerParamRoot0>");
-    CSender sender;
-    ASSERT_EQ(Project::LoadOneGroupParam(block.document, &block.root, 0, &sender), kDone);
+    const QString layer = "<outputLayerParamRootBase%1><outputLayerIndex>%1</outputLayerIndex>"
+                          "<outputLayerWidth>1</outputLayerWidth><outputLayerHeight>1</outputLayerHeight>"
+                          "</outputLayerParamRootBase%1>"_s;
+    QByteArray content = "<outputLayerCount>70</outputLayerCount>";
+    for (int i = 1; i <= 70; ++i)
+        content += layer.arg(i).toUtf8();
+    Parse("<outputLayerParamRoot0>" + content + "</outputLayerParamRoot0>");
+    ASSERT_EQ(Project::LoadOneGroupParam(document, &root, 0, &sender), kDone);
     EXPECT_EQ(sender.Params().layers.back().layerIndex, 64);
 }
 
-TEST(ParamBlocksTest, SplitLinesBeyondTheRecordAreNeitherWrittenNorRead)
+TEST_F(ParamBlocksTest, SplitLinesBeyondTheRecordAreNeitherWrittenNorRead)
 {
-    CSender sender;
     SCuttingLineParam lines;
     lines.show = true;
     lines.horizontalCount = 33;
     sender.SetCuttingLineInfo(lines);
-    Block block;
-    ASSERT_EQ(Project::SaveOneGroupParam(block.document, &block.root, 0, &sender), kDone);
-    EXPECT_TRUE(block.At("outputSpiltLineParamRoot").firstChild().isNull());
+    ASSERT_EQ(Project::SaveOneGroupParam(document, &root, 0, &sender), kDone);
+    EXPECT_TRUE(At("outputSpiltLineParamRoot").firstChild().isNull());
 
     lines.horizontalCount = 1;
     lines.horizontal[0] = 4000000000U;
     sender.SetCuttingLineInfo(lines);
     for (const char* count : {"33", "-1", "2147483647"}) {
-        Block hostile("<outputSpiltLineParamRoot><outputSpiltLineVLineCount>" + QByteArray(count)
-                      + "</outputSpiltLineVLineCount></outputSpiltLineParamRoot>");
-        EXPECT_EQ(Project::LoadOutputSpiltLineParam(hostile.document, &hostile.root, 0, &sender), kDone);
+        Parse("<outputSpiltLineParamRoot><outputSpiltLineVLineCount>" + QByteArray(count)
+              + "</outputSpiltLineVLineCount></outputSpiltLineParamRoot>");
+        EXPECT_EQ(Project::LoadOutputSpiltLineParam(document, &root, 0, &sender), kDone);
         EXPECT_EQ(sender.GetCuttingLineInfo(), lines) << count;
     }
 }
 
-TEST(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
+TEST_F(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
 {
-    CSender sender;
     SSupportOptionsInfo support;
     support.portGroupBrightness = true;
     sender.SetProcessorSupportInfo(support);
     SPortGroupParam groups;
     groups.groupCount = 2;
     sender.SetPortGroupInfo(groups);
-    Block block;
-    ASSERT_EQ(Project::SaveOutputParam(block.document, &sender, &block.root), kDone);
+    ASSERT_EQ(Project::SaveOutputParam(document, &sender, &root), kDone);
     const QString base = "OutPortGroupAdjBrightParamXmlRoot/OutPortGroupAdjBrightGroupIndex"_s;
-    EXPECT_EQ(block.At(qPrintable(base + "0/OutPortGroupAdjBrightGroupName"_s)).text(), "Group 1"_s);
+    EXPECT_EQ(At(qPrintable(base + "0/OutPortGroupAdjBrightGroupName"_s)).text(), "Group 1"_s);
 
     const QByteArray longName = QString(22, QChar(0x5C4F)).toUtf8(); // 66 bytes
-    Block read("<OutPortGroupAdjBrightParamXmlRoot>"
-               "<OutPortGroupAdjBrightGroupCount>2000000000</OutPortGroupAdjBrightGroupCount>"
-               "<OutPortGroupAdjBrightGroupIndex7><OutPortGroupAdjBrightGroupName>"
-               + longName
-               + "</OutPortGroupAdjBrightGroupName>"
-                 "<OutPortGroupAdjBrightGroupPortFlag> 1 zz  ff "
-               + QByteArray(" 02").repeated(40)
-               + "</OutPortGroupAdjBrightGroupPortFlag></OutPortGroupAdjBrightGroupIndex7>"
-                 "</OutPortGroupAdjBrightParamXmlRoot>");
-    ASSERT_EQ(Project::LoadOutputParam(read.document, &read.root, &sender), kDone);
+    Parse("<OutPortGroupAdjBrightParamXmlRoot>"
+          "<OutPortGroupAdjBrightGroupCount>2000000000</OutPortGroupAdjBrightGroupCount>"
+          "<OutPortGroupAdjBrightGroupIndex7><OutPortGroupAdjBrightGroupName>"
+          + longName
+          + "</OutPortGroupAdjBrightGroupName>"
+            "<OutPortGroupAdjBrightGroupPortFlag> 1 zz  ff "
+          + QByteArray(" 02").repeated(40)
+          + "</OutPortGroupAdjBrightGroupPortFlag></OutPortGroupAdjBrightGroupIndex7>"
+            "</OutPortGroupAdjBrightParamXmlRoot>");
+    ASSERT_EQ(Project::LoadOutputParam(document, &root, &sender), kDone);
     groups = sender.GetPortGroupInfo();
     EXPECT_EQ(groups.groupCount, 8);
     EXPECT_EQ(QByteArray(groups.groups[7].name.data()), longName.left(63));
@@ -225,9 +203,8 @@ TEST(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
     EXPECT_EQ(qstrlen(groups.groups[0].name.data()), 61U) << "no half character";
 }
 
-TEST(ParamBlocksTest, HotBackupIsReadFromEitherPlaceAlsoWithoutACountOrAnId)
+TEST_F(ParamBlocksTest, HotBackupIsReadFromEitherPlaceAlsoWithoutACountOrAnId)
 {
-    CSender sender;
     const QByteArray enable = "<outputOtherParamHotBackup>1</outputOtherParamHotBackup>";
     const QByteArray pairs = "<hotbackupCount>9</hotbackupCount><hotbackupId4>7</hotbackupId4>"
                              "<hotbackupMaincutID4>3</hotbackupMaincutID4>"
@@ -236,8 +213,8 @@ TEST(ParamBlocksTest, HotBackupIsReadFromEitherPlaceAlsoWithoutACountOrAnId)
         for (const QByteArray& content :
              {values, "<OtherParam><AdvancedParam>" + values + "</AdvancedParam></OtherParam>"}) {
             sender.SetHotBackupInfo(SInputVideoHotBackup());
-            Block block("<SenderType>0</SenderType>" + content);
-            ASSERT_EQ(Project::ReadSingleProcessorParam(block.document, &block.root, &sender), kDone);
+            Parse("<SenderType>0</SenderType>" + content);
+            ASSERT_EQ(Project::ReadSingleProcessorParam(document, &root, &sender), kDone);
             const SInputVideoHotBackup backup = sender.GetHotBackupInfo();
             EXPECT_TRUE(backup.enable) << content.constData();
             ASSERT_EQ(backup.pairs.size(), values == enable ? 0 : 2) << content.constData();
@@ -250,7 +227,7 @@ TEST(ParamBlocksTest, HotBackupIsReadFromEitherPlaceAlsoWithoutACountOrAnId)
     }
 }
 
-TEST(ParamBlocksTest, LedLuminancesAreReadUnderOneNameOrNumbered)
+TEST_F(ParamBlocksTest, LedLuminancesAreReadUnderOneNameOrNumbered)
 {
     const QByteArray red = "ColorRedoutputExactColorLedcaliAfter_ledLimu";
     const QByteArray blue = "ColorBlueoutputExactColorLedcaliAfter_ledLimu";
@@ -259,41 +236,37 @@ TEST(ParamBlocksTest, LedLuminancesAreReadUnderOneNameOrNumbered)
         content += "<" + red + ">" + value + "</" + red + ">";
     for (const QByteArray& name : {blue + '0', blue + '1', blue + '2'})
         content += "<" + name + ">" + name.right(1) + "</" + name + ">";
-    Block block("<outputExactColorParmXmlRoot>" + content + "</outputExactColorParmXmlRoot>");
-    CSender sender;
-    ASSERT_EQ(Project::LoadOutputExactColorParam(block.document, &block.root, 0, &sender), kDone);
+    Parse("<outputExactColorParmXmlRoot>" + content + "</outputExactColorParmXmlRoot>");
+    ASSERT_EQ(Project::LoadOutputExactColorParam(document, &root, 0, &sender), kDone);
     const auto read = sender.GetExactColorInfo().afterLedLuminance;
     EXPECT_EQ(read[0], (SExactColorParam::LedLuminance{1, 2, 3}));
     EXPECT_EQ(read[2], (SExactColorParam::LedLuminance{0, 1, 2}));
 }
 
-TEST(ParamBlocksTest, ColorEntriesWithoutSourceStandForTheirSlot)
+TEST_F(ParamBlocksTest, ColorEntriesWithoutSourceStandForTheirSlot)
 {
-    CSender sender;
     sender.SetColorCubeEnable(true, 2, 5);
     sender.SetColorCurveEnable(true, 2, 5);
-    Block block;
-    Project::SaveColorCubeParam(block.document, &block.root, &sender, false);
-    Project::SaveColorCurveParam(block.document, &block.root, &sender, false);
-    EXPECT_TRUE(block.At("ColorCubeParamRoot/ColorCubeBoard0/SourceIndex").isNull());
+    Project::SaveColorCubeParam(document, &root, &sender, false);
+    Project::SaveColorCurveParam(document, &root, &sender, false);
+    EXPECT_TRUE(At("ColorCubeParamRoot/ColorCubeBoard0/SourceIndex").isNull());
     CSender target;
-    ASSERT_EQ(Project::LoadColorCubeParam(block.document, block.root, &target, true), kDone);
-    ASSERT_EQ(Project::LoadColorCurveParam(block.document, block.root, &target, true), kDone);
+    ASSERT_EQ(Project::LoadColorCubeParam(document, root, &target, true), kDone);
+    ASSERT_EQ(Project::LoadColorCurveParam(document, root, &target, true), kDone);
     ASSERT_EQ(target.GetColorCubeParams().size(), 1);
     EXPECT_EQ(target.GetColorCubeParams()[0].sourceIndex, 0);
     EXPECT_FALSE(target.GetColorCubeParams()[0].enable);
     EXPECT_EQ(target.GetColorCurveParams()[0].slotNum, 2);
 }
 
-TEST(ParamBlocksTest, CurvePointsAreBelievedAsFarAsTheFileHoldsThem)
+TEST_F(ParamBlocksTest, CurvePointsAreBelievedAsFarAsTheFileHoldsThem)
 {
-    Block block("<ColorCurveParamRoot><boardCount>2000000000</boardCount>"
-                "<ColorCurveBoard0><SlotNum>1</SlotNum><Red><AdjPointCount>2000000000</AdjPointCount>"
-                "<PointX0>0.5</PointX0><PointY1>inf</PointY1><PointX1>1</PointX1><PointY7>3</PointY7></Red>"
-                "</ColorCurveBoard0>"
-                "</ColorCurveParamRoot>");
-    CSender sender;
-    ASSERT_EQ(Project::LoadColorCurveParam(block.document, block.root, &sender, true), kDone);
+    Parse("<ColorCurveParamRoot><boardCount>2000000000</boardCount>"
+          "<ColorCurveBoard0><SlotNum>1</SlotNum><Red><AdjPointCount>2000000000</AdjPointCount>"
+          "<PointX0>0.5</PointX0><PointY1>inf</PointY1><PointX1>1</PointX1><PointY7>3</PointY7></Red>"
+          "</ColorCurveBoard0>"
+          "</ColorCurveParamRoot>");
+    ASSERT_EQ(Project::LoadColorCurveParam(document, root, &sender, true), kDone);
     QList<QPointF> points;
     ASSERT_TRUE(sender.GetColorCurveAdjPoint(ColorCurveRed, points, 1, 0));
     EXPECT_EQ(points, (QList<QPointF>{QPointF(0.5, 0), QPointF(1, 0), QPointF(0, 3)}))

@@ -65,49 +65,6 @@ bool LoadProject(CProjectData& project, const QString& path)
                   == project.GetParameterFiles().first().type;
 }
 
-bool SaveSettings(Document document, const QString& path, int version)
-{
-    CConfigData config;
-    switch (document) {
-    case Document::Settings:
-        config.SetCustomerTileSize(QSize(version, version));
-        return config.XmlSave(path);
-    case Document::InterfaceSettings:
-        config.Load_UI(path);
-        config.SetEnableRotate(version == 2);
-        return config.Save_UI();
-    case Document::Customization:
-        config.LoadCustomizeConfig(path);
-        config.SetCustomizeValue("version"_s, version);
-        return config.SaveCustomizeConfig();
-    default:
-        config.LoadSpecifiedIP(path);
-        config.ClearSpecifiedIP();
-        for (int i = 0; i < kAddresses[version]; ++i)
-            config.AddSpecifiedIP("10.%1.%2.%3"_s.arg(version).arg(i / 250).arg(i % 250));
-        return config.SaveSpecifiedIP();
-    }
-}
-
-int SettingsVersion(Document document, const QString& path)
-{
-    CConfigData config;
-    switch (document) {
-    case Document::Settings:
-        return config.XmlLoad(path) ? config.GetCustomerTileSize().width() : 0;
-    case Document::InterfaceSettings:
-        return config.Load_UI(path) ? 1 + int(config.IsEnableRotate()) : 0;
-    case Document::Customization:
-        return config.LoadCustomizeConfig(path) ? config.GetCustomizeValue("version"_s).toInt() : 0;
-    default:
-        if (config.LoadSpecifiedIP(path))
-            for (int version : {1, 2})
-                if (config.GetSpecifiedIPList().size() == kAddresses[version])
-                    return version;
-        return 0;
-    }
-}
-
 int LayoutVersion(const CSender* sender)
 {
     for (int version : {1, 2})
@@ -117,7 +74,10 @@ int LayoutVersion(const CSender* sender)
     return 0;
 }
 
-} // namespace
+int AddressVersion(int count)
+{
+    return count == kAddresses[1] ? 1 : count == kAddresses[2] ? 2 : 0;
+}
 
 QString PathOf(Document document, const QString& folder)
 {
@@ -125,6 +85,8 @@ QString PathOf(Document document, const QString& folder)
                                                    "ips.txt", "layout.xml", "sender.xml",  "processor.xml"};
     return folder + QLatin1String(kNames[int(document)]);
 }
+
+} // namespace
 
 void MakeProducts()
 {
@@ -140,25 +102,43 @@ void MakeProducts()
 bool SaveVersion(Document document, const QString& folder, int version)
 {
     const QString path = PathOf(document, folder);
+    CConfigData config;
     CProjectData& project = *GetProjectData();
     const QUuid id = Build(project, version)->GetId();
     switch (document) {
     case Document::Project:
         return SaveProject(project, path, version);
+    case Document::Settings:
+        config.SetCustomerTileSize(QSize(version, version));
+        return config.XmlSave(path);
+    case Document::InterfaceSettings:
+        config.Load_UI(path);
+        config.SetEnableRotate(version == 2);
+        return config.Save_UI();
+    case Document::Customization:
+        config.LoadCustomizeConfig(path);
+        config.SetCustomizeValue("version"_s, version);
+        return config.SaveCustomizeConfig();
+    case Document::AddressList:
+        config.LoadSpecifiedIP(path);
+        config.ClearSpecifiedIP();
+        for (int i = 0; i < kAddresses[version]; ++i)
+            config.AddSpecifiedIP("10.%1.%2.%3"_s.arg(version).arg(i / 250).arg(i % 250));
+        return config.SaveSpecifiedIP();
     case Document::SenderLayout:
         return project.ExportSender(path, id);
     case Document::SenderParameters:
         return project.ExportMutiSenderParam(path, QUuid()) == 0;
     case Document::ProcessorParameters:
         return project.ExportMutiProcessorParam(path, QUuid()) == 0;
-    default:
-        return SaveSettings(document, path, version);
     }
+    return false;
 }
 
 int VersionOf(Document document, const QString& folder)
 {
     const QString path = PathOf(document, folder);
+    CConfigData config;
     CProjectData& project = *GetProjectData();
     CSender* sender = Build(project, 1);
     sender->SetSenderName(QString());
@@ -166,13 +146,20 @@ int VersionOf(Document document, const QString& folder)
     switch (document) {
     case Document::Project:
         return LoadProject(project, path) ? LayoutVersion(project.GetSender(0)) : 0;
+    case Document::Settings:
+        return config.XmlLoad(path) ? config.GetCustomerTileSize().width() : 0;
+    case Document::InterfaceSettings:
+        return config.Load_UI(path) ? 1 + int(config.IsEnableRotate()) : 0;
+    case Document::Customization:
+        return config.LoadCustomizeConfig(path) ? config.GetCustomizeValue("version"_s).toInt() : 0;
+    case Document::AddressList:
+        return config.LoadSpecifiedIP(path) ? AddressVersion(config.GetSpecifiedIPList().size()) : 0;
     case Document::SenderLayout:
         return project.ImportSender(path, sender->GetId(), false, true) ? LayoutVersion(sender) : 0;
     case Document::SenderParameters:
         return project.ImportMutiSenderParam(path, QUuid()) == 0 ? sender->GetColorDepth() : 0;
     case Document::ProcessorParameters:
         return project.ImportMutiProcessorParam(path, QUuid()) == 0 ? sender->GetColorDepth() : 0;
-    default:
-        return SettingsVersion(document, path);
     }
+    return 0;
 }

@@ -1,8 +1,6 @@
 #include "common/xmldom.h"
 #include "common/xmlwriter.h"
 #include "frame/runtimedata.h"
-#include "layout/sender.h"
-#include "layout/tile.h"
 #include "project/layoutdescription.h"
 #include "project/layoutwriter.h"
 #include "settings/archive.h"
@@ -118,12 +116,8 @@ TEST_F(LimitsTest, WhatOnePortCanHoldIsSavedAndReadAndMoreIsRefused)
 {
     const QString saved = folder.Path("a.prj"_s);
     CPort* port = project.NewSender()->GetPort(0);
-    SAddTileInfo block;
-    block.columns = 1024;
-    block.rows = kMaxTilesOfPort / 1024;
-    ASSERT_TRUE(port->GetPortProject()->AddTile(block));
-    block.columns = block.rows = 1;
-    EXPECT_FALSE(port->GetPortProject()->AddTile(block));
+    MakeWall(*port, 1024, kMaxTilesOfPort / 1024);
+    EXPECT_FALSE(port->GetPortProject()->AddTile(SAddTileInfo()));
     ASSERT_EQ(TilesOf(*port).GetCount(), kMaxTilesOfPort);
     ASSERT_TRUE(TilesOf(*port).GetTile(0)->IsSelected(InterfaceDesign));
     ASSERT_TRUE(Save(saved));
@@ -150,10 +144,8 @@ TEST_F(LimitsTest, WhatOnePortCanHoldIsSavedAndReadAndMoreIsRefused)
     ASSERT_EQ(TilesOf(*port).GetCount(), kMaxTilesOfPort);
     EXPECT_EQ(WhyTooLarge(QList<const CPort*>{port}), QString());
     EXPECT_EQ(WhyTooLarge(QList<const CPort*>{port, port}), DocumentTooLarge());
-    QList<const CSender*> senders;
-    for (int i = 0; i <= layoutnames::kMaxSenders; ++i)
-        senders.append(project.GetSender(0));
-    EXPECT_TRUE(WhyTooLarge(senders).contains(QString::number(layoutnames::kMaxSenders)));
+    const QVector<const CSender*> senders(layoutnames::kMaxSenders + 1, project.GetSender(0));
+    EXPECT_TRUE(WhyTooLarge(senders.toList()).contains(QString::number(layoutnames::kMaxSenders)));
 }
 
 TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
@@ -183,12 +175,8 @@ TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
     CSender* sender = project.NewSender();
     SInputVideoColorCurveParam curve;
     for (QList<QPointF>& points : curve.points)
-        for (int i = 0; i < kMaxCurvePoints; ++i)
-            points.append({0, 0});
-    QList<SInputVideoColorCurveParam> curves;
-    for (int i = 0; i < 20; ++i)
-        curves.append(curve);
-    sender->SetColorCurveParams(curves);
+        points = QVector<QPointF>(kMaxCurvePoints).toList();
+    sender->SetColorCurveParams(QVector<SInputVideoColorCurveParam>(20, curve).toList());
     const QString other = folder.Path("other"_s);
     EXPECT_NE(project.ExportMutiProcessorParam(other, sender->GetId()), 0U);
     EXPECT_NE(Error(), QString());
