@@ -43,12 +43,7 @@ std::string Parsed(const QByteArray& content, bool expected, const char* why = "
 
 QByteArray Nested(int depth)
 {
-    QByteArray content = "<?xml version='1.0'?>";
-    for (int i = 0; i < depth; ++i)
-        content += "<e>";
-    for (int i = 0; i < depth; ++i)
-        content += "</e>";
-    return content;
+    return "<?xml version='1.0'?>" + QByteArray("<e>").repeated(depth) + QByteArray("</e>").repeated(depth);
 }
 
 } // namespace

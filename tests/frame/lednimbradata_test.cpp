@@ -58,11 +58,3 @@ TEST(LedNimbraDataTest, LanguageOfTheSettingsOutlivesTheStart)
     LedNimbraData_Init();
     EXPECT_EQ(GetConfigData()->GetLanguageType(), LanguageEnglish);
 }
-
-TEST(LedNimbraDataTest, ConstructorsWorkWithoutTheObjects)
-{
-    CProjectData project;
-    CSender* sender = project.NewSender();
-    EXPECT_FALSE(project.HasTileRotated());
-    EXPECT_EQ(project.GetCurrentSender(), sender);
-}

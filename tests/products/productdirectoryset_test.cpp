@@ -23,13 +23,6 @@ struct ProductDirectorySetTest : testing::Test
         return WriteFile(root + QString::fromUtf8(name), content);
     }
 
-    QStringList Names() const
-    {
-        QStringList names;
-        CProductDirectorySet::GetAllProductName(names, &library);
-        return names;
-    }
-
     QString root;
     CProductDirectorySet library;
 };
@@ -110,7 +103,9 @@ TEST_F(ProductDirectorySetTest, LinksAreNeitherFollowedNorTaken)
     Write("own.rcvp", "far");
 
     EXPECT_EQ(library.LoadProductInfo(), 1);
-    EXPECT_EQ(Names(), QStringList("own.rcvp"_s));
+    QStringList names;
+    CProductDirectorySet::GetAllProductName(names, &library);
+    EXPECT_EQ(names, QStringList("own.rcvp"_s));
     EXPECT_TRUE(library.GetSubDirs().isEmpty());
     EXPECT_TRUE(QFile::exists(target));
 }

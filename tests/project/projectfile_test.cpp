@@ -30,17 +30,19 @@ TEST_F(ProjectFileTest, TreesHoldWhatTheFileHolds)
     project.WriteMonitorSet(tree, &root);
     project.WriteParameterFileInfo(tree, &root);
     project.SetToDefault();
-    QMap<QString, QDomElement> found;
-    for (QDomElement child = root.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
-        found.insert(child.tagName(), child);
-    EXPECT_TRUE(project.ReadVersionSupport(tree, &found["VersionSupport"_s], version));
-    project.ReadDemoModeInfo(tree, &found["DemoModeInfo"_s]);
-    project.ReadSenderGroup(tree, &found["SenderTreeGroup"_s]);
-    project.ReadTileGamma(tree, &found["TileTypeGamma"_s]);
-    project.ReadPrintData(tree, &found["PrintFormData"_s]);
-    project.ReadSender(tree, &found["SenderLayout"_s], version, nullptr);
-    project.ReadMonitorSet(tree, &found["Monitor"_s]);
-    project.ReadParameterFileInfo(tree, &found["ParameterFile"_s]);
+    QDomElement found;
+    const auto child = [&](const char* name) {
+        found = root.firstChildElement(QLatin1String(name));
+        return &found;
+    };
+    EXPECT_TRUE(project.ReadVersionSupport(tree, child("VersionSupport"), version));
+    project.ReadDemoModeInfo(tree, child("DemoModeInfo"));
+    project.ReadSenderGroup(tree, child("SenderTreeGroup"));
+    project.ReadTileGamma(tree, child("TileTypeGamma"));
+    project.ReadPrintData(tree, child("PrintFormData"));
+    project.ReadSender(tree, child("SenderLayout"), version, nullptr);
+    project.ReadMonitorSet(tree, child("Monitor"));
+    project.ReadParameterFileInfo(tree, child("ParameterFile"));
     EXPECT_EQ(Document(), streamed);
 }
 

@@ -15,15 +15,19 @@ namespace {
 const QByteArray kOneItem = "<LedControlConfig><Config><Language>1041</Language><ShowGrid>0</ShowGrid>"
                             "</Config></LedControlConfig>";
 
+struct ConfigDataTest : testing::Test
+{
+    TestFolder folder;
+    CConfigData config;
+};
+
 } // namespace
 
-TEST(ConfigDataTest, FileThatIsNoSettingsDocumentIsKeptBesideTheDefaults)
+TEST_F(ConfigDataTest, FileThatIsNoSettingsDocumentIsKeptBesideTheDefaults)
 {
     for (const QByteArray& content : {QByteArray(), QByteArray("<Other/>"), kOneItem.left(60)}) {
-        TestFolder folder;
         const QString path = folder.Write("SystemConfig.xml"_s, content);
         folder.Write("SystemConfig.xml.bak"_s, "an older one");
-        CConfigData config;
         config.SetShowGrid(false);
         EXPECT_FALSE(config.Load(path)) << content.left(40).constData();
         EXPECT_TRUE(config.IsShowGrid());
@@ -32,10 +36,8 @@ TEST(ConfigDataTest, FileThatIsNoSettingsDocumentIsKeptBesideTheDefaults)
     }
 }
 
-TEST(ConfigDataTest, MissingItemsKeepTheirValuesOnReading)
+TEST_F(ConfigDataTest, MissingItemsKeepTheirValuesOnReading)
 {
-    TestFolder folder;
-    CConfigData config;
     config.SetDetectStrategy(2);
     config.SetAttractionDis(50); // no file may say so
     EXPECT_TRUE(config.XmlLoad(folder.Write("a.xml"_s, kOneItem)));
@@ -44,7 +46,7 @@ TEST(ConfigDataTest, MissingItemsKeepTheirValuesOnReading)
     EXPECT_EQ(config.GetDetectStrategy(), 2);
 }
 
-TEST(ConfigDataTest, DefaultsWriteTheWatermarkBesideOtherKeys)
+TEST_F(ConfigDataTest, DefaultsWriteTheWatermarkBesideOtherKeys)
 {
     const QString path = QDir::homePath() + "/Documents/Orvan/LedConfig/ProductList.ini"_s;
     QSettings(path, QSettings::IniFormat).setValue("ProductListInfo/Product1"_s, 1);
@@ -54,11 +56,9 @@ TEST(ConfigDataTest, DefaultsWriteTheWatermarkBesideOtherKeys)
     EXPECT_EQ(file.value("ProductListInfo/Product1"_s).toInt(), 1);
 }
 
-TEST(ConfigDataTest, FirstLanguageAfterEachLoadKeepsTheOneLoaded)
+TEST_F(ConfigDataTest, FirstLanguageAfterEachLoadKeepsTheOneLoaded)
 {
-    TestFolder folder;
     const QString path = folder.Write("a.xml"_s, kOneItem);
-    CConfigData config;
     for (int round = 0; round < 2; ++round) {
         ASSERT_TRUE(config.Load(path));
         config.SetLanguage(LanguageChinese);
@@ -70,13 +70,11 @@ TEST(ConfigDataTest, FirstLanguageAfterEachLoadKeepsTheOneLoaded)
     }
 }
 
-TEST(ConfigDataTest, LanguageFollowsTheLocaleWhenAsked)
+TEST_F(ConfigDataTest, LanguageFollowsTheLocaleWhenAsked)
 {
-    TestFolder folder;
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::Portuguese));
-    CConfigData config;
-    EXPECT_EQ(config.GetLanguageType(), LanguagePortuguese);
+    EXPECT_EQ(CConfigData().GetLanguageType(), LanguagePortuguese);
     QByteArray content = kOneItem;
     content.replace("<Language>", "<AutoSelectLanguage>1</AutoSelectLanguage><Language>");
     ASSERT_TRUE(config.Load(folder.Write("a.xml"_s, content)));
@@ -86,16 +84,14 @@ TEST(ConfigDataTest, LanguageFollowsTheLocaleWhenAsked)
     QLocale::setDefault(before);
 }
 
-TEST(ConfigDataTest, SavingWhileMonitoringWritesTheStatesFromBefore)
+TEST_F(ConfigDataTest, SavingWhileMonitoringWritesTheStatesFromBefore)
 {
     struct Monitoring : SettingsLookup
     {
         bool IsMonitoring() const override { return true; }
         bool StoredReadOnly(int interface) const override { return interface == InterfaceControl; }
     } monitoring;
-    TestFolder folder;
     const QString path = folder.Path("a.xml"_s);
-    CConfigData config;
     config.Load(path);
     for (int i = 0; i < kInterfaceCount; ++i)
         config.SetReadOnlyState(i, true);
@@ -110,9 +106,8 @@ TEST(ConfigDataTest, SavingWhileMonitoringWritesTheStatesFromBefore)
     EXPECT_FALSE(config.GetReadOnlyState(kInterfaceCount));
 }
 
-TEST(ConfigDataTest, RecentProjectsAreFiveDifferentOnesNewestFirst)
+TEST_F(ConfigDataTest, RecentProjectsAreFiveDifferentOnesNewestFirst)
 {
-    CConfigData config;
     for (const char* path : {"a", "b", "c", "d", "e", "f", "c", "", "f"})
         config.AddProjectRecord(QLatin1String(path));
     QString all;
@@ -121,9 +116,8 @@ TEST(ConfigDataTest, RecentProjectsAreFiveDifferentOnesNewestFirst)
     EXPECT_EQ(all, "fcedb"_s);
 }
 
-TEST(ConfigDataTest, SettersKeepValuesThatAFileCanHold)
+TEST_F(ConfigDataTest, SettersKeepValuesThatAFileCanHold)
 {
-    CConfigData config;
     config.SetDeviceInformationLayoutSize(45.678f);
     EXPECT_FLOAT_EQ(config.GetDeviceInformationLayoutSize(), 45.68f);
     config.SetCustomerTileSize(QSize(0, 4000));
@@ -132,9 +126,8 @@ TEST(ConfigDataTest, SettersKeepValuesThatAFileCanHold)
     EXPECT_EQ(config.GetCurrentUiStyle(), 0);
 }
 
-TEST(ConfigDataTest, HotkeyIsRefusedWhenItsKeyIsUnknownOrTaken)
+TEST_F(ConfigDataTest, HotkeyIsRefusedWhenItsKeyIsUnknownOrTaken)
 {
-    CConfigData config;
     const SHotkey undo = config.GetHotkey(1, 4);
     EXPECT_EQ(config.FindHotkey(1, "ctrl+z"_s), 4);
     EXPECT_FALSE(config.SetHotkey(1, 5, undo));
@@ -150,9 +143,8 @@ TEST(ConfigDataTest, HotkeyIsRefusedWhenItsKeyIsUnknownOrTaken)
     EXPECT_EQ(config.GetHotkey(1, 4).hotkey, undo.hotkey);
 }
 
-TEST(ConfigDataTest, BrokenFileIsNotOverwrittenBeforeItIsKeptBeside)
+TEST_F(ConfigDataTest, BrokenFileIsNotOverwrittenBeforeItIsKeptBeside)
 {
-    CConfigData config;
     const struct
     {
         const char* name;
@@ -167,7 +159,6 @@ TEST(ConfigDataTest, BrokenFileIsNotOverwrittenBeforeItIsKeptBeside)
          &CConfigData::SaveSpecifiedIP},
     };
     for (const auto& file : files) {
-        TestFolder folder;
         const QString path = folder.Write(QLatin1String(file.name), file.broken);
         const QString kept = path + ".bak"_s;
         QDir().mkpath(kept);
