@@ -25,6 +25,7 @@ struct TileSetTest : testing::Test
     CTileSet m_set;
     std::vector<CTile*> m_tiles;
     TestLookup m_lookup;
+    CTileSet out;
 };
 
 } // namespace
@@ -114,7 +115,6 @@ TEST_F(TileSetTest, SubsetsAreByIdentityAndKeepListOrder)
     m_tiles[0]->SetGroupId(group);
     m_tiles[2]->SetGroupId(group);
     m_tiles[1]->SetConnectionIndex(0, nullptr);
-    CTileSet out;
     m_set.GetTileSetUnnumbered(out);
     EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[0], m_tiles[2]}));
     m_set.GetTileSetUngrouped(out);
@@ -155,7 +155,6 @@ TEST_F(TileSetTest, LockIsThatOfThePortOfTheCurrentSender)
 TEST_F(TileSetTest, HitTestsListTheTopmostTileFirst)
 {
     CTile* top = Add(m_set, QRect(50, 50, 100, 100));
-    CTileSet out;
     EXPECT_TRUE(m_set.GetTileSetAtPosition(out, 99, 99));
     EXPECT_EQ(out.GetTiles(), (Tiles{top, m_tiles[0]}));
     EXPECT_FALSE(m_set.GetTileSetAtPosition(out, 300, 0) || out.GetCount() > 0);
@@ -173,7 +172,6 @@ TEST_F(TileSetTest, TurnedTilesAreHitByTheirCorners)
 {
     Turn(*m_tiles[0], 45, 50, 50); // a diamond about (50, 50), half diagonal 70.7
     Turn(*m_tiles[2], 90, 250, 50);
-    CTileSet out;
     m_lookup.rotateEnabled = true;
     m_set.GetTileSetAtPosition(out, 110, 50);
     EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[1], m_tiles[0]}));

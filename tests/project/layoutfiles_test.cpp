@@ -76,7 +76,7 @@ TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
     const QString port = SamplePath("port-layout.xml");
     const QString sender = SamplePath("sender-layout.xml");
     const QString cut = folder.Write("cut.xml"_s, ReadFile(sender).left(9000));
-    const QString hollow = folder.Write("hollow.xml"_s, "<SenderLayout SenderCount=\"1\"/>");
+    const QString hollow = folder.Write("hollow.xml"_s, "<SenderLayout SenderCount='1'/>");
     for (const QString& path : {port, cut, hollow}) {
         EXPECT_FALSE(project.ImportSender(path, target->GetId(), false, true));
         EXPECT_NE(Error(), QString());

@@ -128,8 +128,8 @@ TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
         folder.Path("missing.prj"_s),
         folder.Write("empty.prj"_s, ""),
         folder.Write("cut.xml"_s, ReadFile(SamplePath("small-wall.xml")).left(20000)),
-        folder.Write("other.xml"_s, "<?xml version=\"1.0\"?><LedControlConfig/>"),
-        folder.Write("deep.xml"_s, "<?xml version=\"1.0\"?>" + QByteArray("<a>").repeated(20000)),
+        folder.Write("other.xml"_s, "<?xml version='1.0'?><LedControlConfig/>"),
+        folder.Write("deep.xml"_s, "<?xml version='1.0'?>" + QByteArray("<a>").repeated(20000)),
     };
     for (const QString& path : files) {
         EXPECT_FALSE(Load(path)) << path.toStdString();
@@ -141,18 +141,17 @@ TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
 
 TEST_F(ProjectFileTest, VersionsUpTo61AreRead)
 {
-    EXPECT_TRUE(LoadText("<VersionSupport MinimumVersion=\"6.1\"/>"));
-    EXPECT_TRUE(LoadText("<SenderLayout SenderCount=\"0\"/>")) << "no version asks for nothing";
-    EXPECT_FALSE(LoadText("<VersionSupport MinimumVersion=\"6.2\"/>"));
+    EXPECT_TRUE(LoadText("<VersionSupport MinimumVersion='6.1'/>"));
+    EXPECT_TRUE(LoadText("<SenderLayout SenderCount='0'/>")) << "no version asks for nothing";
+    EXPECT_FALSE(LoadText("<VersionSupport MinimumVersion='6.2'/>"));
     EXPECT_EQ(version, "6.2"_s);
 }
 
 TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
 {
-    ASSERT_TRUE(LoadText("<Strange/><SenderLayout SenderCount=\"9\"><Sender_2 PortCount=\"2\" ID=\"x\">"
-                         "<Port_1><TitleLayout TileCount=\"2000000000\"><Tile_7 X=\"5\"/>"
-                         "<Tile_3 Width=\"32\" Height=\"32\"/><Tile_3/><Tile_0/></TitleLayout></Port_1>"
-                         "</Sender_2></SenderLayout>"));
+    ASSERT_TRUE(LoadText("<Strange/><SenderLayout SenderCount='9'><Sender_2 PortCount='2' ID='x'><Port_1>"
+                         "<TitleLayout TileCount='2000000000'><Tile_7 X='5'/><Tile_3 Width='32' Height='32'/>"
+                         "<Tile_3/><Tile_0/></TitleLayout></Port_1></Sender_2></SenderLayout>"));
     EXPECT_TRUE(Error().contains("Strange"_s));
     ASSERT_EQ(project.GetSenderCount(), 1);
     EXPECT_FALSE(project.GetSender(0)->GetId().isNull());
@@ -166,11 +165,11 @@ TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
 TEST_F(ProjectFileTest, OfRepeatedElementsTheLastOfTheRootAndTheFirstOfAPortCounts)
 {
     const QByteArray id = "{c95ad16b-6333-4764-bb20-9ee65602cbb4}";
-    const QByteArray tiles = "<TitleLayout TileCount=\"1\"><Tile_1/></TitleLayout>";
-    const QByteArray senders = "<SenderLayout SenderCount=\"1\"><Sender_1 ID=\"" + id + "\"><Port_1>" + tiles
-                               + "<TitleLayout TileCount=\"2\"/></Port_1></Sender_1></SenderLayout>";
-    ASSERT_TRUE(LoadText("<Monitor RefreshDisTime=\"30\"/><Monitor/>" + senders + senders
-                         + "<ParameterFile Count=\"1\"><File1 Name=\"../../x/..\"/></ParameterFile>"));
+    const QByteArray tiles = "<TitleLayout TileCount='1'><Tile_1/></TitleLayout>";
+    const QByteArray senders = "<SenderLayout SenderCount='1'><Sender_1 ID='" + id + "'><Port_1>" + tiles
+                               + "<TitleLayout TileCount='2'/></Port_1></Sender_1></SenderLayout>";
+    ASSERT_TRUE(LoadText("<Monitor RefreshDisTime='30'/><Monitor/>" + senders + senders
+                         + "<ParameterFile Count='1'><File1 Name='../../x/..'/></ParameterFile>"));
     EXPECT_EQ(project.GetParameterFiles()[0].name, "_.._x_"_s);
     EXPECT_EQ(project.GetSender(0)->GetId().toByteArray(), id);
     EXPECT_EQ(TilesOf(*project.GetSender(0)->GetPort(0)).GetCount(), 1);
@@ -179,10 +178,10 @@ TEST_F(ProjectFileTest, OfRepeatedElementsTheLastOfTheRootAndTheFirstOfAPortCoun
 
 TEST_F(ProjectFileTest, RepeatedSenderIdsAreRenewedBeforeTheirPortsAreRead)
 {
-    const QByteArray sender = " ID=\"{c95ad16b-6333-4764-bb20-9ee65602cbb4}\"><Port_1>"
-                              "<TitleLayout TileCount=\"1\"><Tile_1/></TitleLayout></Port_1>";
-    ASSERT_TRUE(LoadText("<SenderLayout SenderCount=\"2\"><Sender_1" + sender + "</Sender_1><Sender_2"
-                         + sender + "</Sender_2></SenderLayout>"));
+    const QByteArray sender = " ID='{c95ad16b-6333-4764-bb20-9ee65602cbb4}'><Port_1>"
+                              "<TitleLayout TileCount='1'><Tile_1/></TitleLayout></Port_1>";
+    ASSERT_TRUE(LoadText("<SenderLayout SenderCount='2'><Sender_1" + sender + "</Sender_1><Sender_2" + sender
+                         + "</Sender_2></SenderLayout>"));
     CSender* second = project.GetSender(1);
     EXPECT_NE(second->GetId(), project.GetSender(0)->GetId());
     EXPECT_EQ(TilesOf(*second->GetPort(0)).GetTile(0)->GetSenderId(), second->GetId());
@@ -197,7 +196,7 @@ TEST_F(ProjectFileTest, LoadingKeepsTheCurrentSenderAndStartsAnUnmodifiedHistory
     ASSERT_TRUE(Load(SamplePath("small-wall.xml")));
     EXPECT_EQ(project.GetCurSenderIndex(), 1);
     EXPECT_FALSE(GetRuntimeData()->GetProjectUndoRedo()->IsModidfied());
-    ASSERT_TRUE(LoadText("<SenderLayout SenderCount=\"1\"><Sender_1/></SenderLayout>"));
+    ASSERT_TRUE(LoadText("<SenderLayout SenderCount='1'><Sender_1/></SenderLayout>"));
     EXPECT_EQ(project.GetCurSenderIndex(), 0);
 }
 

@@ -20,13 +20,6 @@ constexpr int kUsualKills = 40;
 constexpr int kAllOthers = 1 << 30; ///< calls after the first that fails
 constexpr int kLongestLife = 120;   ///< milliseconds; all documents were saved several times by then
 
-int Kills()
-{
-    bool given = false;
-    const int kills = qEnvironmentVariableIntValue("ORVAN_KILLS", &given);
-    return given ? kills : kUsualKills;
-}
-
 std::string Names(const QString& folder)
 {
     QStringList files;
@@ -81,7 +74,8 @@ TEST_F(CrashSafetyTest, KilledSaveLeavesTheOldFileOrTheNewOne)
     SaveAll(1);
     std::mt19937 random(8);
     std::uniform_int_distribution<int> life(0, kLongestLife);
-    for (int kill = 0; kill < Kills(); ++kill) {
+    const int kills = qMax(kUsualKills, qEnvironmentVariableIntValue("ORVAN_KILLS"));
+    for (int kill = 0; kill < kills; ++kill) {
         KillAfter(life(random), folder);
         for (int document = 0; document < kDocuments; ++document)
             ASSERT_NE(VersionOf(Document(document), folder), 0) << document << ", kill " << kill;

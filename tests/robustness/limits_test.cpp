@@ -22,7 +22,7 @@ using LimitsTest = ProjectTest;
 
 TEST_F(LimitsTest, FilesBeyondTheirSizeAreRefused)
 {
-    const QString xml = folder.Write("a.xml"_s, "<?xml version=\"1.0\"?><LedSetting/>");
+    const QString xml = folder.Write("a.xml"_s, "<?xml version='1.0'?><LedSetting/>");
     ASSERT_TRUE(QFile::resize(xml, kMaxXmlBytes + 1)); // sparse
     EXPECT_FALSE(Load(xml));
     EXPECT_EQ(Error(), "文件过大。"_s);
@@ -38,12 +38,12 @@ TEST_F(LimitsTest, FilesBeyondTheirSizeAreRefused)
 
 TEST_F(LimitsTest, TreeIsNotBuiltOfTooManyNodes)
 {
-    for (const char* two : {"<b c=\"\"/>", "<!----><!---->", "<?b?><?b?>", "<![CDATA[]]><b/>"}) {
+    for (const char* two : {"<b c=''/>", "<!----><!---->", "<?b?><?b?>", "<![CDATA[]]><b/>"}) {
         const QByteArray nodes = QByteArray(two).repeated(kMaxTreeNodes / 2);
         QDomDocument document;
         QString why;
         const auto parse = [&](const QByteArray& content) {
-            return ParseXmlDom("<?xml version=\"1.0\"?><a>" + content + "</a>", document, &why);
+            return ParseXmlDom("<?xml version='1.0'?><a>" + content + "</a>", document, &why);
         };
         EXPECT_FALSE(parse(nodes)) << two;
         EXPECT_TRUE(parse(nodes.mid(int(qstrlen(two))))) << two << why.toStdString();
@@ -84,17 +84,17 @@ TEST_F(LimitsTest, FileThatHoldsTooMuchIsRefusedWhole)
         return elements;
     };
     const QByteArray layout =
-        "<TitleLayout TileCount=\"999999\">" + numbered("Tile_", kMaxTilesOfPort + 1) + "</TitleLayout>";
-    const QByteArray ports = " PortCount=\"2\" Name=\"b\"><Port_1/><Port_2>" + layout + "</Port_2>";
+        "<TitleLayout TileCount='999999'>" + numbered("Tile_", kMaxTilesOfPort + 1) + "</TitleLayout>";
+    const QByteArray ports = " PortCount='2' Name='b'><Port_1/><Port_2>" + layout + "</Port_2>";
     CSender* sender = project.NewSender();
     sender->SetSenderName("a"_s);
     MakeWall(*sender->GetPort(0), 2, 1);
     sender->SetRecentPortIndex(0);
     const QByteArray projects[] = {
-        "<SenderLayout SenderCount=\"1\"><Sender_1" + ports + "</Sender_1></SenderLayout>",
-        "<SenderLayout SenderCount=\"9999\">" + numbered("Sender_", layoutnames::kMaxSenders + 1)
+        "<SenderLayout SenderCount='1'><Sender_1" + ports + "</Sender_1></SenderLayout>",
+        "<SenderLayout SenderCount='9999'>" + numbered("Sender_", layoutnames::kMaxSenders + 1)
             + "</SenderLayout>",
-        "<TileTypeGamma ItemCount=\"99999\">" + numbered("Gamma_", 65537) + "</TileTypeGamma>",
+        "<TileTypeGamma ItemCount='99999'>" + numbered("Gamma_", 65537) + "</TileTypeGamma>",
     };
     for (const QByteArray& elements : projects) {
         EXPECT_FALSE(LoadText(elements));
@@ -102,7 +102,7 @@ TEST_F(LimitsTest, FileThatHoldsTooMuchIsRefusedWhole)
     }
     const QString senderFile =
         folder.Write("s.xml"_s, "<SenderLayout><SenderLayout" + ports + "</SenderLayout></SenderLayout>");
-    const QString portFile = folder.Write("p.xml"_s, "<PortLayout Lock=\"1\">" + layout + "</PortLayout>");
+    const QString portFile = folder.Write("p.xml"_s, "<PortLayout Lock='1'>" + layout + "</PortLayout>");
     EXPECT_FALSE(project.ImportSender(senderFile, sender->GetId(), false, true));
     EXPECT_FALSE(project.ImportPort(portFile));
     EXPECT_TRUE(Error().contains(QString::number(kMaxTilesOfPort)));

@@ -20,22 +20,6 @@ struct Raw
     const char* password = nullptr;
 };
 
-/// An archive as somebody else's program would write it, hostile ones included.
-QString MakeArchive(const TestFolder& folder, const QList<Raw>& entries)
-{
-    const QString path = folder.Path("made.zip"_s);
-    zip_t* archive = zip_open(QFile::encodeName(path).constData(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
-    for (const Raw& entry : entries) {
-        zip_source_t* source = zip_source_buffer(archive, entry.content.constData(), entry.content.size(), 0);
-        const auto index = zip_file_add(archive, entry.name.constData(), source, 0);
-        zip_file_set_external_attributes(archive, index, 0, ZIP_OPSYS_UNIX, entry.mode << 16);
-        if (entry.password)
-            zip_file_set_encryption(archive, index, ZIP_EM_AES_256, entry.password);
-    }
-    zip_close(archive);
-    return path;
-}
-
 /// Overwrites the 4 bytes at an offset behind every local or central header that begins so.
 void Patch(const QString& path, const QByteArray& signature, int offset, const QByteArray& bytes)
 {
@@ -45,16 +29,35 @@ void Patch(const QString& path, const QByteArray& signature, int offset, const Q
     WriteFile(path, content.replace(at + offset, bytes.size(), bytes));
 }
 
-bool Unpack(const TestFolder& folder, const QString& path, QString* error = nullptr)
+struct ArchiveTest : testing::Test
 {
-    return UnpackArchive(path, folder.Path("in/out"_s), {}, error);
-}
+    /// An archive as somebody else's program would write it, hostile ones included.
+    QString MakeArchive(const QList<Raw>& entries) const
+    {
+        const QString path = folder.Path("made.zip"_s);
+        zip_t* archive = zip_open(QFile::encodeName(path).constData(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
+        for (const Raw& entry : entries) {
+            zip_source_t* source =
+                zip_source_buffer(archive, entry.content.constData(), entry.content.size(), 0);
+            const auto index = zip_file_add(archive, entry.name.constData(), source, 0);
+            zip_file_set_external_attributes(archive, index, 0, ZIP_OPSYS_UNIX, entry.mode << 16);
+            if (entry.password)
+                zip_file_set_encryption(archive, index, ZIP_EM_AES_256, entry.password);
+        }
+        zip_close(archive);
+        return path;
+    }
+
+    bool Unpack(const QString& path) { return UnpackArchive(path, folder.Path("in/out"_s), {}, &error); }
+
+    TestFolder folder;
+    QString error;
+};
 
 } // namespace
 
-TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
+TEST_F(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
 {
-    TestFolder folder;
     // Plain, Chinese, outside GBK, outside the basic plane, and GBK bytes that happen to be valid UTF-8.
     const QStringList names = {"x.txt"_s, "箱体 1.rcvbp"_s, "ģ ñ.txt"_s,
                                "😀.txt"_s, "子/模.txt"_s,    ".x.txt.part"_s};
@@ -66,7 +69,6 @@ TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
 
     // The archive lies in the folder that it packs and must not pack itself.
     const QString path = folder.Path("屏幕B/a.zip"_s);
-    QString error;
     ASSERT_TRUE(PackFolder(folder.Path("屏幕B/"_s), path, &error)) << qPrintable(error);
     const QByteArray first = ReadFile(path);
     folder.Write("屏幕B/x.txt"_s, ReadFile(folder.Path("屏幕B/x.txt"_s)));
@@ -90,11 +92,9 @@ TEST(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
     EXPECT_EQ(QDir(out + "/屏幕B"_s).entryList(all).size(), 8);
 }
 
-TEST(ArchiveTest, FailedPackingKeepsTheOldArchiveAndAnEmptyFolderIsOne)
+TEST_F(ArchiveTest, FailedPackingKeepsTheOldArchiveAndAnEmptyFolderIsOne)
 {
-    TestFolder folder;
     const QString path = folder.Write("a.zip"_s, "old");
-    QString error;
     EXPECT_FALSE(PackFolder(folder.Path("missing"_s), path, &error));
     QFile large(folder.Write("B/large"_s, "1"));
     ASSERT_TRUE(large.resize(kMaxArchiveEntrySize + 1)); // sparse
@@ -103,18 +103,17 @@ TEST(ArchiveTest, FailedPackingKeepsTheOldArchiveAndAnEmptyFolderIsOne)
     EXPECT_EQ(ReadFile(path), "old");
     ASSERT_TRUE(large.remove());
     ASSERT_TRUE(PackFolder(folder.Path("B"_s), path));
-    EXPECT_TRUE(Unpack(folder, path));
+    EXPECT_TRUE(Unpack(path));
 }
 
-TEST(ArchiveTest, EntryThatLeadsOutStopsUnpackingAndWritesNothing)
+TEST_F(ArchiveTest, EntryThatLeadsOutStopsUnpackingAndWritesNothing)
 {
     const char* hostile[] = {"../evil",         "B/../../evil", "/evil",    "C:/evil", "C:evil",
                              "./evil",          "B/./evil",     "..\\evil", "B//evil", "B/..",
                              "B\\..\\..\\evil", "ev\nil",       "B\x81"};
     for (const char* name : hostile) {
-        TestFolder folder;
-        const QString path = MakeArchive(folder, {{"good", "1"}, {name, "evil"}, {"late", "1"}});
-        EXPECT_FALSE(Unpack(folder, path)) << name;
+        const QString path = MakeArchive({{"good", "1"}, {name, "evil"}, {"late", "1"}});
+        EXPECT_FALSE(Unpack(path)) << name;
         const QDir out(folder.Path("in/out"_s));
         EXPECT_EQ(out.entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("good"_s));
         EXPECT_FALSE(QFileInfo::exists(folder.Path("in/evil"_s))) << name;
@@ -122,83 +121,76 @@ TEST(ArchiveTest, EntryThatLeadsOutStopsUnpackingAndWritesNothing)
     }
 }
 
-TEST(ArchiveTest, LinksAndEncryptedAndDamagedEntriesAreRefused)
+TEST_F(ArchiveTest, LinksAndEncryptedAndDamagedEntriesAreRefused)
 {
-    TestFolder folder;
-    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"link", "/etc", S_IFLNK | 0777}})));
-    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"secret", "text", S_IFREG, "key"}})));
-    EXPECT_FALSE(Unpack(folder, folder.Write("empty.zip"_s, QByteArray())));
-    EXPECT_FALSE(Unpack(folder, folder.Write("text.zip"_s, "no archive at all")));
+    EXPECT_FALSE(Unpack(MakeArchive({{"link", "/etc", S_IFLNK | 0777}})));
+    EXPECT_FALSE(Unpack(MakeArchive({{"secret", "text", S_IFREG, "key"}})));
+    EXPECT_FALSE(Unpack(folder.Write("empty.zip"_s, QByteArray())));
+    EXPECT_FALSE(Unpack(folder.Write("text.zip"_s, "no archive at all")));
 
     const std::pair<int, QByteArray> lies[] = {{24, QByteArray("\x10\0\0\0", 4)}, // declares 16 bytes
                                                {24, QByteArray("\0\0\0\x7F", 4)}, // declares 2 GiB
                                                {16, "abcd"}};                     // checksum
     for (const auto& [offset, bytes] : lies) {
-        const QString path = MakeArchive(folder, {{"bomb", QByteArray(5000000, 'a')}});
+        const QString path = MakeArchive({{"bomb", QByteArray(5000000, 'a')}});
         Patch(path, "PK\1\2", offset, bytes);
         Patch(path, "PK\3\4", offset - 2, bytes);
-        EXPECT_FALSE(Unpack(folder, path)) << offset;
+        EXPECT_FALSE(Unpack(path)) << offset;
     }
     EXPECT_TRUE(QDir(folder.Path("in/out"_s)).isEmpty());
 }
 
-TEST(ArchiveTest, NulInANameIsSeenBeforeACommentToo)
+TEST_F(ArchiveTest, NulInANameIsSeenBeforeACommentToo)
 {
-    TestFolder folder;
-    const QByteArray plain = ReadFile(MakeArchive(folder, {{"a", "1"}, {"new#.txt", "2"}}));
+    const QByteArray plain = ReadFile(MakeArchive({{"a", "1"}, {"new#.txt", "2"}}));
     const QByteArray commented = QByteArray(plain).replace(plain.size() - 2, 2, QByteArray("\4\0PK\5\6", 6));
     for (const QByteArray& archive : {plain, commented}) {
         for (const char replacement : {' ', '\0'}) {
             const QByteArray content = QByteArray(archive).replace('#', replacement);
-            EXPECT_EQ(Unpack(folder, folder.Write("a.zip"_s, content)), replacement == ' ');
+            EXPECT_EQ(Unpack(folder.Write("a.zip"_s, content)), replacement == ' ');
         }
     }
 }
 
-TEST(ArchiveTest, DamagedEntryCostsNoOldFileAndEachFailureNamesWhatItIsOf)
+TEST_F(ArchiveTest, DamagedEntryCostsNoOldFileAndEachFailureNamesWhatItIsOf)
 {
-    TestFolder folder;
     const QString old = folder.Write("in/out/file"_s, "old");
-    const QString damaged = MakeArchive(folder, {{"file", "new"}});
+    const QString damaged = MakeArchive({{"file", "new"}});
     Patch(damaged, "PK\1\2", 16, "abcd"); // checksum
-    QString error;
-    EXPECT_FALSE(Unpack(folder, damaged, &error));
+    EXPECT_FALSE(Unpack(damaged));
     EXPECT_TRUE(error.endsWith(" file"_s)) << error.toStdString();
     EXPECT_EQ(ReadFile(old), "old");
     EXPECT_EQ(QDir(folder.Path("in/out"_s)).entryList(QDir::Files | QDir::Hidden).size(), 1);
 
     QDir().mkpath(folder.Path("in/out/folder"_s));
-    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"folder", "new"}}), &error));
+    EXPECT_FALSE(Unpack(MakeArchive({{"folder", "new"}})));
     EXPECT_TRUE(error.contains("/in/out/folder”：Is a directory"_s)) << error.toStdString();
-    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"file/x", "new"}}), &error));
+    EXPECT_FALSE(Unpack(MakeArchive({{"file/x", "new"}})));
     EXPECT_TRUE(error.contains("/in/out/file”：Not a directory"_s)) << error.toStdString();
-    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{QByteArray("d/").repeated(3000) + 'x', "1"}}), &error));
+    EXPECT_FALSE(Unpack(MakeArchive({{QByteArray("d/").repeated(3000) + 'x', "1"}})));
     EXPECT_TRUE(error.endsWith("File name too long"_s)) << error.right(40).toStdString();
-    EXPECT_FALSE(Unpack(folder, folder.Path("missing.zip"_s), &error));
+    EXPECT_FALSE(Unpack(folder.Path("missing.zip"_s)));
     EXPECT_TRUE(error.contains("/missing.zip”：No such file"_s)) << error.toStdString();
 }
 
-TEST(ArchiveTest, NothingIsWrittenThroughALinkAndOldFilesAreReplaced)
+TEST_F(ArchiveTest, NothingIsWrittenThroughALinkAndOldFilesAreReplaced)
 {
-    TestFolder folder;
     const QString outside = folder.Write("outside/file"_s, "old");
     folder.Write("in/out/plain"_s, "a longer old text");
     QFile::link(outside, folder.Path("in/out/file"_s));
-    ASSERT_TRUE(Unpack(folder, MakeArchive(folder, {{"file", "new"}, {"plain", "new"}})));
+    ASSERT_TRUE(Unpack(MakeArchive({{"file", "new"}, {"plain", "new"}})));
     EXPECT_EQ(ReadFile(outside), "old");
     EXPECT_EQ(ReadFile(folder.Path("in/out/file"_s)), "new");
     EXPECT_EQ(ReadFile(folder.Path("in/out/plain"_s)), "new");
 
     QFile::link(folder.Path("outside"_s), folder.Path("in/out/sub"_s));
-    EXPECT_FALSE(Unpack(folder, MakeArchive(folder, {{"sub/file", "new"}})));
+    EXPECT_FALSE(Unpack(MakeArchive({{"sub/file", "new"}})));
     EXPECT_EQ(ReadFile(outside), "old");
 }
 
-TEST(ArchiveTest, OnlyTheWantedEntriesAreUnpacked)
+TEST_F(ArchiveTest, OnlyTheWantedEntriesAreUnpacked)
 {
-    TestFolder folder;
-    const QString path =
-        MakeArchive(folder, {{"other/x", "1"}, {"project\\new.prj", "2"}, {"projects", "3"}});
+    const QString path = MakeArchive({{"other/x", "1"}, {"project\\new.prj", "2"}, {"projects", "3"}});
     const QString out = folder.Path("out"_s);
     const auto below = [](const QString& name) { return name.startsWith("project/"_s); };
     EXPECT_TRUE(UnpackArchive(path, out, below));

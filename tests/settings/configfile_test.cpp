@@ -40,7 +40,7 @@ TEST(ConfigFileTest, ValuesOutOfBoundsArePutRight)
         Read("<BeaconNoBorder>0</BeaconNoBorder><AttractionDis>7</AttractionDis>"
              "<DeviceInformationLayoutSize>1000</DeviceInformationLayoutSize>"
              "<CustomerTileSize><Width>-4</Width><Height>5000</Height></CustomerTileSize>"
-             "<CurrenGain><CurrenGain_2 Red=\"nan\" Green=\"0.5\"/></CurrenGain>");
+             "<CurrenGain><CurrenGain_2 Red='nan' Green='0.5'/></CurrenGain>");
     EXPECT_TRUE(repaired.beaconNoBorder == 2 && repaired.attractionDis == 20);
     EXPECT_EQ(repaired.deviceInformationLayoutSize, 30);
     EXPECT_EQ(QSize(repaired.customerTileWidth, repaired.customerTileHeight), QSize(1, 1024));
@@ -55,16 +55,16 @@ TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)
     EXPECT_EQ(records.projectRecords[1], "c"_s);
 
     const SConfigItems styles = Read("<UiStyleEx><UiCount>2000000000</UiCount><UiCurrent>7</UiCurrent>"
-                                     "<UiStyle1 Path=\"StyleDark\" Name=\"Style A\"/><UiStyle2 Path=\"\"/>"
-                                     "<UiStyle3 Path=\"C\"/><UiStyle4 Path=\"D\"/></UiStyleEx>");
+                                     "<UiStyle1 Path='StyleDark' Name='Style A'/><UiStyle2 Path=''/>"
+                                     "<UiStyle3 Path='C'/><UiStyle4 Path='D'/></UiStyleEx>");
     ASSERT_EQ(styles.uiStyles.size(), 3);
     EXPECT_EQ(styles.uiStyles[0].name, "Style Dark"_s);
     EXPECT_EQ(styles.uiStyles[1].name, "C"_s);
     EXPECT_FALSE(Written(styles).contains("Name="));
     EXPECT_EQ(styles.currentUiStyle, 0);
 
-    const SConfigItems hotkeys = Read("<HotkeyQT><Item1 Enable=\"true\" HotKeyValue=\"ctrl+shift+q\"/>"
-                                      "<Item2 Enable=\"no\" HotKeyValue=\"no key\"/></HotkeyQT>");
+    const SConfigItems hotkeys = Read("<HotkeyQT><Item1 Enable='true' HotKeyValue='ctrl+shift+q'/>"
+                                      "<Item2 Enable='no' HotKeyValue='no key'/></HotkeyQT>");
     EXPECT_TRUE(hotkeys.hotkeys[0][0].enable);
     EXPECT_EQ(hotkeys.hotkeys[0][0].hotkey, "Ctrl+Shift+Q"_s);
     EXPECT_FALSE(hotkeys.hotkeys[0][1].enable);

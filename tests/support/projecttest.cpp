@@ -12,7 +12,7 @@ bool ProjectTest::Load(const QString& path)
 
 bool ProjectTest::LoadText(const QByteArray& elements)
 {
-    const QByteArray document = "<?xml version=\"1.0\"?><LedSetting>" + elements + "</LedSetting>";
+    const QByteArray document = "<?xml version='1.0'?><LedSetting>" + elements + "</LedSetting>";
     return Load(folder.Write("a.xml"_s, document));
 }
 
