@@ -69,10 +69,7 @@ struct ParamSampleTest : ProjectTest
             support.portGroupBrightness = true;
             sender.SetProcessorSupportInfo(support);
         }
-        SImpExpPrepareInfo info;
-        info.matchByIp = true;
-        info.senders = {0, 1};
-        GetRuntimeData()->SetImpExpPrepareInfo(info);
+        GetRuntimeData()->SetImpExpPrepareInfo({true, {0, 1}});
     }
 
     QByteArray Values() const
@@ -96,27 +93,29 @@ struct ParamSampleTest : ProjectTest
     {
         const QByteArray sample = FullSample(name);
         const QString hollow = folder.Write("hollow.xml"_s, Hollow(sample, kStructure));
-        const QString path = folder.Path("a.xml"_s);
-        ASSERT_EQ((project.*take)(hollow, QUuid()), 0U);
-        ASSERT_EQ((project.*write)(path, QUuid()), 0U);
-        const QByteArray empty = ReadFile(path);
+        const auto taken = [&](const QString& path) { EXPECT_EQ((project.*take)(path, QUuid()), 0U); };
+        const auto written = [&] {
+            const QString path = folder.Path("a.xml"_s);
+            EXPECT_EQ((project.*write)(path, QUuid()), 0U);
+            return ReadFile(path);
+        };
+        taken(hollow);
+        const QByteArray empty = written();
         EXPECT_EQ(NamesWithoutOwnValue(sample, empty, kStructure), "");
 
-        ASSERT_EQ((project.*take)(folder.Write("b.xml"_s, sample), QUuid()), 0U);
+        taken(folder.Write("b.xml"_s, sample));
         EXPECT_EQ(FirstDifference(Values(), Told(values)), "");
         for (CSender* sender : project.GetSenders()) { // the areas of the ports are the samples' then
             MakeWall(*sender->GetPort(0), {2, 1, QSize(128, 64), QPoint(10, 20)});
             MakeWall(*sender->GetPort(1), {1, 1, QSize(128, 64), QPoint(300, 400)});
         }
-        ASSERT_EQ((project.*write)(path, QUuid()), 0U);
-        EXPECT_EQ(FirstDifference(ReadFile(path), sample), "");
+        EXPECT_EQ(FirstDifference(written(), sample), "");
 
         for (CSender* sender : project.GetSenders())
             for (int port = 0; port < 2; ++port)
                 sender->GetPort(port)->GetPortProject()->ClearAllTiles();
-        ASSERT_EQ((project.*take)(hollow, QUuid()), 0U);
-        ASSERT_EQ((project.*write)(path, QUuid()), 0U);
-        EXPECT_EQ(FirstDifference(ReadFile(path), empty), "") << "what a file lacks is not the last file's";
+        taken(hollow);
+        EXPECT_EQ(FirstDifference(written(), empty), "") << "what a file lacks is not the last file's";
     }
 };
 

@@ -39,21 +39,16 @@ TEST(LedNimbraDataTest, ObjectsLiveBetweenInitAndRelease)
     LedNimbraData_Release();
 }
 
-TEST(LedNimbraDataTest, SecondInitKeepsTheObjectsAndLoadsTheSettingsAgain)
+TEST(LedNimbraDataTest, EachInitLoadsTheSettingsAndTheSecondKeepsTheObjects)
 {
     Library library;
     const auto objects = Objects();
+    GetConfigData()->SetLanguage(LanguageEnglish);
+    ASSERT_TRUE(GetConfigData()->Save());
     GetConfigData()->SetShowGrid(false);
     LedNimbraData_Init();
     EXPECT_EQ(Objects(), objects);
     EXPECT_TRUE(GetConfigData()->IsShowGrid()) << "what was not saved is loaded over";
-}
-
-TEST(LedNimbraDataTest, LanguageOfTheSettingsOutlivesTheStart)
-{
-    Library library;
-    GetConfigData()->SetLanguage(LanguageEnglish);
-    ASSERT_TRUE(GetConfigData()->Save());
     LedNimbraData_Release();
     LedNimbraData_Init();
     EXPECT_EQ(GetConfigData()->GetLanguageType(), LanguageEnglish);

@@ -12,9 +12,9 @@
 #include <gtest/gtest.h>
 
 #include <QJsonArray>
+#include <QRandomGenerator>
 
 #include <iterator>
-#include <random>
 
 using namespace params;
 
@@ -289,8 +289,7 @@ TEST_F(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
 {
     const char* const kTexts[] = {"",           "-1",   "33",  "4096", "2147483647", "-2147483648",
                                   "4294967296", "1e39", "nan", "x"};
-    std::mt19937 random(20240607);
-    const auto below = [&](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };
+    QRandomGenerator random(20240607);
     int imported = 0;
     for (int round = 0; round < 40; ++round) {
         QDomDocument document;
@@ -300,9 +299,10 @@ TEST_F(ParamFileTest, DamagedValuesNeverLeaveARecordThatCannotBeWrittenAndRead)
             for (auto child = all[i].firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
                 all.append(child);
         for (int damage = 0; damage < 60; ++damage) {
-            QDomElement element = all[1 + below(all.size() - 1)];
+            QDomElement element = all[1 + random.bounded(all.size() - 1)];
             if (element.firstChildElement().isNull() && !element.firstChild().isNull())
-                element.firstChild().setNodeValue(QLatin1String(kTexts[below(std::size(kTexts))]));
+                element.firstChild().setNodeValue(
+                    QLatin1String(kTexts[random.bounded(int(std::size(kTexts)))]));
             else if (element.tagName() != "Processor_1"_s)
                 element.parentNode().removeChild(element);
         }

@@ -10,8 +10,7 @@
 #include "support/wallbuilder.h"
 
 #include <QDir>
-
-#include <random>
+#include <QRandomGenerator>
 
 using ProjectFileTest = ProjectTest;
 
@@ -270,16 +269,13 @@ TEST_F(ProjectFileTest, DamagedFilesAreReadOrRefusedWhole)
     ASSERT_TRUE(Save(original));
     const QByteArray before = Document();
     const QByteArray sample = ReadFile(SamplePath("small-wall.xml"));
-    std::mt19937 random(4711);
-    const auto below = [&random](int limit) {
-        return static_cast<int>(random() % static_cast<unsigned>(limit));
-    };
+    QRandomGenerator random(4711);
     for (int round = 0; round < 150; ++round) {
         QByteArray damaged = sample;
-        for (int hits = 1 + below(4); hits > 0; --hits)
-            damaged[2 + below(damaged.size() - 2)] = static_cast<char>(random());
-        if (below(4) == 0)
-            damaged.remove(2 + below(damaged.size() - 2), below(200));
+        for (int hits = 1 + random.bounded(4); hits > 0; --hits)
+            damaged[2 + random.bounded(damaged.size() - 2)] = static_cast<char>(random.generate());
+        if (random.bounded(4) == 0)
+            damaged.remove(2 + random.bounded(damaged.size() - 2), random.bounded(200));
         if (!Load(folder.Write("damaged.xml"_s, damaged))) {
             ASSERT_EQ(Document(), before) << "round " << round;
         }

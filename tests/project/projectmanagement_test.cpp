@@ -1,10 +1,6 @@
 #include "project/projectmanagement.h"
 
-#include "project/projectdata.h"
-#include "support/library.h"
-#include "support/testfolder.h"
-
-#include <gtest/gtest.h>
+#include "support/projecttest.h"
 
 #include <QApplication>
 #include <QDir>
@@ -14,6 +10,8 @@
 #include <QTimer>
 
 namespace {
+
+using ProjectManagementTest = ProjectTest;
 
 /// Saves all, with a chooser that takes `folder`, or is cancelled when that is empty.
 bool SaveInto(CProjectManagement& management, const QString& folder, QProgressDialog* dialog)
@@ -33,10 +31,9 @@ bool SaveInto(CProjectManagement& management, const QString& folder, QProgressDi
 
 } // namespace
 
-TEST(ProjectManagementTest, SameProjectTwiceIsOneCopyOfTheLaterContent)
+TEST_F(ProjectManagementTest, SameProjectTwiceIsOneCopyOfTheLaterContent)
 {
     CProjectManagement management;
-    CProjectData project;
     management.AddProject(&project);
     project.SetDeviceSetName("second"_s);
     management.AddProject(&project);
@@ -47,16 +44,14 @@ TEST(ProjectManagementTest, SameProjectTwiceIsOneCopyOfTheLaterContent)
     EXPECT_EQ(management.GetProjectCount(), 0);
 }
 
-TEST(ProjectManagementTest, AllNamedProjectsAreSavedIntoTheChosenFolder)
+TEST_F(ProjectManagementTest, AllNamedProjectsAreSavedIntoTheChosenFolder)
 {
-    Library library;
-    TestFolder folder;
     CProjectManagement management;
     for (const char* name : {"wall", "", "../Wall", "wall"}) {
-        CProjectData project;
-        project.SetDeviceSetName(QLatin1String(name));
-        project.SetDemoSenderType(management.GetProjectCount());
-        management.AddProject(&project);
+        CProjectData named;
+        named.SetDeviceSetName(QLatin1String(name));
+        named.SetDemoSenderType(management.GetProjectCount());
+        management.AddProject(&named);
     }
     EXPECT_FALSE(SaveInto(management, QString(), nullptr));
     QProgressDialog dialog;
@@ -66,10 +61,7 @@ TEST(ProjectManagementTest, AllNamedProjectsAreSavedIntoTheChosenFolder)
     EXPECT_EQ(QDir(folder.Path()).entryList(QDir::Files), files);
     const int types[] = {2, 3, 0};
     for (int i = 0; i < files.size(); ++i) {
-        CProjectData saved;
-        QString error;
-        ASSERT_TRUE(
-            saved.LoadProjectFromFile(QFile::encodeName(folder.Path(files[i])).constData(), error, nullptr));
-        EXPECT_EQ(saved.GetDemoSenderType(), types[i]) << files[i].toStdString();
+        ASSERT_TRUE(Load(folder.Path(files[i])));
+        EXPECT_EQ(project.GetDemoSenderType(), types[i]) << files[i].toStdString();
     }
 }

@@ -54,16 +54,6 @@ struct CrashSafetyTest : testing::Test
                   QStringList());
     }
 
-    static void KillAfter(int milliseconds, const QString& folder)
-    {
-        QProcess saver;
-        saver.start(QStringLiteral(ORVAN_SAVER), {"loop"_s, folder});
-        ASSERT_TRUE(saver.waitForReadyRead());
-        QThread::msleep(static_cast<unsigned long>(milliseconds));
-        saver.kill();
-        ASSERT_TRUE(saver.waitForFinished());
-    }
-
     Library library;
     TestFolder scratch;
     QString folder;
@@ -76,7 +66,12 @@ TEST_F(CrashSafetyTest, KilledSaveLeavesTheOldFileOrTheNewOne)
     std::uniform_int_distribution<int> life(0, kLongestLife);
     const int kills = qMax(kUsualKills, qEnvironmentVariableIntValue("ORVAN_KILLS"));
     for (int kill = 0; kill < kills; ++kill) {
-        KillAfter(life(random), folder);
+        QProcess saver;
+        saver.start(QStringLiteral(ORVAN_SAVER), {"loop"_s, folder});
+        ASSERT_TRUE(saver.waitForReadyRead());
+        QThread::msleep(static_cast<unsigned long>(life(random)));
+        saver.kill();
+        ASSERT_TRUE(saver.waitForFinished());
         for (int document = 0; document < kDocuments; ++document)
             ASSERT_NE(VersionOf(Document(document), folder), 0) << document << ", kill " << kill;
     }

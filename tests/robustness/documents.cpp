@@ -2,7 +2,6 @@
 
 #include "frame/lednimbradata.h"
 #include "frame/runtimedata.h"
-#include "layout/tile.h"
 #include "products/productdirectoryset.h"
 #include "project/projectdata.h"
 #include "settings/archive.h"

@@ -8,24 +8,13 @@
 
 namespace {
 
-QByteArray Wrapped(const QByteArray& items)
-{
-    return "<LedControlConfig><Config>" + items + "</Config></LedControlConfig>";
-}
-
 SConfigItems Read(const QByteArray& items)
 {
     TestFolder folder;
+    const QByteArray document = "<LedControlConfig><Config>" + items + "</Config></LedControlConfig>";
     SConfigItems read;
-    EXPECT_TRUE(ReadConfigFile(folder.Write("c.xml"_s, Wrapped(items)), &read));
+    EXPECT_TRUE(ReadConfigFile(folder.Write("c.xml"_s, document), &read));
     return read;
-}
-
-QByteArray Written(const SConfigItems& items)
-{
-    TestFolder folder;
-    EXPECT_TRUE(WriteConfigFile(folder.Path("c.xml"_s), items));
-    return ReadFile(folder.Path("c.xml"_s));
 }
 
 } // namespace
@@ -60,7 +49,9 @@ TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)
     ASSERT_EQ(styles.uiStyles.size(), 3);
     EXPECT_EQ(styles.uiStyles[0].name, "Style Dark"_s);
     EXPECT_EQ(styles.uiStyles[1].name, "C"_s);
-    EXPECT_FALSE(Written(styles).contains("Name="));
+    const TestFolder folder;
+    ASSERT_TRUE(WriteConfigFile(folder.Path("c.xml"_s), styles));
+    EXPECT_FALSE(ReadFile(folder.Path("c.xml"_s)).contains("Name="));
     EXPECT_EQ(styles.currentUiStyle, 0);
 
     const SConfigItems hotkeys = Read("<HotkeyQT><Item1 Enable='true' HotKeyValue='ctrl+shift+q'/>"
