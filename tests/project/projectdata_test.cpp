@@ -25,8 +25,7 @@ struct ProjectDataTest : ProjectTest
 
     SMD5 AddProduct(const QString& name, const QByteArray& content)
     {
-        const QString path = CProductDirectorySet::GetRootDir() + name + ".rcvbp"_s;
-        WriteFile(path, content);
+        const QString path = WriteFile(CProductDirectorySet::GetRootDir() + name + ".rcvbp"_s, content);
         GetRuntimeData()->GetProductDirectorySet()->LoadProductInfo();
         return CConstantData::GetMD5FromFile(path);
     }
@@ -104,8 +103,7 @@ TEST_F(ProjectDataTest, RemovalKeepsTheCurrentSenderAndReleasesTheHistory)
     EXPECT_NE(history->GetSenderUndoRedoFromID(last), nullptr);
 
     QDomElement none = QDomDocument().createElement("SenderLayout"_s);
-    QString error;
-    project.ReadSender(QDomDocument(), &none, error, nullptr);
+    project.ReadSender(QDomDocument(), &none, version, nullptr);
     EXPECT_EQ(history->GetSenderUndoRedoFromID(last), nullptr);
     EXPECT_TRUE(history->IsModidfied());
 }

@@ -16,8 +16,6 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-namespace {
-
 using LimitsTest = ProjectTest;
 
 TEST_F(LimitsTest, FilesBeyondTheirSizeAreRefused)
@@ -237,5 +235,3 @@ TEST_F(LimitsTest, PipesAndDevicesAreRefusedAtEveryEntrance)
         EXPECT_TRUE(QFileInfo::exists(path)) << "set aside";
     }
 }
-
-} // namespace

@@ -13,8 +13,7 @@ TEST(SpecifiedIpListTest, OnlyDottedAddressesAreReadOnceAndInOrder)
     SpecifiedIpList list;
     EXPECT_FALSE(list.Save());
     ASSERT_TRUE(list.Load(path));
-    const QStringList expected = {"192.0.2.9"_s, "10.1.2.3"_s, "203.0.113.1"_s};
-    EXPECT_EQ(list.Addresses(), expected);
+    EXPECT_EQ(list.Addresses(), QStringList({"192.0.2.9"_s, "10.1.2.3"_s, "203.0.113.1"_s}));
     EXPECT_TRUE(list.Remove("10.1.2.03"_s));
     ASSERT_TRUE(list.Save());
     EXPECT_EQ(ReadFile(path), "192.0.2.9\n203.0.113.1\n");
@@ -37,7 +36,6 @@ TEST(SpecifiedIpListTest, AddressesOutsideEveryNetworkAreErrors)
         list.Add(QLatin1String(address));
     const QVector<Ipv4Network> networks = {
         {0x0A010001, 0xFFFF0000}, {0xC0A807FE, 0xFFFFFF80}, {0x0A080001, 0}};
-    const QStringList expected = {"10.2.2.3"_s, "192.168.7.127"_s};
-    EXPECT_EQ(list.Outside(networks), expected);
+    EXPECT_EQ(list.Outside(networks), QStringList({"10.2.2.3"_s, "192.168.7.127"_s}));
     EXPECT_EQ(list.Outside({}), list.Addresses());
 }

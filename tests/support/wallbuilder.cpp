@@ -40,16 +40,6 @@ std::unique_ptr<CSender> MakeWall(int columns, int rows, int ports)
     return sender;
 }
 
-CTileSet& TilesOf(CPort& port)
-{
-    return port.GetTileSet();
-}
-
-CTileGroupSet& GroupsOf(CPort& port)
-{
-    return port.GetTileGroupSet();
-}
-
 void NestGroups(CPort& port, const QUuid& parent, std::initializer_list<QUuid> children)
 {
     CTileGroup* above = GroupsOf(port).GetDirectGroupByDirID(parent);

@@ -29,8 +29,15 @@ QUuid MakeWall(CPort& port, int columns, int rows);
 /// A sender whose first `ports` ports each hold such a block; four are in use.
 std::unique_ptr<CSender> MakeWall(int columns, int rows, int ports = 1);
 
-CTileSet& TilesOf(CPort& port);
-CTileGroupSet& GroupsOf(CPort& port);
+inline CTileSet& TilesOf(CPort& port)
+{
+    return port.GetTileSet();
+}
+
+inline CTileGroupSet& GroupsOf(CPort& port)
+{
+    return port.GetTileGroupSet();
+}
 
 /// Moves top-level groups of the port below another top-level one.
 void NestGroups(CPort& port, const QUuid& parent, std::initializer_list<QUuid> children);
