@@ -80,11 +80,12 @@ ORVAN_CALL(ssize_t, write, (int file, const void* data, size_t size), (file, dat
            IsFile(file) && Fails())
 ORVAN_CALL(int, fsync, (int file), (file), Fails(EIO))
 ORVAN_CALL(int, fdatasync, (int file), (file), Fails(EIO))
-ORVAN_CALL(int, renameat2, (int a, const char* from, int b, const char* to, unsigned int flags) noexcept,
-           (a, from, b, to, flags), Fails(EIO))
+ORVAN_CALL(int, renameat2,
+           (int fromAt, const char* from, int toAt, const char* to, unsigned int flags) noexcept,
+           (fromAt, from, toAt, to, flags), Fails(EIO))
 ORVAN_CALL(int, rename, (const char* from, const char* to), (from, to), Fails(EIO))
-ORVAN_CALL(int, linkat, (int a, const char* from, int b, const char* to, int flags), (a, from, b, to, flags),
-           Fails())
+ORVAN_CALL(int, linkat, (int fromAt, const char* from, int toAt, const char* to, int flags),
+           (fromAt, from, toAt, to, flags), Fails())
 ORVAN_CALL(int, mkdir, (const char* path, mode_t mode) noexcept, (path, mode), Fails())
 #undef ORVAN_CALL
 }
