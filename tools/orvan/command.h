@@ -42,5 +42,6 @@ extern const Command kDemoCommand;
 extern const Command kInfoCommand;
 extern const Command kNewCommand;
 extern const Command kParamsCommand;
+extern const Command kPatternCommand;
 extern const Command kProductsCommand;
 extern const Command kRenderCommand;
