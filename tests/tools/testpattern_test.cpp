@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QImage>
 
+#include <tuple>
+
 using OrvanTools::PatternMode;
 
 class TestPatternTest : public ToolsTest
@@ -17,7 +19,10 @@ protected:
         buffer.open(QIODevice::WriteOnly);
         return OrvanTools::WritePattern(buffer, Project(), {sender, mode}) ? buffer.data() : QByteArray();
     }
-    QImage Draw(PatternMode mode = PatternMode::Ports) { return QImage::fromData(Bytes(mode), "PNG"); }
+    QImage Draw(PatternMode mode = PatternMode::Ports)
+    {
+        return QImage::fromData(Bytes(mode), "PNG").convertToFormat(QImage::Format_RGB32);
+    }
 };
 
 TEST_F(TestPatternTest, BordersColoursAndGridLieOnTheirPixelsOfTheCanvas)
@@ -25,26 +30,22 @@ TEST_F(TestPatternTest, BordersColoursAndGridLieOnTheirPixelsOfTheCanvas)
     CSender& sender = Build(QSize(3, 2), 3); // of 128 x 128
     sender.SetCanvasSize(QSize(300, 300));
     sender.SetOffset(QSize(20, 10));
-    const QColor first = CConstantData::GetColorByPort(0);
-    const QColor second = CConstantData::GetColorByPort(1);
-    const struct
-    {
-        int x, y;
-        QColor ports, numbers;
-    } pixels[] = {{19, 12, Qt::black, Qt::black},  {20, 10, Qt::white, Qt::white},
-                  {21, 11, first, Qt::black},      {146, 12, first, Qt::black},
-                  {147, 12, Qt::white, Qt::white}, {148, 12, Qt::white, Qt::white},
-                  {149, 12, second, Qt::black},    {60, 137, Qt::white, Qt::white},
-                  {60, 266, Qt::black, Qt::black}, {299, 12, CConstantData::GetColorByPort(2), Qt::black}};
+    const auto first = CConstantData::GetColorByPort(0), second = CConstantData::GetColorByPort(1);
+    const std::tuple<int, int, QColor> pixels[] = {
+        {19, 12, Qt::black},  {20, 10, Qt::white},
+        {21, 11, first},      {146, 12, first},
+        {147, 12, Qt::white}, {148, 12, Qt::white},
+        {149, 12, second},    {60, 137, Qt::white},
+        {60, 266, Qt::black}, {299, 12, CConstantData::GetColorByPort(2)}};
     const QImage ports = Draw();
-    ASSERT_EQ(ports.size(), QSize(300, 300));
     const QImage numbers = Draw(PatternMode::Numbers);
-    for (const auto& known : pixels) {
-        EXPECT_EQ(ports.pixelColor(known.x, known.y), known.ports) << known.x << ',' << known.y;
-        EXPECT_EQ(numbers.pixelColor(known.x, known.y), known.numbers) << known.x << ',' << known.y;
+    ASSERT_EQ(ports.size(), QSize(300, 300));
+    for (const auto& [x, y, color] : pixels) {
+        EXPECT_EQ(ports.pixelColor(x, y), color) << x << ',' << y;
+        EXPECT_EQ(numbers.pixelColor(x, y), color == Qt::white ? color : Qt::black) << x << ',' << y;
     }
-    const QImage grid = Draw(PatternMode::Grid); // counted from the canvas, not from the cabinet
-    EXPECT_NE(grid.pixelColor(32, 12), first);
+    const QImage grid = Draw(PatternMode::Grid);
+    EXPECT_NE(grid.pixelColor(32, 12), first); // counted from the canvas
     EXPECT_EQ(grid.pixelColor(36, 12), first);
     EXPECT_EQ(Bytes(PatternMode::Grid), Bytes(PatternMode::Grid));
 }
@@ -52,9 +53,9 @@ TEST_F(TestPatternTest, BordersColoursAndGridLieOnTheirPixelsOfTheCanvas)
 TEST_F(TestPatternTest, TurnedByAQuarterItIsTheStraightPictureTurned)
 {
     Build(QSize(1, 1), 1).SetCanvasSize(QSize(128, 128));
-    const QImage straight = Draw().convertToFormat(QImage::Format_RGB32);
+    const QImage straight = Draw();
     Turn(0, 90);
-    EXPECT_EQ(Draw().convertToFormat(QImage::Format_RGB32), straight.transformed(QTransform().rotate(90)));
+    EXPECT_EQ(Draw(), straight.transformed(QTransform().rotate(90)));
 }
 
 TEST_F(TestPatternTest, WithoutACanvasItIsTheWallAndASpareShowsWhatItBacksUp)

@@ -7,7 +7,6 @@
 #include <OrvanData/orvandata.h>
 #include <orvantools/testpattern.h>
 
-#include <QBuffer>
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -54,14 +53,13 @@ bool ReadMode(const QCommandLineParser& parser, PatternMode* mode)
 /// Returns the exit status. On failure standard error says why, and the file stays as it was.
 int WritePatternTo(const QString& file, const PatternOptions& options)
 {
-    QBuffer picture;
-    picture.open(QIODevice::WriteOnly);
-    if (!OrvanTools::WritePattern(picture, *GetProjectData(), options))
-        return Fail(StatusFile, file, QStringLiteral("cannot be drawn"));
+    const QFileInfo there(file);
+    if (there.exists() && !there.isFile() && !there.isDir())
+        return Fail(StatusFile, file, QStringLiteral("is no regular file"));
     const SignalsHeld held; // what is written beside the file is gone or renamed afterwards
     QSaveFile output(file);
     if (!output.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-        || output.write(picture.data()) != picture.size() || !output.commit())
+        || !OrvanTools::WritePattern(output, *GetProjectData(), options) || !output.commit())
         return Fail(StatusFile, file, output.errorString());
     return StatusDone;
 }
