@@ -3,6 +3,7 @@
 #include "openproject.h"
 #include "privatefolder.h"
 #include "samefile.h"
+#include "senderoption.h"
 
 #include <OrvanData/orvandata.h>
 #include <orvantools/testpattern.h>
@@ -30,9 +31,7 @@ const struct
 
 void AddOptions(QCommandLineParser& parser)
 {
-    parser.addOption({QStringLiteral("sender"),
-                      QStringLiteral("Whose canvas it is, from 1; the current sender's by default."),
-                      QStringLiteral("N")});
+    AddSenderOption(parser, QStringLiteral("Whose canvas it is, from 1; the current sender's by default."));
     for (const auto& mode : kModes)
         parser.addOption({QLatin1String(mode.option), QLatin1String(mode.help)});
 }
@@ -75,21 +74,15 @@ int Run(const Invocation& invocation)
         return Fail(StatusUsage, QString(), QStringLiteral("takes one of --ports, --numbers and --grid"));
     if (QFileInfo(output).suffix().toLower() != QLatin1String("png"))
         return Fail(StatusUsage, output, QStringLiteral("a pattern ends in .png"));
-    if (parser.isSet(QStringLiteral("sender"))
-        && (!ParseNumber(parser.value(QStringLiteral("sender")), &number) || number < 1))
-        return Fail(StatusUsage, QString(), QStringLiteral("--sender takes a number from 1"));
+    if (!ReadSenderOption(parser, &number))
+        return StatusUsage;
     if (IsSameFile(file, output))
         return Fail(StatusUsage, output, QStringLiteral("is the project itself"));
     if (!OpenProject(file))
         return StatusFile;
-
-    const CProjectData& project = *GetProjectData();
-    if (number > project.GetSenderCount())
-        return Fail(StatusUsage, file, QStringLiteral("has no sender %1").arg(number));
-    options.sender = number > 0 ? number - 1 : project.GetCurSenderIndexForRtCnnt();
-    if (!project.GetSender(options.sender))
-        return Fail(StatusFile, file, QStringLiteral("has no sender to show"));
-    const QSize size = OrvanTools::PatternSize(project, options.sender);
+    if (const int status = FindSender(file, number, &options.sender))
+        return status;
+    const QSize size = OrvanTools::PatternSize(*GetProjectData(), options.sender);
     if (size.isEmpty())
         return Fail(StatusFile, file, QStringLiteral("the sender has neither a canvas nor cabinets"));
     if (size.width() > kMaxCanvasWidth || size.height() > kMaxCanvasHeight)

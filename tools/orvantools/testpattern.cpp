@@ -87,17 +87,25 @@ template <typename Visit> void ForEachCabinet(const std::vector<const CPort*>& p
     }
 }
 
-/// The part of the cabinets' coordinates that the picture shows.
-QRect AreaOf(const CSender& sender, const std::vector<const CPort*>& ports)
+/// The part of the cabinets' coordinates that the picture shows. A canvas in a file may have any size.
+struct Area
+{
+    QPoint leftTop;
+    QSize size;
+};
+
+Area AreaOf(const CSender& sender, const std::vector<const CPort*>& ports)
 {
     const QSize offset = sender.GetOffset() == QSize(-1, -1) ? QSize(0, 0) : sender.GetOffset();
     if (!sender.GetCanvasSize().isEmpty())
-        return QRect(QPoint(-offset.width(), -offset.height()), sender.GetCanvasSize());
+        return {QPoint(PixelAt(-double(offset.width())), PixelAt(-double(offset.height()))),
+                sender.GetCanvasSize()};
     QRectF bound;
     ForEachCabinet(ports, [&bound](const CPort& /*port*/, const CTile& tile) {
         bound = bound.united(ShapeOf(tile).Bound());
     });
-    return PixelRect(bound);
+    const QRect pixels = PixelRect(bound);
+    return {pixels.topLeft(), pixels.size()};
 }
 
 /// Relative luminance as the guidelines for readable web pages define it.
@@ -154,11 +162,11 @@ private:
     void PaintGround(int y, int begin, int end, uchar* row, const Colors& colors) const;
     uchar* RowAt(int y, int bandTop)
     {
-        return m_rows.data() + static_cast<size_t>(y - bandTop) * static_cast<size_t>(m_area.width());
+        return m_rows.data() + static_cast<size_t>(y - bandTop) * static_cast<size_t>(m_area.size.width());
     }
 
     const PatternMode m_mode;
-    QRect m_area;
+    Area m_area;
     QVector<QRgb> m_palette;
     std::vector<PaintedCabinet> m_cabinets; ///< later ones lie over earlier ones
     std::vector<size_t> m_byTop;
@@ -172,11 +180,11 @@ PatternPainter::PatternPainter(const CProjectData& project, const PatternOptions
 {
     const auto ports = ShownPorts(project, options.sender);
     m_area = AreaOf(*project.GetSender(options.sender), ports);
-    const QRect picture(QPoint(0, 0), m_area.size());
+    const QRect picture(QPoint(0, 0), m_area.size);
     ForEachCabinet(ports, [&](const CPort& port, const CTile& tile) {
         const TileShape shape = ShapeOf(tile);
         const int rounding = shape.IsTurned() ? 1 : 0;
-        const QRectF bound = shape.Bound().translated(-QPointF(m_area.topLeft()));
+        const QRectF bound = shape.Bound().translated(-QPointF(m_area.leftTop));
         const QRect pixels =
             PixelRect(bound).adjusted(-rounding, -rounding, rounding, rounding).intersected(picture);
         if (!pixels.isEmpty())
@@ -205,7 +213,7 @@ Colors PatternPainter::ColorsOf(const CPort& port)
 
 bool PatternPainter::Write(QIODevice& device)
 {
-    const QSize size = m_area.size();
+    const QSize size = m_area.size;
     PngRows png(device);
     if (size.isEmpty() || size.width() > kMaxCanvasWidth || size.height() > kMaxCanvasHeight
         || !png.Begin(size, m_palette))
@@ -243,7 +251,7 @@ void PatternPainter::PaintBand(const QRect& band)
 void PatternPainter::PaintStraight(const PaintedCabinet& cabinet, const QRect& pixels, int bandTop)
 {
     const PatternFace face(*cabinet.tile);
-    const QPoint corner = QPoint(cabinet.tile->GetX(), cabinet.tile->GetY()) - m_area.topLeft();
+    const QPoint corner = QPoint(cabinet.tile->GetX(), cabinet.tile->GetY()) - m_area.leftTop;
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
         uchar* row = RowAt(y, bandTop) + pixels.left();
         PaintGround(y, pixels.left(), pixels.right() + 1, row, cabinet.colors);
@@ -258,7 +266,7 @@ void PatternPainter::PaintTurned(const PaintedCabinet& cabinet, const TileShape&
 {
     const PatternFace face(*cabinet.tile);
     const QSize size = cabinet.tile->GetSize();
-    const QPointF corner = shape.corners[0] - m_area.topLeft();
+    const QPointF corner = shape.corners[0] - m_area.leftTop;
     const QPointF across = (shape.corners[1] - shape.corners[0]) / size.width();
     const QPointF down = (shape.corners[3] - shape.corners[0]) / size.height();
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
@@ -298,7 +306,7 @@ void PatternPainter::PaintGround(int y, int begin, int end, uchar* row, const Co
 
 QSize PatternSize(const CProjectData& project, int sender)
 {
-    return AreaOf(*project.GetSender(sender), ShownPorts(project, sender)).size();
+    return AreaOf(*project.GetSender(sender), ShownPorts(project, sender)).size;
 }
 
 bool WritePattern(QIODevice& device, const CProjectData& project, const PatternOptions& options)
