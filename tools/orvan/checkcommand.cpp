@@ -1,6 +1,7 @@
 #include "capacityoptions.h"
 #include "command.h"
 #include "console.h"
+#include "inputfile.h"
 #include "openproject.h"
 
 #include <OrvanData/orvandata.h>
@@ -50,7 +51,7 @@ int Run(const Invocation& invocation)
     if (!OpenProject(file))
         return StatusFile;
     OrvanTools::StoredReceivers stored;
-    options.stored = stored.Read(file) ? &stored : nullptr;
+    options.stored = stored.Read(InputPath(file)) ? &stored : nullptr;
     if (!options.stored)
         Warn(file, QStringLiteral("its receiver numbers cannot be read and are not checked"));
     const bool json = invocation.parser.isSet(QStringLiteral("json"));
@@ -63,4 +64,4 @@ int Run(const Invocation& invocation)
 const Command kCheckCommand = {"check",    "FILE", "A project archive or a bare project document.",
                                1,          1,      "Faults that a technician would want to know of.",
                                AddOptions, Run,    false,
-                               false};
+                               false,      true};

@@ -33,8 +33,9 @@ struct Command
     const char* summary;
     void (*addOptions)(QCommandLineParser&);
     int (*run)(const Invocation&);
-    bool paints;      ///< needs fonts
-    bool aloneAlways; ///< works in a private documents folder even when one is given
+    bool paints;               ///< needs fonts
+    bool aloneAlways;          ///< works in a private documents folder even when one is given
+    bool takesStreams = false; ///< "-" stands for standard input, and for standard output
 };
 
 extern const Command kCheckCommand;

@@ -1,5 +1,7 @@
 #include "console.h"
 
+#include "inputfile.h"
+
 #include <orvantools/printable.h>
 
 #include <QJsonDocument>
@@ -13,7 +15,7 @@ void WriteError(const char* kind, const QString& subject, const QString& what)
 {
     QString line = QStringLiteral("orvan: ");
     if (!subject.isEmpty())
-        line += subject + QStringLiteral(": ");
+        line += InputName(subject) + QStringLiteral(": ");
     line += QLatin1String(kind) + what;
     line.replace(QRegularExpression(QStringLiteral("[\\s]*[\\r\\n]+[\\s]*")), QStringLiteral(" "));
     std::fprintf(stderr, "%s\n", OrvanTools::Printable(line.trimmed()).toLocal8Bit().constData());

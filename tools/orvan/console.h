@@ -5,7 +5,7 @@
 #include <QString>
 
 /// Writes one line to standard error, "orvan: SUBJECT: what", or "orvan: what" without a subject, and returns
-/// the status.
+/// the status. "-" is told as standard input.
 int Fail(int status, const QString& subject, const QString& what);
 
 void Warn(const QString& subject, const QString& what); ///< the same, marked as a warning

@@ -2,67 +2,50 @@
 
 #include "command.h"
 #include "console.h"
-#include "privatefolder.h"
+#include "outputfile.h"
 
 #include <OrvanData/orvandata.h>
 #include <orvantools/layoutdrawing.h>
 
 #include <QBuffer>
-#include <QFileInfo>
-#include <QSaveFile>
-
-#include <optional>
 
 using OrvanTools::DrawingFormat;
 
 namespace {
 
-std::optional<DrawingFormat> FormatOf(const QString& file)
+QStringList Streamed()
 {
-    const QString suffix = QFileInfo(file).suffix().toLower();
-    if (suffix == QLatin1String("png"))
-        return DrawingFormat::Png;
-    if (suffix == QLatin1String("svg"))
-        return DrawingFormat::Svg;
-    if (suffix == QLatin1String("pdf"))
-        return DrawingFormat::Pdf;
-    return {};
+    return {QStringLiteral("png"), QStringLiteral("svg")};
 }
 
-/// A full disk takes a part of the bytes first. Only a second write without a buffer tells the reason.
-bool WriteAll(QIODevice& output, const QByteArray& bytes)
+DrawingFormat FormatOf(const QString& form)
 {
-    qint64 done = 0;
-    while (done < bytes.size()) {
-        const qint64 taken = output.write(bytes.constData() + done, bytes.size() - done);
-        if (taken <= 0)
-            return false;
-        done += taken;
-    }
-    return true;
+    return form == QLatin1String("png")   ? DrawingFormat::Png
+           : form == QLatin1String("pdf") ? DrawingFormat::Pdf
+                                          : DrawingFormat::Svg;
 }
 
 } // namespace
 
-bool IsDrawingName(const QString& file)
+void AddDrawingForm(QCommandLineParser& parser)
 {
-    return FormatOf(file).has_value();
+    AddFormatOption(parser, Streamed());
 }
 
-int WriteDrawing(const QString& file, int sender, int width)
+QString DrawingForm(const QCommandLineParser& parser, const QString& output)
+{
+    return OutputForm(parser, output, Streamed() + QStringList{QStringLiteral("pdf")}, Streamed());
+}
+
+int WriteDrawing(const QString& file, const QString& form, int sender, int width)
 {
     OrvanTools::DrawingOptions options;
     options.sender = sender;
     options.width = width;
-    QBuffer drawing;
+    QBuffer drawing; // signals end the program while it draws, and wait while it writes
     drawing.open(QIODevice::WriteOnly);
-    if (!OrvanTools::WriteLayout(drawing, FormatOf(file).value_or(DrawingFormat::Svg), *GetProjectData(),
-                                 options))
-        return Fail(StatusFile, file, QStringLiteral("cannot be drawn"));
-    const SignalsHeld held; // what is written beside the file is gone or renamed afterwards
-    QSaveFile output(file);
-    if (!output.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !WriteAll(output, drawing.data())
-        || !output.commit())
-        return Fail(StatusFile, file, output.errorString());
-    return StatusDone;
+    if (!OrvanTools::WriteLayout(drawing, FormatOf(form), *GetProjectData(), options))
+        return Fail(StatusFile, OutputName(file), QStringLiteral("cannot be drawn"));
+    return WriteOutput(
+        file, [&drawing](QIODevice& output) { return output.write(drawing.data()) == drawing.size(); });
 }

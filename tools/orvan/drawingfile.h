@@ -2,8 +2,14 @@
 
 #include <QString>
 
-/// Draws a sender of the open document, counted from 0, into a file. The ending of the name says the format.
-/// Returns the exit status. On failure standard error says why, and the file stays as it was.
-int WriteDrawing(const QString& file, int sender, int width);
+class QCommandLineParser;
 
-bool IsDrawingName(const QString& file); ///< whether the ending is one that WriteDrawing knows
+void AddDrawingForm(QCommandLineParser& parser); ///< --format
+
+/// "png", "svg" or "pdf", as --format or the ending of the name says. Empty after wrong usage, which was
+/// told.
+QString DrawingForm(const QCommandLineParser& parser, const QString& output);
+
+/// Draws a sender of the open document, counted from 0, into a file of that form. Returns the exit status. On
+/// failure standard error says why, and the file stays as it was.
+int WriteDrawing(const QString& file, const QString& form, int sender, int width);

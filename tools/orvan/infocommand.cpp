@@ -1,5 +1,6 @@
 #include "command.h"
 #include "console.h"
+#include "inputfile.h"
 #include "openproject.h"
 
 #include <OrvanData/orvandata.h>
@@ -33,7 +34,7 @@ int Run(const Invocation& invocation)
         object.insert(QStringLiteral("format"), format);
         PrintJson(object);
     } else {
-        Print(OrvanTools::Printable(file) + QStringLiteral(" (%1)\n").arg(format));
+        Print(OrvanTools::Printable(InputName(file)) + QStringLiteral(" (%1)\n").arg(format));
         Print(OrvanTools::SummarizeProject(*GetProjectData()));
     }
     return StatusDone;
@@ -44,4 +45,4 @@ int Run(const Invocation& invocation)
 const Command kInfoCommand = {"info",     "FILE", "A project archive or a bare project document.",
                               1,          1,      "What a project file holds.",
                               AddOptions, Run,    false,
-                              false};
+                              false,      true};

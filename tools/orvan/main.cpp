@@ -149,10 +149,13 @@ int Dispatch(const Command& command, const QStringList& arguments)
         return UsageFault(ParserFault(parser));
     if (ShowHelpOrVersion(parser))
         return StatusDone;
-    const int files = parser.positionalArguments().size() - 1;
+    const QStringList given = parser.positionalArguments().mid(1);
+    const int files = given.size();
     if (files < command.leastFiles || files > command.mostFiles)
         return UsageFault(QStringLiteral("usage is orvan %1 %2")
                               .arg(QLatin1String(command.name), QLatin1String(command.files)));
+    if (!command.takesStreams && given.contains(QStringLiteral("-")))
+        return UsageFault(QStringLiteral("- stands for no file here"));
     if (parser.isSet(QStringLiteral("documents")) && parser.value(QStringLiteral("documents")).isEmpty())
         return UsageFault(QStringLiteral("--documents takes a folder"));
     return RunCommand(command, parser);

@@ -92,7 +92,7 @@ int Run(const Invocation& invocation)
         return Fail(StatusUsage, QString(), wrong);
     const QStringList products = parser.values(QStringLiteral("product"));
     for (const QString& product : products) {
-        if (IsSameFile(file, product))
+        if (IsSameFile(product, file))
             return Fail(StatusUsage, file, QStringLiteral("is a product of the project"));
     }
     const QFileInfo info(file);

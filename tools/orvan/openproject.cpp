@@ -2,6 +2,7 @@
 
 #include "command.h"
 #include "console.h"
+#include "inputfile.h"
 #include "privatefolder.h"
 #include "progressline.h"
 
@@ -12,13 +13,16 @@
 
 bool OpenProject(const QString& file)
 {
-    if (QFileInfo(file).isDir()) {
+    const QString path = InputPath(file);
+    if (path.isEmpty())
+        return false;
+    if (QFileInfo(path).isDir()) {
         Fail(StatusFile, file, QStringLiteral("is a folder"));
         return false;
     }
-    ProgressLine progress(QStringLiteral("reading ") + file);
+    ProgressLine progress(QStringLiteral("reading ") + InputName(file));
     QString version;
-    if (GetProjectData()->LoadProjectFromFile(QFile::encodeName(file).constData(), version, progress.Bar())) {
+    if (GetProjectData()->LoadProjectFromFile(QFile::encodeName(path).constData(), version, progress.Bar())) {
         progress.End();
         if (!GetProjectData()->GetLastFileError().isEmpty())
             Warn(file, GetProjectData()->GetLastFileError());
@@ -46,8 +50,8 @@ bool SaveProject(const QString& file)
     return false;
 }
 
-bool IsArchive(const QString& path)
+bool IsArchive(const QString& file)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.peek(2) == "PK";
+    QFile content(InputPath(file));
+    return content.open(QIODevice::ReadOnly) && content.peek(2) == "PK";
 }

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Loads a project into the open document. False when it cannot be read. Standard error says why, or what was
-/// passed over.
+/// Loads a project, "-" for the one on standard input, into the open document. False when it cannot be read.
+/// Standard error says why, or what was passed over.
 bool OpenProject(const QString& file);
 
 /// Saves the open document as an archive. False when some of it is not there; standard error says why.

@@ -1,5 +1,6 @@
 #include "command.h"
 #include "console.h"
+#include "inputfile.h"
 
 #include <OrvanData/orvandata.h>
 #include <orvantools/printable.h>
@@ -53,10 +54,13 @@ void AddLines(const QString& name, const QJsonValue& value, int depth, QString& 
 int Run(const Invocation& invocation)
 {
     const QString file = invocation.files.first();
-    if (QFileInfo(file).isDir())
+    const QString path = InputPath(file);
+    if (path.isEmpty())
+        return StatusFile;
+    if (QFileInfo(path).isDir())
         return Fail(StatusFile, file, QStringLiteral("is a folder"));
     QString error;
-    const QJsonObject contents = params::ParamFileContents(file, &error);
+    const QJsonObject contents = params::ParamFileContents(path, &error);
     if (contents.isEmpty())
         return Fail(StatusFile, file, error);
     if (invocation.parser.isSet(QStringLiteral("json"))) {
@@ -64,7 +68,7 @@ int Run(const Invocation& invocation)
         return StatusDone;
     }
     QString text;
-    AddLines(RootName(file), contents, 0, text);
+    AddLines(RootName(path), contents, 0, text);
     Print(text);
     return StatusDone;
 }
@@ -74,4 +78,4 @@ int Run(const Invocation& invocation)
 const Command kParamsCommand = {"params",   "FILE", "A sender or processor parameter file.",
                                 1,          1,      "What a parameter file holds.",
                                 AddOptions, Run,    false,
-                                false};
+                                false,      true};

@@ -146,3 +146,16 @@ SignalsHeld::~SignalsHeld()
 {
     sigprocmask(SIG_SETMASK, &m_before, nullptr);
 }
+
+bool IsSignalWaiting()
+{
+    sigset_t waiting;
+    sigpending(&waiting);
+    for (const int signal : kSignals) {
+        struct sigaction action = {};
+        if (sigismember(&waiting, signal) == 1 && sigaction(signal, nullptr, &action) == 0
+            && action.sa_handler != SIG_IGN)
+            return true;
+    }
+    return false;
+}

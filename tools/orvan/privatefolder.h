@@ -35,3 +35,5 @@ public:
 private:
     sigset_t m_before = {};
 };
+
+bool IsSignalWaiting(); ///< whether one of them came and is delayed

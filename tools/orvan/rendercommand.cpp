@@ -2,6 +2,7 @@
 #include "console.h"
 #include "drawingfile.h"
 #include "openproject.h"
+#include "outputfile.h"
 #include "samefile.h"
 
 #include <OrvanData/orvandata.h>
@@ -22,6 +23,7 @@ void AddOptions(QCommandLineParser& parser)
                       QStringLiteral("Pixels of a PNG, 1920 by default; sets the page of SVG and PDF, A3 "
                                      "landscape by default."),
                       QStringLiteral("PIXELS")});
+    AddDrawingForm(parser);
 }
 
 int Run(const Invocation& invocation)
@@ -31,8 +33,9 @@ int Run(const Invocation& invocation)
     const QString output = invocation.files[1];
     int number = 0;
     int width = 0;
-    if (!IsDrawingName(output))
-        return Fail(StatusUsage, output, QStringLiteral("a drawing ends in .png, .svg or .pdf"));
+    const QString form = DrawingForm(parser, output);
+    if (form.isEmpty())
+        return StatusUsage;
     if (parser.isSet(QStringLiteral("width"))
         && (!ParseNumber(parser.value(QStringLiteral("width")), &width) || width < kLeastWidth
             || width > kMostWidth))
@@ -42,7 +45,7 @@ int Run(const Invocation& invocation)
         && (!ParseNumber(parser.value(QStringLiteral("sender")), &number) || number < 1))
         return Fail(StatusUsage, QString(), QStringLiteral("--sender takes a number from 1"));
     if (IsSameFile(file, output))
-        return Fail(StatusUsage, output, QStringLiteral("is the project itself"));
+        return Fail(StatusUsage, OutputName(output), QStringLiteral("is the project itself"));
     if (!OpenProject(file))
         return StatusFile;
     const int senders = GetProjectData()->GetSenderCount();
@@ -51,7 +54,7 @@ int Run(const Invocation& invocation)
     const int sender = number > 0 ? number - 1 : GetProjectData()->GetCurSenderIndexForRtCnnt();
     if (!GetProjectData()->GetSender(sender))
         return Fail(StatusFile, file, QStringLiteral("has no sender to draw"));
-    return WriteDrawing(output, sender, width);
+    return WriteDrawing(output, form, sender, width);
 }
 
 } // namespace
@@ -65,4 +68,5 @@ const Command kRenderCommand = {"render",
                                 AddOptions,
                                 Run,
                                 true,
-                                false};
+                                false,
+                                true};

@@ -2,5 +2,6 @@
 
 class QString;
 
-/// Whether two paths lead to one file, also through links. False when one of them leads nowhere.
-bool IsSameFile(const QString& a, const QString& b);
+/// Whether an input and an output are one file, also through links. "-" is the file that standard input or
+/// output leads to. False when one of them leads nowhere.
+bool IsSameFile(const QString& input, const QString& output);
