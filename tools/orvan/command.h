@@ -40,6 +40,7 @@ struct Command
 
 extern const Command kCheckCommand;
 extern const Command kDemoCommand;
+extern const Command kExportCommand;
 extern const Command kInfoCommand;
 extern const Command kNewCommand;
 extern const Command kParamsCommand;

@@ -109,6 +109,6 @@ int WriteOutput(const QString& file, const Write& write)
         return FailOutput(file, output.errorString());
     OutputDevice device(output);
     if (!write(device) || !device.Finish())
-        return FailOutput(file, device.errorString());
+        return IsSignalWaiting() ? StatusFile : FailOutput(file, device.errorString());
     return output.commit() ? StatusDone : FailOutput(file, output.errorString());
 }
