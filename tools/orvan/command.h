@@ -20,6 +20,8 @@ struct Invocation
     const QCommandLineParser& parser;
     QStringList files; ///< positional arguments behind the command's name
     QString documents; ///< the user's documents folder, or the one given instead
+
+    QString ProductFolder() const { return documents + QStringLiteral("/Orvan/LedConfig"); }
 };
 
 /// One command of the program.
@@ -39,6 +41,7 @@ struct Command
 };
 
 extern const Command kCheckCommand;
+extern const Command kConvertCommand;
 extern const Command kDemoCommand;
 extern const Command kExportCommand;
 extern const Command kInfoCommand;

@@ -12,6 +12,7 @@ public:
     explicit OutputDevice(QFileDevice& file); ///< [keep] for its own life
 
     bool Finish(); ///< writes what is left; whether all was taken
+    QString Why() const { return m_failed ? errorString() : QString(); } ///< empty unless it failed
 
     bool isSequential() const override { return true; }
 

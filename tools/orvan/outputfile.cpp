@@ -59,7 +59,7 @@ int WriteToStandardOutput(const QString& file, const Write& write)
     if (!output.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered))
         return FailOutput(file, output.errorString());
     OutputDevice device(output);
-    return write(device) && device.Finish() ? StatusDone : FailOutput(file, device.errorString());
+    return write(device) && device.Finish() ? StatusDone : FailOutput(file, device.Why());
 }
 
 } // namespace
@@ -109,6 +109,6 @@ int WriteOutput(const QString& file, const Write& write)
         return FailOutput(file, output.errorString());
     OutputDevice device(output);
     if (!write(device) || !device.Finish())
-        return IsSignalWaiting() ? StatusFile : FailOutput(file, device.errorString());
+        return IsSignalWaiting() ? StatusFile : FailOutput(file, device.Why());
     return output.commit() ? StatusDone : FailOutput(file, output.errorString());
 }

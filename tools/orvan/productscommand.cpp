@@ -1,12 +1,12 @@
 #include "command.h"
 #include "console.h"
+#include "productfiles.h"
 
 #include <OrvanData/orvandata.h>
 #include <orvantools/printable.h>
 
 #include <QCommandLineParser>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -21,18 +21,11 @@ void AddOptions(QCommandLineParser& parser)
 /// The scan deletes doubles, so it works on a copy. False at the first file that fails, with its path.
 bool CopyProducts(const QString& from, const QString& to, QString* failed)
 {
-    QDirIterator files(from, {QStringLiteral("*.rcvp"), QStringLiteral("*.rcvbp")},
-                       QDir::Files | QDir::Hidden | QDir::NoSymLinks | QDir::CaseSensitive,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString source = files.next();
+    return ForEachProductFile(from, [&](const QString& source) {
         const QString target = to + QDir(from).relativeFilePath(source);
-        if (!QDir().mkpath(QFileInfo(target).path()) || !QFile::copy(source, target)) {
-            *failed = source;
-            return false;
-        }
-    }
-    return true;
+        *failed = source;
+        return QDir().mkpath(QFileInfo(target).path()) && QFile::copy(source, target);
+    });
 }
 
 /// The product in the folder itself instead of the copy.
@@ -65,8 +58,7 @@ void PrintTable(const QJsonArray& products)
 int Run(const Invocation& invocation)
 {
     const bool given = !invocation.files.isEmpty();
-    const QString folder =
-        given ? invocation.files.first() : invocation.documents + QStringLiteral("/Orvan/LedConfig");
+    const QString folder = given ? invocation.files.first() : invocation.ProductFolder();
     const QFileInfo info(folder);
     if (given && !(info.isDir() && info.isReadable()))
         return Fail(StatusFile, folder, QStringLiteral("is no folder that can be read"));

@@ -1,0 +1,120 @@
+#include "command.h"
+#include "console.h"
+#include "openproject.h"
+#include "outputfile.h"
+#include "productfiles.h"
+#include "samefile.h"
+
+#include <OrvanData/orvandata.h>
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFile>
+#include <QHash>
+
+namespace {
+
+constexpr QLatin1String kDocument("project/new.prj"); // in an archive, and in the work folder
+
+void AddOptions(QCommandLineParser& /*parser*/)
+{}
+
+void WarnOfFile(const QString& project, const SParameterFileInfo& file, const QString& why)
+{
+    Warn(project, QStringLiteral("the parameter file '%1' does not come along: %2").arg(file.name, why));
+}
+
+bool Copy(QIODevice& from, QIODevice& to)
+{
+    QByteArray block(1 << 16, Qt::Uninitialized);
+    qint64 size = 0;
+    while ((size = from.read(block.data(), block.size())) > 0) {
+        if (to.write(block.constData(), size) != size)
+            return false;
+    }
+    return size == 0;
+}
+
+int WriteCopy(const QString& output, QFile& content)
+{
+    return WriteOutput(output, [&content](QIODevice& device) { return Copy(content, device); });
+}
+
+/// The document is the one that loading unpacked.
+int WriteDocument(const QString& archive, const QString& output)
+{
+    QFile document(CConstantData::GetProjectParamFileTemp() + kDocument);
+    if (!document.open(QIODevice::ReadOnly))
+        return Fail(StatusFile, archive, document.errorString());
+    if (document.peek(2) != "<?")
+        return Fail(StatusFile, archive,
+                    QStringLiteral("its document does not begin with \"<?\", as a bare project must"));
+    const int status = WriteCopy(output, document);
+    for (const SParameterFileInfo& file : GetProjectData()->GetParameterFiles()) {
+        if (status == StatusDone)
+            WarnOfFile(archive, file, QStringLiteral("a bare document carries none"));
+    }
+    return status;
+}
+
+/// The parameter files of a product folder by their digests.
+QHash<SMD5, QString> FilesByType(const QString& folder)
+{
+    QHash<SMD5, QString> paths;
+    ForEachProductFile(folder, [&paths](const QString& path) {
+        paths.insert(CConstantData::GetMD5FromFile(path), path);
+        return true;
+    });
+    return paths;
+}
+
+/// Lays the files down by the numbers of their rows, as an archive holds them.
+void CollectParameterFiles(const QString& document, const QString& products, const QDir& folder)
+{
+    const QList<SParameterFileInfo> rows = GetProjectData()->GetParameterFiles();
+    const QHash<SMD5, QString> paths = rows.isEmpty() ? QHash<SMD5, QString>() : FilesByType(products);
+    for (int i = 0; i < rows.size(); ++i) {
+        const QString path = rows[i].type.IsNull() ? QString() : paths.value(rows[i].type);
+        if (path.isEmpty())
+            WarnOfFile(document, rows[i], products + QStringLiteral(" has no file of its type"));
+        else if (!QFile::copy(path, folder.filePath(QStringLiteral("project/%1.rcvbp").arg(i))))
+            WarnOfFile(document, rows[i], path + QStringLiteral(" cannot be read"));
+    }
+}
+
+int WriteArchive(const QString& document, const QString& output, const QString& products)
+{
+    const QDir folder(QDir::tempPath()); // the session's own
+    if (!folder.mkpath(QStringLiteral("project")) || !QFile::copy(document, folder.filePath(kDocument)))
+        return Fail(StatusFile, document, QStringLiteral("cannot be copied to ") + folder.path());
+    CollectParameterFiles(document, products, folder);
+    QFile archive(folder.filePath(QStringLiteral("packed.prj")));
+    CConstantData::ZipFile(folder.filePath(QStringLiteral("project")), archive.fileName());
+    if (!archive.open(QIODevice::ReadOnly))
+        return Fail(StatusFile, output, QStringLiteral("cannot be packed in ") + folder.path());
+    return WriteCopy(output, archive);
+}
+
+int Run(const Invocation& invocation)
+{
+    const QString input = invocation.files[0];
+    const QString output = invocation.files[1];
+    if (IsSameFile(input, output))
+        return Fail(StatusUsage, output, QStringLiteral("is the project itself"));
+    const bool archive = IsArchive(input);
+    if (archive && output.endsWith(QLatin1String(".prj"), Qt::CaseInsensitive))
+        return Fail(StatusUsage, output, QStringLiteral("an archive becomes a bare document, not a .prj"));
+    if (!archive && output.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive) && QFile::exists(input))
+        return Fail(StatusUsage, output, QStringLiteral("a bare document becomes an archive, not a .xml"));
+    if (!OpenProject(input))
+        return StatusFile;
+    return archive ? WriteDocument(input, output) : WriteArchive(input, output, invocation.ProductFolder());
+}
+
+} // namespace
+
+const Command kConvertCommand = {
+    "convert",  "IN OUT", "A project archive (.prj) or bare document (.xml), and the other one to write.",
+    2,          2,        "Archive to bare document and back.",
+    AddOptions, Run,      false,
+    true};
