@@ -214,7 +214,8 @@ void PortReader::End()
         m_target->TakeStored(m_fields);
 }
 
-SenderReader::SenderReader(ReadReport& report) : m_ports(kPort, report), m_portReader(report)
+SenderReader::SenderReader(ReadReport& report, LayoutProgress* progress)
+    : m_progress(progress), m_ports(kPort, report), m_portReader(report)
 {}
 
 void SenderReader::SetTarget(CSender* sender, SenderParts parts, bool keepLocked)
@@ -241,6 +242,8 @@ XmlHandler* SenderReader::Child(std::string_view name)
         return nullptr;
     const int port = m_ports.GetNumber() - 1;
     m_ports.Add(port);
+    if (m_progress)
+        m_progress->NextPort(m_target->GetPortCount());
     m_portReader.SetTarget(m_target->GetPort(port), m_target->GetId(), port, m_keepLocked);
     return &m_portReader;
 }
@@ -259,39 +262,32 @@ QUuid SenderReader::UniqueId(const QUuid& fileId)
 
 SenderLayoutReader::SenderLayoutReader(ReadReport& report, Senders& senders,
                                        std::function<void(int)> progress)
-    : m_result(senders), m_progress(std::move(progress)), m_senders(kSender, report), m_senderReader(report)
+    : m_result(senders), m_progress(std::move(progress)), m_senders(kSender, report),
+      m_senderReader(report, &m_progress)
 {}
 
 void SenderLayoutReader::Begin(XmlAttributes& attributes)
 {
     m_senders.Start(ReadCount(attributes, kSenderCount), kMaxSenders);
     m_senderReader.StartList();
-    m_begun = 0;
+    m_progress.Start(m_senders.GetCount());
 }
 
 XmlHandler* SenderLayoutReader::Child(std::string_view name)
 {
     if (!m_senders.Expect(name))
         return nullptr;
-    TellProgress();
+    m_progress.NextSender();
     auto sender = std::make_unique<CSender>();
     m_senderReader.SetTarget(sender.get(), SenderParts::Project, false);
     m_senders.Add(std::move(sender));
-    ++m_begun;
     return &m_senderReader;
 }
 
 void SenderLayoutReader::End()
 {
-    TellProgress();
+    m_progress.End();
     m_result = m_senders.Take();
-}
-
-/// Of the senders begun so far; the last of them has ended.
-void SenderLayoutReader::TellProgress() const
-{
-    if (m_progress && m_begun > 0)
-        m_progress(static_cast<int>(qint64(100) * m_begun / m_senders.GetCount()));
 }
 
 QList<CSender*> Released(SenderLayoutReader::Senders& senders)

@@ -2,6 +2,7 @@
 
 #include "layout/tile.h"
 #include "project/layoutdescription.h"
+#include "project/layoutprogress.h"
 #include "project/numberedchildren.h"
 #include "project/readreport.h"
 
@@ -136,7 +137,7 @@ private:
 class SenderReader : public XmlHandler
 {
 public:
-    explicit SenderReader(ReadReport& report); ///< [ref]
+    explicit SenderReader(ReadReport& report, LayoutProgress* progress = nullptr); ///< [ref]
 
     void SetTarget(CSender* sender, SenderParts parts, bool keepLocked); ///< [ref]
     void StartList() { m_ids.clear(); } ///< of senders that come into being: each gets an id of its own
@@ -152,6 +153,7 @@ private:
     SenderParts m_parts = SenderParts::Project;
     bool m_keepLocked = false;
     QSet<QUuid> m_ids; ///< of the list so far
+    LayoutProgress* m_progress;
     NumberedChildren<int> m_ports;
     PortReader m_portReader;
 };
@@ -171,11 +173,8 @@ public:
     void End() override;
 
 private:
-    void TellProgress() const;
-
     Senders& m_result;
-    std::function<void(int)> m_progress;
-    int m_begun = 0;
+    LayoutProgress m_progress;
     NumberedChildren<std::unique_ptr<CSender>> m_senders;
     SenderReader m_senderReader;
 };

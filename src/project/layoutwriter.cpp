@@ -4,6 +4,7 @@
 #include "common/texts.h"
 #include "layout/tileaccess.h"
 #include "project/layoutdescription.h"
+#include "project/layoutprogress.h"
 #include "project/readreport.h"
 
 #include "customprogressbar.h"
@@ -64,7 +65,8 @@ void WritePortElement(XmlWriter& writer, std::string_view name, const CPort& por
     writer.EndElement();
 }
 
-void WriteSenderElement(XmlWriter& writer, std::string_view name, const CSender& sender, bool withDevice)
+void WriteSenderElement(XmlWriter& writer, std::string_view name, const CSender& sender, bool withDevice,
+                        LayoutProgress* progress)
 {
     writer.BeginElement(name);
     AttributeWriter fields(writer);
@@ -72,8 +74,11 @@ void WriteSenderElement(XmlWriter& writer, std::string_view name, const CSender&
         DescribeSenderDevice(fields, sender);
     const StoredSender stored = sender.GetStored();
     DescribeSender(fields, stored);
-    for (int i = 0; i < sender.GetPortCount(); ++i)
+    for (int i = 0; i < sender.GetPortCount(); ++i) {
+        if (progress)
+            progress->NextPort(sender.GetPortCount());
         WritePortElement(writer, Numbered(kPort, i + 1), *sender.GetPort(i));
+    }
     writer.EndElement();
 }
 
@@ -133,10 +138,12 @@ void WriteSenders(XmlWriter& writer, const QList<CSender*>& senders, const std::
 {
     writer.BeginElement(kSenderLayout);
     AttributeWriter(writer).Field(kSenderCount, senders.size());
+    LayoutProgress steps(progress);
+    steps.Start(senders.size());
     for (int i = 0; i < senders.size(); ++i) {
-        WriteSenderElement(writer, Numbered(kSender, i + 1), *senders[i], true);
-        if (progress)
-            progress(static_cast<int>(qint64(100) * (i + 1) / senders.size()));
+        steps.NextSender();
+        WriteSenderElement(writer, Numbered(kSender, i + 1), *senders[i], true, &steps);
     }
+    steps.End();
     writer.EndElement();
 }

@@ -14,6 +14,7 @@ class CPort;
 class CSender;
 class CTileGroupSet;
 class CTileSet;
+class LayoutProgress;
 class QIODevice;
 
 // Writers of the layout elements, for a stream and for a DOM tree alike.
@@ -27,7 +28,8 @@ void WriteGroupLevel(XmlWriter& writer, const std::string& prefix, const CTileGr
 void WritePortElement(XmlWriter& writer, std::string_view name, const CPort& port);
 
 /// With its device a sender says which processor it stands for, as project files do.
-void WriteSenderElement(XmlWriter& writer, std::string_view name, const CSender& sender, bool withDevice);
+void WriteSenderElement(XmlWriter& writer, std::string_view name, const CSender& sender, bool withDevice,
+                        LayoutProgress* progress = nullptr);
 
 /// Why a file of these would not be read whole again; empty when it would.
 QString WhyTooLarge(const QList<const CPort*>& ports);

@@ -9,6 +9,8 @@
 #include "support/projecttest.h"
 #include "support/wallbuilder.h"
 
+#include "customprogressbar.h"
+
 #include <QDir>
 #include <QRandomGenerator>
 
@@ -197,6 +199,20 @@ TEST_F(ProjectFileTest, LoadingKeepsTheCurrentSenderAndStartsAnUnmodifiedHistory
     EXPECT_FALSE(GetRuntimeData()->GetProjectUndoRedo()->IsModidfied());
     ASSERT_TRUE(LoadText("<SenderLayout SenderCount='1'><Sender_1/></SenderLayout>"));
     EXPECT_EQ(project.GetCurSenderIndex(), 0);
+}
+
+TEST_F(ProjectFileTest, ProgressGoesByThePortsOfEachSender)
+{
+    project.NewSender()->SetPortCount(4);
+    project.NewSender()->SetPortCount(4);
+    const QString path = folder.Path(QStringLiteral("a.prj"));
+    for (const bool saves : {true, false}) {
+        QList<int> told;
+        CCustomProgressbar progress([&told](int percent) { told.append(percent); });
+        EXPECT_TRUE(saves ? project.SaveProjectToFile(path, &progress)
+                          : project.LoadProjectFromFile(QFile::encodeName(path), versionError, &progress));
+        EXPECT_EQ(told, QList<int>({12, 25, 37, 50, 62, 75, 87, 100}));
+    }
 }
 
 TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)

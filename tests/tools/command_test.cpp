@@ -121,6 +121,8 @@ TEST(CommandTest, WrongUsageEndsWithTwo)
     for (const QStringList& arguments : wrong) {
         const OrvanRun run = RunOrvan(arguments, folder.Path());
         EXPECT_EQ(run.status, 2) << qPrintable(arguments.join(QLatin1Char(' ')));
+        const bool isNew = arguments.value(0) == Arg("new");
+        EXPECT_TRUE(run.errors.endsWith(Arg(isNew ? "; see orvan new --help\n" : " --help\n")));
         EXPECT_EQ(ErrorLines(run), 1) << qPrintable(run.errors);
     }
     EXPECT_TRUE(Snapshot(folder.Path()).isEmpty());

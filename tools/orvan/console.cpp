@@ -1,5 +1,6 @@
 #include "console.h"
 
+#include "command.h"
 #include "inputfile.h"
 
 #include <orvantools/printable.h>
@@ -19,6 +20,12 @@ void WriteError(const char* kind, const QString& subject, const QString& what)
     line += QLatin1String(kind) + what;
     line.replace(QRegularExpression(QStringLiteral("[\\s]*[\\r\\n]+[\\s]*")), QStringLiteral(" "));
     std::fprintf(stderr, "%s\n", OrvanTools::Printable(line.trimmed()).toLocal8Bit().constData());
+}
+
+QString& Help()
+{
+    static QString help = QStringLiteral("orvan --help");
+    return help;
 }
 
 void Write(const char* bytes, int size)
@@ -56,8 +63,13 @@ void WriteJson(const QByteArray& json)
 
 int Fail(int status, const QString& subject, const QString& what)
 {
-    WriteError("", subject, what);
+    WriteError("", subject, status == StatusUsage ? what + QStringLiteral("; see ") + Help() : what);
     return status;
+}
+
+void SetHelp(const QString& command)
+{
+    Help() = command;
 }
 
 void Warn(const QString& subject, const QString& what)

@@ -5,8 +5,10 @@
 #include <QString>
 
 /// Writes one line to standard error, "orvan: SUBJECT: what", or "orvan: what" without a subject, and returns
-/// the status. "-" is told as standard input.
+/// the status. "-" is told as standard input. Wrong usage also names the help.
 int Fail(int status, const QString& subject, const QString& what);
+
+void SetHelp(const QString& command); ///< the command line that tells the help from now on
 
 void Warn(const QString& subject, const QString& what); ///< the same, marked as a warning
 

@@ -6,9 +6,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTextCodec>
 
+#include <algorithm>
 #include <clocale>
 #include <cstring>
 #include <fcntl.h>
@@ -74,25 +76,30 @@ const Command* FindCommand(const QString& name)
     return nullptr;
 }
 
+QString UsageOf(const Command& command)
+{
+    return QLatin1String(command.name) + QLatin1Char(' ') + QLatin1String(command.files);
+}
+
 QString Overview()
 {
+    int width = 0;
+    for (const Command* command : kCommands)
+        width = std::max(width, UsageOf(*command).size());
     QString text =
         QStringLiteral("Looks at, checks, draws and makes projects of LED video walls.\n\nCommands:\n");
     for (const Command* command : kCommands)
         text +=
-            QStringLiteral("  %1%2\n")
-                .arg(QString::fromLatin1(command->name) + QLatin1Char(' ') + QLatin1String(command->files),
-                     -28)
-                .arg(QLatin1String(command->summary));
+            QStringLiteral("  %1  %2\n").arg(UsageOf(*command), -width).arg(QLatin1String(command->summary));
     return text
            + QStringLiteral("\n\"orvan COMMAND --help\" tells the options of a command.\n"
-                            "Exit status: 0 done, 1 faults found, 2 wrong usage, 3 a file could not be "
-                            "read or written.");
+                            "Exit status: 0 done, 1 faults or differences found, 2 wrong usage,\n"
+                            "3 a file could not be read or written.");
 }
 
 int UsageFault(const QString& what)
 {
-    return Fail(StatusUsage, QString(), what + QStringLiteral("; see orvan --help"));
+    return Fail(StatusUsage, QString(), what);
 }
 
 QString ParserFault(const QCommandLineParser& parser)
@@ -137,22 +144,21 @@ int RunCommand(const Command& command, const QCommandLineParser& parser)
 
 int Dispatch(const Command& command, const QStringList& arguments)
 {
+    SetHelp(QStringLiteral("orvan %1 --help").arg(QLatin1String(command.name)));
     QCommandLineParser parser;
     parser.setApplicationDescription(QLatin1String(command.summary));
     AddCommonOptions(parser);
-    parser.addPositionalArgument(QLatin1String(command.files), QLatin1String(command.filesHelp),
-                                 QLatin1String(command.name) + QLatin1Char(' ')
-                                     + QLatin1String(command.files));
+    QString files = QLatin1String(command.files);
+    files.remove(QRegularExpression(QStringLiteral("[.][{][^}]*[}]"))); // too wide for the column
+    parser.addPositionalArgument(files, QLatin1String(command.filesHelp), UsageOf(command));
     command.addOptions(parser);
     if (!parser.parse(arguments))
         return UsageFault(ParserFault(parser));
     if (ShowHelpOrVersion(parser))
         return StatusDone;
     const QStringList given = parser.positionalArguments().mid(1);
-    const int files = given.size();
-    if (files < command.leastFiles || files > command.mostFiles)
-        return UsageFault(QStringLiteral("usage is orvan %1 %2")
-                              .arg(QLatin1String(command.name), QLatin1String(command.files)));
+    if (given.size() < command.leastFiles || given.size() > command.mostFiles)
+        return UsageFault(QStringLiteral("usage is orvan ") + UsageOf(command));
     if (!command.takesStreams && given.contains(QStringLiteral("-")))
         return UsageFault(QStringLiteral("- stands for no file here"));
     if (parser.isSet(QStringLiteral("documents")) && parser.value(QStringLiteral("documents")).isEmpty())

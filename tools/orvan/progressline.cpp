@@ -19,18 +19,17 @@ ProgressLine::~ProgressLine()
 
 void ProgressLine::Show(int percent)
 {
-    if (m_clock.elapsed() < m_next)
+    if (!m_terminal || m_clock.elapsed() < m_next)
         return;
-    m_next = m_clock.elapsed() + 1000;
+    m_next = m_clock.elapsed() + 100;
     m_shown = true;
-    std::fprintf(stderr, m_terminal ? "\rorvan: %s: %d %%" : "orvan: %s: %d %%\n",
-                 m_work.toLocal8Bit().constData(), percent);
+    std::fprintf(stderr, "\rorvan: %s: %d %%", m_work.toLocal8Bit().constData(), percent);
     std::fflush(stderr);
 }
 
 void ProgressLine::End()
 {
-    if (m_shown && m_terminal)
+    if (m_shown)
         std::fprintf(stderr, "\r\033[K");
     m_shown = false;
 }

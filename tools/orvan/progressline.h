@@ -5,7 +5,7 @@
 #include <QElapsedTimer>
 #include <QString>
 
-/// Tells on standard error how far a long work is: once a second, from the second one on.
+/// Tells on standard error, when that is a terminal, how far a long work is: from the second second on.
 class ProgressLine
 {
 public:
