@@ -1,5 +1,5 @@
-# What an installation holds beside the libraries, their headers and the command: its manual page, and how
-# other projects find the library (CMake package, pkg-config file).
+# What an installation holds beside the libraries, their headers and the command: its manual page, what
+# completes it in a shell, and how other projects find the library (CMake package, pkg-config file).
 include(CMakePackageConfigHelpers)
 
 set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OrvanData)
@@ -21,6 +21,10 @@ install(FILES ${PROJECT_BINARY_DIR}/orvandata.pc DESTINATION ${CMAKE_INSTALL_LIB
 
 if(TARGET orvan)
     install(FILES docs/orvan.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+    install(FILES tools/orvan/completions/orvan.bash RENAME orvan
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools)
+    install(FILES tools/orvan/completions/_orvan
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT tools)
 endif()
 
 # The installation is tried as another project would use it, in a folder of the build tree. A library built with
