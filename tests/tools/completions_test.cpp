@@ -26,9 +26,10 @@ const char* const kComing[] = {"info --port-pixels", "info --fps",      "info --
 
 } // namespace
 
-TEST(CompletionsTest, EachShellNamesTheOptionsOfEachCommandAsItsHelpDoes)
+TEST(CompletionsTest, EachShellAndTheManualNameTheOptionsOfEachHelp)
 {
     const QString bash = Arg(ORVAN_COMPLETIONS "/orvan.bash");
+    const QString manual = Arg(ReadFile(Arg(ORVAN_COMPLETIONS "/../../../docs/orvan.1")));
     const QString zsh = Arg(ReadFile(Arg(ORVAN_COMPLETIONS "/_orvan")));
     const auto listed = [&zsh](const char* name) {
         return zsh.section(Arg(name) + Arg("=("), 1).section(Arg("\n    )"), 0, 0);
@@ -53,6 +54,8 @@ TEST(CompletionsTest, EachShellNamesTheOptionsOfEachCommandAsItsHelpDoes)
         QString section = zsh.section(Arg("        ") + command + Arg(")"), 1).section(Arg(";;"), 0, 0);
         section.replace(Arg("$common"), listed("common")).replace(Arg("$capacity"), listed("capacity"));
         EXPECT_EQ(Matches("(--[a-z-]+)(?=[\\[}])", section), options) << qPrintable(command);
+        for (const QString& option : options)
+            EXPECT_TRUE(manual.contains(QString(option).replace(Arg("-"), Arg("\\-")))) << qPrintable(option);
         EXPECT_TRUE(listed("commands").contains(Arg("'") + command + Arg(":"))) << qPrintable(command);
     }
 }
