@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Holds what completes orvan in bash and zsh, and its manual, against the help of each command:
+#   try_completions.sh ORVAN SOURCE_DIR
+set -euo pipefail
+export LC_ALL=C
+orvan=$1 completions=$2/tools/orvan/completions manual=$2/docs/orvan.1 status=0
+# Named before the commands have them.
+coming="info:--port-pixels info:--fps info:--depth check:--all check:--ignore render:--port-pixels render:--fps
+    render:--depth render:--port render:--rear render:--sheets render:--paper"
+# shellcheck source=/dev/null
+. "$completions/orvan.bash"
+
+zsh=$(<"$completions/_orvan")
+between() { # BEGIN END: what stands there in the completion for zsh
+    local text=${zsh#*"$1"}
+    echo "${text%%"$2"*}"
+}
+
+for command in $("$orvan" --help | sed -n '/^Commands:/,/^$/s/^  \([a-z]*\) .*/\1/p'); do
+    options=$({
+        "$orvan" "$command" --help | sed -nE 's/^  (-., )?(--[a-z-]+).*/\2/p'
+        tr -s ' ' '\n' <<<"$coming" | sed -n "s/^$command://p"
+    } | sort -u)
+    COMP_WORDS=(orvan "$command" --) COMP_CWORD=2
+    _orvan
+    diff <(echo "$options") <(printf '%s\n' "${COMPREPLY[@]}" | sort) || { echo "$command in bash"; status=1; }
+    words=$(between $'\n        '"$command)" ';;' && between 'common=(' $'\n    )')
+    [[ $words != *\$capacity* ]] || words+=$(between 'capacity=(' $'\n    )')
+    diff <(echo "$options") <(grep -oE -- '--[a-z-]+[[}]' <<<"$words" | tr -d '[}' | sort -u) ||
+        { echo "$command in zsh"; status=1; }
+    for option in $options; do
+        grep -qF -- "${option//-/\\-}" "$manual" || { echo "$option of $command is not in the manual"; status=1; }
+    done
+done
+exit $status
