@@ -10,6 +10,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 
 namespace {
@@ -101,10 +102,11 @@ int Run(const Invocation& invocation)
     const QString output = invocation.files[1];
     if (IsSameFile(input, output))
         return Fail(StatusUsage, output, QStringLiteral("is the project itself"));
-    const bool archive = IsArchive(input);
+    const bool isFile = QFileInfo(input).isFile(); // a pipe would keep the program waiting
+    const bool archive = isFile && IsArchive(input);
     if (archive && output.endsWith(QLatin1String(".prj"), Qt::CaseInsensitive))
         return Fail(StatusUsage, output, QStringLiteral("an archive becomes a bare document, not a .prj"));
-    if (!archive && output.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive) && QFile::exists(input))
+    if (isFile && !archive && output.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive))
         return Fail(StatusUsage, output, QStringLiteral("a bare document becomes an archive, not a .xml"));
     if (!OpenProject(input))
         return StatusFile;

@@ -72,8 +72,8 @@ QString InputPath(const QString& argument)
 {
     if (!IsStream(argument))
         return argument;
-    QFile file(QDir::tempPath()
-               + QStringLiteral("/standard-input")); // temporary files of a session are its own
+    // Temporary files of a session are its own.
+    QFile file(QDir::tempPath() + QStringLiteral("/standard-input"));
     const QString why = file.exists() ? QString() : Spool(file);
     if (why.isEmpty())
         return file.fileName();
