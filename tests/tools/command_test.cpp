@@ -47,6 +47,31 @@ TEST(CommandTest, InfoGivesEveryValueOfTheSampleWalls)
     }
 }
 
+TEST(CommandTest, InfoTellsTheLoadOfAPort)
+{
+    const struct
+    {
+        QStringList options;
+        const char* percent;
+        QJsonValue load; // the first port has 12 cabinets of 128 x 128
+    } cases[] = {
+        {{}, "30 %", 0.3},
+        {Args({"--fps", "120", "--depth", "12"}), "90 %", 0.9},
+        {Args({"--port-pixels", "196607"}), "101 %", 1.00001},
+        {Args({"--port-pixels", "0"}), "∞ %", QJsonValue()},
+    };
+    for (const auto& c : cases) {
+        const QStringList info = QStringList{Arg("info"), SamplePath("small-wall.prj")} + c.options;
+        const QStringList lines = QString::fromUtf8(RunOrvan(info).output).split(QLatin1Char('\n'));
+        EXPECT_TRUE(lines.value(10).contains(Arg(c.percent))) << qPrintable(lines.value(10));
+        const QJsonValue json = RunOrvan(info + Args({"--json"})).Json();
+        const QJsonValue port = json[Arg("senders")][0][Arg("ports")][0];
+        EXPECT_EQ(port[Arg("pixels")], 196608);
+        EXPECT_EQ(port[Arg("load")], c.load) << c.percent;
+    }
+    EXPECT_EQ(RunOrvan({Arg("info"), SamplePath("small-wall.prj"), Arg("--fps"), Arg("0")}).status, 2);
+}
+
 TEST(CommandTest, UnreadableProjectsAreRefusedWithOneLineAndLeaveNothing)
 {
     TestFolder folder;

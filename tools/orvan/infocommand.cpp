@@ -1,3 +1,4 @@
+#include "capacityoptions.h"
 #include "command.h"
 #include "console.h"
 #include "inputfile.h"
@@ -16,6 +17,7 @@ void AddOptions(QCommandLineParser& parser)
 {
     parser.addOption({QStringLiteral("json"), QStringLiteral("Print one JSON object.")});
     parser.addOption({QStringLiteral("tiles"), QStringLiteral("With --json: every cabinet and group too.")});
+    AddCapacityOptions(parser);
 }
 
 int Run(const Invocation& invocation)
@@ -24,18 +26,21 @@ int Run(const Invocation& invocation)
     const bool tiles = invocation.parser.isSet(QStringLiteral("tiles"));
     if (tiles && !json)
         return Fail(StatusUsage, QString(), QStringLiteral("--tiles goes with --json"));
+    OrvanTools::PortCapacity capacity;
+    if (const int status = ReadCapacity(invocation.parser, &capacity))
+        return status;
     const QString file = invocation.files.first();
     if (!OpenProject(file))
         return StatusFile;
     const QString format = IsArchive(file) ? QStringLiteral("archive") : QStringLiteral("xml");
     if (json) {
-        QJsonObject object =
-            OrvanTools::DescribeProject(*GetProjectData(), GetMonitorData()->GetInterfaceData(), tiles);
+        QJsonObject object = OrvanTools::DescribeProject(
+            *GetProjectData(), GetMonitorData()->GetInterfaceData(), tiles, capacity);
         object.insert(QStringLiteral("format"), format);
         PrintJson(object);
     } else {
         Print(OrvanTools::Printable(InputName(file)) + QStringLiteral(" (%1)\n").arg(format));
-        Print(OrvanTools::SummarizeProject(*GetProjectData()));
+        Print(OrvanTools::SummarizeProject(*GetProjectData(), capacity));
     }
     return StatusDone;
 }

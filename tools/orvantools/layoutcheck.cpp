@@ -284,10 +284,7 @@ void Checker::CheckBackup()
 
 void Checker::CheckLoad()
 {
-    const CTileSet& tiles = Tiles();
-    qint64 pixels = 0;
-    for (int i = 0; i < tiles.GetCount(); ++i)
-        pixels += PixelsOf(*tiles.GetTile(i));
+    const qint64 pixels = PixelsOf(Tiles());
     const PortCapacity& capacity = m_options.capacity;
     if (pixels > capacity.Carried())
         Add(FaultKind::PortOverload, kNoCabinet,

@@ -1,8 +1,12 @@
 #include "orvantools/projectjson.h"
 
+#include "orvantools/tileshape.h"
+
 #include <OrvanData/orvandata.h>
 
 #include <QJsonArray>
+
+#include <cmath>
 
 namespace OrvanTools {
 
@@ -17,6 +21,11 @@ QString Key(const char* name)
 double Rounded(double number)
 {
     return QString::number(number, 'g', 6).toDouble();
+}
+
+QJsonValue NumberOrNull(double number)
+{
+    return std::isfinite(number) ? QJsonValue(Rounded(number)) : QJsonValue();
 }
 
 QJsonValue IdOrNull(const QUuid& id)
@@ -124,11 +133,12 @@ int NumberedCount(const CTileSet& tiles)
     return numbered;
 }
 
-QJsonObject DescribePort(const CPort& port, bool withTiles)
+QJsonObject DescribePort(const CPort& port, bool withTiles, const PortCapacity& capacity)
 {
     const CTileSet& tiles = port.GetTileSet();
     const CTileGroupSet& groups = port.GetTileGroupSet();
     QList<CTileGroup*> allGroups;
+    const qint64 pixels = PixelsOf(tiles);
     QJsonObject object{{Key("index"), port.GetPortIndex()},
                        {Key("locked"), port.IsFlagLock()},
                        {Key("visible"), port.IsVisible()},
@@ -137,6 +147,8 @@ QJsonObject DescribePort(const CPort& port, bool withTiles)
                        {Key("numbered"), NumberedCount(tiles)},
                        {Key("receivers"), tiles.GetRcvCount()},
                        {Key("groups"), groups.GetGroupListRecursive(allGroups)},
+                       {Key("pixels"), pixels},
+                       {Key("load"), NumberOrNull(capacity.LoadOf(pixels))},
                        {Key("bound"), BoundOrNull(UnrotatedBound(tiles))}};
     if (withTiles) {
         object.insert(Key("tiles"), DescribeTiles(tiles));
@@ -145,13 +157,14 @@ QJsonObject DescribePort(const CPort& port, bool withTiles)
     return object;
 }
 
-QJsonObject DescribeSender(const CProjectData& project, int index, bool withTiles)
+QJsonObject DescribeSender(const CProjectData& project, int index, bool withTiles,
+                           const PortCapacity& capacity)
 {
     const CSender& sender = *project.GetSender(index);
     QJsonArray ports;
     QRect bound;
     for (int i = 0; i < sender.GetPortCount(); ++i) {
-        ports.append(DescribePort(*sender.GetPort(i), withTiles));
+        ports.append(DescribePort(*sender.GetPort(i), withTiles, capacity));
         bound = bound.united(UnrotatedBound(sender.GetPort(i)->GetTileSet()));
     }
     return {{Key("id"), sender.GetId().toString()},
@@ -224,11 +237,12 @@ QJsonObject DescribeMonitor(const CMonitorInterfaceData& monitor)
 
 } // namespace
 
-QJsonObject DescribeProject(const CProjectData& project, const CMonitorInterfaceData& monitor, bool withTiles)
+QJsonObject DescribeProject(const CProjectData& project, const CMonitorInterfaceData& monitor, bool withTiles,
+                            const PortCapacity& capacity)
 {
     QJsonArray senders;
     for (int i = 0; i < project.GetSenderCount(); ++i)
-        senders.append(DescribeSender(project, i, withTiles));
+        senders.append(DescribeSender(project, i, withTiles, capacity));
     return {{Key("currentSender"), project.GetCurSenderIndex()},
             {Key("demoMode"), QJsonObject{{Key("enabled"), project.GetDemoModeEnable()},
                                           {Key("senderType"), project.GetDemoSenderType()}}},

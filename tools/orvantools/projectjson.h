@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvantools/portload.h"
+
 #include <QJsonObject>
 
 class CMonitorInterfaceData;
@@ -8,8 +10,9 @@ class CProjectData;
 namespace OrvanTools {
 
 /// Everything a project holds as one object. Cabinets and group trees, by far the largest part, only
-/// `withTiles`. A backup port is described by its own stored layout.
+/// `withTiles`. A backup port is described by its own stored layout. A port that carries
+/// nothing has no load: null.
 QJsonObject DescribeProject(const CProjectData& project, const CMonitorInterfaceData& monitor,
-                            bool withTiles);
+                            bool withTiles, const PortCapacity& capacity = PortCapacity());
 
 } // namespace OrvanTools

@@ -1,6 +1,7 @@
 #include "orvantools/projecttext.h"
 
 #include "orvantools/printable.h"
+#include "orvantools/tileshape.h"
 
 #include <OrvanData/orvandata.h>
 
@@ -54,7 +55,7 @@ QString BackupText(const CProjectData& project, const CPort& port)
            + QString::number(qint64(port.GetBackupSrcPortIndex()) + 1);
 }
 
-QString PortRow(const CProjectData& project, const CPort& port)
+QString PortRow(const CProjectData& project, const CPort& port, const PortCapacity& capacity)
 {
     const CTileSet& tiles = port.GetTileSet();
     int numbered = 0;
@@ -71,14 +72,15 @@ QString PortRow(const CProjectData& project, const CPort& port)
     QString row = QStringLiteral("  ");
     for (const int number : {port.GetPortIndex() + 1, tiles.GetCount(), numbered, tiles.GetRcvCount()})
         row += QString::number(number).rightJustified(9) + QLatin1Char(' ');
+    row += capacity.PercentText(PixelsOf(tiles)).rightJustified(9) + QStringLiteral("  ");
     row +=
-        QLatin1Char(' ') + BoundText(tiles).leftJustified(22) + Printable(notes.join(QStringLiteral(", ")));
+        BoundText(tiles).leftJustified(22) + Printable(notes.join(QStringLiteral(", ")));
     while (row.endsWith(QLatin1Char(' ')))
         row.chop(1);
     return row + QLatin1Char('\n');
 }
 
-QString SenderText(const CProjectData& project, int index)
+QString SenderText(const CProjectData& project, int index, const PortCapacity& capacity)
 {
     const CSender& sender = *project.GetSender(index);
     QString title = project.GetShowSenderName(index, true) + QStringLiteral(", canvas ")
@@ -88,15 +90,15 @@ QString SenderText(const CProjectData& project, int index)
     if (index == project.GetCurSenderIndex())
         title += QStringLiteral(", current");
     QString text = QLatin1Char('\n') + Row(qPrintable(QStringLiteral("Sender %1").arg(index + 1)), title);
-    text += QStringLiteral("       port  cabinets  numbered receivers  layout\n");
+    text += QStringLiteral("       port  cabinets  numbered receivers      load  layout\n");
     for (int i = 0; i < sender.GetPortCount(); ++i)
-        text += PortRow(project, *sender.GetPort(i));
+        text += PortRow(project, *sender.GetPort(i), capacity);
     return text;
 }
 
 } // namespace
 
-QString SummarizeProject(const CProjectData& project)
+QString SummarizeProject(const CProjectData& project, const PortCapacity& capacity)
 {
     const SPrintFormData& form = *project.GetPrintSetData();
     QString text = PrintRow("Project", form.projectName) + PrintRow("Designer", form.designer)
@@ -106,7 +108,7 @@ QString SummarizeProject(const CProjectData& project)
         text += Row("Demo mode", QStringLiteral("sender type %1").arg(project.GetDemoSenderType()));
     text += Row("Senders", QString::number(project.GetSenderCount()));
     for (int i = 0; i < project.GetSenderCount(); ++i)
-        text += SenderText(project, i);
+        text += SenderText(project, i, capacity);
     const QList<SParameterFileInfo> files = project.GetParameterFiles();
     if (!files.isEmpty())
         text += QStringLiteral("\nParameter files\n");

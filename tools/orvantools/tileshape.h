@@ -7,6 +7,7 @@
 #include <array>
 
 class CTile;
+class CTileSet;
 
 namespace OrvanTools {
 
@@ -28,6 +29,7 @@ struct TileShape
 TileShape ShapeOf(const CTile& tile);
 
 qint64 PixelsOf(const CTile& tile);
+qint64 PixelsOf(const CTileSet& tiles); ///< of all of them, covered twice or not
 
 /// Whether two shapes share more than rounding. Turned cabinets that stand side by side have positions in
 /// whole pixels, so they overlap a little.
