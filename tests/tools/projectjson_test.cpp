@@ -1,9 +1,11 @@
 #include "tools/toolsproject.h"
 
+#include <orvantools/jsonwriter.h>
 #include <orvantools/projectjson.h>
 #include <orvantools/projecttext.h>
 
 #include <QJsonArray>
+#include <QJsonDocument>
 
 class ProjectJsonTest : public ToolsTest
 {
@@ -29,6 +31,21 @@ TEST_F(ProjectJsonTest, BoundsAreThoseBeforeTurning)
     ASSERT_TRUE(Tile(0, 0).IsTileRotated());
     EXPECT_EQ(Port(0)[Key("bound")], (QJsonArray{0, 0, 512, 256}));
     EXPECT_TRUE(Port(1)[Key("bound")].isNull());
+}
+
+TEST_F(ProjectJsonTest, WhatIsWrittenInPiecesIsTheWhole)
+{
+    Build(QSize(4, 2), 3);
+    Project().NewSender()->SetSenderName(QStringLiteral("\"舞\n台\\"));
+    const CMonitorInterfaceData monitor = GetMonitorData()->GetInterfaceData();
+    for (const bool tiles : {false, true}) {
+        QJsonObject whole = OrvanTools::DescribeProject(Project(), monitor, tiles);
+        whole.insert(Key("format"), QJsonArray());
+        QByteArray pieces;
+        OrvanTools::JsonWriter out([&](const QByteArray& piece) { pieces += piece; });
+        OrvanTools::WriteProject(Project(), monitor, tiles, {}, {{Key("format"), QJsonArray()}}, out);
+        EXPECT_EQ(pieces, QJsonDocument(whole).toJson());
+    }
 }
 
 TEST_F(ProjectJsonTest, TheSummaryNamesWhatAPortIs)

@@ -5,6 +5,7 @@
 #include "openproject.h"
 
 #include <OrvanData/orvandata.h>
+#include <orvantools/jsonwriter.h>
 #include <orvantools/layoutcheck.h>
 #include <orvantools/storedreceivers.h>
 
@@ -34,10 +35,12 @@ int PrintFaults(const OrvanTools::CheckOptions& options)
 int PrintFaultsJson(const OrvanTools::CheckOptions& options)
 {
     int count = 0;
-    JsonListPrinter list("faults");
-    OrvanTools::CheckProject(*GetProjectData(), options, [&](const Fault& fault) {
-        ++count;
-        list.Add(fault.Json());
+    OrvanTools::JsonWriter out(PrintJsonPiece);
+    out.Object({}, QStringLiteral("faults"), [&] {
+        OrvanTools::CheckProject(*GetProjectData(), options, [&](const Fault& fault) {
+            ++count;
+            out.Value(fault.Json());
+        });
     });
     return count;
 }

@@ -41,24 +41,6 @@ int LengthFrom(uchar lead)
     return lead == 0xC2 || lead == 0xD8 ? 2 : lead == 0xE2 ? 3 : 0;
 }
 
-/// Qt's writer escapes the controls of ASCII alone.
-void WriteJson(const QByteArray& json)
-{
-    int written = 0;
-    for (int i = 0; i < json.size(); ++i) {
-        const int length = LengthFrom(static_cast<uchar>(json.at(i)));
-        const QChar character =
-            length > 0 ? QString::fromUtf8(json.constData() + i, length).at(0) : QChar(QLatin1Char(' '));
-        if (!OrvanTools::IsUnprintable(character))
-            continue;
-        Write(json.constData() + written, i - written);
-        std::printf("\\u%04x", static_cast<unsigned>(character.unicode()));
-        written = i + length;
-        i = written - 1;
-    }
-    Write(json.constData() + written, json.size() - written);
-}
-
 } // namespace
 
 int Fail(int status, const QString& subject, const QString& what)
@@ -88,27 +70,27 @@ void Print(const QString& text)
     }
 }
 
+/// Qt's writer escapes the controls of ASCII alone.
+void PrintJsonPiece(const QByteArray& json)
+{
+    int written = 0;
+    for (int i = 0; i < json.size(); ++i) {
+        const int length = LengthFrom(static_cast<uchar>(json.at(i)));
+        const QChar character =
+            length > 0 ? QString::fromUtf8(json.constData() + i, length).at(0) : QChar(QLatin1Char(' '));
+        if (!OrvanTools::IsUnprintable(character))
+            continue;
+        Write(json.constData() + written, i - written);
+        std::printf("\\u%04x", static_cast<unsigned>(character.unicode()));
+        written = i + length;
+        i = written - 1;
+    }
+    Write(json.constData() + written, json.size() - written);
+}
+
 void PrintJson(const QJsonObject& object)
 {
-    WriteJson(QJsonDocument(object).toJson(QJsonDocument::Indented));
-}
-
-JsonListPrinter::JsonListPrinter(const char* name)
-{
-    std::printf("{\n    \"%s\": [\n", name);
-}
-
-JsonListPrinter::~JsonListPrinter()
-{
-    std::printf("%s    ]\n}\n", m_empty ? "" : "\n");
-}
-
-void JsonListPrinter::Add(const QJsonObject& object)
-{
-    const QByteArray indent(8, ' ');
-    const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Indented).trimmed();
-    WriteJson((m_empty ? indent : ",\n" + indent) + QByteArray(json).replace('\n', '\n' + indent));
-    m_empty = false;
+    PrintJsonPiece(QJsonDocument(object).toJson(QJsonDocument::Indented));
 }
 
 bool FlushOutput()

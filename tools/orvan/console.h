@@ -16,21 +16,7 @@ void Warn(const QString& subject, const QString& what); ///< the same, marked as
 /// go through OrvanTools::Printable first.
 void Print(const QString& text);
 void PrintJson(const QJsonObject& object); ///< UTF-8, whatever the locale; such characters are escaped
-
-/// An object with one list, in the form of PrintJson, written piece by piece because it may be large.
-class JsonListPrinter
-{
-public:
-    explicit JsonListPrinter(const char* name);
-    ~JsonListPrinter(); ///< ends the list and the object
-    JsonListPrinter(const JsonListPrinter&) = delete;
-    JsonListPrinter& operator=(const JsonListPrinter&) = delete;
-
-    void Add(const QJsonObject& object);
-
-private:
-    bool m_empty = true;
-};
+void PrintJsonPiece(const QByteArray& json); ///< of such an object
 
 bool FlushOutput(); ///< false when standard output did not take all
 

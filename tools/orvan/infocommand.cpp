@@ -5,6 +5,7 @@
 #include "openproject.h"
 
 #include <OrvanData/orvandata.h>
+#include <orvantools/jsonwriter.h>
 #include <orvantools/printable.h>
 #include <orvantools/projectjson.h>
 #include <orvantools/projecttext.h>
@@ -34,10 +35,10 @@ int Run(const Invocation& invocation)
         return StatusFile;
     const QString format = IsArchive(file) ? QStringLiteral("archive") : QStringLiteral("xml");
     if (json) {
-        QJsonObject object = OrvanTools::DescribeProject(
-            *GetProjectData(), GetMonitorData()->GetInterfaceData(), tiles, capacity);
-        object.insert(QStringLiteral("format"), format);
-        PrintJson(object);
+        const CMonitorInterfaceData monitor = GetMonitorData()->GetInterfaceData();
+        const QJsonObject more{{QStringLiteral("format"), format}};
+        OrvanTools::JsonWriter out(PrintJsonPiece);
+        OrvanTools::WriteProject(*GetProjectData(), monitor, tiles, capacity, more, out);
     } else {
         Print(OrvanTools::Printable(InputName(file)) + QStringLiteral(" (%1)\n").arg(format));
         Print(OrvanTools::SummarizeProject(*GetProjectData(), capacity));

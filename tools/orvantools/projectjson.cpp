@@ -1,5 +1,6 @@
 #include "orvantools/projectjson.h"
 
+#include "orvantools/jsonwriter.h"
 #include "orvantools/tileshape.h"
 
 #include <OrvanData/orvandata.h>
@@ -133,13 +134,13 @@ int NumberedCount(const CTileSet& tiles)
     return numbered;
 }
 
-QJsonObject DescribePort(const CPort& port, bool withTiles, const PortCapacity& capacity)
+QJsonObject DescribePort(const CPort& port, const PortCapacity& capacity)
 {
     const CTileSet& tiles = port.GetTileSet();
     const CTileGroupSet& groups = port.GetTileGroupSet();
     QList<CTileGroup*> allGroups;
     const qint64 pixels = PixelsOf(tiles);
-    QJsonObject object{{Key("index"), port.GetPortIndex()},
+    return {{Key("index"), port.GetPortIndex()},
                        {Key("locked"), port.IsFlagLock()},
                        {Key("visible"), port.IsVisible()},
                        {Key("backupOf"), DescribeBackup(port)},
@@ -150,23 +151,15 @@ QJsonObject DescribePort(const CPort& port, bool withTiles, const PortCapacity& 
                        {Key("pixels"), pixels},
                        {Key("load"), NumberOrNull(capacity.LoadOf(pixels))},
                        {Key("bound"), BoundOrNull(UnrotatedBound(tiles))}};
-    if (withTiles) {
-        object.insert(Key("tiles"), DescribeTiles(tiles));
-        object.insert(Key("groupTree"), DescribeGroups(groups));
-    }
-    return object;
 }
 
-QJsonObject DescribeSender(const CProjectData& project, int index, bool withTiles,
-                           const PortCapacity& capacity)
+/// A sender without its ports.
+QJsonObject DescribeSender(const CProjectData& project, int index)
 {
     const CSender& sender = *project.GetSender(index);
-    QJsonArray ports;
     QRect bound;
-    for (int i = 0; i < sender.GetPortCount(); ++i) {
-        ports.append(DescribePort(*sender.GetPort(i), withTiles, capacity));
+    for (int i = 0; i < sender.GetPortCount(); ++i)
         bound = bound.united(UnrotatedBound(sender.GetPort(i)->GetTileSet()));
-    }
     return {{Key("id"), sender.GetId().toString()},
             {Key("name"), sender.GetSenderName()},
             {Key("shownName"), project.GetShowSenderName(index, true)},
@@ -176,8 +169,7 @@ QJsonObject DescribeSender(const CProjectData& project, int index, bool withTile
             {Key("canvas"), Size(sender.GetCanvasSize())},
             {Key("offset"), Size(sender.GetOffset())},
             {Key("ip"), static_cast<double>(sender.GetNetSenderIP())},
-            {Key("bound"), BoundOrNull(bound)},
-            {Key("ports"), ports}};
+            {Key("bound"), BoundOrNull(bound)}};
 }
 
 QJsonArray DescribeSenderGroups(const CProjectData& project)
@@ -235,14 +227,9 @@ QJsonObject DescribeMonitor(const CMonitorInterfaceData& monitor)
             {Key("voltage"), voltage}};
 }
 
-} // namespace
-
-QJsonObject DescribeProject(const CProjectData& project, const CMonitorInterfaceData& monitor, bool withTiles,
-                            const PortCapacity& capacity)
+/// A project without its senders.
+QJsonObject DescribeSettings(const CProjectData& project, const CMonitorInterfaceData& monitor)
 {
-    QJsonArray senders;
-    for (int i = 0; i < project.GetSenderCount(); ++i)
-        senders.append(DescribeSender(project, i, withTiles, capacity));
     return {{Key("currentSender"), project.GetCurSenderIndex()},
             {Key("demoMode"), QJsonObject{{Key("enabled"), project.GetDemoModeEnable()},
                                           {Key("senderType"), project.GetDemoSenderType()}}},
@@ -250,8 +237,61 @@ QJsonObject DescribeProject(const CProjectData& project, const CMonitorInterface
             {Key("gamma"), DescribeGamma(project)},
             {Key("print"), DescribePrintForm(*project.GetPrintSetData())},
             {Key("parameterFiles"), DescribeParameterFiles(project)},
-            {Key("monitor"), DescribeMonitor(monitor)},
-            {Key("senders"), senders}};
+            {Key("monitor"), DescribeMonitor(monitor)}};
+}
+
+} // namespace
+
+QJsonObject DescribeProject(const CProjectData& project, const CMonitorInterfaceData& monitor, bool withTiles,
+                            const PortCapacity& capacity)
+{
+    QJsonArray senders;
+    for (int s = 0; s < project.GetSenderCount(); ++s) {
+        QJsonArray ports;
+        for (int p = 0; p < project.GetSender(s)->GetPortCount(); ++p) {
+            const CPort& port = *project.GetSender(s)->GetPort(p);
+            QJsonObject object = DescribePort(port, capacity);
+            if (withTiles) {
+                object.insert(Key("tiles"), DescribeTiles(port.GetTileSet()));
+                object.insert(Key("groupTree"), DescribeGroups(port.GetTileGroupSet()));
+            }
+            ports.append(object);
+        }
+        QJsonObject sender = DescribeSender(project, s);
+        sender.insert(Key("ports"), ports);
+        senders.append(sender);
+    }
+    QJsonObject object = DescribeSettings(project, monitor);
+    object.insert(Key("senders"), senders);
+    return object;
+}
+
+void WriteProject(const CProjectData& project, const CMonitorInterfaceData& monitor,
+                  bool withTiles, const PortCapacity& capacity, const QJsonObject& more, JsonWriter& out)
+{
+    const auto writePort = [&](const CPort& port) {
+        QJsonObject object = DescribePort(port, capacity);
+        if (!withTiles)
+            return out.Value(object);
+        object.insert(Key("groupTree"), DescribeGroups(port.GetTileGroupSet()));
+        const CTileSet& tiles = port.GetTileSet();
+        out.Object(object, Key("tiles"), [&] {
+            for (int i = 0; i < tiles.GetCount(); ++i)
+                out.Value(DescribeTile(*tiles.GetTile(i)));
+        });
+    };
+    QJsonObject object = DescribeSettings(project, monitor);
+    for (auto member = more.constBegin(); member != more.constEnd(); ++member)
+        object.insert(member.key(), member.value());
+    out.Object(object, Key("senders"), [&] {
+        for (int s = 0; s < project.GetSenderCount(); ++s) {
+            const CSender& sender = *project.GetSender(s);
+            out.Object(DescribeSender(project, s), Key("ports"), [&] {
+                for (int p = 0; p < sender.GetPortCount(); ++p)
+                    writePort(*sender.GetPort(p));
+            });
+        }
+    });
 }
 
 } // namespace OrvanTools
