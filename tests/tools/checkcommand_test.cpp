@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QJsonArray>
+#include <QRegularExpression>
 
 TEST(CheckCommandTest, FaultsAreLinesWithACountAndEndWithOne)
 {
@@ -31,6 +32,42 @@ TEST(CheckCommandTest, ABareDocumentLacksItsParameterFilesUnlessTheLibraryHasThe
     const QStringList with{Arg("--documents"), documents.Path()};
     ASSERT_EQ(RunOrvan(with + QStringList{Arg("info"), SamplePath("small-wall.prj")}).status, 0);
     EXPECT_EQ(kinds(RunOrvan(with + check)), Args({"unnumbered"}));
+}
+
+TEST(CheckCommandTest, TwentyFaultsOfAKindAreToldUnlessAllAreWantedOrTheKindIsIgnored)
+{
+    TestFolder folder; // 21 unnumbered cabinets beyond the canvas
+    ASSERT_EQ(RunOrvan(Args({"new", "a.prj", "--grid", "7x3", "--ports", "1", "--canvas", "10x10"}),
+                       folder.Path())
+                  .status,
+              0);
+    const struct
+    {
+        QStringList options;
+        int status;
+        int lines;
+        QStringList more; // and the last line
+    } cases[] = {
+        {{}, 1, 43, Args({"… and 1 more", "… and 1 more", "42 faults"})},
+        {Args({"--all"}), 1, 43, Args({"42 faults"})},
+        {Args({"--ignore", "unnumbered"}), 1, 22, Args({"… and 1 more", "21 faults, 21 ignored"})},
+        {Args({"--ignore", "unnumbered", "--ignore", "off-canvas"}), 0, 1, Args({"0 faults, 42 ignored"})},
+        {Args({"--ignore", "unnumbered,overlap"}), 2, 0, {}},
+    };
+    for (const auto& c : cases) {
+        const OrvanRun run = RunOrvan(Args({"check", "a.prj"}) + c.options, folder.Path());
+        EXPECT_EQ(run.status, c.status);
+        const QStringList lines = QString::fromUtf8(run.output).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        EXPECT_EQ(lines.size(), c.lines);
+        EXPECT_EQ(lines.filter(QRegularExpression(Arg("^…|faults"))), c.more);
+        EXPECT_EQ(run.errors.contains(Arg("missing-parameter-file")), c.status == 2);
+    }
+    const auto listed = [&](const QStringList& options) {
+        const QStringList check = Args({"check", "a.prj", "--json"}) + options;
+        return RunOrvan(check, folder.Path()).Json()[Arg("faults")].toArray().size();
+    };
+    EXPECT_EQ(listed({}), 42);
+    EXPECT_EQ(listed(Args({"--ignore", "unnumbered"})), 21);
 }
 
 TEST(CheckCommandTest, PortPixelsCanBeSet)

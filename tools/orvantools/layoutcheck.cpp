@@ -313,6 +313,14 @@ QString FaultKindName(FaultKind kind)
     return QLatin1String(kKindNames[static_cast<size_t>(kind)]);
 }
 
+QStringList FaultKindNames()
+{
+    QStringList names;
+    for (const char* name : kKindNames)
+        names.append(QLatin1String(name));
+    return names;
+}
+
 QString Fault::Line() const
 {
     QString line;

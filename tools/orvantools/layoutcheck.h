@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -32,6 +33,7 @@ enum class FaultKind
 };
 
 QString FaultKindName(FaultKind kind); ///< "overlap", "off-canvas" …
+QStringList FaultKindNames();          ///< of all kinds, in their order
 
 /// One fault. Numbers count from 1 as the host shows them; 0 means that it does not apply.
 struct Fault

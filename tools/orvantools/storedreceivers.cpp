@@ -1,17 +1,17 @@
 #include "orvantools/storedreceivers.h"
 
+#include "orvantools/tagreader.h"
+
 #include <OrvanData/orvandata.h>
 
 #include <QFile>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTextCodec>
 #include <QTextDecoder>
-#include <QXmlStreamReader>
 
+#include <charconv>
 #include <iterator>
 #include <memory>
-#include <utility>
 
 namespace OrvanTools {
 
@@ -20,79 +20,20 @@ namespace {
 constexpr qint64 kChunk = 1 << 18; ///< bytes
 
 /// The number behind a prefix, 0 when the name is another.
-int NumberBehind(const QStringRef& name, const char* prefix)
+int NumberBehind(std::string_view name, std::string_view prefix)
 {
-    const QLatin1String start(prefix);
-    return name.startsWith(start) ? name.mid(start.size()).toInt() : 0;
+    int number = 0;
+    if (name.substr(0, prefix.size()) == prefix)
+        std::from_chars(name.data() + prefix.size(), name.data() + name.size(), number);
+    return number;
 }
 
-/// Of UTF-16 or UTF-8 with a byte order mark; else what is looked for is ASCII, whatever the other bytes
-/// mean.
-QTextCodec* CodecOf(const QByteArray& start)
+/// Brings UTF-16 to UTF-8. Of other encodings what is looked for is ASCII, whatever the other bytes mean.
+std::unique_ptr<QTextDecoder> DecoderFor(const QByteArray& start)
 {
-    return QTextCodec::codecForUtfText(start, QTextCodec::codecForName("ISO-8859-1"));
-}
-
-/// Takes the tags out of a document. Text, comments, instructions and CDATA sections may be as long as the
-/// file and are passed over: with each piece the XML reader would begin them anew.
-class TagPicker
-{
-public:
-    QString Take(const QString& text); ///< the tags that end in the next piece
-
-private:
-    void TakeOfTag(QChar c);
-    void PassOver(QChar c);
-
-    QString m_tags;
-    QString m_tag;      ///< the beginning of one; empty: between tags
-    QChar m_quote;      ///< ends the value of the attribute; null: in no value
-    QChar m_mark;       ///< stands before the `>` that ends what is passed over; null: nothing is passed over
-    int m_marks = 0;    ///< how many of it have to stand there
-    int m_marksNow = 0; ///< how many did so far
-};
-
-QString TagPicker::Take(const QString& text)
-{
-    m_tags.resize(0);
-    for (const QChar c : text) {
-        if (!m_mark.isNull())
-            PassOver(c);
-        else if (!m_tag.isEmpty() || c == QLatin1Char('<'))
-            TakeOfTag(c);
-    }
-    return m_tags;
-}
-
-void TagPicker::TakeOfTag(QChar c)
-{
-    m_tag += c;
-    if (!m_quote.isNull()) {
-        if (c == m_quote)
-            m_quote = QChar();
-    } else if (c == QLatin1Char('"') || c == QLatin1Char('\'')) {
-        m_quote = c;
-    } else if (c == QLatin1Char('>')) {
-        m_tags += m_tag;
-        m_tag.resize(0);
-    } else {
-        const std::pair<const char*, char> asides[] = {{"<?", '?'}, {"<!--", '-'}, {"<![CDATA[", ']'}};
-        for (const auto& [begin, mark] : asides) {
-            if (m_tag != QLatin1String(begin))
-                continue;
-            m_mark = QLatin1Char(mark);
-            m_marks = mark == '?' ? 1 : 2;
-            m_marksNow = 0;
-            m_tag.resize(0);
-        }
-    }
-}
-
-void TagPicker::PassOver(QChar c)
-{
-    if (c == QLatin1Char('>') && m_marksNow >= m_marks)
-        m_mark = QChar();
-    m_marksNow = c == m_mark ? m_marksNow + 1 : 0;
+    const QTextCodec* codec = QTextCodec::codecForUtfText(start, nullptr);
+    const bool utf8 = !codec || codec == QTextCodec::codecForName("UTF-8");
+    return std::unique_ptr<QTextDecoder>(utf8 ? nullptr : codec->makeDecoder());
 }
 
 } // namespace
@@ -117,37 +58,28 @@ bool StoredReceivers::ReadDocument(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    const std::unique_ptr<QTextDecoder> decoder(CodecOf(file.peek(4))->makeDecoder());
-    // Digests end with a NUL character in some form. XML readers take neither that nor other controls.
-    static const QRegularExpression refused(
-        QStringLiteral("&#x?0+;|[\\x{0}-\\x{8}\\x{B}\\x{C}\\x{E}-\\x{1F}]"));
-    bool hasRoot = false;
-    TagPicker tags;
-    QXmlStreamReader xml;
+    const std::unique_ptr<QTextDecoder> decoder = DecoderFor(file.peek(4));
+    TagReader tags([this](std::string_view name, std::string_view attributes) { TakeTag(name, attributes); });
     while (!file.atEnd()) {
-        xml.addData(tags.Take(decoder->toUnicode(file.read(kChunk))).remove(refused));
-        while (!xml.atEnd() && xml.readNext() != QXmlStreamReader::Invalid) {
-            if (xml.isStartElement())
-                TakeElement(xml);
-            hasRoot = hasRoot || xml.isStartElement();
-        }
-        if (xml.hasError() && xml.error() != QXmlStreamReader::PrematureEndOfDocumentError)
-            return false;
+        QByteArray bytes = file.read(kChunk);
+        if (decoder)
+            bytes = decoder->toUnicode(bytes).toUtf8();
+        tags.Take({bytes.constData(), static_cast<size_t>(bytes.size())});
     }
-    return hasRoot && !xml.hasError();
+    return tags.IsComplete();
 }
 
-void StoredReceivers::TakeElement(const QXmlStreamReader& xml)
+void StoredReceivers::TakeTag(std::string_view name, std::string_view attributes)
 {
-    static const QString attribute = QStringLiteral("FirstRcvIndex");
-    if (const int sender = NumberBehind(xml.name(), "Sender_")) {
+    if (const int sender = NumberBehind(name, "Sender_")) {
         m_sender = &m_senders[sender];
         m_port = nullptr;
-    } else if (const int port = NumberBehind(xml.name(), "Port_")) {
+    } else if (const int port = NumberBehind(name, "Port_")) {
         m_port = m_sender ? &(*m_sender)[port] : nullptr;
-    } else if (const int tile = NumberBehind(xml.name(), "Tile_")) {
+    } else if (const int tile = NumberBehind(name, "Tile_")) {
+        const std::string_view value = TagReader::Attribute(attributes, "FirstRcvIndex");
         if (m_port)
-            m_port->emplace(tile, xml.attributes().value(attribute).toInt());
+            m_port->emplace_hint(m_port->end(), tile, QByteArray(value.data(), int(value.size())).toInt());
     }
 }
 

@@ -3,9 +3,8 @@
 #include <QString>
 
 #include <map>
+#include <string_view>
 #include <vector>
-
-class QXmlStreamReader;
 
 namespace OrvanTools {
 
@@ -26,7 +25,7 @@ private:
     using Sender = std::map<int, Port>; ///< by the port's number
 
     bool ReadDocument(const QString& path);
-    void TakeElement(const QXmlStreamReader& xml);
+    void TakeTag(std::string_view name, std::string_view attributes);
 
     std::map<int, Sender> m_senders;
     Sender* m_sender = nullptr; ///< [ref] being read
