@@ -37,10 +37,10 @@ TEST(CheckCommandTest, ABareDocumentLacksItsParameterFilesUnlessTheLibraryHasThe
 TEST(CheckCommandTest, TwentyFaultsOfAKindAreToldUnlessAllAreWantedOrTheKindIsIgnored)
 {
     TestFolder folder; // 21 unnumbered cabinets beyond the canvas
-    ASSERT_EQ(RunOrvan(Args({"new", "a.prj", "--grid", "7x3", "--ports", "1", "--canvas", "10x10"}),
-                       folder.Path())
-                  .status,
-              0);
+    ASSERT_EQ(
+        RunOrvan(Args({"new", "a.prj", "--grid", "7x3", "--ports", "1", "--canvas", "10x10"}), folder.Path())
+            .status,
+        0);
     const struct
     {
         QStringList options;
@@ -83,6 +83,37 @@ TEST(CheckCommandTest, PortPixelsCanBeSet)
     EXPECT_EQ(faults("196607"), 2);
     EXPECT_EQ(RunOrvan({Arg("check"), wall, Arg("--port-pixels"), Arg("many")}).status, 2);
     EXPECT_EQ(RunOrvan({Arg("check"), SamplePath("too-new.prj")}).status, 3);
+}
+
+TEST(DiffCommandTest, DifferencesEndWithOneAndNothingIsPrintedWithoutAny)
+{
+    TestFolder folder;
+    const QString wall = SamplePath("small-wall.prj");
+    QByteArray text = ReadFile(SamplePath("small-wall.xml"));
+    text.replace("Name=\"Hall left\"", "Name=\"Hall\x7F\"")
+        .replace("RefreshDisTime=\"15\"", "RefreshDisTime=\"20\"");
+    const QString edited = folder.Write(Arg("edited.xml"), text);
+    for (const QString& other : {wall, SamplePath("small-wall.xml")}) {
+        const OrvanRun same = RunOrvan({Arg("diff"), wall, other});
+        EXPECT_EQ(same.status, 0);
+        EXPECT_EQ(same.output + same.errors.toUtf8(), QByteArray());
+    }
+    const OrvanRun run = RunOrvan({Arg("diff"), wall, edited});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(QString::fromUtf8(run.output), Arg("2 differences: senders changed 1, settings 1\n"
+                                                 "monitoring every 20 s, was 15 s\n"
+                                                 "sender 1: name \"Hall\uFFFD\", was \"Hall left\"\n"));
+    const QJsonArray list =
+        RunOrvan({Arg("diff"), wall, edited, Arg("--json")}).Json()[Arg("differences")].toArray();
+    ASSERT_EQ(list.size(), 2);
+    EXPECT_EQ(list[0][Arg("kind")], QJsonValue(Arg("settings")));
+    EXPECT_EQ(list[1][Arg("sender")], QJsonValue(1));
+    const QString bad = SamplePath("too-new.prj");
+    for (const QStringList& files : {QStringList{wall, bad}, QStringList{bad, wall}}) {
+        const OrvanRun failed = RunOrvan(QStringList{Arg("diff")} + files);
+        EXPECT_EQ(failed.status, 3);
+        EXPECT_TRUE(failed.errors.startsWith(Arg("orvan: ") + bad + Arg(": "))) << qPrintable(failed.errors);
+    }
 }
 
 TEST(ParamsCommandTest, AParameterFileIsPrintedUnderItsElementNames)

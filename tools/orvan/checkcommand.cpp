@@ -23,8 +23,8 @@ constexpr int kMostOfAKind = 20; ///< lines, unless all are wanted
 void AddOptions(QCommandLineParser& parser)
 {
     parser.addOption({QStringLiteral("json"), QStringLiteral("Print one JSON object with all faults.")});
-    parser.addOption(
-        {QStringLiteral("all"), QStringLiteral("Print all faults, not the first %1 of a kind.").arg(kMostOfAKind)});
+    parser.addOption({QStringLiteral("all"),
+                      QStringLiteral("Print all faults, not the first %1 of a kind.").arg(kMostOfAKind)});
     parser.addOption({QStringLiteral("ignore"),
                       QStringLiteral("Pass over the faults of this kind. May be given several times."),
                       QStringLiteral("KIND")});
@@ -93,7 +93,8 @@ void PrintFaultsJson(const Check& check)
 
 QString CountLine(int faults, int ignored)
 {
-    QString line = QString::number(faults) + (faults == 1 ? QStringLiteral(" fault") : QStringLiteral(" faults"));
+    QString line =
+        QString::number(faults) + (faults == 1 ? QStringLiteral(" fault") : QStringLiteral(" faults"));
     if (ignored > 0)
         line += QStringLiteral(", %1 ignored").arg(ignored);
     return line + QLatin1Char('\n');

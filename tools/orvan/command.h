@@ -9,7 +9,7 @@ class QCommandLineParser;
 enum ExitStatus : int
 {
     StatusDone = 0,
-    StatusFaults = 1, ///< the file was read and has faults
+    StatusFaults = 1, ///< the file was read and has faults, or two were and differ
     StatusUsage = 2,
     StatusFile = 3, ///< a file could not be read or written
 };
@@ -44,6 +44,7 @@ extern const Command kCheckCommand;
 extern const Command kConvertCommand;
 extern const Command kDemoCommand;
 extern const Command kExportCommand;
+extern const Command kDiffCommand;
 extern const Command kInfoCommand;
 extern const Command kNewCommand;
 extern const Command kParamsCommand;

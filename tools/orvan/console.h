@@ -15,7 +15,7 @@ void Warn(const QString& subject, const QString& what); ///< the same, marked as
 /// To standard output. Controls of the terminal are removed but for line feeds. Names and texts of files must
 /// go through OrvanTools::Printable first.
 void Print(const QString& text);
-void PrintJson(const QJsonObject& object); ///< UTF-8, whatever the locale; such characters are escaped
+void PrintJson(const QJsonObject& object);   ///< UTF-8, whatever the locale; such characters are escaped
 void PrintJsonPiece(const QByteArray& json); ///< of such an object
 
 bool FlushOutput(); ///< false when standard output did not take all

@@ -13,6 +13,11 @@
 
 bool OpenProject(const QString& file)
 {
+    return OpenProject(file, *GetProjectData());
+}
+
+bool OpenProject(const QString& file, CProjectData& project)
+{
     const QString path = InputPath(file);
     if (path.isEmpty())
         return false;
@@ -22,14 +27,14 @@ bool OpenProject(const QString& file)
     }
     ProgressLine progress(QStringLiteral("reading ") + InputName(file));
     QString version;
-    if (GetProjectData()->LoadProjectFromFile(QFile::encodeName(path).constData(), version, progress.Bar())) {
+    if (project.LoadProjectFromFile(QFile::encodeName(path).constData(), version, progress.Bar())) {
         progress.End();
-        if (!GetProjectData()->GetLastFileError().isEmpty())
-            Warn(file, GetProjectData()->GetLastFileError());
+        if (!project.GetLastFileError().isEmpty())
+            Warn(file, project.GetLastFileError());
         return true;
     }
     progress.End();
-    Fail(StatusFile, file, GetProjectData()->GetLastFileError());
+    Fail(StatusFile, file, project.GetLastFileError());
     return false;
 }
 

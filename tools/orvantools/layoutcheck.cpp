@@ -2,7 +2,7 @@
 
 #include "orvantools/backupmap.h"
 #include "orvantools/overlapfinder.h"
-#include "orvantools/printable.h"
+#include "orvantools/placeline.h"
 #include "orvantools/storedreceivers.h"
 
 #include <OrvanData/orvandata.h>
@@ -323,25 +323,12 @@ QStringList FaultKindNames()
 
 QString Fault::Line() const
 {
-    QString line;
-    const auto place = [&line](const char* name, int number) {
-        if (number > 0)
-            line += (line.isEmpty() ? QString() : QStringLiteral(" ")) + QLatin1String(name)
-                    + QString::number(number);
-    };
-    place("sender ", sender);
-    place("port ", port);
-    place("cabinet ", cabinet);
-    return Printable(line.isEmpty() ? text : line + QStringLiteral(": ") + text);
+    return PlaceLine(sender, port, cabinet, text);
 }
 
 QJsonObject Fault::Json() const
 {
-    return {{QStringLiteral("kind"), FaultKindName(kind)},
-            {QStringLiteral("sender"), sender},
-            {QStringLiteral("port"), port},
-            {QStringLiteral("cabinet"), cabinet},
-            {QStringLiteral("text"), text}};
+    return PlaceJson(FaultKindName(kind), sender, port, cabinet, text);
 }
 
 void CheckProject(const CProjectData& project, const CheckOptions& options,

@@ -141,16 +141,16 @@ QJsonObject DescribePort(const CPort& port, const PortCapacity& capacity)
     QList<CTileGroup*> allGroups;
     const qint64 pixels = PixelsOf(tiles);
     return {{Key("index"), port.GetPortIndex()},
-                       {Key("locked"), port.IsFlagLock()},
-                       {Key("visible"), port.IsVisible()},
-                       {Key("backupOf"), DescribeBackup(port)},
-                       {Key("cabinets"), tiles.GetCount()},
-                       {Key("numbered"), NumberedCount(tiles)},
-                       {Key("receivers"), tiles.GetRcvCount()},
-                       {Key("groups"), groups.GetGroupListRecursive(allGroups)},
-                       {Key("pixels"), pixels},
-                       {Key("load"), NumberOrNull(capacity.LoadOf(pixels))},
-                       {Key("bound"), BoundOrNull(UnrotatedBound(tiles))}};
+            {Key("locked"), port.IsFlagLock()},
+            {Key("visible"), port.IsVisible()},
+            {Key("backupOf"), DescribeBackup(port)},
+            {Key("cabinets"), tiles.GetCount()},
+            {Key("numbered"), NumberedCount(tiles)},
+            {Key("receivers"), tiles.GetRcvCount()},
+            {Key("groups"), groups.GetGroupListRecursive(allGroups)},
+            {Key("pixels"), pixels},
+            {Key("load"), NumberOrNull(capacity.LoadOf(pixels))},
+            {Key("bound"), BoundOrNull(UnrotatedBound(tiles))}};
 }
 
 /// A sender without its ports.
@@ -266,8 +266,8 @@ QJsonObject DescribeProject(const CProjectData& project, const CMonitorInterface
     return object;
 }
 
-void WriteProject(const CProjectData& project, const CMonitorInterfaceData& monitor,
-                  bool withTiles, const PortCapacity& capacity, const QJsonObject& more, JsonWriter& out)
+void WriteProject(const CProjectData& project, const CMonitorInterfaceData& monitor, bool withTiles,
+                  const PortCapacity& capacity, const QJsonObject& more, JsonWriter& out)
 {
     const auto writePort = [&](const CPort& port) {
         QJsonObject object = DescribePort(port, capacity);

@@ -1,11 +1,11 @@
 #include "orvantools/projecttext.h"
 
 #include "orvantools/printable.h"
+#include "orvantools/projectrows.h"
 #include "orvantools/tileshape.h"
 
 #include <OrvanData/orvandata.h>
 
-#include <QHostAddress>
 #include <QStringList>
 
 namespace OrvanTools {
@@ -40,11 +40,6 @@ QString BoundText(const CTileSet& tiles)
            + QString::number(bound.top());
 }
 
-QString AddressText(unsigned long ip)
-{
-    return QHostAddress(static_cast<quint32>(ip)).toString();
-}
-
 QString BackupText(const CProjectData& project, const CPort& port)
 {
     const int sender = project.GetScIndexByID(port.GetBackupSrcSenderId());
@@ -73,8 +68,7 @@ QString PortRow(const CProjectData& project, const CPort& port, const PortCapaci
     for (const int number : {port.GetPortIndex() + 1, tiles.GetCount(), numbered, tiles.GetRcvCount()})
         row += QString::number(number).rightJustified(9) + QLatin1Char(' ');
     row += capacity.PercentText(PixelsOf(tiles)).rightJustified(9) + QStringLiteral("  ");
-    row +=
-        BoundText(tiles).leftJustified(22) + Printable(notes.join(QStringLiteral(", ")));
+    row += BoundText(tiles).leftJustified(22) + Printable(notes.join(QStringLiteral(", ")));
     while (row.endsWith(QLatin1Char(' ')))
         row.chop(1);
     return row + QLatin1Char('\n');

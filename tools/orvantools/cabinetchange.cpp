@@ -1,0 +1,172 @@
+#include "orvantools/cabinetchange.h"
+
+#include <OrvanData/orvandata.h>
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace OrvanTools {
+
+namespace {
+
+/// Files keep six significant digits.
+bool IsNear(double a, double b)
+{
+    return std::abs(a - b) <= 0.0001 + 0.000005 * std::max(std::abs(a), std::abs(b));
+}
+
+/// Records of cabinets move along with them, though not every program moves all of them.
+bool IsNear(double before, double after, int moved)
+{
+    return IsNear(before, after) || IsNear(before + moved, after);
+}
+
+bool IsCenterSame(const CTile& before, const CTile& after)
+{
+    const SRotateParam& a = before.GetRotateRecord();
+    const SRotateParam& b = after.GetRotateRecord();
+    return IsNear(a.centerX, b.centerX, after.GetX() - before.GetX())
+           && IsNear(a.centerY, b.centerY, after.GetY() - before.GetY());
+}
+
+bool IsLeftTopSame(const CTile& before, const CTile& after)
+{
+    const SRotateParam& a = before.GetRotateRecord();
+    const SRotateParam& b = after.GetRotateRecord();
+    return IsNear(a.leftTopX, b.leftTopX, after.GetX() - before.GetX())
+           && IsNear(a.leftTopY, b.leftTopY, after.GetY() - before.GetY());
+}
+
+bool IsTurnedSizeSame(const SRotateParam& a, const SRotateParam& b)
+{
+    return IsNear(a.width, b.width) && IsNear(a.height, b.height);
+}
+
+bool IsTurnedSame(const CTile& before, const CTile& after)
+{
+    const SRotateParam& a = before.GetRotateRecord();
+    const SRotateParam& b = after.GetRotateRecord();
+    return IsNear(a.angle, b.angle) && a.rotated == b.rotated && a.showCenter == b.showCenter
+           && IsTurnedSizeSame(a, b) && IsCenterSame(before, after) && IsLeftTopSame(before, after);
+}
+
+bool IsWiredSame(const CTile& a, const CTile& b)
+{
+    bool same = a.IsMultiRcvTile() == b.IsMultiRcvTile() && a.IsMultiFixedLine() == b.IsMultiFixedLine()
+                && a.IsMultiRcvsOrdered() == b.IsMultiRcvsOrdered()
+                && a.GetMultiRcvsSize() == b.GetMultiRcvsSize();
+    for (int i = 0; i < kMaxReceiversInTile; ++i)
+        same = same && a.GetMultiRcvsLineCode(i) == b.GetMultiRcvsLineCode(i);
+    return same;
+}
+
+QString PairText(double x, double y)
+{
+    return QString::number(x) + QStringLiteral(", ") + QString::number(y);
+}
+
+QString SizeText(double width, double height)
+{
+    return QString::number(width) + QLatin1Char('x') + QString::number(height);
+}
+
+QString PlaceText(const CTile& tile)
+{
+    return PairText(tile.GetX(), tile.GetY());
+}
+
+QString NumberOf(const CTile& tile)
+{
+    return tile.HasSetConnectIndex() ? QStringLiteral("number %1").arg(qint64(tile.GetConnectionIndex()) + 1)
+                                     : QStringLiteral("no number");
+}
+
+/// "2x2 (fixed, line 0 1 3 2)"; the line without the zeros at its end.
+QString WiringText(const CTile& tile)
+{
+    QStringList words;
+    if (!tile.IsMultiRcvTile())
+        words.append(QStringLiteral("single"));
+    if (tile.IsMultiFixedLine())
+        words.append(QStringLiteral("fixed"));
+    if (!tile.IsMultiRcvsOrdered())
+        words.append(QStringLiteral("no order"));
+    int last = kMaxReceiversInTile - 1;
+    while (last > 0 && tile.GetMultiRcvsLineCode(last) == 0)
+        --last;
+    QString line = QStringLiteral("line");
+    for (int i = 0; i <= last; ++i)
+        line += QLatin1Char(' ') + QString::number(tile.GetMultiRcvsLineCode(i));
+    words.append(line);
+    const QSize size = tile.GetMultiRcvsSize();
+    return SizeText(size.width(), size.height())
+           + QStringLiteral(" (%1)").arg(words.join(QStringLiteral(", ")));
+}
+
+} // namespace
+
+bool CabinetChange::IsMoved() const
+{
+    return m_before.GetX() != m_after.GetX() || m_before.GetY() != m_after.GetY();
+}
+
+bool CabinetChange::IsRenumbered() const
+{
+    return m_before.HasSetConnectIndex() != m_after.HasSetConnectIndex()
+           || (m_after.HasSetConnectIndex() && m_before.GetConnectionIndex() != m_after.GetConnectionIndex());
+}
+
+bool CabinetChange::IsOther() const
+{
+    return m_before.GetSize() != m_after.GetSize() || m_before.GetType() != m_after.GetType()
+           || !IsWiredSame(m_before, m_after) || !IsTurnedSame(m_before, m_after);
+}
+
+QString CabinetChange::MoveText() const
+{
+    return QStringLiteral("from %1 to %2").arg(PlaceText(m_before), PlaceText(m_after));
+}
+
+QString CabinetChange::NumberText() const
+{
+    return NumberOf(m_after) + QStringLiteral(", was ")
+           + NumberOf(m_before).remove(QStringLiteral("number "));
+}
+
+QString CabinetChange::OtherText(const TypeName& before, const TypeName& after) const
+{
+    const SRotateParam& a = m_before.GetRotateRecord();
+    const SRotateParam& b = m_after.GetRotateRecord();
+    QStringList changes;
+    const auto tell = [&changes](bool same, const char* name, const QString& now, const QString& was) {
+        if (!same)
+            changes.append(QLatin1String(name) + QStringLiteral(" %1, was %2").arg(now, was));
+    };
+    tell(m_before.GetSize() == m_after.GetSize(), "size", SizeText(m_after.GetWidth(), m_after.GetHeight()),
+         SizeText(m_before.GetWidth(), m_before.GetHeight()));
+    tell(m_before.GetType() == m_after.GetType(), "type", after(m_after.GetType()),
+         before(m_before.GetType()));
+    tell(IsWiredSame(m_before, m_after), "receiving cards", WiringText(m_after), WiringText(m_before));
+    if (!IsNear(a.angle, b.angle) || a.rotated != b.rotated)
+        changes.append(QStringLiteral("turned from %1° to %2°").arg(a.angle).arg(b.angle));
+    tell(IsCenterSame(m_before, m_after), "turned about", PairText(b.centerX, b.centerY),
+         PairText(a.centerX, a.centerY));
+    tell(IsLeftTopSame(m_before, m_after), "left top of the turned block", PairText(b.leftTopX, b.leftTopY),
+         PairText(a.leftTopX, a.leftTopY));
+    tell(IsTurnedSizeSame(a, b), "size of the turned block", SizeText(b.width, b.height),
+         SizeText(a.width, a.height));
+    tell(a.showCenter == b.showCenter, "middle of turning",
+         b.showCenter ? QStringLiteral("shown") : QStringLiteral("hidden"),
+         a.showCenter ? QStringLiteral("shown") : QStringLiteral("hidden"));
+    return changes.join(QStringLiteral("; "));
+}
+
+QString CabinetChange::Describe(const CTile& tile)
+{
+    return PlaceText(tile) + QStringLiteral(", size ") + SizeText(tile.GetWidth(), tile.GetHeight())
+           + QStringLiteral(", ") + NumberOf(tile);
+}
+
+} // namespace OrvanTools
