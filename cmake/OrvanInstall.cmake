@@ -29,8 +29,8 @@ endif()
 
 # The installation is tried as another project would use it, in a folder of the build tree. A library built with
 # sanitizers wants its user built with them too, so it is left out there.
-if(NOT ORVANDATA_SANITIZE)
-    foreach(phase install headers host pkgconfig)
+if(PROJECT_IS_TOP_LEVEL AND NOT ORVANDATA_SANITIZE)
+    foreach(phase install headers host pkgconfig subproject)
         add_test(NAME installed_${phase}
                  COMMAND ${PROJECT_SOURCE_DIR}/cmake/try_installation.sh ${phase} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}
                          ${CMAKE_GENERATOR} ${CMAKE_MAKE_PROGRAM} ${CMAKE_CXX_COMPILER})

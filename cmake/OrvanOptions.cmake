@@ -1,5 +1,8 @@
-# Options, the language level and the two interface targets that every target of the project links.
-option(ORVANDATA_TESTS "Build the tests" ON)
+# Options, the language level and the two interface targets that every target of the project links. As a part of
+# another project this one builds its libraries and nothing else, and what is set here stays in these folders.
+option(ORVANDATA_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
+option(ORVANDATA_COMMAND "Build the command orvan" ${PROJECT_IS_TOP_LEVEL})
+option(ORVANDATA_INSTALL "Install the libraries, their headers and the command" ${PROJECT_IS_TOP_LEVEL})
 option(ORVANDATA_BENCHMARKS "Build the benchmarks" OFF)
 option(ORVANDATA_FUZZ "Link the fuzzers with libFuzzer; needs clang" OFF)
 option(ORVANDATA_WERROR "Treat warnings as errors" OFF)
@@ -14,8 +17,9 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
 # An installation can be moved as a whole. The system's own folders need no search path.
 if(NOT CMAKE_INSTALL_PREFIX STREQUAL /usr)

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Uses an installation as another project would:
+# Uses an installation as another project would, or the sources as a part of one:
 #   try_installation.sh PHASE SOURCE_DIR BUILD_DIR GENERATOR MAKE_PROGRAM COMPILER
 # The last three are those of the build itself: no other generator or compiler need be there.
 set -euo pipefail
@@ -19,6 +19,17 @@ run_example() {
     # shellcheck disable=SC2064  # this home, whatever comes later
     trap "rm -rf '$home'" EXIT
     HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=offscreen "$1" "$home"
+}
+
+# A project around the library has none of its tests and packages, nothing in its own folders but what it made, and
+# compiles as it did.
+refuse_traces() {
+    local folder=$1
+    ctest --test-dir "$folder" -N | grep -qx 'Total Tests: 0' || { echo "the project has got tests"; return 1; }
+    for name in bin lib share include CPackConfig.cmake; do
+        [ ! -e "$folder/$name" ] || { echo "the project has got $name"; return 1; }
+    done
+    ! grep '"command".*/examples/host/main.cpp' "$folder/compile_commands.json" | grep -e '-fvisibility' -e ' -W'
 }
 
 case $phase in
@@ -47,6 +58,19 @@ case $phase in
         "$compiler" -std=c++17 "$source/examples/host/main.cpp" -o "$build/example-pkgconfig" $flags \
             -Wl,-rpath,"$(pkg-config --variable=libdir orvandata)"
         run_example "$build/example-pkgconfig"
+        ;;
+    subproject)
+        # Beside the build, where ccache knows the library's objects by the names of that build; without ccache they are
+        # compiled again, quickly.
+        outer=$build-subproject
+        options=(-DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0)
+        command -v ccache >/dev/null && options=(-DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+        rm -rf "$outer"
+        cmake -S "$source/examples/subproject" -B "$outer" -G "$generator" -DCMAKE_MAKE_PROGRAM="$make_program" \
+            -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON "${options[@]}" >/dev/null
+        cmake --build "$outer" --target orvandata-host
+        run_example "$outer/orvandata-host"
+        refuse_traces "$outer"
         ;;
     *)
         echo "unknown phase: $phase" >&2
