@@ -4,7 +4,7 @@ include(CMakePackageConfigHelpers)
 
 set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OrvanData)
 configure_package_config_file(cmake/OrvanDataConfig.cmake.in OrvanDataConfig.cmake INSTALL_DESTINATION ${config_dir})
-write_basic_package_version_file(OrvanDataConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+write_basic_package_version_file(OrvanDataConfigVersion.cmake COMPATIBILITY ${ORVANDATA_COMPATIBILITY})
 install(FILES ${PROJECT_BINARY_DIR}/OrvanDataConfig.cmake ${PROJECT_BINARY_DIR}/OrvanDataConfigVersion.cmake
         DESTINATION ${config_dir} COMPONENT development)
 install(EXPORT OrvanDataTargets NAMESPACE OrvanData:: DESTINATION ${config_dir} COMPONENT development)
@@ -30,12 +30,12 @@ endif()
 # The installation is tried as another project would use it, in a folder of the build tree. A library built with
 # sanitizers wants its user built with them too, so it is left out there.
 if(PROJECT_IS_TOP_LEVEL AND NOT ORVANDATA_SANITIZE)
-    foreach(phase install headers host pkgconfig subproject)
+    foreach(phase install headers symbols host pkgconfig subproject)
         add_test(NAME installed_${phase}
                  COMMAND ${PROJECT_SOURCE_DIR}/cmake/try_installation.sh ${phase} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}
                          ${CMAKE_GENERATOR} ${CMAKE_MAKE_PROGRAM} ${CMAKE_CXX_COMPILER})
     endforeach()
     set_tests_properties(installed_install PROPERTIES FIXTURES_SETUP installation)
-    set_tests_properties(installed_headers installed_host installed_pkgconfig
+    set_tests_properties(installed_headers installed_symbols installed_host installed_pkgconfig
                          PROPERTIES FIXTURES_REQUIRED installation)
 endif()

@@ -45,6 +45,9 @@ case $phase in
             xargs -P "$(nproc)" -I{} sh -c 'header=$1 && shift && echo "#include <$header>" |
                 "$0" -x c++ -std=c++17 -fsyntax-only -Wall -Wextra -Werror "$@" - || exit 255' "$compiler" {} $flags
         ;;
+    symbols)
+        "$source/cmake/exported_symbols.sh" "$(find "$stage" -name libOrvanData.so)" "$source/src/orvandata.symbols"
+        ;;
     host)
         cmake -S "$source/examples/host" -B "$example" -G "$generator" -DCMAKE_MAKE_PROGRAM="$make_program" \
             -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_PREFIX_PATH="$stage" -DCMAKE_BUILD_TYPE=Debug >/dev/null
