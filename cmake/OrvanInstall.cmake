@@ -2,6 +2,16 @@
 # completes it in a shell, and how other projects find the library (CMake package, pkg-config file).
 include(CMakePackageConfigHelpers)
 
+# orvan_compressed(FILE RESULT): makes FILE.gz, with the same bytes each time; RESULT is set to its path.
+function(orvan_compressed file result)
+    cmake_path(GET file FILENAME name)
+    set(made ${PROJECT_BINARY_DIR}/compressed/${name}.gz)
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/compressed)
+    add_custom_command(OUTPUT ${made} COMMAND gzip -9nc ${file} > ${made} DEPENDS ${file} VERBATIM)
+    add_custom_target(Orvan-${name}.gz ALL DEPENDS ${made})
+    set(${result} ${made} PARENT_SCOPE)
+endfunction()
+
 set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OrvanData)
 configure_package_config_file(cmake/OrvanDataConfig.cmake.in OrvanDataConfig.cmake INSTALL_DESTINATION ${config_dir})
 write_basic_package_version_file(OrvanDataConfigVersion.cmake COMPATIBILITY ${ORVANDATA_COMPATIBILITY})
@@ -17,10 +27,13 @@ if(NOT ORVANDATA_KRXCONTROL_TARGET)
     set(krxcontrol_libs "-lKRXControl")
 endif()
 configure_file(cmake/orvandata.pc.in orvandata.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/orvandata.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+configure_file(cmake/orvantools.pc.in orvantools.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/orvandata.pc ${PROJECT_BINARY_DIR}/orvantools.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 
 if(TARGET orvan)
-    install(FILES docs/orvan.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+    orvan_compressed(${PROJECT_SOURCE_DIR}/docs/orvan.1 manual)
+    install(FILES ${manual} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
     install(FILES tools/orvan/completions/orvan.bash RENAME orvan
             DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools)
     install(FILES tools/orvan/completions/_orvan

@@ -5,20 +5,35 @@
 set -euo pipefail
 phase=$1 source=$2 build=$3 generator=$4 make_program=$5 compiler=$6
 stage=$build/installed
-example=$build/example-host
 
 find_pkgconfig() {
     PKG_CONFIG_PATH=$(dirname "$(find "$stage" -name orvandata.pc)")
     export PKG_CONFIG_PATH
 }
 
-# The example leaves files in the documents folder, so it gets a home of its own.
-run_example() {
-    local home
+# The examples leave files in the documents folder, so each gets a home of its own.
+run_example() (
     home=$(mktemp -d)
-    # shellcheck disable=SC2064  # this home, whatever comes later
-    trap "rm -rf '$home'" EXIT
+    trap 'rm -rf "$home"' EXIT
     HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=offscreen "$1" "$home"
+)
+
+# by_cmake EXAMPLE PROGRAM: builds an example as a project of its own and runs it.
+by_cmake() {
+    cmake -S "$source/examples/$1" -B "$build/example-$1" -G "$generator" -DCMAKE_MAKE_PROGRAM="$make_program" \
+        -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_PREFIX_PATH="$stage" -DCMAKE_BUILD_TYPE=Debug >/dev/null
+    cmake --build "$build/example-$1"
+    run_example "$build/example-$1/$2"
+}
+
+# by_pkgconfig EXAMPLE PACKAGE: the same with the compiler alone.
+by_pkgconfig() {
+    local flags
+    flags=$(pkg-config --cflags --libs "$2")
+    # shellcheck disable=SC2086  # flags are words
+    "$compiler" -std=c++17 "$source/examples/$1/main.cpp" -o "$build/example-$1-pkgconfig" $flags \
+        -Wl,-rpath,"$(pkg-config --variable=libdir orvandata)"
+    run_example "$build/example-$1-pkgconfig"
 }
 
 # A project around the library has none of its tests and packages, nothing in its own folders but what it made, and
@@ -34,7 +49,7 @@ refuse_traces() {
 
 case $phase in
     install)
-        rm -rf "$stage" "$example"
+        rm -rf "$stage" "$build"/example-*
         cmake --install "$build" --prefix "$stage" >/dev/null
         ;;
     headers)
@@ -49,18 +64,13 @@ case $phase in
         "$source/cmake/exported_symbols.sh" "$(find "$stage" -name libOrvanData.so)" "$source/src/orvandata.symbols"
         ;;
     host)
-        cmake -S "$source/examples/host" -B "$example" -G "$generator" -DCMAKE_MAKE_PROGRAM="$make_program" \
-            -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_PREFIX_PATH="$stage" -DCMAKE_BUILD_TYPE=Debug >/dev/null
-        cmake --build "$example"
-        run_example "$example/orvandata-host"
+        by_cmake host orvandata-host
+        by_cmake tools orvandata-drawing
         ;;
     pkgconfig)
         find_pkgconfig
-        flags=$(pkg-config --cflags --libs orvandata)
-        # shellcheck disable=SC2086
-        "$compiler" -std=c++17 "$source/examples/host/main.cpp" -o "$build/example-pkgconfig" $flags \
-            -Wl,-rpath,"$(pkg-config --variable=libdir orvandata)"
-        run_example "$build/example-pkgconfig"
+        by_pkgconfig host orvandata
+        by_pkgconfig tools orvantools
         ;;
     subproject)
         # Beside the build, where ccache knows the library's objects by the names of that build; without ccache they are
