@@ -9,6 +9,7 @@
 #include "common/smd5.h"
 #include "frame/lednimbradata.h"
 #include "frame/runtimedata.h"
+#include "layout/documentchange.h"
 #include "layout/port.h"
 #include "layout/portproject.h"
 #include "layout/projectundoredo.h"

@@ -23,7 +23,8 @@ public:
     CRuntimeData& operator=(const CRuntimeData&) = delete;
 
     CProductDirectorySet* GetProductDirectorySet() const { return m_products.get(); } ///< [ref]
-    CProjectUndoRedo* GetProjectUndoRedo() const { return m_history.get(); } ///< [ref] of the open document
+    /// [ref] Of the open document. Also tells a window what changed there.
+    CProjectUndoRedo* GetProjectUndoRedo() const { return m_history.get(); }
     CDesignBackground* GetDesignBackground() const { return m_designBackground.get(); } ///< [ref]
 
     /// [ref] The choice of processors for the next export or import of parameter files.

@@ -1,9 +1,11 @@
 #include "layout/projectundoredo.h"
 
+#include "layout/changeteller.h"
 #include "layout/layoutlookup.h"
 #include "layout/sender.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -21,14 +23,21 @@ int CollectPorts(const CSenderUndoRedo& history, int from, int to, int* ports)
     return count;
 }
 
+int PlaceOf(CSender* sender)
+{
+    return GetLayoutLookup()->Senders().indexOf(sender);
+}
+
 } // namespace
 
-CProjectUndoRedo::CProjectUndoRedo() = default;
+CProjectUndoRedo::CProjectUndoRedo() : m_teller(std::make_unique<ChangeTeller>())
+{}
 
 CProjectUndoRedo::~CProjectUndoRedo() = default;
 
 bool CProjectUndoRedo::Init()
 {
+    DocumentOperation operation(this);
     Release();
     m_unheld = false;
     m_marked = false;
@@ -39,6 +48,7 @@ bool CProjectUndoRedo::Init()
 
 void CProjectUndoRedo::Release()
 {
+    DocumentOperation operation(this);
     for (CSenderUndoRedo& history : m_histories)
         Drop(&history);
 }
@@ -52,6 +62,8 @@ bool CProjectUndoRedo::SenderUndoRedoInit(CSender* sender)
         history = GetSenderUndoRedoEmpty();
     if (!history)
         return false;
+    DocumentOperation operation(this);
+    operation.Changed(&SDocumentChange::steps);
     Drop(history);
     history->Start(*sender);
     return true;
@@ -66,7 +78,11 @@ void CProjectUndoRedo::SenderUndoRedoRelease(const QUuid& senderId)
 /// A change that goes with its history must not be forgotten.
 void CProjectUndoRedo::Drop(CSenderUndoRedo* history)
 {
-    if (!history->GetSenderId().isNull() && history->IsModified())
+    if (history->GetSenderId().isNull())
+        return;
+    DocumentOperation operation(this);
+    operation.Changed(&SDocumentChange::steps);
+    if (history->IsModified())
         m_unheld = true;
     history->Clear();
 }
@@ -111,8 +127,24 @@ bool CProjectUndoRedo::AddStep(CSender* sender, Type type)
         return true;
     if (!sender)
         return false;
-    if (CSenderUndoRedo* history = GetSenderUndoRedoFromID(sender->GetId()))
-        return history->AddStep(*sender, type);
+    DocumentOperation operation(this);
+    CSenderUndoRedo* history = GetSenderUndoRedoFromID(sender->GetId());
+    if (!history)
+        return AddFirstStep(sender, operation);
+    QVector<int> changed;
+    if (!history->AddStep(*sender, type, &changed))
+        return false;
+    operation.Changed(&SDocumentChange::steps);
+    operation.ChangedPorts(PlaceOf(sender), changed);
+    return true;
+}
+
+/// Nobody knows what the sender was like before, so each of its ports may have changed.
+bool CProjectUndoRedo::AddFirstStep(CSender* sender, DocumentOperation& operation)
+{
+    QVector<int> ports(sender->GetPortCount());
+    std::iota(ports.begin(), ports.end(), 0);
+    operation.ChangedPorts(PlaceOf(sender), ports);
     if (!SenderUndoRedoInit(sender)) {
         m_unheld = true;
         return false;
@@ -142,6 +174,7 @@ bool CProjectUndoRedo::Move(int steps, bool back, int* ports, int* count)
         *count = 0;
     if (steps < 0)
         return false;
+    DocumentOperation operation(this);
     const int start = history->GetCurrentStep();
     if (!history->Move(back ? -steps : steps))
         return false;
@@ -153,8 +186,12 @@ bool CProjectUndoRedo::Move(int steps, bool back, int* ports, int* count)
         if (*count > 1)
             shown = ports[1];
     }
-    if (!history->Restore(sender, shown))
+    QVector<int> changed;
+    if (!history->Restore(sender, shown, operation.IsListenedTo() ? &changed : nullptr))
         m_unheld = true;
+    if (steps > 0)
+        operation.Changed(&SDocumentChange::steps);
+    operation.ChangedPorts(PlaceOf(sender), changed);
     return true;
 }
 
@@ -217,6 +254,8 @@ bool CProjectUndoRedo::IsModidfied() const
 
 void CProjectUndoRedo::SetAsSaveStep()
 {
+    DocumentOperation operation(this);
+    operation.Changed(&SDocumentChange::saved);
     bool all = true;
     for (const CSender* sender : GetLayoutLookup()->Senders()) {
         if (CSenderUndoRedo* history = GetSenderUndoRedoFromID(sender->GetId()))
@@ -230,5 +269,12 @@ void CProjectUndoRedo::SetAsSaveStep()
 
 void CProjectUndoRedo::PrjModify()
 {
+    DocumentOperation operation(this);
+    operation.Changed(&SDocumentChange::properties);
     m_marked = true;
+}
+
+void CProjectUndoRedo::SetChangeHandler(const DocumentChangeHandler& handler)
+{
+    m_teller->SetHandler(handler, IsModidfied());
 }

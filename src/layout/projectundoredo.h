@@ -1,13 +1,17 @@
 #pragma once
 
 #include "common/export.h"
+#include "layout/documentchange.h"
 #include "layout/senderundoredo.h"
 
 #include <QUuid>
 
 #include <array>
+#include <memory>
 
 class CSender;
+class ChangeTeller;
+class DocumentOperation;
 
 /// The histories of all senders of the open project, and whether the project differs from what was saved.
 /// Undoing and redoing act on the project's current sender. Owned by the runtime state.
@@ -62,8 +66,21 @@ public:
     void SetAsSaveStep();
     void PrjModify(); ///< marks a change outside the histories; it stays until Init
 
+    // what a window on the open document lives on
+    /// One handler, told what changed, once after each operation: a step recorded, undone or redone, a load,
+    /// a save, an import, PrjModify, senders that came or went, a document set to default or copied into.
+    /// Single setters tell nothing, nor does the reading of single elements of a file; documents other than
+    /// the open one never do. The operation itself calls it, in the caller's thread, when all is done and the
+    /// result stands: the handler may read everything. It should not edit; what it changes all the same is
+    /// told with the next operation. It must not throw or call LedNimbraData_Release. It stays until another
+    /// one, or an empty one, is set.
+    void SetChangeHandler(const DocumentChangeHandler& handler);
+
+    ChangeTeller& GetChangeTeller() { return *m_teller; } ///< inside the library
+
 private:
     bool AddStep(CSender* sender, Type type);
+    bool AddFirstStep(CSender* sender, DocumentOperation& operation);
     bool Move(int steps, bool back, int* ports, int* count);
     const CSenderRecordItem* StepAhead(int n, bool back);
     void Drop(CSenderUndoRedo* history);
@@ -71,4 +88,5 @@ private:
     std::array<CSenderUndoRedo, kSlotCount> m_histories;
     bool m_unheld = false; ///< a change that no history holds, until the next save
     bool m_marked = false; ///< a change of the project itself, until Init
+    std::unique_ptr<ChangeTeller> m_teller;
 };

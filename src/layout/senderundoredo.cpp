@@ -18,6 +18,22 @@ struct CSenderUndoRedo::State
     std::array<LayoutTracker, kMaxPorts> trackers;
 };
 
+namespace {
+
+/// False when the port is not as wanted afterwards.
+bool RestorePort(CPort& port, LayoutTracker& tracker, const LayoutSnapshot::Pointer& wanted)
+{
+    if (port.IsVisible() && port.IsBackupDest() == wanted->IsBackup()) {
+        tracker.Restore(&port, wanted);
+        return true;
+    }
+    if (port.IsVisible())
+        port.GetPortProject()->ClearAllTiles();
+    return tracker.Take(port)->IsEqual(*wanted);
+}
+
+} // namespace
+
 std::unique_ptr<const CSenderRecordItem> CSenderUndoRedo::State::TakeStep(CSender& sender, Type type)
 {
     auto ports = std::make_unique<CSenderRecordItem::Ports>();
@@ -61,6 +77,12 @@ void CSenderUndoRedo::Clear()
 
 bool CSenderUndoRedo::AddStep(CSender& sender, Type type)
 {
+    QVector<int> changed;
+    return AddStep(sender, type, &changed);
+}
+
+bool CSenderUndoRedo::AddStep(CSender& sender, Type type, QVector<int>* changed)
+{
     if (m_current < 0 || sender.GetId() != m_senderId)
         return false;
     auto& steps = m_state->steps;
@@ -70,6 +92,9 @@ bool CSenderUndoRedo::AddStep(CSender& sender, Type type)
     const auto isEqual = [](const auto& a, const auto& b) { return a == b || a->IsEqual(*b); };
     if (std::equal(present.begin(), present.end(), step->GetPorts().begin(), isEqual))
         return false;
+    for (int i = 0; i < kMaxPorts; ++i) // a port that is as it was keeps its snapshot
+        if (present[static_cast<size_t>(i)] != step->GetPorts()[static_cast<size_t>(i)])
+            changed->append(i);
 
     steps.resize(static_cast<size_t>(m_current) + 1);
     if (m_saved > m_current)
@@ -117,6 +142,11 @@ const CSenderRecordItem* CSenderUndoRedo::GetStep(int position) const
 
 bool CSenderUndoRedo::Restore(CSender* sender, int shownPort)
 {
+    return Restore(sender, shownPort, nullptr);
+}
+
+bool CSenderUndoRedo::Restore(CSender* sender, int shownPort, QVector<int>* changed)
+{
     if (m_current < 0)
         return false;
     const CSenderRecordItem::Ports& ports = GetStep(m_current)->GetPorts();
@@ -125,16 +155,12 @@ bool CSenderUndoRedo::Restore(CSender* sender, int shownPort)
         const LayoutSnapshot::Pointer& wanted = ports[static_cast<size_t>(i)];
         LayoutTracker& tracker = m_state->trackers[static_cast<size_t>(i)];
         CPort& port = *sender->GetPort(i);
-        if (port.IsVisible()) {
-            if (i == shownPort)
-                sender->SetRecentPortIndex(i);
-            if (port.IsBackupDest() == wanted->IsBackup()) {
-                tracker.Restore(&port, wanted);
-                continue;
-            }
-            port.GetPortProject()->ClearAllTiles();
-        }
-        whole = tracker.Take(port)->IsEqual(*wanted) && whole;
+        const LayoutSnapshot::Pointer before = changed ? tracker.Take(port) : LayoutSnapshot::Pointer();
+        whole = RestorePort(port, tracker, wanted) && whole;
+        if (port.IsVisible() && i == shownPort)
+            sender->SetRecentPortIndex(i);
+        if (changed && tracker.Take(port) != before)
+            changed->append(i);
     }
     m_apart = !whole;
     return whole;

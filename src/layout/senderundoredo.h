@@ -3,6 +3,7 @@
 #include "common/export.h"
 
 #include <QUuid>
+#include <QVector>
 
 #include <memory>
 
@@ -83,7 +84,8 @@ public:
     QUuid GetSenderId() const { return m_senderId; } ///< null: the slot is free
 
     // steps
-    bool AddStep(CSender& sender, Type type);        ///< false when the sender is another or nothing changed
+    bool AddStep(CSender& sender, Type type); ///< false when the sender is another or nothing changed
+    bool AddStep(CSender& sender, Type type, QVector<int>* changed); ///< appends the ports that changed
     bool Move(int steps);                            ///< negative: back; false outside the history
     int GetCurrentStep() const { return m_current; } ///< -1: no history
     int GetStepCount() const;
@@ -92,6 +94,7 @@ public:
     /// port that only then or only now is a backup is cleared. Cabinets keep their address, and view state
     /// where nothing changed. False when the sender is not as the step says afterwards.
     bool Restore(CSender* sender, int shownPort);
+    bool Restore(CSender* sender, int shownPort, QVector<int>* changed); ///< the same, unless that is null
 
     // saved state
     bool IsModified() const { return m_current != m_saved; }

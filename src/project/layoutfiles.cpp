@@ -4,6 +4,7 @@
 #include "common/inputfile.h"
 #include "common/texts.h"
 #include "common/xmlwriter.h"
+#include "layout/changeteller.h"
 #include "layout/sender.h"
 #include "layout/tile.h"
 #include "project/layoutreader.h"
@@ -159,8 +160,10 @@ bool CProjectData::ExportSender(const QString& path, const QUuid& senderId)
 bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool keepLockedPorts,
                                 bool attributes)
 {
+    DocumentOperation operation(History());
     m_lastFileError.clear();
-    CSender* sender = GetSender(GetScIndexByID(senderId));
+    const int place = GetScIndexByID(senderId);
+    CSender* sender = GetSender(place);
     if (!sender || sender->GetPortCount() < 1)
         return Fail(&m_lastFileError, Texts::tr("没有这个主控。"));
 
@@ -180,8 +183,11 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
                         m_lastFileError))
         return false;
 
+    const int portsBefore = sender->GetPortCount();
     sender->TakeStored(read.GetStored(), parts);
+    const int shown = qMax(portsBefore, sender->GetPortCount());
     QList<CPort*> replaced;
+    QVector<int> replacedShown;
     for (int i = 0; i < kMaxPorts; ++i) {
         CPort* port = sender->GetPort(i);
         if (keepLockedPorts && port->IsFlagLock())
@@ -189,7 +195,10 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
         port->GetPortProject()->TakeFrom(*read.GetPort(i)->GetPortProject());
         port->SetFields(read.GetPort(i)->GetFields());
         replaced.append(port);
+        if (i < shown)
+            replacedShown.append(i);
     }
+    operation.ChangedPorts(place, replacedShown);
     RenewGroupIdsOf(replaced, m_senders);
     if (attributes)
         MarkModified(); // no history holds how a sender is named and shown
@@ -212,6 +221,7 @@ bool CProjectData::ExportPort(const QString& path)
 
 bool CProjectData::ImportPort(const QString& path)
 {
+    DocumentOperation operation(History());
     m_lastFileError.clear();
     CSender* sender = GetCurrentSender();
     CPort* port = RecentPort(sender);
@@ -229,6 +239,7 @@ bool CProjectData::ImportPort(const QString& path)
         return false;
 
     *port = imported;
+    operation.ChangedPorts(m_state.currentSender, {index});
     RenewGroupIdsOf({port}, m_senders);
     m_lastFileError = report.Text();
     return true;

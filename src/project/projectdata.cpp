@@ -1,5 +1,6 @@
 #include "project/projectdata.h"
 
+#include "layout/changeteller.h"
 #include "layout/projectundoredo.h"
 #include "layout/sender.h"
 #include "project/projectlookup.h"
@@ -166,6 +167,9 @@ void CProjectData::MarkModified() const
 
 void CProjectData::RestartHistory() const
 {
-    if (CProjectUndoRedo* history = History())
+    CProjectUndoRedo* history = History();
+    DocumentOperation operation(history);
+    operation.Changed(&SDocumentChange::documentReplaced);
+    if (history)
         history->Init();
 }

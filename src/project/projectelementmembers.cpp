@@ -1,6 +1,7 @@
 // The members that write one element into a DOM tree or read one from it: the same readers and writers that
 // the project file goes through, run over a tree.
 #include "common/xmlwriter.h"
+#include "layout/changeteller.h"
 #include "layout/sender.h"
 #include "layout/tilegroup.h"
 #include "project/layoutwriter.h"
@@ -154,6 +155,7 @@ void CProjectData::WriteSender(QDomDocument document, QDomElement* parent, CCust
 
 bool CProjectData::ReadSender(QDomDocument, QDomElement* element, QString&, CCustomProgressbar* progress)
 {
+    DocumentOperation operation(History());
     ReadReport report;
     SenderLayoutReader::Senders senders;
     SenderLayoutReader reader(report, senders, Reports(progress));
@@ -162,6 +164,7 @@ bool CProjectData::ReadSender(QDomDocument, QDomElement* element, QString&, CCus
         DeleteAllSender();
         m_state.currentSender = current;
         TakeSenders(Released(senders));
+        operation.Changed(&SDocumentChange::senders);
         MarkModified();
     }
     m_lastFileError = report.IsRefused() ? report.GetRefusal() : report.Text();

@@ -5,6 +5,7 @@
 #include "common/texts.h"
 #include "common/turnlock.h"
 #include "common/xmlwriter.h"
+#include "layout/changeteller.h"
 #include "products/productdirectoryset.h"
 #include "project/layoutwriter.h"
 #include "project/parameterwork.h"
@@ -94,6 +95,7 @@ bool ReadDocument(const QString& path, ProjectContent& content, ReadReport& repo
 
 bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* progress)
 {
+    DocumentOperation operation(History()); // ends when the lock has gone
     m_lastFileError.clear();
     const auto write = [&](XmlWriter& writer) { WriteDocument(writer, *this, m_state, progress); };
     QByteArray document;
@@ -114,7 +116,9 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     QString error;
     const bool saved = complete && parameterwork::Pack(path, document, &error);
     m_lastFileError = report.Text();
-    if (!saved)
+    if (saved)
+        operation.Changed(&SDocumentChange::saved);
+    else
         m_lastFileError = Texts::tr("项目文件没有保存：%1").arg(complete ? error : report.GetRefusal());
     return true;
 }
@@ -126,6 +130,7 @@ QString CProjectData::GetMinVersionSupport() const
 
 bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustomProgressbar* progress)
 {
+    DocumentOperation operation(History()); // ends when the lock has gone
     m_lastFileError.clear();
     if (!path)
         return Fail(&m_lastFileError, Texts::tr("没有给出文件。"));

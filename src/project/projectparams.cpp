@@ -1,4 +1,5 @@
 // Parameter files and their blocks: the members that hosts know, over the functions of the params room.
+#include "layout/changeteller.h"
 #include "params/colorblocks.h"
 #include "params/deviceblocks.h"
 #include "params/inputblocks.h"
@@ -77,6 +78,16 @@ Outcome ImportMulti(const Family& family, const CProjectData& project, const QSt
     return Import(family, Targets(project, id), SenderOf(project, id), MatchByIp(), path);
 }
 
+/// What an import gave. The open document's handler is told here: before the user, whom a box may keep.
+template <class Run> Outcome Imported(CProjectUndoRedo* history, const Run& run)
+{
+    DocumentOperation operation(history);
+    const Outcome outcome = run();
+    if (outcome.code == kDone || outcome.told) // senders before one that does not fit have taken theirs
+        operation.Changed(&SDocumentChange::properties);
+    return outcome;
+}
+
 /// Keeps the reason of an outcome before the user is told, while the host may close the project.
 quint32 Code(const Outcome& outcome, QString& fileError)
 {
@@ -99,22 +110,26 @@ quint32 CProjectData::ExportMutiProcessorParam(const QString& path, const QUuid&
 
 quint32 CProjectData::ImportSenderParam(const QString& path, const QUuid& id)
 {
-    return Code(ImportSingle(kSenderFamily, SenderOf(*this, id), path), m_lastFileError);
+    const auto import = [&] { return ImportSingle(kSenderFamily, SenderOf(*this, id), path); };
+    return Code(Imported(History(), import), m_lastFileError);
 }
 
 quint32 CProjectData::ImportProcessorParam(const QString& path, const QUuid& id)
 {
-    return Code(ImportSingle(kProcessorFamily, SenderOf(*this, id), path), m_lastFileError);
+    const auto import = [&] { return ImportSingle(kProcessorFamily, SenderOf(*this, id), path); };
+    return Code(Imported(History(), import), m_lastFileError);
 }
 
 quint32 CProjectData::ImportMutiSenderParam(const QString& path, const QUuid& id)
 {
-    return Code(ImportMulti(kSenderFamily, *this, path, id), m_lastFileError);
+    const auto import = [&] { return ImportMulti(kSenderFamily, *this, path, id); };
+    return Code(Imported(History(), import), m_lastFileError);
 }
 
 quint32 CProjectData::ImportMutiProcessorParam(const QString& path, const QUuid& id)
 {
-    return Code(ImportMulti(kProcessorFamily, *this, path, id), m_lastFileError);
+    const auto import = [&] { return ImportMulti(kProcessorFamily, *this, path, id); };
+    return Code(Imported(History(), import), m_lastFileError);
 }
 
 quint32 CProjectData::SaveBasicInfoParam(QDomDocument& document, CSender* sender, QDomElement* element)

@@ -1,5 +1,6 @@
 // The senders of a project: order, names, deletion, backups between them, selection.
 #include "common/texts.h"
+#include "layout/changeteller.h"
 #include "layout/projectundoredo.h"
 #include "layout/sender.h"
 #include "layout/tile.h"
@@ -76,6 +77,8 @@ void CProjectData::AddSender(CSender* sender)
 {
     if (!sender || m_senders.contains(sender))
         return;
+    DocumentOperation operation(History());
+    operation.Changed(&SDocumentChange::senders);
     m_senders.append(sender);
     if (m_senders.size() == 1)
         m_state.currentSender = 0;
@@ -143,6 +146,8 @@ void CProjectData::RemoveSenderAt(int index)
 {
     if (!GetSender(index))
         return;
+    DocumentOperation operation(History());
+    operation.Changed(&SDocumentChange::senders);
     CSender* sender = m_senders.takeAt(index);
     if (m_state.currentSender > index || m_state.currentSender >= m_senders.size())
         --m_state.currentSender;
@@ -154,6 +159,7 @@ void CProjectData::RemoveSenderAt(int index)
 
 void CProjectData::DeleteAllSender()
 {
+    DocumentOperation operation(History());
     while (!m_senders.isEmpty())
         RemoveSenderAt(m_senders.size() - 1);
 }
@@ -195,6 +201,7 @@ bool CProjectData::DeleteSender(int index, bool ask, bool keepImages, bool selec
 {
     if (!DeleteSenderBefore(index, ask, parent))
         return false;
+    DocumentOperation operation(History());
     const int countBefore = m_senders.size();
     RemoveSenderAt(index);
     if (m_senders.size() == 1)
@@ -211,6 +218,7 @@ bool CProjectData::UpdateProjectSenders(const QList<unsigned long>& first, const
 {
     if (GetProjectLookup()->DetectStrategy() != kStrategyFollowNetwork)
         return false;
+    DocumentOperation operation(History());
     QSet<quint32> known{0};
     for (const CSender* sender : qAsConst(m_senders))
         known.insert(static_cast<quint32>(sender->GetNetSenderIP()));
