@@ -90,6 +90,17 @@ QPolygonF TileShape::Polygon() const
     return QPolygonF({corners[0], corners[1], corners[2], corners[3]});
 }
 
+QSizeF TileShape::Size() const
+{
+    return QSizeF(Length(corners[1] - corners[0]), Length(corners[3] - corners[0]));
+}
+
+TileShape TileShape::Mirrored() const
+{
+    const auto mirror = [](const QPointF& corner) { return QPointF(-corner.x(), corner.y()); };
+    return {{mirror(corners[1]), mirror(corners[0]), mirror(corners[3]), mirror(corners[2])}, -angle};
+}
+
 TileShape ShapeOf(const CTile& tile)
 {
     const double left = tile.GetX();

@@ -3,6 +3,7 @@
 #include <QPointF>
 #include <QPolygonF>
 #include <QRectF>
+#include <QSizeF>
 
 #include <array>
 
@@ -23,6 +24,8 @@ struct TileShape
     QRectF Bound() const;
     QPointF At(double x, double y) const; ///< from (0, 0) at the first corner to (1, 1) at the third
     QPolygonF Polygon() const;
+    QSizeF Size() const;        ///< before turning
+    TileShape Mirrored() const; ///< as seen from behind: x is negated, the first corner is the left-top again
 };
 
 /// A width or height below 0 counts as 0, and no corner lies farther out than any canvas could.

@@ -1,5 +1,6 @@
 #include "orvantools/wallpainter.h"
 
+#include "orvantools/portborder.h"
 #include "orvantools/wallpaintertools.h"
 
 #include <QPaintEngine>
@@ -15,7 +16,9 @@ namespace {
 
 constexpr double kLeastCover = 0.6; ///< of the canvas, to show it whole
 constexpr double kMargin = 30;
-constexpr double kSmallSide = 50; ///< of a cabinet whose arrows and groups are bare of white edges
+constexpr double kSmallSide = 50;          ///< of a cabinet whose arrows and groups are bare of white edges
+constexpr double kLeastOutlined = 8;       ///< side of cabinets that are drawn each
+constexpr double kLeastOutlinedPixels = 9; ///< the same on a screen
 
 /// The part of the canvas to show: all of it when the wall fills much of it, else only the wall.
 QRectF Shown(const WallPicture& picture)
@@ -56,20 +59,57 @@ QPolygonF Arrow(const QPointF& from, const QPointF& to, double size)
 
 } // namespace
 
-WallPainter::WallPainter(QPainter& painter, const WallPicture& picture, const QRectF& area, double leastText)
-    : m_painter(painter), m_picture(picture), m_area(area.adjusted(kMargin, kMargin, -kMargin, -kMargin)),
-      m_leastText(leastText), m_asPixels(painter.paintEngine()->type() == QPaintEngine::Raster), m_labels(100)
+WallPainter::WallPainter(QPainter& painter, const WallPicture& picture, const QRectF& area, double leastText,
+                         const QRectF& shown)
+    : m_painter(painter), m_picture(picture), m_around(area),
+      m_area(area.adjusted(kMargin, kMargin, -kMargin, -kMargin)), m_shown(shown), m_leastText(leastText),
+      m_asPixels(painter.paintEngine()->type() == QPaintEngine::Raster), m_labels(100)
 {
-    const QRectF shown = Shown(picture);
-    m_scale = std::min(m_area.width() / shown.width(), m_area.height() / shown.height());
-    m_origin = m_area.center() - shown.center() * m_scale;
+    const QRectF part = shown.isNull() ? Shown(picture) : shown;
+    m_scale = std::min(m_area.width() / part.width(), m_area.height() / part.height());
+    m_origin = m_area.center() - part.center() * m_scale;
+    CollectParts();
+}
+
+void WallPainter::CollectParts()
+{
+    const double least =
+        m_asPixels ? kLeastOutlinedPixels / m_painter.worldTransform().m11() : kLeastOutlined;
+    for (const PicturePort& port : m_picture.ports) {
+        Part part;
+        part.port = &port;
+        std::vector<bool> shows(port.shapes.size(), true);
+        for (size_t i = 0; i < port.shapes.size(); ++i) {
+            shows[i] = m_shown.isNull() || port.shapes[i].Bound().intersects(m_shown);
+            if (!shows[i])
+                continue;
+            part.cabinets.push_back(static_cast<int>(i));
+            part.side += SideOf(port.shapes[i]);
+        }
+        if (part.cabinets.empty())
+            continue;
+        const auto isSeen = [&](size_t i) { return shows[static_cast<size_t>(port.chain[i])]; };
+        for (size_t i = 0; i < port.chain.size(); ++i) {
+            if (isSeen(i) || (i > 0 && isSeen(i - 1)))
+                part.chain.push_back(static_cast<int>(i));
+        }
+        part.side /= static_cast<double>(part.cabinets.size());
+        part.isSmall = part.side < least;
+        m_parts.push_back(std::move(part));
+    }
+}
+
+bool WallPainter::IsShown(const TileShape& shape) const
+{
+    return m_shown.isNull() || m_shown.contains(shape.Center());
 }
 
 QPen WallPainter::ChainPen(int port, double width)
 {
+    constexpr int kColors = 20; // then the colours of ports repeat, and the styles are shifted
     static const QVector<qreal> styles[] = {{}, {6, 2}, {6, 2, 1.5, 2}, {2.5, 2}, {9, 2, 2, 2, 2, 2}};
     QPen pen(Qt::black, width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
-    const QVector<qreal>& style = styles[static_cast<size_t>(port) % std::size(styles)];
+    const QVector<qreal>& style = styles[static_cast<size_t>(port + port / kColors) % std::size(styles)];
     if (!style.isEmpty())
         pen.setDashPattern(style);
     return pen;
@@ -89,6 +129,15 @@ QPolygonF WallPainter::Map(const QPolygonF& canvas) const
     return mapped;
 }
 
+double WallPainter::BorderWidth(const Part& part) const
+{
+    QRectF bound;
+    for (const int place : part.cabinets)
+        bound = bound.united(part.port->shapes[static_cast<size_t>(place)].Bound());
+    const double narrow = std::min(bound.width(), bound.height()) * m_scale;
+    return std::min(Limited(part.side * 0.05, 3.5, 7), narrow * 0.1);
+}
+
 double WallPainter::SideOf(const TileShape& shape) const
 {
     const auto& c = shape.corners;
@@ -97,27 +146,34 @@ double WallPainter::SideOf(const TileShape& shape) const
     return std::min(width, height) * m_scale;
 }
 
-void WallPainter::Paint()
+Omissions WallPainter::Paint()
 {
+    m_painter.save();
+    m_painter.setClipRect(m_around);
     PaintCanvas();
-    for (const PicturePort& port : m_picture.ports) {
-        PaintCabinets(port);
-        PaintReceivers(port);
+    for (const Part& part : m_parts) {
+        PaintCabinets(part);
+        PaintReceivers(part);
     }
-    for (const PicturePort& port : m_picture.ports)
-        PaintGroups(port);
-    for (const PicturePort& port : m_picture.ports)
-        PaintChain(port);
-    for (const PicturePort& port : m_picture.ports) {
-        PaintReceiverNumbers(port);
-        PaintNumbers(port);
-        PaintEnds(port);
-    }
+    for (const Part& part : m_parts)
+        PaintBorder(part);
+    for (const Part& part : m_parts)
+        PaintGroups(part);
+    for (const Part& part : m_parts)
+        PaintChain(part);
+    for (Part& part : m_parts)
+        PaintTexts(part);
+    for (const Part& part : m_parts)
+        PaintEnds(part);
     // What may be left out comes last, the most useful first.
-    for (const PicturePort& port : m_picture.ports)
-        PaintNumbersOfTurns(port);
-    for (const PicturePort& port : m_picture.ports)
-        PaintBackups(port);
+    for (Part& part : m_parts)
+        PaintTags(part);
+    for (Part& part : m_parts)
+        PaintInnerTags(part);
+    for (const Part& part : m_parts)
+        PaintBackups(part);
+    m_painter.restore();
+    return m_omitted;
 }
 
 void WallPainter::PaintCanvas()
@@ -125,46 +181,102 @@ void WallPainter::PaintCanvas()
     if (m_picture.canvas.isEmpty())
         return;
     const QRectF canvas(Map(m_picture.canvas.topLeft()), m_picture.canvas.size() * m_scale);
-    const QRectF around = m_area.adjusted(-kMargin, -kMargin, kMargin, kMargin);
-    m_painter.save();
-    m_painter.setClipRect(around);
     const bool isBare = !m_picture.bound.contains(m_picture.canvas);
     const QColor ground(246, 246, 246);
     if (isBare && m_asPixels)
-        FillPixels({m_painter.worldTransform().mapRect(canvas.intersected(around)).toRect()}, ground);
+        FillPixels({m_painter.worldTransform().mapRect(canvas.intersected(m_around)).toRect()}, ground);
     m_painter.setPen(QPen(QColor(110, 110, 110), 3, Qt::DashDotLine));
     m_painter.setBrush(isBare && !m_asPixels ? ground : QBrush(Qt::NoBrush));
     m_painter.drawRect(canvas);
-    m_painter.restore();
 }
 
-void WallPainter::PaintCabinets(const PicturePort& port)
+void WallPainter::PaintCabinets(const Part& part)
 {
-    if (port.cabinets.empty())
+    const PicturePort& port = *part.port;
+    if (part.isSmall) {
+        PaintArea(part);
         return;
-    QPen outline(QColor(20, 20, 20), Limited(SideOf(port.shapes.front()) * 0.02, 0.8, 3));
+    }
+    QPen outline(QColor(20, 20, 20), Limited(part.side * 0.02, 0.8, 3));
     if (port.hidden)
         outline.setDashPattern({5, 4});
     m_painter.setPen(outline);
     m_painter.setBrush(FillOf(port));
     if (m_asPixels) {
-        PaintCabinetsAsPixels(port);
+        PaintCabinetsAsPixels(part);
         return;
     }
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
-    for (const TileShape& shape : port.shapes) {
-        path.addPolygon(Map(shape.Polygon()));
+    for (const int place : part.cabinets) {
+        path.addPolygon(Map(port.shapes[static_cast<size_t>(place)].Polygon()));
         path.closeSubpath();
     }
     m_painter.drawPath(path);
 }
 
+/// Outlines of small cabinets would hide the colour, so only the area is filled.
+void WallPainter::PaintArea(const Part& part)
+{
+    const PicturePort& port = *part.port;
+    QVector<QRect> pixels;
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    for (const QRectF& rect : JoinedRects(port.shapes, part.cabinets)) {
+        const QRectF place(Map(rect.topLeft()), rect.size() * m_scale);
+        if (m_asPixels)
+            pixels.append(OnPixels(place));
+        else
+            path.addRect(place);
+    }
+    FillPixels(pixels, FillOf(port));
+    for (const int place : part.cabinets) {
+        const TileShape& shape = port.shapes[static_cast<size_t>(place)];
+        if (!shape.IsTurned())
+            continue;
+        path.addPolygon(Map(shape.Polygon()));
+        path.closeSubpath();
+    }
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setBrush(FillOf(port));
+    m_painter.drawPath(path);
+}
+
+/// Both sides of an edge between ports have their own line and a white one between them, which can be seen on
+/// any colour and without colours.
+void WallPainter::PaintBorder(const Part& part)
+{
+    const std::vector<BorderLine> border = PortBorder(*part.port, part.cabinets);
+    const double width = BorderWidth(part);
+    for (const bool isLight : {true, false}) {
+        std::vector<QPolygonF> lines;
+        const double inset = width * (isLight ? 0.15 : 0.8);
+        for (const BorderLine& piece : border) {
+            const QLineF line(Map(piece.line.p1()), Map(piece.line.p2()));
+            if (line.length() == 0)
+                continue;
+            const QPointF along = (line.p2() - line.p1()) / line.length() * inset;
+            lines.push_back(QPolygonF() << line.p1() + piece.inward * inset + along
+                                        << line.p2() + piece.inward * inset - along);
+        }
+        QPen pen(isLight ? QColor(Qt::white) : QColor(20, 20, 20), width * (isLight ? 0.3 : 1), Qt::SolidLine,
+                 Qt::SquareCap);
+        if (!isLight && part.port->hidden) {
+            pen.setDashPattern({4, 3});
+            pen.setCapStyle(Qt::FlatCap);
+        }
+        m_painter.setPen(pen);
+        m_painter.setBrush(Qt::NoBrush);
+        DrawLines(lines);
+    }
+}
+
 /// Thousands of cabinets in one path are slow to fill pixel by pixel, and so are long upright lines. So a row
 /// is filled with the colour of the outline, and the cabinets laid on it leave the outline bare. On whole
 /// pixels, so that all lines have the same width.
-void WallPainter::PaintCabinetsAsPixels(const PicturePort& port)
+void WallPainter::PaintCabinetsAsPixels(const Part& part)
 {
+    const PicturePort& port = *part.port;
     const QPen outline = m_painter.pen();
     const QTransform toPixels = m_painter.worldTransform();
     const int line = std::max(1, qRound(outline.widthF() * toPixels.m11()));
@@ -176,16 +288,15 @@ void WallPainter::PaintCabinetsAsPixels(const PicturePort& port)
         FillPixels(cabinets, FillOf(port));
         cabinets.clear();
     };
-    for (const TileShape& shape : port.shapes) {
+    for (const int number : part.cabinets) {
+        const TileShape& shape = port.shapes[static_cast<size_t>(number)];
         if (shape.IsTurned() || port.hidden) {
             drawn.addPolygon(Map(shape.Polygon()));
             drawn.closeSubpath();
             continue;
         }
         const QRectF bound = shape.Bound();
-        const QPoint leftTop = toPixels.map(Map(bound.topLeft())).toPoint();
-        const QPoint rightBottom = toPixels.map(Map(bound.bottomRight())).toPoint();
-        const QRect place(leftTop, QSize(rightBottom.x() - leftTop.x(), rightBottom.y() - leftTop.y()));
+        const QRect place = OnPixels(QRectF(Map(bound.topLeft()), bound.size() * m_scale));
         const bool goesOn = !cabinets.isEmpty() && row.top() == place.top() && row.bottom() == place.bottom()
                             && row.right() + 1 == place.left();
         if (!goesOn && !cabinets.isEmpty())
@@ -199,6 +310,14 @@ void WallPainter::PaintCabinetsAsPixels(const PicturePort& port)
     m_painter.drawPath(drawn);
 }
 
+QRect WallPainter::OnPixels(const QRectF& rect) const
+{
+    const QTransform& toPixels = m_painter.worldTransform();
+    const QPoint leftTop = toPixels.map(rect.topLeft()).toPoint();
+    const QPoint rightBottom = toPixels.map(rect.bottomRight()).toPoint();
+    return QRect(leftTop, QSize(rightBottom.x() - leftTop.x(), rightBottom.y() - leftTop.y()));
+}
+
 void WallPainter::FillPixels(const QVector<QRect>& rects, const QColor& color)
 {
     m_painter.save();
@@ -210,20 +329,23 @@ void WallPainter::FillPixels(const QVector<QRect>& rects, const QColor& color)
     m_painter.restore();
 }
 
-void WallPainter::PaintReceivers(const PicturePort& port)
+void WallPainter::PaintReceivers(const Part& part)
 {
+    if (part.isSmall)
+        return;
+    const PicturePort& port = *part.port;
     constexpr double edge = 0.999; // where the cabinet's own outline runs
     QPainterPath path;
-    for (size_t i = 0; i < port.cabinets.size(); ++i) {
-        const TileShape& shape = port.shapes[i];
-        for (const QRectF& part : port.cabinets[i].receivers) {
-            if (part.right() < edge) {
-                path.moveTo(Map(shape.At(part.right(), part.top())));
-                path.lineTo(Map(shape.At(part.right(), part.bottom())));
+    for (const int place : part.cabinets) {
+        const TileShape& shape = port.shapes[static_cast<size_t>(place)];
+        for (const QRectF& card : port.cabinets[static_cast<size_t>(place)].receivers) {
+            if (card.right() < edge) {
+                path.moveTo(Map(shape.At(card.right(), card.top())));
+                path.lineTo(Map(shape.At(card.right(), card.bottom())));
             }
-            if (part.bottom() < edge) {
-                path.moveTo(Map(shape.At(part.left(), part.bottom())));
-                path.lineTo(Map(shape.At(part.right(), part.bottom())));
+            if (card.bottom() < edge) {
+                path.moveTo(Map(shape.At(card.left(), card.bottom())));
+                path.lineTo(Map(shape.At(card.right(), card.bottom())));
             }
         }
     }
@@ -234,18 +356,20 @@ void WallPainter::PaintReceivers(const PicturePort& port)
     m_painter.drawPath(path);
 }
 
-void WallPainter::PaintGroups(const PicturePort& port)
+void WallPainter::PaintGroups(const Part& part)
 {
-    if (port.groups.empty() || port.shapes.empty())
+    const PicturePort& port = *part.port;
+    if (port.groups.empty())
         return;
     // From the outer group inwards, so that none hides another.
-    const double step = Limited(SideOf(port.shapes.front()) * 0.08, 4, 12);
+    const double step = Limited(part.side * 0.08, 4, 12);
+    const double border = BorderWidth(part) * 1.3;
     std::vector<QPolygonF> lines;
     for (const GroupOutline& outline : port.groups) {
-        const double inset = step * (0.5 + outline.depth);
-        for (const BorderLine& border : outline.lines) {
-            const QLineF line(Map(border.line.p1()) + border.inward * inset,
-                              Map(border.line.p2()) + border.inward * inset);
+        const double inset = border + step * (0.5 + outline.depth);
+        for (const BorderLine& piece : outline.lines) {
+            const QLineF line(Map(piece.line.p1()) + piece.inward * inset,
+                              Map(piece.line.p2()) + piece.inward * inset);
             if (line.length() <= 2 * inset)
                 continue;
             const QPointF end = (line.p2() - line.p1()) / line.length() * inset;
@@ -253,7 +377,7 @@ void WallPainter::PaintGroups(const PicturePort& port)
         }
     }
     m_painter.setBrush(Qt::NoBrush);
-    if (SideOf(port.shapes.front()) >= kSmallSide) {
+    if (part.side >= kSmallSide) {
         m_painter.setPen(QPen(Qt::white, 5, Qt::SolidLine, Qt::SquareCap));
         DrawLines(lines);
     }
@@ -261,34 +385,39 @@ void WallPainter::PaintGroups(const PicturePort& port)
     DrawLines(lines);
 }
 
-void WallPainter::PaintChain(const PicturePort& port)
+void WallPainter::PaintChain(const Part& part)
 {
-    if (port.chain.size() < 2)
-        return;
+    const PicturePort& port = *part.port;
     std::vector<QPolygonF> lines;
     std::vector<QPolygonF> arrows;
-    int before = -1;
-    for (const int place : port.chain) {
+    int before = -1; // place in the chain
+    for (const int at : part.chain) {
+        const int place = port.chain[static_cast<size_t>(at)];
+        const int last = at > 0 ? port.chain[static_cast<size_t>(at - 1)] : place;
         const TileShape& shape = port.shapes[static_cast<size_t>(place)];
+        // A number may be missing or there twice.
+        if (at == 0 || NumberOf(port, place) - 1 != NumberOf(port, last))
+            continue;
+        const TileShape& lastShape = port.shapes[static_cast<size_t>(last)];
+        const QPointF from = Map(lastShape.Center());
         const QPointF to = Map(shape.Center());
-        if (before >= 0 && NumberOf(port, place) - 1 == NumberOf(port, before)) {
-            const TileShape& last = port.shapes[static_cast<size_t>(before)];
-            const double side = std::min(SideOf(last), SideOf(shape));
-            LineTo(lines.back(), to);
-            arrows.push_back(Arrow(Map(last.Center()), to, Limited(side * 0.24, 4, 40)));
-        } else {
-            lines.push_back(QPolygonF({to})); // the first, or a number is missing or there twice
-        }
-        before = place;
+        if (lines.empty() || before != at - 1)
+            lines.push_back(QPolygonF({from}));
+        before = at;
+        LineTo(lines.back(), to);
+        if (!part.isSmall)
+            arrows.push_back(
+                Arrow(from, to, Limited(std::min(SideOf(lastShape), SideOf(shape)) * 0.24, 4, 40)));
     }
-    const double side = SideOf(port.shapes.front());
-    const double width = Limited(side * 0.035, 1.5, 7);
+    const double width = part.isSmall ? part.side * 0.1 : Limited(part.side * 0.035, 1.5, 7);
     m_painter.setBrush(Qt::NoBrush);
-    m_painter.setPen(QPen(Qt::white, width * 2, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
-    DrawLines(lines);
+    if (!part.isSmall) {
+        m_painter.setPen(QPen(Qt::white, width * 2, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
+        DrawLines(lines);
+    }
     m_painter.setPen(ChainPen(port.index, width));
     DrawLines(lines);
-    m_painter.setPen(side < kSmallSide ? QPen(Qt::NoPen) : QPen(Qt::white, width * 0.5));
+    m_painter.setPen(part.side < kSmallSide ? QPen(Qt::NoPen) : QPen(Qt::white, width * 0.5));
     m_painter.setBrush(Qt::black);
     DrawArrows(arrows);
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "orvantools/cabinettexts.h"
 #include "orvantools/labelplacer.h"
+#include "orvantools/portareas.h"
 #include "orvantools/wallpicture.h"
 
 #include <QFont>
@@ -8,45 +10,72 @@
 #include <QPen>
 #include <QRectF>
 
+#include <memory>
+#include <optional>
+
 class QPainter;
 
 namespace OrvanTools {
 
-/// Draws the cabinets of a picture into a rectangle: outlines and colours, groups, chains, numbers. Lengths
-/// in the painter's units, tenths of a millimetre on a page of A3.
+/// How much of what there is to write had no readable place.
+struct Omissions
+{
+    int numbers = 0;   ///< of cabinets
+    int receivers = 0; ///< numbers of receiving cards
+    int marks = 0;     ///< starts and ends of chains
+};
+
+/// Draws the cabinets of a picture into a rectangle: outlines and colours, groups, chains, numbers. What is
+/// written about a port lies on its own cabinets or beside the wall. Lengths in the painter's units, tenths
+/// of a millimetre on paper.
 class WallPainter
 {
 public:
-    /// [ref] both. Text smaller than `leastText` is left out, because nobody could read it.
-    WallPainter(QPainter& painter, const WallPicture& picture, const QRectF& area, double leastText);
+    /// [ref] both. Text smaller than `leastText` is left out, because nobody could read it. `shown` is the
+    /// part of the picture's coordinates to draw, as large as fits and clipped; all of the wall when it is
+    /// null.
+    WallPainter(QPainter& painter, const WallPicture& picture, const QRectF& area, double leastText,
+                const QRectF& shown = QRectF());
 
-    void Paint();
+    Omissions Paint(); ///< tells what is missing of the cabinets whose middle is drawn
 
-    /// The line style of the chain of a port, because colours tell nothing in black and white.
+    double GetScale() const { return m_scale; } ///< units to a pixel of the canvas
+
+    /// The line style of the chain of a port. With the port's colour it is the same after 100 ports only.
     static QPen ChainPen(int port, double width);
     static QPen GroupPen();
 
 private:
+    /// What is drawn of a port.
+    struct Part
+    {
+        const PicturePort* port = nullptr;
+        std::vector<int> cabinets;   ///< places of those that show
+        std::vector<int> chain;      ///< places in the chain of cabinets that show, or the one before does
+        std::vector<bool> isWritten; ///< of every cabinet: its number
+        double side = 0;             ///< of its cabinets, the mean of their shorter sides
+        bool isSmall = false;        ///< the cabinets are too small to draw each
+    };
+
     QPointF Map(const QPointF& canvas) const { return canvas * m_scale + m_origin; }
     QPolygonF Map(const QPolygonF& canvas) const;
     double SideOf(const TileShape& shape) const; ///< the shorter side
+    void CollectParts();
+    double BorderWidth(const Part& part) const;
+    bool IsShown(const TileShape& shape) const; ///< its middle
 
     void PaintCanvas();
-    void PaintCabinets(const PicturePort& port);
-    void PaintCabinetsAsPixels(const PicturePort& port);
+    void PaintCabinets(const Part& part);
+    void PaintCabinetsAsPixels(const Part& part);
+    void PaintArea(const Part& part);
+    QRect OnPixels(const QRectF& rect) const; ///< neighbours share no pixel and leave none between them
     void FillPixels(const QVector<QRect>& rects, const QColor& color);
-    void PaintReceivers(const PicturePort& port);
-    void PaintGroups(const PicturePort& port);
-    void PaintChain(const PicturePort& port);
+    void PaintBorder(const Part& part);
+    void PaintReceivers(const Part& part);
+    void PaintGroups(const Part& part);
+    void PaintChain(const Part& part);
     void DrawLines(const std::vector<QPolygonF>& lines);
     void DrawArrows(const std::vector<QPolygonF>& arrows);
-    void PaintEnds(const PicturePort& port);
-    double EndRadius(const PicturePort& port) const;
-    double NumberHeight(const PicturePort& port, const TileShape& shape) const; ///< below the least: none
-    void PaintNumbers(const PicturePort& port);
-    void PaintNumbersOfTurns(const PicturePort& port);
-    void PaintReceiverNumbers(const PicturePort& port);
-    void PaintBackups(const PicturePort& port);
 
     struct Label
     {
@@ -55,19 +84,37 @@ private:
         double height;
         double angle;
     };
+    void PaintTexts(Part& part);                             ///< numbers and receiving cards in the cabinets
+    bool PaintText(const Label& label, const QColor& color); ///< where it is free
+    void PaintEnds(const Part& part);
+    bool PaintStart(const Part& part, const TileShape& shape);
+    bool PaintEnd(const Part& part, const TileShape& shape);
+    std::optional<QPointF> MarkPlace(const Part& part, const TileShape& shape, double radius);
+    void PaintLeader(const QPointF& from, const QPointF& to);
+    void PaintTags(Part& part);      ///< numbers where the chain begins, ends and turns
+    void PaintInnerTags(Part& part); ///< the others
+    void PaintBackups(const Part& part);
+    bool PaintTag(int port, const Label& label); ///< with a light ground, where it is free
+    bool PaintTagNear(int port, const Label& label, const QPointF& aside, double distance);
+    QRectF TagBox(const Label& label);
+    bool IsFree(int port, const QRectF& box); ///< of other ports' cabinets, and inside the drawing
+    PortAreas& Areas();
     void PaintInside(const Label& label, const QColor& color);
-    bool PaintTag(const Label& label); ///< with a light ground, where it is free
-    bool PaintTagNear(const Label& label, const QPointF& aside, double distance); ///< `aside` comes first
     const QFont& Font(double height);
 
     QPainter& m_painter;
     const WallPicture& m_picture;
+    QRectF m_around; ///< with the margin
     QRectF m_area;
+    QRectF m_shown; ///< null: all
     double m_leastText;
     bool m_asPixels;
     double m_scale = 1;
     QPointF m_origin;
+    std::vector<Part> m_parts;
     LabelPlacer m_labels;
+    std::unique_ptr<PortAreas> m_areas; ///< made when it is first needed
+    Omissions m_omitted;
     QHash<int, QFont> m_fonts;
 };
 

@@ -13,8 +13,23 @@ namespace OrvanTools {
 
 namespace {
 
-constexpr double kDigitWidth = 0.62; ///< of a number's height, the widest of usual fonts
-constexpr double kMostText = 70;
+constexpr double kMostMark = 50;
+
+/// The upright rectangle around one that is turned about its middle.
+QRectF TurnedBox(const QPointF& middle, const QSizeF& size, double angle)
+{
+    QTransform turn;
+    turn.translate(middle.x(), middle.y());
+    turn.rotate(angle);
+    return turn.mapRect(QRectF(QPointF(-size.width(), -size.height()) / 2, size));
+}
+
+/// Text that would stand on its head is turned round.
+double Upright(double angle)
+{
+    const double turned = std::remainder(angle, 360);
+    return std::abs(turned) > 90 ? std::remainder(turned + 180, 360) : turned;
+}
 
 } // namespace
 
@@ -29,82 +44,177 @@ const QFont& WallPainter::Font(double height)
     return *font;
 }
 
-void WallPainter::PaintEnds(const PicturePort& port)
+PortAreas& WallPainter::Areas()
 {
-    if (port.chain.empty())
-        return;
-    const TileShape& first = port.shapes[static_cast<size_t>(port.chain.front())];
-    const double radius = EndRadius(port);
-    const QPointF start = Map(first.Center());
-    const QPointF end = Map(port.shapes[static_cast<size_t>(port.chain.back())].Center());
-    if (port.chain.size() > 1) {
-        const QPointF half(radius * 0.6, radius * 0.6);
-        m_painter.setPen(QPen(Qt::black, radius * 0.2));
-        m_painter.setBrush(Qt::white);
-        m_painter.drawRect(QRectF(end - half, end + half));
-        m_labels.Block(QRectF(end - half, end + half));
+    if (!m_areas) {
+        m_areas = std::make_unique<PortAreas>(m_around, m_leastText / 4);
+        for (const Part& part : m_parts)
+            m_areas->Add(part.port->index, part.port->shapes, m_scale, m_origin);
     }
-    m_painter.setPen(QPen(Qt::white, radius * 0.12));
-    m_painter.setBrush(Qt::black);
-    m_painter.drawEllipse(start, radius, radius);
-    m_labels.Block(QRectF(start - QPointF(radius, radius), start + QPointF(radius, radius)));
-    const QString text = FromOne(port.index);
-    PaintInside({start, text, radius * (text.size() > 2 ? 0.8 : 1.1), 0}, Qt::white);
+    return *m_areas;
 }
 
-double WallPainter::EndRadius(const PicturePort& port) const
+bool WallPainter::IsFree(int port, const QRectF& box)
 {
-    return Limited(SideOf(port.shapes[static_cast<size_t>(port.chain.front())]) * 0.16, m_leastText, 50);
+    return m_around.contains(box) && (m_parts.size() == 1 || Areas().IsFree(port, box));
 }
 
-void WallPainter::PaintBackups(const PicturePort& port)
+void WallPainter::PaintTexts(Part& part)
 {
-    if (port.chain.empty() || port.backups.isEmpty())
-        return;
-    const QString text =
-        QCoreApplication::translate("OrvanTools", "backup: ") + port.backups.join(QStringLiteral(", "));
-    const QPointF end = Map(port.shapes[static_cast<size_t>(port.chain.back())].Center());
-    const double radius = EndRadius(port);
-    PaintTagNear({end, text, Limited(radius * 0.8, m_leastText, 34), 0}, QPointF(), radius);
-}
-
-double WallPainter::NumberHeight(const PicturePort& port, const TileShape& shape) const
-{
-    const int digits = FromOne(NumberOf(port, port.chain.back())).size();
-    const double side = SideOf(shape);
-    return std::min({kMostText, side * 0.27, side * 0.42 / (digits * kDigitWidth)}); // left of the chain
-}
-
-/// The number of each cabinet that has room for it, in its first corner.
-void WallPainter::PaintNumbers(const PicturePort& port)
-{
+    const PicturePort& port = *part.port;
     const QColor color = TextOn(FillOf(port));
-    for (const int place : port.chain) {
-        const TileShape& shape = port.shapes[static_cast<size_t>(place)];
-        const double height = NumberHeight(port, shape);
-        if (height < m_leastText)
-            continue;
-        const QString text = FromOne(NumberOf(port, place));
-        const double inset = SideOf(shape) * 0.09;
-        const QPointF middle(inset + text.size() * height * kDigitWidth * 0.5, inset + height * 0.5);
-        const QPointF corner = Map(shape.corners[0]);
+    const CabinetTextPlaces places(port, m_leastText);
+    part.isWritten.assign(port.cabinets.size(), false);
+    for (const int at : part.cabinets) {
+        const TileShape& shape = port.shapes[static_cast<size_t>(at)];
+        const PictureCabinet& cabinet = port.cabinets[static_cast<size_t>(at)];
+        const CabinetTexts texts = places.Place(cabinet, shape.Size() * m_scale);
         QTransform turn;
         turn.rotate(shape.angle);
-        const QPointF at = corner + turn.map(middle);
-        PaintInside({at, text, height, shape.angle}, color);
-        m_labels.Block(QRectF(at - middle, at + middle).adjusted(inset, inset, -inset, -inset));
+        const auto paint = [&](const TextPlace& place, const QString& text) {
+            const QPointF middle = Map(shape.corners[0]) + turn.map(place.middle);
+            return place.height > 0 && PaintText({middle, text, place.height, Upright(shape.angle)}, color);
+        };
+        if (cabinet.number >= 0)
+            part.isWritten[static_cast<size_t>(at)] = paint(texts.number, FromOne(cabinet.number));
+        for (size_t i = 0; cabinet.firstReceiver >= 0 && i < texts.receivers.size(); ++i) {
+            if (!paint(texts.receivers[i], FromOne(cabinet.firstReceiver + static_cast<qint64>(i))))
+                m_omitted.receivers += IsShown(shape) ? 1 : 0;
+        }
     }
 }
 
-/// Smaller cabinets have numbers only where the chain begins, ends and turns.
-void WallPainter::PaintNumbersOfTurns(const PicturePort& port)
+bool WallPainter::PaintText(const Label& label, const QColor& color)
 {
+    const double width = QFontMetricsF(Font(label.height)).horizontalAdvance(label.text);
+    const QRectF box = TurnedBox(label.place, QSizeF(width, label.height), label.angle);
+    if (!m_around.contains(box) || !m_labels.Take(box))
+        return false;
+    PaintInside(label, color);
+    return true;
+}
+
+void WallPainter::PaintEnds(const Part& part)
+{
+    const PicturePort& port = *part.port;
+    if (port.chain.empty())
+        return;
+    const auto shapeOf = [&](int place) { return port.shapes[static_cast<size_t>(place)]; };
+    const TileShape first = shapeOf(port.chain.front());
+    const TileShape last = shapeOf(port.chain.back());
+    if (port.chain.size() > 1 && IsShown(last) && !PaintEnd(part, last))
+        ++m_omitted.marks;
+    if (IsShown(first) && !PaintStart(part, first))
+        ++m_omitted.marks;
+}
+
+/// A place for a mark: in the middle of a cabinet, beside the middle where something is written there, or
+/// beside the wall.
+std::optional<QPointF> WallPainter::MarkPlace(const Part& part, const TileShape& shape, double radius)
+{
+    const QPointF middle = Map(shape.Center());
+    const QPointF half(radius, radius);
+    const int port = part.port->index;
+    const auto take = [&](const QPointF& place) {
+        const QRectF box(place - half, place + half);
+        return IsFree(port, box) && m_labels.Take(box);
+    };
+    constexpr double aside[][2] = {{0, 0}, {1, 1},  {-1, 1}, {1, -1}, {0, 1},
+                                   {1, 0}, {-1, 0}, {0, -1}, {-1, -1}};
+    for (const double distance : {0.4, 0.8, 1.3, 2.0}) {
+        for (const auto& way : aside) {
+            const QPointF place = middle + QPointF(way[0], way[1]) * distance * radius;
+            if (take(place))
+                return place;
+        }
+    }
+    // Straight out of the wall, as long as the way is over cabinets of the port.
+    constexpr double ways[][2] = {{0, -1}, {0, 1}, {-1, 0}, {1, 0}};
+    for (const auto& unit : ways) {
+        const QPointF way = QPointF(unit[0], unit[1]) * radius;
+        const QPointF across(unit[1] * m_leastText / 8, unit[0] * m_leastText / 8);
+        for (QPointF place = middle; m_around.contains(place); place += way) {
+            const QRectF box(place - half, place + half);
+            if (!Areas().IsFree(port, QRectF(place - across, place + way + across).normalized()))
+                break;
+            if (Areas().IsBare(box) && m_around.contains(box) && m_labels.Take(box))
+                return place;
+        }
+    }
+    return {};
+}
+
+void WallPainter::PaintLeader(const QPointF& from, const QPointF& to)
+{
+    if (QLineF(from, to).length() < 1)
+        return;
+    m_painter.setPen(QPen(Qt::white, m_leastText * 0.25));
+    m_painter.drawLine(from, to);
+    m_painter.setPen(QPen(Qt::black, m_leastText * 0.12));
+    m_painter.drawLine(from, to);
+}
+
+bool WallPainter::PaintEnd(const Part& part, const TileShape& shape)
+{
+    const double half = Limited(SideOf(shape) * 0.096, m_leastText * 0.4, kMostMark * 0.6);
+    const auto place = MarkPlace(part, shape, half * 1.2);
+    if (!place)
+        return false;
+    PaintLeader(Map(shape.Center()), *place);
+    m_painter.setPen(QPen(Qt::black, half * 0.33));
+    m_painter.setBrush(Qt::white);
+    m_painter.drawRect(QRectF(*place - QPointF(half, half), *place + QPointF(half, half)));
+    return true;
+}
+
+bool WallPainter::PaintStart(const Part& part, const TileShape& shape)
+{
+    const QString text = FromOne(part.port->index);
+    const double ofText = text.size() > 2 ? 0.8 : 1.1; // the height of a text in a circle of radius 1
+    const double radius = Limited(SideOf(shape) * 0.16, m_leastText / ofText * 1.01, kMostMark);
+    const auto place = MarkPlace(part, shape, radius * 1.06);
+    if (!place)
+        return false;
+    PaintLeader(Map(shape.Center()), *place);
+    m_painter.setPen(QPen(Qt::white, radius * 0.12));
+    m_painter.setBrush(Qt::black);
+    m_painter.drawEllipse(*place, radius, radius);
+    PaintInside({*place, text, radius * ofText, 0}, Qt::white);
+    return true;
+}
+
+void WallPainter::PaintBackups(const Part& part)
+{
+    const PicturePort& port = *part.port;
+    QStringList texts;
+    if (!port.backups.isEmpty())
+        texts.append(QCoreApplication::translate("OrvanTools", "backup: ")
+                     + port.backups.join(QStringLiteral(", ")));
+    if (!port.backupOf.isEmpty())
+        texts.append(port.backupOf);
+    if (port.chain.empty() || texts.isEmpty())
+        return;
+    const TileShape& shape = port.shapes[static_cast<size_t>(port.chain.back())];
+    const double radius = Limited(part.side * 0.16, m_leastText, kMostMark);
+    if (IsShown(shape))
+        PaintTagNear(port.index,
+                     {Map(shape.Center()), texts.join(QStringLiteral(", ")),
+                      Limited(radius * 0.8, m_leastText, 34), 0},
+                     QPointF(), radius);
+}
+
+/// Smaller cabinets have numbers first of all where the chain begins, ends and turns.
+void WallPainter::PaintTags(Part& part)
+{
+    const PicturePort& port = *part.port;
     const auto shapeAt = [&port](size_t i) -> const TileShape& {
         return port.shapes[static_cast<size_t>(port.chain[i])];
     };
-    for (size_t i = 0; i < port.chain.size(); ++i) {
+    for (const int at : part.chain) {
+        const auto i = static_cast<size_t>(at);
+        const auto place = static_cast<size_t>(port.chain[i]);
         const TileShape& shape = shapeAt(i);
-        if (NumberHeight(port, shape) >= m_leastText || (i == 0 && NumberOf(port, port.chain[i]) == 0))
+        if (part.isWritten[place] || !IsShown(shape))
             continue;
         const QPointF here = Map(shape.Center());
         const bool isLast = i + 1 == port.chain.size();
@@ -113,33 +223,35 @@ void WallPainter::PaintNumbersOfTurns(const PicturePort& port)
         const bool turns = std::abs(in.x() * out.y() - in.y() * out.x()) > 1e-6 * (1 + in.manhattanLength());
         if (i != 0 && !isLast && !turns)
             continue;
+        if (i == 0 && NumberOf(port, port.chain[i]) == 0) {
+            part.isWritten[place] = true; // the mark of the start says it
+            continue;
+        }
         // Moved along the row towards the cabinets of the port, away from the numbers of the next port.
-        const QString text = FromOne(NumberOf(port, port.chain[i]));
-        const double beyond = QFontMetricsF(Font(m_leastText)).horizontalAdvance(text) + m_leastText * 0.5
-                              - shape.Bound().width() * m_scale;
+        const Label label{here, FromOne(NumberOf(port, port.chain[i])), m_leastText, 0};
+        const double beyond = TagBox(label).width() - shape.Bound().width() * m_scale;
         const double row = std::abs(in.x()) > std::abs(out.x()) ? -in.x() : out.x();
         const double aside = beyond > 0 && std::abs(row) > 1e-6 ? std::copysign(beyond * 0.5, row) : 0;
-        PaintTagNear({here, text, m_leastText, 0}, QPointF(aside, 0), m_leastText);
+        part.isWritten[place] = PaintTagNear(port.index, label, QPointF(aside, 0), m_leastText);
     }
 }
 
-void WallPainter::PaintReceiverNumbers(const PicturePort& port)
+/// Where a number does not fit beside the chain, it may do so on it.
+void WallPainter::PaintInnerTags(Part& part)
 {
-    const QColor color = TextOn(FillOf(port));
-    for (size_t c = 0; c < port.cabinets.size(); ++c) {
-        const PictureCabinet& cabinet = port.cabinets[c];
-        const double side = SideOf(port.shapes[c]);
-        for (size_t i = 0; cabinet.firstReceiver >= 0 && i < cabinet.receivers.size(); ++i) {
-            const QRectF& part = cabinet.receivers[i];
-            const QString text = FromOne(cabinet.firstReceiver + static_cast<qint64>(i));
-            const double height = std::min({40.0, side * 0.16, side * part.height() * 0.3,
-                                            side * part.width() * 0.5 / (text.size() * kDigitWidth)});
-            if (height < m_leastText)
-                continue;
-            const QPointF place =
-                Map(port.shapes[c].At(part.left() + part.width() * 0.75, part.top() + part.height() * 0.75));
-            PaintInside({place, text, height, port.shapes[c].angle}, color);
-        }
+    const PicturePort& port = *part.port;
+    for (const int at : part.chain) {
+        const auto place = static_cast<size_t>(port.chain[static_cast<size_t>(at)]);
+        const TileShape& shape = port.shapes[place];
+        if (part.isWritten[place] || !IsShown(shape))
+            continue;
+        const Label label{Map(shape.Center()), FromOne(port.cabinets[place].number), m_leastText,
+                          Upright(shape.angle)};
+        const QSizeF room = shape.Size() * m_scale;
+        const QSizeF needed = TagBox({QPointF(), label.text, label.height, 0}).size();
+        const bool fits = needed.width() < room.width() && needed.height() < room.height();
+        if (!fits || !PaintTag(port.index, label))
+            ++m_omitted.numbers;
     }
 }
 
@@ -161,28 +273,36 @@ void WallPainter::PaintInside(const Label& label, const QColor& color)
     m_painter.restore();
 }
 
-bool WallPainter::PaintTag(const Label& label)
+QRectF WallPainter::TagBox(const Label& label)
 {
-    const QFontMetricsF metrics(Font(label.height));
-    QRectF ground(0, 0, metrics.horizontalAdvance(label.text) + label.height * 0.5, label.height * 1.2);
-    ground.moveCenter(label.place);
-    if (!m_labels.Take(ground))
+    const double width = QFontMetricsF(Font(label.height)).horizontalAdvance(label.text);
+    return TurnedBox(label.place, QSizeF(width + label.height * 0.4, label.height * 1.2), label.angle);
+}
+
+bool WallPainter::PaintTag(int port, const Label& label)
+{
+    const QRectF box = TagBox(label);
+    if (!IsFree(port, box) || !m_labels.Take(box))
         return false;
+    m_painter.save();
+    m_painter.translate(label.place);
+    m_painter.rotate(label.angle);
     m_painter.setPen(Qt::NoPen);
     m_painter.setBrush(QColor(255, 255, 255, 225));
-    m_painter.drawRect(ground);
+    m_painter.drawRect(TagBox({QPointF(), label.text, label.height, 0}));
+    m_painter.restore();
     PaintInside(label, Qt::black);
     return true;
 }
 
-bool WallPainter::PaintTagNear(const Label& label, const QPointF& aside, double distance)
+bool WallPainter::PaintTagNear(int port, const Label& label, const QPointF& aside, double distance)
 {
     const double width = QFontMetricsF(Font(label.height)).horizontalAdvance(label.text);
     const double across = distance + width * 0.5 + label.height * 0.3;
     const double down = distance + label.height * 0.7;
-    const QPointF ways[] = {aside, {0, -down}, {0, down}, {across, 0}, {-across, 0}};
+    const QPointF ways[] = {aside, -aside, {0, -down}, {0, down}, {across, 0}, {-across, 0}};
     return std::any_of(std::begin(ways), std::end(ways), [&](const QPointF& way) {
-        return PaintTag({label.place + way, label.text, label.height, 0});
+        return PaintTag(port, {label.place + way, label.text, label.height, 0});
     });
 }
 

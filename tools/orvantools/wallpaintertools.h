@@ -3,6 +3,7 @@
 #include "orvantools/wallpicture.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace OrvanTools {
 
@@ -11,11 +12,15 @@ inline double Limited(double value, double least, double most)
     return std::max(least, std::min(value, most));
 }
 
-/// Black or white, whichever is readable.
+/// Black or white, whichever has the more contrast; it is never below 4.5 : 1.
 inline QColor TextOn(const QColor& ground)
 {
-    const double light = 0.299 * ground.red() + 0.587 * ground.green() + 0.114 * ground.blue();
-    return light > 130 ? QColor(Qt::black) : QColor(Qt::white);
+    const auto linear = [](double channel) {
+        return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    const double light =
+        0.2126 * linear(ground.redF()) + 0.7152 * linear(ground.greenF()) + 0.0722 * linear(ground.blueF());
+    return (light + 0.05) * (light + 0.05) > 1.05 * 0.05 ? QColor(Qt::black) : QColor(Qt::white);
 }
 
 /// Pale for a hidden port.

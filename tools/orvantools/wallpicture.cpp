@@ -18,6 +18,11 @@ QString Tr(const char* text)
     return QCoreApplication::translate("OrvanTools", text);
 }
 
+QString Joined(const QStringList& parts)
+{
+    return parts.join(QStringLiteral("  ·  "));
+}
+
 QString SizeText(const QSize& size)
 {
     return QString::number(size.width()) + QStringLiteral(" × ") + QString::number(size.height());
@@ -75,12 +80,33 @@ QString BackupText(const CProjectData& project, const CPort& port, const BackupM
            + QLatin1Char(' ') + Tr("port %1").arg(qint64(port.GetBackupSrcPortIndex()) + 1);
 }
 
-PicturePort MakePort(const CProjectData& project, const CPort& port, const BackupMap& map, int sender)
+/// The port that a port backs up, also through other backups; itself when it backs up none.
+PortPlace BackedUp(const BackupMap& map, PortPlace place)
 {
-    PicturePort picture;
-    picture.index = port.GetPortIndex();
-    picture.hidden = !port.IsVisible();
-    picture.color = CConstantData::GetColorByPort(picture.index);
+    while (!map.IsInLoop(place)) {
+        const auto source = map.SourceOf(place);
+        if (!source)
+            break;
+        place = *source;
+    }
+    return place;
+}
+
+/// Whether no port of a sender has cabinets but for those that back up others.
+bool IsBackupOnly(const CSender& sender)
+{
+    bool isAnyBackup = false;
+    for (int i = 0; i < sender.GetPortCount(); ++i) {
+        const CPort& port = *sender.GetPort(i);
+        if (!port.IsBackupDest() && port.GetTileSet().GetCount() > 0)
+            return false;
+        isAnyBackup = isAnyBackup || port.IsBackupDest();
+    }
+    return isAnyBackup;
+}
+
+void AddCabinets(PicturePort& picture, const CPort& port)
+{
     const CTileSet& tiles = port.GetTileSet();
     picture.cabinets.reserve(static_cast<size_t>(tiles.GetCount()));
     picture.shapes.reserve(static_cast<size_t>(tiles.GetCount()));
@@ -93,18 +119,40 @@ PicturePort MakePort(const CProjectData& project, const CPort& port, const Backu
     picture.receivers = tiles.GetRcvCount();
     picture.chain = MakeChain(picture.cabinets);
     picture.groups = GroupOutlines(tiles, picture.shapes).Make(port.GetTileGroupSet());
+}
 
-    QStringList notes;
+void AddNotes(PicturePort& picture, const CProjectData& project, const CPort& port, const BackupMap& map,
+              int sender)
+{
     if (port.IsBackupDest())
-        notes.append(BackupText(project, port, map, sender));
+        picture.backupOf = BackupText(project, port, map, sender);
+    QStringList notes;
+    if (!picture.backupOf.isEmpty())
+        notes.append(picture.backupOf);
     if (picture.hidden)
         notes.append(Tr("hidden"));
     if (port.IsFlagLock())
         notes.append(Tr("locked"));
-    picture.note = notes.join(QStringLiteral(", "));
     for (const PortPlace& backup : map.BackupsOf({sender, picture.index}))
         picture.backups.append(PortName(project, backup, sender));
-    return picture;
+    if (!picture.backups.isEmpty())
+        notes.append(Tr("backup: ") + picture.backups.join(QStringLiteral(", ")));
+    picture.note = notes.join(QStringLiteral(", "));
+}
+
+void Mirror(PicturePort& port)
+{
+    for (TileShape& shape : port.shapes)
+        shape = shape.Mirrored();
+    for (PictureCabinet& cabinet : port.cabinets) {
+        for (QRectF& part : cabinet.receivers)
+            part.moveLeft(1 - part.right());
+    }
+    const auto mirror = [](const QPointF& point) { return QPointF(-point.x(), point.y()); };
+    for (GroupOutline& outline : port.groups) {
+        for (BorderLine& border : outline.lines)
+            border = {QLineF(mirror(border.line.p1()), mirror(border.line.p2())), mirror(border.inward)};
+    }
 }
 
 QStringList FormLines(const SPrintFormData& form)
@@ -121,7 +169,7 @@ QStringList FormLines(const SPrintFormData& form)
     return lines;
 }
 
-QString Figures(const WallPicture& picture, const QSize& canvas)
+QString Figures(const WallPicture& picture)
 {
     qint64 pixels = 0;
     qint64 cabinets = 0;
@@ -132,8 +180,8 @@ QString Figures(const WallPicture& picture, const QSize& canvas)
         receivers += port.receivers;
     }
     QStringList parts;
-    if (!canvas.isEmpty())
-        parts.append(Tr("canvas ") + SizeText(canvas));
+    if (!picture.canvas.isEmpty())
+        parts.append(Tr("canvas ") + SizeText(picture.canvas.size().toSize()));
     if (cabinets == 0)
         parts.append(Tr("no cabinets"));
     else
@@ -141,34 +189,72 @@ QString Figures(const WallPicture& picture, const QSize& canvas)
                       Tr(cabinets == 1 ? "%1 cabinet" : "%1 cabinets").arg(cabinets),
                       Tr(receivers == 1 ? "%1 receiver" : "%1 receivers").arg(receivers),
                       Tr(pixels == 1 ? "%1 pixel" : "%1 pixels").arg(pixels)});
-    return parts.join(QStringLiteral("  ·  "));
+    return Joined(parts);
 }
 
-} // namespace
-
-WallPicture MakeWallPicture(const CProjectData& project, int index)
+/// In the coordinates of the sender's cabinets.
+QRectF CanvasOf(const CSender& sender, bool isRear)
 {
-    const CSender& sender = *project.GetSender(index);
-    const BackupMap backups(project);
-    WallPicture picture;
-    for (int i = 0; i < sender.GetPortCount(); ++i) {
-        PicturePort port = MakePort(project, *sender.GetPort(i), backups, index);
-        for (const TileShape& shape : port.shapes)
-            picture.bound = picture.bound.united(shape.Bound());
-        if (!port.cabinets.empty() || !port.note.isEmpty())
-            picture.ports.push_back(std::move(port));
-    }
     const QSize offset = sender.GetOffset() == QSize(-1, -1) ? QSize(0, 0) : sender.GetOffset();
-    const QSize canvas = sender.GetCanvasSize();
-    if (!canvas.isEmpty())
-        picture.canvas = QRectF(-QPointF(offset.width(), offset.height()), canvas);
+    if (sender.GetCanvasSize().isEmpty())
+        return QRectF();
+    QRectF canvas(-QPointF(offset.width(), offset.height()), sender.GetCanvasSize());
+    if (isRear)
+        canvas.moveLeft(-canvas.right());
+    return canvas;
+}
 
+void AddTexts(WallPicture& picture, const CProjectData& project, int index, const PictureOptions& options)
+{
     const QString name = project.GetShowSenderName(index, true);
     const SPrintLine& printed = project.GetPrintSetData()->projectName;
     picture.title = printed.enable && !printed.text.isEmpty() ? printed.text : name;
     picture.senderName = Tr("Sender %1").arg(index + 1) + QStringLiteral(": ") + name;
-    picture.figures = Figures(picture, canvas);
+    QStringList view;
+    if (options.port >= 0)
+        view.append(Tr("port %1").arg(options.port + 1));
+    if (options.rear)
+        view.append(Tr("rear view"));
+    picture.view = Joined(view);
+    picture.figures = Figures(picture);
     picture.form = FormLines(*project.GetPrintSetData());
+}
+
+} // namespace
+
+WallPicture MakeWallPicture(const CProjectData& project, int index, const PictureOptions& options)
+{
+    const CSender& sender = *project.GetSender(index);
+    const BackupMap backups(project);
+    const bool isBackupOnly = IsBackupOnly(sender);
+    int canvasFrom = index;
+    WallPicture picture;
+    picture.isRear = options.rear;
+    for (int i = 0; i < sender.GetPortCount(); ++i) {
+        if (options.port >= 0 && i != options.port)
+            continue;
+        const CPort& port = *sender.GetPort(i);
+        const PortPlace shown = isBackupOnly ? BackedUp(backups, {index, i}) : PortPlace{index, i};
+        PicturePort made;
+        made.index = i;
+        made.hidden = !port.IsVisible();
+        made.color = CConstantData::GetColorByPort(i);
+        AddCabinets(made, *project.GetSender(shown.sender)->GetPort(shown.port));
+        AddNotes(made, project, port, backups, index);
+        if (!port.IsBackupDest())
+            made.load = options.capacity.PercentText(made.pixels);
+        if (made.cabinets.empty() && made.note.isEmpty())
+            continue;
+        if (options.rear)
+            Mirror(made);
+        if (picture.bound.isEmpty())
+            canvasFrom = shown.sender;
+        for (const TileShape& shape : made.shapes)
+            picture.bound = picture.bound.united(shape.Bound());
+        picture.ports.push_back(std::move(made));
+    }
+    picture.canvas = CanvasOf(*project.GetSender(canvasFrom), options.rear);
+    AddTexts(picture, project, index, options);
     return picture;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orvantools/groupoutlines.h"
+#include "orvantools/portload.h"
 #include "orvantools/tileshape.h"
 
 #include <QColor>
@@ -13,6 +14,13 @@
 class CProjectData;
 
 namespace OrvanTools {
+
+struct PictureOptions
+{
+    int port = -1;     ///< the only one to show, counted from 0; -1: all
+    bool rear = false; ///< as seen from behind: all is mirrored, the coordinates too
+    PortCapacity capacity;
+};
 
 struct PictureCabinet
 {
@@ -32,6 +40,8 @@ struct PicturePort
     std::vector<GroupOutline> groups;
     qint64 pixels = 0;
     int receivers = 0;
+    QString load;        ///< of what a port carries, "62 %"; none for a backup
+    QString backupOf;    ///< "backup of port 3"
     QString note;        ///< backup, hidden, locked
     QStringList backups; ///< the ports that back it up
 };
@@ -41,13 +51,16 @@ struct WallPicture
 {
     QString title;
     QString senderName;
+    QString view; ///< "port 3 · rear view"; none when all is seen from the front
+    bool isRear = false;
     QString figures;                ///< canvas, wall, cabinets, receivers, pixels
     QStringList form;               ///< printed fields, "Designer: …"
     QRectF canvas;                  ///< in the cabinets' coordinates; empty: none
     QRectF bound;                   ///< of all cabinets, turned as they are; empty: none
-    std::vector<PicturePort> ports; ///< those with cabinets and the backups
+    std::vector<PicturePort> ports; ///< those with cabinets, and the backups
 };
 
-WallPicture MakeWallPicture(const CProjectData& project, int sender);
+/// A sender that only backs up others shows the cabinets of the ports that it backs up.
+WallPicture MakeWallPicture(const CProjectData& project, int sender, const PictureOptions& options = {});
 
 } // namespace OrvanTools
