@@ -43,7 +43,8 @@ QPointF ReceiverPlace(const QRectF& part)
 
 } // namespace
 
-CabinetTextPlaces::CabinetTextPlaces(const PicturePort& port, double leastText) : m_leastText(leastText)
+CabinetTextPlaces::CabinetTextPlaces(const PicturePort& port, double leastText, double growth)
+    : m_leastText(leastText), m_growth(growth)
 {
     if (!port.chain.empty())
         m_digits = FromOne(NumberOf(port, port.chain.back())).size();
@@ -73,7 +74,7 @@ QRectF CabinetTextPlaces::BoxOf(const TextPlace& text, int digits) const
 
 TextPlace CabinetTextPlaces::Number(const QSizeF& room, int digits) const
 {
-    const double height = std::min(kMostNumber, NumberHeight(room));
+    const double height = std::min(kMostNumber * m_growth, NumberHeight(room));
     if (height < m_leastText)
         return {};
     const double inset = ShorterOf(room) * kInset;
@@ -90,7 +91,7 @@ CabinetTexts CabinetTextPlaces::Place(const PictureCabinet& cabinet, const QSize
     bool isNumberFree = true;
     for (const QRectF& part : cabinet.receivers) {
         const double height =
-            std::min({kMostReceiver, ShorterOf(size) * 0.16, ReceiverHeight(SizeOf(part, size))});
+            std::min({kMostReceiver * m_growth, ShorterOf(size) * 0.16, ReceiverHeight(SizeOf(part, size))});
         const QPointF middle = ReceiverPlace(part);
         const TextPlace place{QPointF(middle.x() * size.width(), middle.y() * size.height()),
                               height < m_leastText ? 0 : height};

@@ -32,7 +32,8 @@ struct CabinetTexts
 class CabinetTextPlaces
 {
 public:
-    CabinetTextPlaces(const PicturePort& port, double leastText); ///< [ref] only while it is made
+    /// [ref] the port only while it is made. `growth` lets the largest texts grow with the page.
+    CabinetTextPlaces(const PicturePort& port, double leastText, double growth = 1);
 
     CabinetTexts Place(const PictureCabinet& cabinet, const QSizeF& size) const;
 
@@ -46,6 +47,7 @@ private:
     TextPlace Number(const QSizeF& room, int digits) const; ///< `digits` of this number
 
     double m_leastText;
+    double m_growth;
     int m_digits = 1;
     int m_receiverDigits = 1;
 };

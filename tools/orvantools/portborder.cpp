@@ -10,7 +10,7 @@ namespace OrvanTools {
 
 namespace {
 
-constexpr double kClose = 0.15; ///< of a side: the middles of two sides that lie side by side
+constexpr double kClose = 0.35; ///< of a side: the middles of two sides that lie side by side
 
 /// Adds a rectangle to the last one when together they are one rectangle.
 bool Join(std::vector<QRectF>& rects, const QRectF& rect)

@@ -16,9 +16,12 @@ namespace {
 
 constexpr double kLeastCover = 0.6; ///< of the canvas, to show it whole
 constexpr double kMargin = 30;
+constexpr double kUsualWidth = 4000;       ///< of a drawing whose lines need not grow
+constexpr double kMostBeside = 0.12;       ///< of the height, for what stands beside the wall
 constexpr double kSmallSide = 50;          ///< of a cabinet whose arrows and groups are bare of white edges
+constexpr double kLeastGrouped = 16;       ///< width of a port, in steps from one group's line to the next
 constexpr double kLeastOutlined = 8;       ///< side of cabinets that are drawn each
-constexpr double kLeastOutlinedPixels = 9; ///< the same on a screen
+constexpr double kLeastOutlinedPixels = 8; ///< the same on a screen
 
 /// The part of the canvas to show: all of it when the wall fills much of it, else only the wall.
 QRectF Shown(const WallPicture& picture)
@@ -61,30 +64,60 @@ QPolygonF Arrow(const QPointF& from, const QPointF& to, double size)
 
 WallPainter::WallPainter(QPainter& painter, const WallPicture& picture, const QRectF& area, double leastText,
                          const QRectF& shown)
-    : m_painter(painter), m_picture(picture), m_around(area),
-      m_area(area.adjusted(kMargin, kMargin, -kMargin, -kMargin)), m_shown(shown), m_leastText(leastText),
+    : m_painter(painter), m_picture(picture), m_around(area), m_shown(shown), m_leastText(leastText),
+      m_growth(std::max(1.0, std::sqrt(area.width() / kUsualWidth))),
       m_asPixels(painter.paintEngine()->type() == QPaintEngine::Raster), m_labels(100)
 {
-    const QRectF part = shown.isNull() ? Shown(picture) : shown;
-    m_scale = std::min(m_area.width() / part.width(), m_area.height() / part.height());
-    m_origin = m_area.center() - part.center() * m_scale;
     CollectParts();
+    const QRectF part = shown.isNull() ? Shown(picture) : shown;
+    m_area = area.adjusted(kMargin, kMargin, -kMargin, -kMargin);
+    Fit(part);
+    const double room = RoomBeside();
+    m_area.adjust(room, room, -room, -room);
+    Fit(part);
+    const double least = m_asPixels ? kLeastOutlinedPixels / painter.worldTransform().m11() : kLeastOutlined;
+    for (Part& each : m_parts) {
+        each.side *= m_scale;
+        each.isSmall = each.side < least;
+    }
+}
+
+void WallPainter::Fit(const QRectF& shown)
+{
+    m_scale = std::min(m_area.width() / shown.width(), m_area.height() / shown.height());
+    m_origin = m_area.center() - shown.center() * m_scale;
+}
+
+double WallPainter::RoomBeside() const
+{
+    double length = 0; // of the marks beside one another
+    const double height = StartSize(QString(), m_leastText).height() * 1.1;
+    for (const Part& part : m_parts) {
+        const double width = StartSize(FromOne(part.port->index), m_leastText).width() * 1.1;
+        if (part.bound.width() * m_scale < width || part.bound.height() * m_scale < height)
+            length += width;
+    }
+    if (m_parts.size() < 2 || length == 0)
+        return 0;
+    const double along = std::max(m_picture.bound.width(), m_picture.bound.height()) * m_scale;
+    return std::min(std::ceil(length / along) * height, kMostBeside * m_around.height());
 }
 
 void WallPainter::CollectParts()
 {
-    const double least =
-        m_asPixels ? kLeastOutlinedPixels / m_painter.worldTransform().m11() : kLeastOutlined;
     for (const PicturePort& port : m_picture.ports) {
         Part part;
         part.port = &port;
         std::vector<bool> shows(port.shapes.size(), true);
         for (size_t i = 0; i < port.shapes.size(); ++i) {
-            shows[i] = m_shown.isNull() || port.shapes[i].Bound().intersects(m_shown);
+            const QRectF bound = port.shapes[i].Bound();
+            shows[i] = m_shown.isNull() || bound.intersects(m_shown);
             if (!shows[i])
                 continue;
             part.cabinets.push_back(static_cast<int>(i));
-            part.side += SideOf(port.shapes[i]);
+            part.bound = part.bound.united(bound);
+            const QSizeF size = port.shapes[i].Size();
+            part.side += std::min(size.width(), size.height());
         }
         if (part.cabinets.empty())
             continue;
@@ -94,7 +127,6 @@ void WallPainter::CollectParts()
                 part.chain.push_back(static_cast<int>(i));
         }
         part.side /= static_cast<double>(part.cabinets.size());
-        part.isSmall = part.side < least;
         m_parts.push_back(std::move(part));
     }
 }
@@ -131,11 +163,8 @@ QPolygonF WallPainter::Map(const QPolygonF& canvas) const
 
 double WallPainter::BorderWidth(const Part& part) const
 {
-    QRectF bound;
-    for (const int place : part.cabinets)
-        bound = bound.united(part.port->shapes[static_cast<size_t>(place)].Bound());
-    const double narrow = std::min(bound.width(), bound.height()) * m_scale;
-    return std::min(Limited(part.side * 0.05, 3.5, 7), narrow * 0.1);
+    const double narrow = std::min(part.bound.width(), part.bound.height()) * m_scale;
+    return std::min(Limited(part.side * 0.05, 3.5, 7 * m_growth), narrow * 0.1);
 }
 
 double WallPainter::SideOf(const TileShape& shape) const
@@ -163,9 +192,12 @@ Omissions WallPainter::Paint()
         PaintChain(part);
     for (Part& part : m_parts)
         PaintTexts(part);
-    for (const Part& part : m_parts)
-        PaintEnds(part);
+    PaintStarts();
     // What may be left out comes last, the most useful first.
+    for (const Part& part : m_parts)
+        PaintPortNumber(part);
+    for (Part& part : m_parts)
+        PaintEnd(part);
     for (Part& part : m_parts)
         PaintTags(part);
     for (Part& part : m_parts)
@@ -180,7 +212,7 @@ void WallPainter::PaintCanvas()
 {
     if (m_picture.canvas.isEmpty())
         return;
-    const QRectF canvas(Map(m_picture.canvas.topLeft()), m_picture.canvas.size() * m_scale);
+    const QRectF canvas = Map(m_picture.canvas);
     const bool isBare = !m_picture.bound.contains(m_picture.canvas);
     const QColor ground(246, 246, 246);
     if (isBare && m_asPixels)
@@ -197,7 +229,7 @@ void WallPainter::PaintCabinets(const Part& part)
         PaintArea(part);
         return;
     }
-    QPen outline(QColor(20, 20, 20), Limited(part.side * 0.02, 0.8, 3));
+    QPen outline(QColor(20, 20, 20), Limited(part.side * 0.02, 0.8, 3 * m_growth));
     if (port.hidden)
         outline.setDashPattern({5, 4});
     m_painter.setPen(outline);
@@ -223,7 +255,7 @@ void WallPainter::PaintArea(const Part& part)
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
     for (const QRectF& rect : JoinedRects(port.shapes, part.cabinets)) {
-        const QRectF place(Map(rect.topLeft()), rect.size() * m_scale);
+        const QRectF place = Map(rect);
         if (m_asPixels)
             pixels.append(OnPixels(place));
         else
@@ -295,8 +327,7 @@ void WallPainter::PaintCabinetsAsPixels(const Part& part)
             drawn.closeSubpath();
             continue;
         }
-        const QRectF bound = shape.Bound();
-        const QRect place = OnPixels(QRectF(Map(bound.topLeft()), bound.size() * m_scale));
+        const QRect place = OnPixels(Map(shape.Bound()));
         const bool goesOn = !cabinets.isEmpty() && row.top() == place.top() && row.bottom() == place.bottom()
                             && row.right() + 1 == place.left();
         if (!goesOn && !cabinets.isEmpty())
@@ -362,8 +393,10 @@ void WallPainter::PaintGroups(const Part& part)
     if (port.groups.empty())
         return;
     // From the outer group inwards, so that none hides another.
-    const double step = Limited(part.side * 0.08, 4, 12);
+    const double step = Limited(part.side * 0.05, 4, 10 * m_growth);
     const double border = BorderWidth(part) * 1.3;
+    if (std::min(part.bound.width(), part.bound.height()) * m_scale < kLeastGrouped * step)
+        return;
     std::vector<QPolygonF> lines;
     for (const GroupOutline& outline : port.groups) {
         const double inset = border + step * (0.5 + outline.depth);
@@ -406,16 +439,16 @@ void WallPainter::PaintChain(const Part& part)
         before = at;
         LineTo(lines.back(), to);
         if (!part.isSmall)
-            arrows.push_back(
-                Arrow(from, to, Limited(std::min(SideOf(lastShape), SideOf(shape)) * 0.24, 4, 40)));
+            arrows.push_back(Arrow(
+                from, to, Limited(std::min(SideOf(lastShape), SideOf(shape)) * 0.24, 4, 40 * m_growth)));
     }
-    const double width = part.isSmall ? part.side * 0.1 : Limited(part.side * 0.035, 1.5, 7);
+    const double width = part.isSmall ? part.side * 0.1 : Limited(part.side * 0.035, 1.5, 7 * m_growth);
     m_painter.setBrush(Qt::NoBrush);
     if (!part.isSmall) {
         m_painter.setPen(QPen(Qt::white, width * 2, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
         DrawLines(lines);
     }
-    m_painter.setPen(ChainPen(port.index, width));
+    m_painter.setPen(part.isSmall ? QPen(TextOn(FillOf(port)), width) : ChainPen(port.index, width));
     DrawLines(lines);
     m_painter.setPen(part.side < kSmallSide ? QPen(Qt::NoPen) : QPen(Qt::white, width * 0.5));
     m_painter.setBrush(Qt::black);

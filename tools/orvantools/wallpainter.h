@@ -54,13 +54,17 @@ private:
         std::vector<int> chain;      ///< places in the chain of cabinets that show, or the one before does
         std::vector<bool> isWritten; ///< of every cabinet: its number
         double side = 0;             ///< of its cabinets, the mean of their shorter sides
+        QRectF bound;                ///< of its cabinets
         bool isSmall = false;        ///< the cabinets are too small to draw each
     };
 
     QPointF Map(const QPointF& canvas) const { return canvas * m_scale + m_origin; }
+    QRectF Map(const QRectF& canvas) const { return QRectF(Map(canvas.topLeft()), canvas.size() * m_scale); }
     QPolygonF Map(const QPolygonF& canvas) const;
     double SideOf(const TileShape& shape) const; ///< the shorter side
     void CollectParts();
+    void Fit(const QRectF& shown);
+    double RoomBeside() const; ///< for the marks that do not fit on their port's cabinets
     double BorderWidth(const Part& part) const;
     bool IsShown(const TileShape& shape) const; ///< its middle
 
@@ -83,19 +87,32 @@ private:
         QString text;
         double height;
         double angle;
+        bool isEnd = false; ///< framed as the end of a chain
     };
     void PaintTexts(Part& part);                             ///< numbers and receiving cards in the cabinets
     bool PaintText(const Label& label, const QColor& color); ///< where it is free
-    void PaintEnds(const Part& part);
-    bool PaintStart(const Part& part, const TileShape& shape);
-    bool PaintEnd(const Part& part, const TileShape& shape);
-    std::optional<QPointF> MarkPlace(const Part& part, const TileShape& shape, double radius);
+    struct Start
+    {
+        QPointF middle; ///< of the cabinet
+        QPointF place;
+        QString text;
+        double height; ///< of the text
+    };
+    QSizeF StartSize(const QString& text, double height) const;
+    void PaintStarts();
+    void PaintEnd(Part& part);
+    std::optional<QPointF> PlaceOnCabinet(const Part& part, const TileShape& shape, const QSizeF& size);
+    std::optional<QPointF> PlaceBeside(const Part& part, const QPointF& middle, const QSizeF& size);
     void PaintLeader(const QPointF& from, const QPointF& to);
+    void PaintPortNumber(const Part& part); ///< where single cabinets cannot be seen
+    QPointF WayTo(const PicturePort& port, size_t at) const;
+    std::vector<size_t> Turns(const Part& part) const;
     void PaintTags(Part& part);      ///< numbers where the chain begins, ends and turns
     void PaintInnerTags(Part& part); ///< the others
     void PaintBackups(const Part& part);
-    bool PaintTag(int port, const Label& label); ///< with a light ground, where it is free
-    bool PaintTagNear(int port, const Label& label, const QPointF& aside, double distance);
+    bool PaintTag(const Part& part, const Label& label, const QColor& ground); ///< where it is free
+    /// On the cabinet, or close to it beside the wall.
+    bool PaintNumberTag(const Part& part, const TileShape& shape, const Label& label);
     QRectF TagBox(const Label& label);
     bool IsFree(int port, const QRectF& box); ///< of other ports' cabinets, and inside the drawing
     PortAreas& Areas();
@@ -108,6 +125,7 @@ private:
     QRectF m_area;
     QRectF m_shown; ///< null: all
     double m_leastText;
+    double m_growth; ///< of lines and texts on a large page
     bool m_asPixels;
     double m_scale = 1;
     QPointF m_origin;

@@ -14,6 +14,11 @@ namespace OrvanTools {
 namespace {
 
 constexpr double kMostMark = 50;
+constexpr double kMostPortNumber = 120;
+constexpr double kMostBackup = 34;
+constexpr double kWidest = 1.7;   ///< of a number on the chain, in widths of its cabinet
+constexpr double kHighest = 1.35; ///< the same in heights
+constexpr double kLeastRun = 6;   ///< from one number of a turn to the next, in heights of text
 
 /// The upright rectangle around one that is turned about its middle.
 QRectF TurnedBox(const QPointF& middle, const QSizeF& size, double angle)
@@ -47,7 +52,7 @@ const QFont& WallPainter::Font(double height)
 PortAreas& WallPainter::Areas()
 {
     if (!m_areas) {
-        m_areas = std::make_unique<PortAreas>(m_around, m_leastText / 4);
+        m_areas = std::make_unique<PortAreas>(m_around, m_leastText / 8);
         for (const Part& part : m_parts)
             m_areas->Add(part.port->index, part.port->shapes, m_scale, m_origin);
     }
@@ -63,7 +68,7 @@ void WallPainter::PaintTexts(Part& part)
 {
     const PicturePort& port = *part.port;
     const QColor color = TextOn(FillOf(port));
-    const CabinetTextPlaces places(port, m_leastText);
+    const CabinetTextPlaces places(port, m_leastText, m_growth);
     part.isWritten.assign(port.cabinets.size(), false);
     for (const int at : part.cabinets) {
         const TileShape& shape = port.shapes[static_cast<size_t>(at)];
@@ -94,48 +99,40 @@ bool WallPainter::PaintText(const Label& label, const QColor& color)
     return true;
 }
 
-void WallPainter::PaintEnds(const Part& part)
+QSizeF WallPainter::StartSize(const QString& text, double height) const
 {
-    const PicturePort& port = *part.port;
-    if (port.chain.empty())
-        return;
-    const auto shapeOf = [&](int place) { return port.shapes[static_cast<size_t>(place)]; };
-    const TileShape first = shapeOf(port.chain.front());
-    const TileShape last = shapeOf(port.chain.back());
-    if (port.chain.size() > 1 && IsShown(last) && !PaintEnd(part, last))
-        ++m_omitted.marks;
-    if (IsShown(first) && !PaintStart(part, first))
-        ++m_omitted.marks;
+    return QSizeF(std::max(1.5, text.size() * kDigitWidth + 0.75) * height, 1.5 * height);
 }
 
-/// A place for a mark: in the middle of a cabinet, beside the middle where something is written there, or
-/// beside the wall.
-std::optional<QPointF> WallPainter::MarkPlace(const Part& part, const TileShape& shape, double radius)
+std::optional<QPointF> WallPainter::PlaceOnCabinet(const Part& part, const TileShape& shape,
+                                                   const QSizeF& size)
 {
-    const QPointF middle = Map(shape.Center());
-    const QPointF half(radius, radius);
-    const int port = part.port->index;
-    const auto take = [&](const QPointF& place) {
-        const QRectF box(place - half, place + half);
-        return IsFree(port, box) && m_labels.Take(box);
-    };
     constexpr double aside[][2] = {{0, 0}, {1, 1},  {-1, 1}, {1, -1}, {0, 1},
                                    {1, 0}, {-1, 0}, {0, -1}, {-1, -1}};
-    for (const double distance : {0.4, 0.8, 1.3, 2.0}) {
+    const QRectF cabinet = Map(shape.Bound());
+    QRectF box(QPointF(), size);
+    for (const double distance : {0.2, 0.4, 0.65, 1.0}) {
         for (const auto& way : aside) {
-            const QPointF place = middle + QPointF(way[0], way[1]) * distance * radius;
-            if (take(place))
-                return place;
+            box.moveCenter(Map(shape.Center())
+                           + QPointF(way[0] * size.width(), way[1] * size.height()) * distance);
+            if (box.intersects(cabinet) && IsFree(part.port->index, box) && m_labels.Take(box))
+                return box.center();
         }
     }
-    // Straight out of the wall, as long as the way is over cabinets of the port.
+    return {};
+}
+
+/// Straight out of the wall, as long as the way is over cabinets of the port.
+std::optional<QPointF> WallPainter::PlaceBeside(const Part& part, const QPointF& middle, const QSizeF& size)
+{
     constexpr double ways[][2] = {{0, -1}, {0, 1}, {-1, 0}, {1, 0}};
+    QRectF box(QPointF(), size);
     for (const auto& unit : ways) {
-        const QPointF way = QPointF(unit[0], unit[1]) * radius;
-        const QPointF across(unit[1] * m_leastText / 8, unit[0] * m_leastText / 8);
+        const QPointF way = QPointF(unit[0] * size.width(), unit[1] * size.height()) * 0.5;
+        const QPointF across = QPointF(unit[1], unit[0]) * m_leastText * 0.06; // half of the leader's width
         for (QPointF place = middle; m_around.contains(place); place += way) {
-            const QRectF box(place - half, place + half);
-            if (!Areas().IsFree(port, QRectF(place - across, place + way + across).normalized()))
+            box.moveCenter(place);
+            if (!Areas().IsFree(part.port->index, QRectF(place - across, place + way + across).normalized()))
                 break;
             if (Areas().IsBare(box) && m_around.contains(box) && m_labels.Take(box))
                 return place;
@@ -146,93 +143,145 @@ std::optional<QPointF> WallPainter::MarkPlace(const Part& part, const TileShape&
 
 void WallPainter::PaintLeader(const QPointF& from, const QPointF& to)
 {
-    if (QLineF(from, to).length() < 1)
-        return;
     m_painter.setPen(QPen(Qt::white, m_leastText * 0.25));
     m_painter.drawLine(from, to);
     m_painter.setPen(QPen(Qt::black, m_leastText * 0.12));
     m_painter.drawLine(from, to);
 }
 
-bool WallPainter::PaintEnd(const Part& part, const TileShape& shape)
+void WallPainter::PaintStarts()
 {
-    const double half = Limited(SideOf(shape) * 0.096, m_leastText * 0.4, kMostMark * 0.6);
-    const auto place = MarkPlace(part, shape, half * 1.2);
-    if (!place)
-        return false;
-    PaintLeader(Map(shape.Center()), *place);
-    m_painter.setPen(QPen(Qt::black, half * 0.33));
-    m_painter.setBrush(Qt::white);
-    m_painter.drawRect(QRectF(*place - QPointF(half, half), *place + QPointF(half, half)));
-    return true;
+    std::vector<Start> starts;
+    for (const Part& part : m_parts) {
+        const PicturePort& port = *part.port;
+        if (port.chain.empty() || !IsShown(port.shapes[static_cast<size_t>(port.chain.front())]))
+            continue;
+        const TileShape& shape = port.shapes[static_cast<size_t>(port.chain.front())];
+        const double height = Limited(SideOf(shape) * 0.176, m_leastText, kMostMark * m_growth);
+        const QSizeF size = StartSize(FromOne(port.index), height) * 1.05;
+        const QPointF middle = Map(shape.Center());
+        auto place = PlaceOnCabinet(part, shape, size);
+        if (!place)
+            place = PlaceBeside(part, middle, size);
+        if (place)
+            starts.push_back({middle, *place, FromOne(port.index), height});
+        else
+            ++m_omitted.marks;
+    }
+    for (const Start& start : starts)
+        PaintLeader(start.middle, start.place);
+    for (const Start& start : starts) {
+        QRectF box(QPointF(), StartSize(start.text, start.height));
+        box.moveCenter(start.place);
+        m_painter.setPen(QPen(Qt::white, start.height * 0.1));
+        m_painter.setBrush(Qt::black);
+        m_painter.drawRoundedRect(box, box.height() / 2, box.height() / 2);
+        PaintInside({start.place, start.text, start.height, 0}, Qt::white);
+    }
 }
 
-bool WallPainter::PaintStart(const Part& part, const TileShape& shape)
-{
-    const QString text = FromOne(part.port->index);
-    const double ofText = text.size() > 2 ? 0.8 : 1.1; // the height of a text in a circle of radius 1
-    const double radius = Limited(SideOf(shape) * 0.16, m_leastText / ofText * 1.01, kMostMark);
-    const auto place = MarkPlace(part, shape, radius * 1.06);
-    if (!place)
-        return false;
-    PaintLeader(Map(shape.Center()), *place);
-    m_painter.setPen(QPen(Qt::white, radius * 0.12));
-    m_painter.setBrush(Qt::black);
-    m_painter.drawEllipse(*place, radius, radius);
-    PaintInside({*place, text, radius * ofText, 0}, Qt::white);
-    return true;
-}
-
-void WallPainter::PaintBackups(const Part& part)
+/// A frame around the number when that is not beside the chain, else a mark of its own.
+void WallPainter::PaintEnd(Part& part)
 {
     const PicturePort& port = *part.port;
-    QStringList texts;
-    if (!port.backups.isEmpty())
-        texts.append(QCoreApplication::translate("OrvanTools", "backup: ")
-                     + port.backups.join(QStringLiteral(", ")));
-    if (!port.backupOf.isEmpty())
-        texts.append(port.backupOf);
-    if (port.chain.empty() || texts.isEmpty())
+    if (port.chain.size() < 2)
         return;
-    const TileShape& shape = port.shapes[static_cast<size_t>(port.chain.back())];
-    const double radius = Limited(part.side * 0.16, m_leastText, kMostMark);
-    if (IsShown(shape))
-        PaintTagNear(port.index,
-                     {Map(shape.Center()), texts.join(QStringLiteral(", ")),
-                      Limited(radius * 0.8, m_leastText, 34), 0},
-                     QPointF(), radius);
+    const auto last = static_cast<size_t>(port.chain.back());
+    const TileShape& shape = port.shapes[last];
+    if (!IsShown(shape))
+        return;
+    if (!part.isWritten[last]) {
+        part.isWritten[last] = PaintNumberTag(
+            part, shape, {Map(shape.Center()), FromOne(port.cabinets[last].number), m_leastText, 0, true});
+        if (part.isWritten[last])
+            return;
+    }
+    double side = Limited(SideOf(shape) * 0.19, m_leastText * 0.8, kMostMark * m_growth);
+    auto place = PlaceOnCabinet(part, shape, QSizeF(side, side) * 1.2);
+    if (!place) {
+        side /= 2;
+        place = PlaceOnCabinet(part, shape, QSizeF(side, side) * 1.2);
+    }
+    if (!place) {
+        ++m_omitted.marks;
+        return;
+    }
+    const QPointF half(side / 2, side / 2);
+    m_painter.setPen(QPen(Qt::black, side * 0.16));
+    m_painter.setBrush(Qt::white);
+    m_painter.drawRect(QRectF(*place - half, *place + half));
+}
+
+void WallPainter::PaintPortNumber(const Part& part)
+{
+    if (!part.isSmall)
+        return;
+    const PicturePort& port = *part.port;
+    const QString text = FromOne(port.index);
+    const QSizeF size = part.bound.size() * m_scale;
+    const double height = std::min(
+        {kMostPortNumber * m_growth, size.height() * 0.5, size.width() * 0.7 / (text.size() * kDigitWidth)});
+    if (height < m_leastText)
+        return;
+    for (const QPointF& middle :
+         {part.bound.center(),
+          port.shapes[static_cast<size_t>(part.cabinets[part.cabinets.size() / 2])].Center()}) {
+        const Label label{Map(middle), text, height, 0};
+        if (Areas().IsOwn(port.index, TagBox(label)) && PaintTag(part, label, FillOf(port)))
+            return;
+    }
+}
+
+/// The way of the chain to a place in it; none to the first.
+QPointF WallPainter::WayTo(const PicturePort& port, size_t at) const
+{
+    const auto middle = [&](size_t i) { return port.shapes[static_cast<size_t>(port.chain[i])].Center(); };
+    return at == 0 || at >= port.chain.size() ? QPointF() : (middle(at) - middle(at - 1)) * m_scale;
+}
+
+/// Where the chain begins, ends and turns, but not where it does so all the time.
+std::vector<size_t> WallPainter::Turns(const Part& part) const
+{
+    const PicturePort& port = *part.port;
+    std::vector<size_t> turns;
+    std::vector<double> runs; // from the turn before
+    double run = 0;
+    for (const int place : part.chain) {
+        const auto at = static_cast<size_t>(place);
+        const QPointF in = WayTo(port, at);
+        const QPointF out = WayTo(port, at + 1);
+        run += in.manhattanLength();
+        const bool isEnd = at == 0 || at + 1 == port.chain.size();
+        if (!isEnd && std::abs(in.x() * out.y() - in.y() * out.x()) <= 1e-6 * (1 + in.manhattanLength()))
+            continue;
+        turns.push_back(at);
+        runs.push_back(run);
+        run = 0;
+    }
+    std::vector<size_t> kept;
+    for (size_t i = 0; i < turns.size(); ++i) {
+        const double longer = i + 1 < turns.size() ? std::max(runs[i], runs[i + 1]) : runs[i];
+        if (turns[i] == 0 || turns[i] + 1 == port.chain.size() || longer >= kLeastRun * m_leastText)
+            kept.push_back(turns[i]);
+    }
+    return kept;
 }
 
 /// Smaller cabinets have numbers first of all where the chain begins, ends and turns.
 void WallPainter::PaintTags(Part& part)
 {
     const PicturePort& port = *part.port;
-    const auto shapeAt = [&port](size_t i) -> const TileShape& {
-        return port.shapes[static_cast<size_t>(port.chain[i])];
-    };
-    for (const int at : part.chain) {
-        const auto i = static_cast<size_t>(at);
-        const auto place = static_cast<size_t>(port.chain[i]);
-        const TileShape& shape = shapeAt(i);
+    for (const size_t at : Turns(part)) {
+        const auto place = static_cast<size_t>(port.chain[at]);
+        const TileShape& shape = port.shapes[place];
         if (part.isWritten[place] || !IsShown(shape))
             continue;
-        const QPointF here = Map(shape.Center());
-        const bool isLast = i + 1 == port.chain.size();
-        const QPointF in = i == 0 ? QPointF() : here - Map(shapeAt(i - 1).Center());
-        const QPointF out = isLast ? QPointF() : Map(shapeAt(i + 1).Center()) - here;
-        const bool turns = std::abs(in.x() * out.y() - in.y() * out.x()) > 1e-6 * (1 + in.manhattanLength());
-        if (i != 0 && !isLast && !turns)
-            continue;
-        if (i == 0 && NumberOf(port, port.chain[i]) == 0) {
+        if (at == 0 && port.cabinets[place].number == 0) {
             part.isWritten[place] = true; // the mark of the start says it
             continue;
         }
-        // Moved along the row towards the cabinets of the port, away from the numbers of the next port.
-        const Label label{here, FromOne(NumberOf(port, port.chain[i])), m_leastText, 0};
-        const double beyond = TagBox(label).width() - shape.Bound().width() * m_scale;
-        const double row = std::abs(in.x()) > std::abs(out.x()) ? -in.x() : out.x();
-        const double aside = beyond > 0 && std::abs(row) > 1e-6 ? std::copysign(beyond * 0.5, row) : 0;
-        part.isWritten[place] = PaintTagNear(port.index, label, QPointF(aside, 0), m_leastText);
+        const Label label{Map(shape.Center()), FromOne(port.cabinets[place].number), m_leastText, 0};
+        part.isWritten[place] = PaintNumberTag(part, shape, label);
     }
 }
 
@@ -249,8 +298,9 @@ void WallPainter::PaintInnerTags(Part& part)
                           Upright(shape.angle)};
         const QSizeF room = shape.Size() * m_scale;
         const QSizeF needed = TagBox({QPointF(), label.text, label.height, 0}).size();
-        const bool fits = needed.width() < room.width() && needed.height() < room.height();
-        if (!fits || !PaintTag(port.index, label))
+        const bool fits =
+            needed.width() < room.width() * kWidest && needed.height() < room.height() * kHighest;
+        if (!fits || !PaintNumberTag(part, shape, label))
             ++m_omitted.numbers;
     }
 }
@@ -279,31 +329,75 @@ QRectF WallPainter::TagBox(const Label& label)
     return TurnedBox(label.place, QSizeF(width + label.height * 0.4, label.height * 1.2), label.angle);
 }
 
-bool WallPainter::PaintTag(int port, const Label& label)
+bool WallPainter::PaintTag(const Part& part, const Label& label, const QColor& ground)
 {
     const QRectF box = TagBox(label);
-    if (!IsFree(port, box) || !m_labels.Take(box))
+    if (!IsFree(part.port->index, box) || !m_labels.Take(box))
         return false;
     m_painter.save();
     m_painter.translate(label.place);
     m_painter.rotate(label.angle);
-    m_painter.setPen(Qt::NoPen);
-    m_painter.setBrush(QColor(255, 255, 255, 225));
-    m_painter.drawRect(TagBox({QPointF(), label.text, label.height, 0}));
+    const double frame = label.isEnd ? label.height * 0.14 : 0;
+    m_painter.setPen(frame > 0 ? QPen(Qt::black, frame) : QPen(Qt::NoPen));
+    m_painter.setBrush(ground);
+    m_painter.drawRect(TagBox({QPointF(), label.text, label.height, 0})
+                           .adjusted(frame / 2, frame / 2, -frame / 2, -frame / 2));
     m_painter.restore();
-    PaintInside(label, Qt::black);
+    PaintInside(label, TextOn(ground));
     return true;
 }
 
-bool WallPainter::PaintTagNear(int port, const Label& label, const QPointF& aside, double distance)
+bool WallPainter::PaintNumberTag(const Part& part, const TileShape& shape, const Label& label)
 {
-    const double width = QFontMetricsF(Font(label.height)).horizontalAdvance(label.text);
-    const double across = distance + width * 0.5 + label.height * 0.3;
-    const double down = distance + label.height * 0.7;
-    const QPointF ways[] = {aside, -aside, {0, -down}, {0, down}, {across, 0}, {-across, 0}};
+    const QPolygonF cabinet = Map(shape.Polygon());
+    const QSizeF box = TagBox({QPointF(), label.text, label.height, 0}).size();
+    const double down = (label.height + box.height()) * 0.5;
+    const double across = (label.height + box.width()) * 0.5;
+    const double beyond = std::max(0.0, box.width() - shape.Bound().width() * m_scale) * 0.5;
+    const QPointF ways[] = {{0, 0},    {beyond, 0}, {-beyond, 0}, {0, -down},
+                            {0, down}, {across, 0}, {-across, 0}};
     return std::any_of(std::begin(ways), std::end(ways), [&](const QPointF& way) {
-        return PaintTag(port, {label.place + way, label.text, label.height, 0});
+        Label moved = label;
+        moved.place += way;
+        // On another cabinet that can be told apart it would say something wrong about that one.
+        const QRectF place = TagBox(moved);
+        const bool isOn = part.isSmall ? Areas().IsOwn(part.port->index, place)
+                                       : cabinet.containsPoint(moved.place, Qt::OddEvenFill);
+        const QColor ground = isOn && !label.isEnd ? FillOf(*part.port) : QColor(Qt::white);
+        return (isOn || Areas().IsBare(place)) && PaintTag(part, moved, ground);
     });
+}
+
+void WallPainter::PaintBackups(const Part& part)
+{
+    const PicturePort& port = *part.port;
+    QStringList texts = port.backups;
+    if (!texts.isEmpty())
+        texts.first().prepend(QCoreApplication::translate("OrvanTools", "backup: "));
+    if (!port.backupOf.isEmpty())
+        texts.append(port.backupOf);
+    if (port.chain.empty() || texts.isEmpty())
+        return;
+    const TileShape& shape = port.shapes[static_cast<size_t>(port.chain.back())];
+    if (!IsShown(shape))
+        return;
+    const double radius = Limited(part.side * 0.16, m_leastText, kMostMark * m_growth);
+    Label label{Map(shape.Center()), texts.join(QStringLiteral(", ")),
+                Limited(radius * 0.8, m_leastText, kMostBackup * m_growth), 0};
+    const QSizeF box = TagBox(label).size();
+    const double down = radius + box.height() * 0.5;
+    const double across = radius + box.width() * 0.5;
+    const double beyond = std::max(0.0, box.width() - shape.Bound().width() * m_scale) * 0.5;
+    const QPointF ways[] = {{0, down},       {0, -down},       {beyond, down}, {-beyond, down},
+                            {beyond, -down}, {-beyond, -down}, {across, 0},    {-across, 0}};
+    const QPointF middle = label.place;
+    for (const bool isOwn : {true, false}) {
+        for (const QPointF& way : ways) {
+            label.place = middle + way;
+            if ((!isOwn || Areas().IsOwn(port.index, TagBox(label))) && PaintTag(part, label, Qt::white))
+                return;
+        }
+    }
 }
 
 } // namespace OrvanTools

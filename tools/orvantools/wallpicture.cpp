@@ -206,10 +206,9 @@ QRectF CanvasOf(const CSender& sender, bool isRear)
 
 void AddTexts(WallPicture& picture, const CProjectData& project, int index, const PictureOptions& options)
 {
-    const QString name = project.GetShowSenderName(index, true);
-    const SPrintLine& printed = project.GetPrintSetData()->projectName;
-    picture.title = printed.enable && !printed.text.isEmpty() ? printed.text : name;
-    picture.senderName = Tr("Sender %1").arg(index + 1) + QStringLiteral(": ") + name;
+    picture.title = TitleOf(project, index);
+    picture.senderName =
+        Tr("Sender %1").arg(index + 1) + QStringLiteral(": ") + project.GetShowSenderName(index, true);
     QStringList view;
     if (options.port >= 0)
         view.append(Tr("port %1").arg(options.port + 1));
@@ -221,6 +220,12 @@ void AddTexts(WallPicture& picture, const CProjectData& project, int index, cons
 }
 
 } // namespace
+
+QString TitleOf(const CProjectData& project, int sender)
+{
+    const SPrintLine& printed = project.GetPrintSetData()->projectName;
+    return printed.enable && !printed.text.isEmpty() ? printed.text : project.GetShowSenderName(sender, true);
+}
 
 WallPicture MakeWallPicture(const CProjectData& project, int index, const PictureOptions& options)
 {

@@ -60,6 +60,8 @@ struct WallPicture
     std::vector<PicturePort> ports; ///< those with cabinets, and the backups
 };
 
+QString TitleOf(const CProjectData& project, int sender); ///< the printed name of the project or the sender's
+
 /// A sender that only backs up others shows the cabinets of the ports that it backs up.
 WallPicture MakeWallPicture(const CProjectData& project, int sender, const PictureOptions& options = {});
 
