@@ -54,7 +54,7 @@ int Run(const Invocation& invocation)
         return StatusFile;
     TellStep(QStringLiteral("loaded it into a second document: equal"));
     const QString drawing = QDir(folder).filePath(QStringLiteral("sample-wall.svg"));
-    const int status = WriteDrawing(drawing, QStringLiteral("svg"), 0, 0);
+    const int status = WriteDrawing(drawing, QStringLiteral("svg"), {});
     if (status != StatusDone)
         return status;
     TellStep(QStringLiteral("drew the wall"));

@@ -5,7 +5,6 @@
 #include "outputfile.h"
 
 #include <OrvanData/orvandata.h>
-#include <orvantools/layoutdrawing.h>
 
 #include <QBuffer>
 
@@ -37,11 +36,8 @@ QString DrawingForm(const QCommandLineParser& parser, const QString& output)
     return OutputForm(parser, output, Streamed() + QStringList{QStringLiteral("pdf")}, Streamed());
 }
 
-int WriteDrawing(const QString& file, const QString& form, int sender, int width)
+int WriteDrawing(const QString& file, const QString& form, const OrvanTools::DrawingOptions& options)
 {
-    OrvanTools::DrawingOptions options;
-    options.sender = sender;
-    options.width = width;
     QBuffer drawing; // signals end the program while it draws, and wait while it writes
     drawing.open(QIODevice::WriteOnly);
     if (!OrvanTools::WriteLayout(drawing, FormatOf(form), *GetProjectData(), options))

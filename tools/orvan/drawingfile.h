@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orvantools/layoutdrawing.h>
+
 #include <QString>
 
 class QCommandLineParser;
@@ -10,6 +12,6 @@ void AddDrawingForm(QCommandLineParser& parser); ///< --format
 /// told.
 QString DrawingForm(const QCommandLineParser& parser, const QString& output);
 
-/// Draws a sender of the open document, counted from 0, into a file of that form. Returns the exit status. On
-/// failure standard error says why, and the file stays as it was.
-int WriteDrawing(const QString& file, const QString& form, int sender, int width);
+/// Draws a sender of the open document into a file of that form. Returns the exit status. On failure standard
+/// error says why, and the file stays as it was.
+int WriteDrawing(const QString& file, const QString& form, const OrvanTools::DrawingOptions& options);

@@ -21,7 +21,8 @@
 namespace {
 
 const Command* const kCommands[] = {
-    &kDemoCommand, &kNewCommand, &kInfoCommand, &kCheckCommand, &kRenderCommand, &kExportCommand, &kPatternCommand, &kDiffCommand, &kConvertCommand, &kProductsCommand, &kParamsCommand,
+    &kDemoCommand,    &kNewCommand,  &kInfoCommand,    &kCheckCommand,    &kRenderCommand, &kExportCommand,
+    &kPatternCommand, &kDiffCommand, &kConvertCommand, &kProductsCommand, &kParamsCommand,
 };
 
 /// Without a locale every character beyond ASCII would be lost, also in file names. Then they are UTF-8.

@@ -1,7 +1,7 @@
 #include "command.h"
 #include "console.h"
 #include "openproject.h"
-#include "privatefolder.h"
+#include "outputfile.h"
 #include "samefile.h"
 #include "senderoption.h"
 
@@ -9,8 +9,6 @@
 #include <orvantools/testpattern.h>
 
 #include <QCommandLineParser>
-#include <QFileInfo>
-#include <QSaveFile>
 
 using OrvanTools::PatternMode;
 using OrvanTools::PatternOptions;
@@ -29,11 +27,17 @@ const struct
      "Cabinets in their ports' colours, with lines at each 16th pixel of the canvas."},
 };
 
+QStringList Forms()
+{
+    return {QStringLiteral("png")};
+}
+
 void AddOptions(QCommandLineParser& parser)
 {
     AddSenderOption(parser, QStringLiteral("Whose canvas it is, from 1; the current sender's by default."));
     for (const auto& mode : kModes)
         parser.addOption({QLatin1String(mode.option), QLatin1String(mode.help)});
+    AddFormatOption(parser, Forms());
 }
 
 /// False when there is more than one.
@@ -49,20 +53,6 @@ bool ReadMode(const QCommandLineParser& parser, PatternMode* mode)
     return given <= 1;
 }
 
-/// Returns the exit status. On failure standard error says why, and the file stays as it was.
-int WritePatternTo(const QString& file, const PatternOptions& options)
-{
-    const QFileInfo there(file);
-    if (there.exists() && !there.isFile() && !there.isDir())
-        return Fail(StatusFile, file, QStringLiteral("is no regular file"));
-    const SignalsHeld held; // what is written beside the file is gone or renamed afterwards
-    QSaveFile output(file);
-    if (!output.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-        || !OrvanTools::WritePattern(output, *GetProjectData(), options) || !output.commit())
-        return Fail(StatusFile, file, output.errorString());
-    return StatusDone;
-}
-
 int Run(const Invocation& invocation)
 {
     const QCommandLineParser& parser = invocation.parser;
@@ -72,12 +62,12 @@ int Run(const Invocation& invocation)
     int number = 0;
     if (!ReadMode(parser, &options.mode))
         return Fail(StatusUsage, QString(), QStringLiteral("takes one of --ports, --numbers and --grid"));
-    if (QFileInfo(output).suffix().toLower() != QLatin1String("png"))
-        return Fail(StatusUsage, output, QStringLiteral("a pattern ends in .png"));
-    if (!ReadSenderOption(parser, &number))
+    if (OutputForm(parser, output, Forms(), Forms()).isEmpty())
+        return StatusUsage;
+    if (!ReadOrdinal(parser, "sender", &number))
         return StatusUsage;
     if (IsSameFile(file, output))
-        return Fail(StatusUsage, output, QStringLiteral("is the project itself"));
+        return Fail(StatusUsage, OutputName(output), QStringLiteral("is the project itself"));
     if (!OpenProject(file))
         return StatusFile;
     if (const int status = FindSender(file, number, &options.sender))
@@ -92,7 +82,9 @@ int Run(const Invocation& invocation)
                         .arg(size.height())
                         .arg(kMaxCanvasWidth)
                         .arg(kMaxCanvasHeight));
-    return WritePatternTo(output, options);
+    return WriteOutput(output, [&options](QIODevice& device) {
+        return OrvanTools::WritePattern(device, *GetProjectData(), options);
+    });
 }
 
 } // namespace
@@ -106,4 +98,5 @@ const Command kPatternCommand = {"pattern",
                                  AddOptions,
                                  Run,
                                  false,
-                                 false};
+                                 false,
+                                 true};

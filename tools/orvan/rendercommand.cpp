@@ -1,9 +1,11 @@
+#include "capacityoptions.h"
 #include "command.h"
 #include "console.h"
 #include "drawingfile.h"
 #include "openproject.h"
 #include "outputfile.h"
 #include "samefile.h"
+#include "senderoption.h"
 
 #include <OrvanData/orvandata.h>
 
@@ -16,14 +18,27 @@ constexpr int kMostWidth = 20000;
 
 void AddOptions(QCommandLineParser& parser)
 {
-    parser.addOption({QStringLiteral("sender"),
-                      QStringLiteral("Which sender to draw, from 1; the current one by default."),
-                      QStringLiteral("N")});
+    AddSenderOption(parser, QStringLiteral("Which sender to draw, from 1; the current one by default."));
+    parser.addOption(
+        {QStringLiteral("port"), QStringLiteral("Draw this port alone, from 1."), QStringLiteral("N")});
+    parser.addOption({QStringLiteral("rear"), QStringLiteral("The wall as seen from behind.")});
     parser.addOption({QStringLiteral("width"),
                       QStringLiteral("Pixels of a PNG, 1920 by default; sets the page of SVG and PDF, A3 "
                                      "landscape by default."),
                       QStringLiteral("PIXELS")});
+    AddCapacityOptions(parser);
     AddDrawingForm(parser);
+}
+
+bool ReadWidth(const QCommandLineParser& parser, int* width)
+{
+    const QString name = QStringLiteral("width");
+    if (!parser.isSet(name)
+        || (ParseNumber(parser.value(name), width) && *width >= kLeastWidth && *width <= kMostWidth))
+        return true;
+    Fail(StatusUsage, QString(),
+         QStringLiteral("--width takes a number from %1 to %2").arg(kLeastWidth).arg(kMostWidth));
+    return false;
 }
 
 int Run(const Invocation& invocation)
@@ -32,29 +47,25 @@ int Run(const Invocation& invocation)
     const QString file = invocation.files[0];
     const QString output = invocation.files[1];
     int number = 0;
-    int width = 0;
+    int port = 0;
+    OrvanTools::DrawingOptions options;
     const QString form = DrawingForm(parser, output);
-    if (form.isEmpty())
+    if (form.isEmpty() || !ReadWidth(parser, &options.width) || !ReadOrdinal(parser, "sender", &number)
+        || !ReadOrdinal(parser, "port", &port))
         return StatusUsage;
-    if (parser.isSet(QStringLiteral("width"))
-        && (!ParseNumber(parser.value(QStringLiteral("width")), &width) || width < kLeastWidth
-            || width > kMostWidth))
-        return Fail(StatusUsage, QString(),
-                    QStringLiteral("--width takes a number from %1 to %2").arg(kLeastWidth).arg(kMostWidth));
-    if (parser.isSet(QStringLiteral("sender"))
-        && (!ParseNumber(parser.value(QStringLiteral("sender")), &number) || number < 1))
-        return Fail(StatusUsage, QString(), QStringLiteral("--sender takes a number from 1"));
+    if (const int status = ReadCapacity(parser, &options.capacity))
+        return status;
     if (IsSameFile(file, output))
         return Fail(StatusUsage, OutputName(output), QStringLiteral("is the project itself"));
     if (!OpenProject(file))
         return StatusFile;
-    const int senders = GetProjectData()->GetSenderCount();
-    if (number > senders)
-        return Fail(StatusUsage, file, QStringLiteral("has no sender %1").arg(number));
-    const int sender = number > 0 ? number - 1 : GetProjectData()->GetCurSenderIndexForRtCnnt();
-    if (!GetProjectData()->GetSender(sender))
-        return Fail(StatusFile, file, QStringLiteral("has no sender to draw"));
-    return WriteDrawing(output, form, sender, width);
+    if (const int status = FindSender(file, number, &options.sender))
+        return status;
+    if (port > GetProjectData()->GetSender(options.sender)->GetPortCount())
+        return Fail(StatusUsage, file, QStringLiteral("has no port %1").arg(port));
+    options.port = port - 1;
+    options.rear = parser.isSet(QStringLiteral("rear"));
+    return WriteDrawing(output, form, options);
 }
 
 } // namespace

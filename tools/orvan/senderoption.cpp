@@ -12,14 +12,13 @@ void AddSenderOption(QCommandLineParser& parser, const QString& help)
     parser.addOption({QStringLiteral("sender"), help, QStringLiteral("N")});
 }
 
-bool ReadSenderOption(const QCommandLineParser& parser, int* number)
+bool ReadOrdinal(const QCommandLineParser& parser, const char* option, int* number)
 {
     *number = 0;
-    if (!parser.isSet(QStringLiteral("sender")))
+    const QString name = QLatin1String(option);
+    if (!parser.isSet(name) || (ParseNumber(parser.value(name), number) && *number > 0))
         return true;
-    if (ParseNumber(parser.value(QStringLiteral("sender")), number) && *number > 0)
-        return true;
-    Fail(StatusUsage, QString(), QStringLiteral("--sender takes a number from 1"));
+    Fail(StatusUsage, QString(), QStringLiteral("--%1 takes a number from 1").arg(name));
     return false;
 }
 
@@ -30,5 +29,5 @@ int FindSender(const QString& file, int number, int* sender)
         return Fail(StatusUsage, file, QStringLiteral("has no sender %1").arg(number));
     *sender = number > 0 ? number - 1 : project.GetCurSenderIndexForRtCnnt();
     return project.GetSender(*sender) ? StatusDone
-                                      : Fail(StatusFile, file, QStringLiteral("has no sender to show"));
+                                      : Fail(StatusFile, file, QStringLiteral("has no sender to draw"));
 }

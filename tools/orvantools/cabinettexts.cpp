@@ -32,9 +32,8 @@ const QRectF& FirstPart(const std::vector<QRectF>& parts)
 }
 
 /// The quarter of a card that is farthest from the chain, but not where the cabinet's number is.
-QPointF ReceiverPlace(const QRectF& part)
+QPointF ReceiverPlace(const QRectF& part, bool isFirst)
 {
-    const bool isFirst = part.left() + part.top() < 1e-6;
     const bool isLeft = part.center().x() < 0.5 - 1e-6 || isFirst;
     const bool isUpper = part.center().y() < 0.5 - 1e-6 && !isFirst;
     return part.topLeft()
@@ -88,11 +87,12 @@ CabinetTexts CabinetTextPlaces::Place(const PictureCabinet& cabinet, const QSize
     if (cabinet.receivers.empty())
         return texts;
     const QRectF number = BoxOf(texts.number, digits);
+    const QRectF& first = FirstPart(cabinet.receivers);
     bool isNumberFree = true;
     for (const QRectF& part : cabinet.receivers) {
         const double height =
             std::min({kMostReceiver * m_growth, ShorterOf(size) * 0.16, ReceiverHeight(SizeOf(part, size))});
-        const QPointF middle = ReceiverPlace(part);
+        const QPointF middle = ReceiverPlace(part, &part == &first);
         const TextPlace place{QPointF(middle.x() * size.width(), middle.y() * size.height()),
                               height < m_leastText ? 0 : height};
         isNumberFree =
@@ -100,7 +100,7 @@ CabinetTexts CabinetTextPlaces::Place(const PictureCabinet& cabinet, const QSize
         texts.receivers.push_back(place);
     }
     if (!isNumberFree)
-        texts.number = Number(SizeOf(FirstPart(cabinet.receivers), size), digits);
+        texts.number = Number(SizeOf(first, size), digits);
     return texts;
 }
 

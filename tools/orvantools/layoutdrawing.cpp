@@ -107,7 +107,7 @@ bool WriteSvg(QIODevice& device, const CProjectData& project, const DrawingOptio
     QSvgGenerator generator;
     generator.setOutputDevice(&device);
     generator.setResolution(static_cast<int>(kPixelsPerInch));
-    generator.setTitle(TitleOf(project, options.sender));
+    generator.setTitle(TitleOf(project, options.sender).toHtmlEscaped()); // which Qt does not do
     generator.setSize((page / 10 / kMillimetresPerInch * kPixelsPerInch).toSize());
     generator.setViewBox(QRect(QPoint(0, 0), drawn.toSize()));
     QPainter painter;

@@ -1,6 +1,7 @@
 #include "orvantools/wallpicture.h"
 
 #include "orvantools/backupmap.h"
+#include "orvantools/printable.h"
 
 #include <OrvanData/orvandata.h>
 
@@ -66,7 +67,7 @@ QString PortName(const CProjectData& project, const PortPlace& place, int fromSe
     const QString port = Tr("port %1").arg(place.port + 1);
     return place.sender == fromSender
                ? port
-               : project.GetShowSenderName(place.sender, true) + QLatin1Char(' ') + port;
+               : Printable(project.GetShowSenderName(place.sender, true)) + QLatin1Char(' ') + port;
 }
 
 QString BackupText(const CProjectData& project, const CPort& port, const BackupMap& map, int sender)
@@ -160,7 +161,7 @@ QStringList FormLines(const SPrintFormData& form)
     QStringList lines;
     const auto add = [&lines](const char* label, const SPrintLine& line) {
         if (line.enable && !line.text.isEmpty())
-            lines.append(Tr(label) + QStringLiteral(": ") + line.text);
+            lines.append(Tr(label) + QStringLiteral(": ") + Printable(line.text));
     };
     add("Designer", form.designer);
     add("Design date", form.designDate);
@@ -224,7 +225,8 @@ void AddTexts(WallPicture& picture, const CProjectData& project, int index, cons
 QString TitleOf(const CProjectData& project, int sender)
 {
     const SPrintLine& printed = project.GetPrintSetData()->projectName;
-    return printed.enable && !printed.text.isEmpty() ? printed.text : project.GetShowSenderName(sender, true);
+    return Printable(printed.enable && !printed.text.isEmpty() ? printed.text
+                                                               : project.GetShowSenderName(sender, true));
 }
 
 WallPicture MakeWallPicture(const CProjectData& project, int index, const PictureOptions& options)
