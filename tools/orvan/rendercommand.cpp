@@ -4,11 +4,14 @@
 #include "drawingfile.h"
 #include "openproject.h"
 #include "outputfile.h"
+#include "progressline.h"
 #include "samefile.h"
 #include "senderoption.h"
 
 #include <OrvanData/orvandata.h>
+#include <orvantools/sheetset.h>
 
+#include <QBuffer>
 #include <QCommandLineParser>
 
 namespace {
@@ -26,6 +29,11 @@ void AddOptions(QCommandLineParser& parser)
                       QStringLiteral("Pixels of a PNG, 1920 by default; sets the page of SVG and PDF, A3 "
                                      "landscape by default."),
                       QStringLiteral("PIXELS")});
+    parser.addOption({QStringLiteral("sheets"),
+                      QStringLiteral("A PDF for the crew: a cover, and pages for each sender and port.")});
+    parser.addOption({QStringLiteral("paper"),
+                      QStringLiteral("Of the sheets: A4 (the default), A3 or letter."),
+                      QStringLiteral("SIZE")});
     AddCapacityOptions(parser);
     AddDrawingForm(parser);
 }
@@ -41,6 +49,48 @@ bool ReadWidth(const QCommandLineParser& parser, int* width)
     return false;
 }
 
+bool ReadPaper(const QCommandLineParser& parser, OrvanTools::Paper* paper)
+{
+    const QString name = parser.value(QStringLiteral("paper")).toLower();
+    if (name == QLatin1String("a3"))
+        *paper = OrvanTools::Paper::A3;
+    else if (name == QLatin1String("letter"))
+        *paper = OrvanTools::Paper::Letter;
+    else if (parser.isSet(QStringLiteral("paper")) && name != QLatin1String("a4"))
+        return false;
+    return true;
+}
+
+/// Whether the options go with one another.
+bool IsUsage(const QCommandLineParser& parser, const QString& form)
+{
+    const bool sheets = parser.isSet(QStringLiteral("sheets"));
+    QString fault;
+    if (sheets && form != QLatin1String("pdf"))
+        fault = QStringLiteral("--sheets makes a PDF");
+    else if (sheets && parser.isSet(QStringLiteral("width")))
+        fault = QStringLiteral("--sheets takes --paper, not --width");
+    else if (!sheets && parser.isSet(QStringLiteral("paper")))
+        fault = QStringLiteral("--paper goes with --sheets");
+    if (!fault.isEmpty())
+        Fail(StatusUsage, QString(), fault);
+    return fault.isEmpty();
+}
+
+int DrawSheets(const QString& output, OrvanTools::SheetOptions options)
+{
+    QBuffer sheets; // signals end the program while it draws, and wait while it writes
+    sheets.open(QIODevice::WriteOnly);
+    ProgressLine progress(QStringLiteral("drawing ") + OutputName(output));
+    options.progress = [&progress](int percent) { progress.Bar()->SetValue(percent); };
+    const bool drawn = OrvanTools::WriteSheets(sheets, *GetProjectData(), options);
+    progress.End();
+    if (!drawn)
+        return Fail(StatusFile, OutputName(output), QStringLiteral("cannot be drawn"));
+    return WriteOutput(output,
+                       [&sheets](QIODevice& file) { return file.write(sheets.data()) == sheets.size(); });
+}
+
 int Run(const Invocation& invocation)
 {
     const QCommandLineParser& parser = invocation.parser;
@@ -49,10 +99,13 @@ int Run(const Invocation& invocation)
     int number = 0;
     int port = 0;
     OrvanTools::DrawingOptions options;
+    OrvanTools::Paper paper = OrvanTools::Paper::A4;
     const QString form = DrawingForm(parser, output);
-    if (form.isEmpty() || !ReadWidth(parser, &options.width) || !ReadOrdinal(parser, "sender", &number)
-        || !ReadOrdinal(parser, "port", &port))
+    if (form.isEmpty() || !IsUsage(parser, form) || !ReadWidth(parser, &options.width)
+        || !ReadOrdinal(parser, "sender", &number) || !ReadOrdinal(parser, "port", &port))
         return StatusUsage;
+    if (!ReadPaper(parser, &paper))
+        return Fail(StatusUsage, QString(), QStringLiteral("--paper takes A4, A3 or letter"));
     if (const int status = ReadCapacity(parser, &options.capacity))
         return status;
     if (IsSameFile(file, output))
@@ -65,7 +118,11 @@ int Run(const Invocation& invocation)
         return Fail(StatusUsage, file, QStringLiteral("has no port %1").arg(port));
     options.port = port - 1;
     options.rear = parser.isSet(QStringLiteral("rear"));
-    return WriteDrawing(output, form, options);
+    if (!parser.isSet(QStringLiteral("sheets")))
+        return WriteDrawing(output, form, options);
+    // One port is one of the current sender unless another is named.
+    const int sender = number > 0 || port > 0 ? options.sender : -1;
+    return DrawSheets(output, {sender, options.port, options.rear, paper, options.capacity, {}});
 }
 
 } // namespace

@@ -104,23 +104,15 @@ CabinetTexts CabinetTextPlaces::Place(const PictureCabinet& cabinet, const QSize
     return texts;
 }
 
-double CabinetTextPlaces::ReadableScale(const PicturePort& port) const
+double CabinetTextPlaces::ReadableScale(const PictureCabinet& cabinet, const QSizeF& size) const
 {
-    double scale = 0;
-    for (size_t i = 0; i < port.cabinets.size(); ++i) {
-        const QSizeF size = port.shapes[i].Size();
-        if (size.isEmpty())
-            continue;
-        const std::vector<QRectF>& parts = port.cabinets[i].receivers;
-        double least = NumberHeight(parts.empty() ? size : SizeOf(FirstPart(parts), size));
-        if (!parts.empty())
-            least = std::min(least, ShorterOf(size) * 0.16);
-        for (const QRectF& part : parts)
-            least = std::min(least, ReceiverHeight(SizeOf(part, size)));
-        if (least > 0)
-            scale = std::max(scale, m_leastText * (1 + 1e-9) / least);
-    }
-    return scale;
+    const std::vector<QRectF>& parts = cabinet.receivers;
+    double least = NumberHeight(parts.empty() ? size : SizeOf(FirstPart(parts), size));
+    if (!parts.empty())
+        least = std::min(least, ShorterOf(size) * 0.16);
+    for (const QRectF& part : parts)
+        least = std::min(least, ReceiverHeight(SizeOf(part, size)));
+    return least > 0 ? m_leastText * (1 + 1e-9) / least : 0;
 }
 
 } // namespace OrvanTools

@@ -37,8 +37,9 @@ public:
 
     CabinetTexts Place(const PictureCabinet& cabinet, const QSizeF& size) const;
 
-    /// Painter units to a pixel of the canvas from which on all texts of these cabinets can be read.
-    double ReadableScale(const PicturePort& port) const;
+    /// Painter units to a pixel of the canvas from which on all texts of the cabinet can be read; 0 for one
+    /// without area. `size`: in pixels of the canvas.
+    double ReadableScale(const PictureCabinet& cabinet, const QSizeF& size) const;
 
 private:
     double NumberHeight(const QSizeF& room) const;

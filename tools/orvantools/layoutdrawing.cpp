@@ -2,6 +2,7 @@
 
 #include "orvantools/legend.h"
 #include "orvantools/palette.h"
+#include "orvantools/pdfdocument.h"
 #include "orvantools/textline.h"
 #include "orvantools/wallpainter.h"
 #include "orvantools/wallpicture.h"
@@ -11,7 +12,6 @@
 #include <QImage>
 #include <QImageWriter>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QSvgGenerator>
 
 #include <algorithm>
@@ -35,7 +35,6 @@ constexpr int kDefaultPixels = 1920;
 constexpr int kPngCompression = 12; ///< of 100: areas of one colour gain little from more
 constexpr double kPixelsPerInch = 96;
 constexpr double kMillimetresPerInch = 25.4;
-constexpr double kMostMillimetres = 14400 / 72.0 * kMillimetresPerInch; ///< that a PDF reader shows
 
 /// Title, sender and figures. Returns the bottom of it.
 double PaintHeader(QPainter& painter, const WallPicture& picture, const QRectF& page, double growth,
@@ -89,9 +88,8 @@ QSizeF PageSize(const DrawingOptions& options)
 {
     if (options.width <= 0)
         return QSizeF(kPageWidth, kPageHeight);
-    const double width =
-        std::min(options.width / kPixelsPerInch * kMillimetresPerInch, kMostMillimetres) * 10;
-    return QSizeF(width, width * kPageHeight / kPageWidth);
+    const double width = options.width / kPixelsPerInch * kMillimetresPerInch * 10;
+    return LimitedPage(QSizeF(width, width * kPageHeight / kPageWidth));
 }
 
 /// The page to draw on, which is reduced to a smaller one.
@@ -121,18 +119,13 @@ bool WritePdf(QIODevice& device, const CProjectData& project, const DrawingOptio
 {
     const QSizeF page = PageSize(options);
     const QSizeF drawn = DrawnPage(page);
-    QPdfWriter writer(&device);
-    writer.setResolution(254);
-    writer.setPageSize(QPageSize(page / 10, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
-    writer.setPageMargins(QMarginsF());
-    writer.setCreator(QStringLiteral("OrvanData"));
-    QPainter painter;
-    if (!painter.begin(&writer))
-        return false;
+    PdfDocument document(TitleOf(project, options.sender));
+    QPainter& painter = document.BeginPage(page);
     const double scale = page.width() / drawn.width();
     painter.scale(scale, scale);
     PaintLayout(painter, project, options, drawn, kReadable / scale);
-    return painter.end();
+    const QByteArray bytes = document.Finish();
+    return !bytes.isEmpty() && device.write(bytes) == bytes.size();
 }
 
 } // namespace

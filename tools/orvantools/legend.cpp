@@ -27,6 +27,8 @@ QString Tr(const char* text)
     return QCoreApplication::translate("OrvanTools", text);
 }
 
+} // namespace
+
 QString OmissionText(const Omissions& omissions, size_t hiddenPorts)
 {
     QStringList parts;
@@ -45,7 +47,39 @@ QString OmissionText(const Omissions& omissions, size_t hiddenPorts)
     return text;
 }
 
-} // namespace
+void PaintMarks(QPainter& painter, const QRectF& row, double text)
+{
+    const double size = text * 0.45;
+    const double y = row.center().y();
+    double x = row.left();
+    painter.setFont(FontOf(painter, text * kSmall));
+    const auto caption = [&](double width, const QString& what) {
+        x += width + text * 0.6;
+        painter.setPen(QColor(60, 60, 60));
+        x += DrawLine(painter, QRectF(x, row.top(), row.right() - x, row.height()), what) + kGap * 2 * text;
+    };
+    const auto isRoom = [&] { return x + 4 * text < row.right(); };
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.drawEllipse(QPointF(x + size, y), size, size);
+    caption(size * 2, Tr("start of a chain, with its port"));
+    if (isRoom()) {
+        painter.setPen(QPen(Qt::black, text * 0.13));
+        painter.setBrush(Qt::white);
+        painter.drawRect(QRectF(x, y - size * 0.7, size * 1.4, size * 1.4));
+        caption(size * 1.4, Tr("end of a chain"));
+    }
+    const auto line = [&](QPen pen, const QString& what) {
+        if (!isRoom())
+            return;
+        pen.setWidthF(text * 0.1);
+        painter.setPen(pen);
+        painter.drawLine(QPointF(x, y), QPointF(x + kSwatch * text, y));
+        caption(kSwatch * text, what);
+    };
+    line(WallPainter::GroupPen(), Tr("group"));
+    line(QPen(QColor(110, 110, 110), 1, Qt::DashDotLine), Tr("edge of the canvas"));
+}
 
 Legend::Legend(const WallPicture& picture, const QFont& font, const QSizeF& most, double text,
                double leastText)
@@ -123,7 +157,7 @@ void Legend::Paint(QPainter& painter, const QPointF& leftTop, const Omissions& o
     }
     const double width = m_width - (m_formWidth > 0 ? m_formWidth + gap : 0);
     QRectF row(leftTop.x(), leftTop.y() + (m_rows + 1) * m_row, width, m_row);
-    PaintMarks(painter, row);
+    PaintMarks(painter, row, m_text);
     row.translate(0, m_row);
     painter.setPen(Qt::black);
     DrawLine(painter, row, OmissionText(omissions, m_picture.ports.size() - static_cast<size_t>(m_shown)));
@@ -160,40 +194,6 @@ void Legend::PaintPort(QPainter& painter, const PicturePort& port, const QRectF&
     painter.drawLine(line);
     painter.setPen(WallPainter::ChainPen(port.index, m_text * 0.125));
     painter.drawLine(line);
-}
-
-void Legend::PaintMarks(QPainter& painter, const QRectF& row) const
-{
-    const double size = m_text * 0.45;
-    const double y = row.center().y();
-    double x = row.left();
-    painter.setFont(FontOf(painter, m_text * kSmall));
-    const auto caption = [&](double width, const QString& text) {
-        x += width + m_text * 0.6;
-        painter.setPen(QColor(60, 60, 60));
-        x += DrawLine(painter, QRectF(x, row.top(), row.right() - x, row.height()), text) + kGap * 2 * m_text;
-    };
-    const auto isRoom = [&] { return x + 4 * m_text < row.right(); };
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::black);
-    painter.drawEllipse(QPointF(x + size, y), size, size);
-    caption(size * 2, Tr("start of a chain, with its port"));
-    if (isRoom()) {
-        painter.setPen(QPen(Qt::black, m_text * 0.13));
-        painter.setBrush(Qt::white);
-        painter.drawRect(QRectF(x, y - size * 0.7, size * 1.4, size * 1.4));
-        caption(size * 1.4, Tr("end of a chain"));
-    }
-    const auto line = [&](QPen pen, const QString& text) {
-        if (!isRoom())
-            return;
-        pen.setWidthF(m_text * 0.1);
-        painter.setPen(pen);
-        painter.drawLine(QPointF(x, y), QPointF(x + kSwatch * m_text, y));
-        caption(kSwatch * m_text, text);
-    };
-    line(WallPainter::GroupPen(), Tr("group"));
-    line(QPen(QColor(110, 110, 110), 1, Qt::DashDotLine), Tr("edge of the canvas"));
 }
 
 void Legend::PaintForm(QPainter& painter, const QPointF& leftTop) const

@@ -34,7 +34,6 @@ private:
     bool Fits() const { return m_shown == static_cast<int>(m_picture.ports.size()); }
     void PaintPort(QPainter& painter, const PicturePort& port, const QRectF& row) const;
     void PaintFields(QPainter& painter, int port, const QRectF& row) const; ///< -1: the headings
-    void PaintMarks(QPainter& painter, const QRectF& row) const;
     void PaintForm(QPainter& painter, const QPointF& leftTop) const;
 
     const WallPicture& m_picture;
@@ -51,5 +50,11 @@ private:
     int m_shown = 0; ///< ports
     double m_height = 0;
 };
+
+/// What the marks on a wall mean, in one line. `text`: its height.
+void PaintMarks(QPainter& painter, const QRectF& row, double text);
+
+/// What has no readable place on a drawing, and how many ports its legend has no room for; empty: nothing.
+QString OmissionText(const Omissions& omissions, size_t hiddenPorts = 0);
 
 } // namespace OrvanTools

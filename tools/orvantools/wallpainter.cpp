@@ -14,8 +14,7 @@ namespace OrvanTools {
 
 namespace {
 
-constexpr double kLeastCover = 0.6; ///< of the canvas, to show it whole
-constexpr double kMargin = 30;
+constexpr double kLeastCover = 0.6;        ///< of the canvas, to show it whole
 constexpr double kUsualWidth = 4000;       ///< of a drawing whose lines need not grow
 constexpr double kMostBeside = 0.12;       ///< of the height, for what stands beside the wall
 constexpr double kSmallSide = 50;          ///< of a cabinet whose arrows and groups are bare of white edges

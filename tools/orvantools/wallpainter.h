@@ -41,6 +41,8 @@ public:
 
     double GetScale() const { return m_scale; } ///< units to a pixel of the canvas
 
+    static constexpr double kMargin = 30; ///< around the wall, for marks beside it
+
     /// The line style of the chain of a port. With the port's colour it is the same after 100 ports only.
     static QPen ChainPen(int port, double width);
     static QPen GroupPen();

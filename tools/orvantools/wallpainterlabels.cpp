@@ -154,7 +154,8 @@ void WallPainter::PaintStarts()
     std::vector<Start> starts;
     for (const Part& part : m_parts) {
         const PicturePort& port = *part.port;
-        if (port.chain.empty() || !IsShown(port.shapes[static_cast<size_t>(port.chain.front())]))
+        if (port.chain.empty() || !port.chainBegins
+            || !IsShown(port.shapes[static_cast<size_t>(port.chain.front())]))
             continue;
         const TileShape& shape = port.shapes[static_cast<size_t>(port.chain.front())];
         const double height = Limited(SideOf(shape) * 0.176, m_leastText, kMostMark * m_growth);
@@ -184,7 +185,7 @@ void WallPainter::PaintStarts()
 void WallPainter::PaintEnd(Part& part)
 {
     const PicturePort& port = *part.port;
-    if (port.chain.size() < 2)
+    if (port.chain.size() < 2 || !port.chainEnds)
         return;
     const auto last = static_cast<size_t>(port.chain.back());
     const TileShape& shape = port.shapes[last];

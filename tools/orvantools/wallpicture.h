@@ -37,6 +37,8 @@ struct PicturePort
     std::vector<TileShape> shapes;        ///< of the cabinets, canvas pixels
     std::vector<PictureCabinet> cabinets; ///< one for each shape
     std::vector<int> chain;               ///< the numbered cabinets in order
+    bool chainBegins = true;              ///< with the first of these; false: before, on another page
+    bool chainEnds = true;
     std::vector<GroupOutline> groups;
     qint64 pixels = 0;
     int receivers = 0;

@@ -1,0 +1,93 @@
+#include "orvantools/sheettable.h"
+
+#include "orvantools/textline.h"
+
+#include <QPainter>
+#include <QRectF>
+
+#include <algorithm>
+#include <utility>
+
+namespace OrvanTools {
+
+namespace {
+
+constexpr double kRowHeight = 38;
+constexpr double kTextHeight = 27;
+constexpr double kCellGap = 22;
+constexpr double kBlockGap = 60;
+constexpr int kShadedRows = 2; ///< every other one, to lead the eye
+
+} // namespace
+
+SheetTable::SheetTable(std::vector<SheetColumn> columns, int rows, std::function<QString(int, int)> text)
+    : m_columns(std::move(columns)), m_rows(rows), m_text(std::move(text))
+{}
+
+double SheetTable::Width() const
+{
+    double width = 0;
+    for (const SheetColumn& column : m_columns)
+        width += column.width + kCellGap;
+    return width;
+}
+
+int SheetTable::BlocksOn(double width) const
+{
+    return std::max(1, static_cast<int>((width + kBlockGap) / (Width() + kBlockGap)));
+}
+
+int SheetTable::RowsOn(const QSizeF& area) const
+{
+    return std::max(1, static_cast<int>(area.height() / kRowHeight) - 1) * BlocksOn(area.width());
+}
+
+double SheetTable::HeightOn(double width) const
+{
+    const int blocks = BlocksOn(width);
+    return ((m_rows + blocks - 1) / blocks + 1) * kRowHeight;
+}
+
+void SheetTable::Paint(QPainter& painter, const QRectF& area, int first) const
+{
+    const int blocks = BlocksOn(area.width());
+    const int rowsOfBlock = RowsOn(area.size()) / blocks;
+    const int end = std::min(m_rows, first + rowsOfBlock * blocks);
+    for (int block = 0; block < blocks && first + block * rowsOfBlock < end; ++block) {
+        QPointF place = area.topLeft() + QPointF(block * (Width() + kBlockGap), 0);
+        const int begin = first + block * rowsOfBlock;
+        PaintTitles(painter, place);
+        for (int row = begin; row < std::min(end, begin + rowsOfBlock); ++row) {
+            place.ry() += kRowHeight;
+            PaintRow(painter, place, row);
+        }
+    }
+}
+
+void SheetTable::PaintTitles(QPainter& painter, QPointF leftTop) const
+{
+    painter.setFont(FontOf(painter, kTextHeight, true));
+    painter.setPen(Qt::black);
+    const QPointF end = leftTop + QPointF(Width(), kRowHeight);
+    painter.drawLine(QPointF(leftTop.x(), end.y()), end);
+    for (const SheetColumn& column : m_columns) {
+        DrawLine(painter, QRectF(leftTop, QSizeF(column.width, kRowHeight)), column.title,
+                 column.isNumber ? Qt::AlignRight : Qt::AlignLeft);
+        leftTop.rx() += column.width + kCellGap;
+    }
+    painter.setFont(FontOf(painter, kTextHeight));
+}
+
+void SheetTable::PaintRow(QPainter& painter, QPointF leftTop, int row) const
+{
+    if (row % kShadedRows == 1)
+        painter.fillRect(QRectF(leftTop, QSizeF(Width(), kRowHeight)), QColor(240, 240, 240));
+    for (size_t i = 0; i < m_columns.size(); ++i) {
+        const SheetColumn& column = m_columns[i];
+        DrawLine(painter, QRectF(leftTop, QSizeF(column.width, kRowHeight)), m_text(row, static_cast<int>(i)),
+                 column.isNumber ? Qt::AlignRight : Qt::AlignLeft);
+        leftTop.rx() += column.width + kCellGap;
+    }
+}
+
+} // namespace OrvanTools
