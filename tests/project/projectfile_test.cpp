@@ -210,7 +210,7 @@ TEST_F(ProjectFileTest, ProgressGoesByThePortsOfEachSender)
         QList<int> told;
         CCustomProgressbar progress([&told](int percent) { told.append(percent); });
         EXPECT_TRUE(saves ? project.SaveProjectToFile(path, &progress)
-                          : project.LoadProjectFromFile(QFile::encodeName(path), versionError, &progress));
+                          : project.LoadProjectFromFile(QFile::encodeName(path), version, &progress));
         EXPECT_EQ(told, QList<int>({12, 25, 37, 50, 62, 75, 87, 100}));
     }
 }

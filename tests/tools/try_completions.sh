@@ -4,9 +4,6 @@
 set -euo pipefail
 export LC_ALL=C
 orvan=$1 completions=$2/tools/orvan/completions manual=$2/docs/orvan.1 status=0
-# Named before the commands have them.
-coming="info:--port-pixels info:--fps info:--depth check:--all check:--ignore render:--port-pixels render:--fps
-    render:--depth render:--port render:--rear render:--sheets render:--paper"
 # shellcheck source=/dev/null
 . "$completions/orvan.bash"
 
@@ -17,10 +14,7 @@ between() { # BEGIN END: what stands there in the completion for zsh
 }
 
 for command in $("$orvan" --help | sed -n '/^Commands:/,/^$/s/^  \([a-z]*\) .*/\1/p'); do
-    options=$({
-        "$orvan" "$command" --help | sed -nE 's/^  (-., )?(--[a-z-]+).*/\2/p'
-        tr -s ' ' '\n' <<<"$coming" | sed -n "s/^$command://p"
-    } | sort -u)
+    options=$("$orvan" "$command" --help | sed -nE 's/^  (-., )?(--[a-z-]+).*/\2/p' | sort -u)
     COMP_WORDS=(orvan "$command" --) COMP_CWORD=2
     _orvan
     diff <(echo "$options") <(printf '%s\n' "${COMPREPLY[@]}" | sort) || { echo "$command in bash"; status=1; }

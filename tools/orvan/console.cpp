@@ -76,8 +76,9 @@ void PrintJsonPiece(const QByteArray& json)
     int written = 0;
     for (int i = 0; i < json.size(); ++i) {
         const int length = LengthFrom(static_cast<uchar>(json.at(i)));
-        const QChar character =
-            length > 0 ? QString::fromUtf8(json.constData() + i, length).at(0) : QChar(QLatin1Char(' '));
+        if (length == 0)
+            continue;
+        const QChar character = QString::fromUtf8(json.constData() + i, length).at(0);
         if (!OrvanTools::IsUnprintable(character))
             continue;
         Write(json.constData() + written, i - written);

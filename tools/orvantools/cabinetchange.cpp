@@ -140,26 +140,31 @@ QString CabinetChange::OtherText(const TypeName& before, const TypeName& after) 
     const SRotateParam& a = m_before.GetRotateRecord();
     const SRotateParam& b = m_after.GetRotateRecord();
     QStringList changes;
-    const auto tell = [&changes](bool same, const char* name, const QString& now, const QString& was) {
+    const auto tell = [&](bool same, const char* name, auto textOf) {
         if (!same)
-            changes.append(QLatin1String(name) + QStringLiteral(" %1, was %2").arg(now, was));
+            changes.append(QLatin1String(name) + textOf(m_after) + QStringLiteral(", was ")
+                           + textOf(m_before));
     };
-    tell(m_before.GetSize() == m_after.GetSize(), "size", SizeText(m_after.GetWidth(), m_after.GetHeight()),
-         SizeText(m_before.GetWidth(), m_before.GetHeight()));
-    tell(m_before.GetType() == m_after.GetType(), "type", after(m_after.GetType()),
-         before(m_before.GetType()));
-    tell(IsWiredSame(m_before, m_after), "receiving cards", WiringText(m_after), WiringText(m_before));
+    tell(m_before.GetSize() == m_after.GetSize(), "size ",
+         [](const CTile& tile) { return SizeText(tile.GetWidth(), tile.GetHeight()); });
+    if (m_before.GetType() != m_after.GetType())
+        changes.append(
+            QStringLiteral("type %1, was %2").arg(after(m_after.GetType()), before(m_before.GetType())));
+    tell(IsWiredSame(m_before, m_after), "receiving cards ", WiringText);
     if (!IsNear(a.angle, b.angle) || a.rotated != b.rotated)
         changes.append(QStringLiteral("turned from %1° to %2°").arg(a.angle).arg(b.angle));
-    tell(IsCenterSame(m_before, m_after), "turned about", PairText(b.centerX, b.centerY),
-         PairText(a.centerX, a.centerY));
-    tell(IsLeftTopSame(m_before, m_after), "left top of the turned block", PairText(b.leftTopX, b.leftTopY),
-         PairText(a.leftTopX, a.leftTopY));
-    tell(IsTurnedSizeSame(a, b), "size of the turned block", SizeText(b.width, b.height),
-         SizeText(a.width, a.height));
-    tell(a.showCenter == b.showCenter, "middle of turning",
-         b.showCenter ? QStringLiteral("shown") : QStringLiteral("hidden"),
-         a.showCenter ? QStringLiteral("shown") : QStringLiteral("hidden"));
+    tell(IsCenterSame(m_before, m_after), "turned about ", [](const CTile& tile) {
+        return PairText(tile.GetRotateRecord().centerX, tile.GetRotateRecord().centerY);
+    });
+    tell(IsLeftTopSame(m_before, m_after), "left top of the turned block ", [](const CTile& tile) {
+        return PairText(tile.GetRotateRecord().leftTopX, tile.GetRotateRecord().leftTopY);
+    });
+    tell(IsTurnedSizeSame(a, b), "size of the turned block ", [](const CTile& tile) {
+        return SizeText(tile.GetRotateRecord().width, tile.GetRotateRecord().height);
+    });
+    tell(a.showCenter == b.showCenter, "middle of turning ", [](const CTile& tile) {
+        return tile.GetRotateRecord().showCenter ? QStringLiteral("shown") : QStringLiteral("hidden");
+    });
     return changes.join(QStringLiteral("; "));
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <tuple>
 #include <utility>
 
 namespace OrvanTools {
@@ -44,7 +45,7 @@ struct Keyed
     CabinetRef cabinet;
 };
 
-/// By key and then in order, taken out of what is left.
+/// By key and then in the order of the ports, taken out of what is left.
 std::vector<Keyed> TakeKeyed(std::vector<CabinetRef>& left, KeyOf keyOf)
 {
     std::vector<Keyed> keyed;
@@ -56,8 +57,10 @@ std::vector<Keyed> TakeKeyed(std::vector<CabinetRef>& left, KeyOf keyOf)
             others.push_back(cabinet);
     }
     left = std::move(others);
-    std::stable_sort(keyed.begin(), keyed.end(),
-                     [](const Keyed& x, const Keyed& y) { return x.key < y.key; });
+    std::sort(keyed.begin(), keyed.end(), [](const Keyed& x, const Keyed& y) {
+        return std::tie(x.key, x.cabinet.port, x.cabinet.cabinet)
+               < std::tie(y.key, y.cabinet.port, y.cabinet.cabinet);
+    });
     return keyed;
 }
 

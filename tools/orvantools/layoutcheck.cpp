@@ -2,7 +2,6 @@
 
 #include "orvantools/backupmap.h"
 #include "orvantools/overlapfinder.h"
-#include "orvantools/placeline.h"
 #include "orvantools/storedreceivers.h"
 
 #include <OrvanData/orvandata.h>
@@ -68,7 +67,7 @@ private:
     const CTileSet& Tiles() const { return Port().GetTileSet(); }
     void Add(FaultKind kind, int cabinet, const QString& text)
     {
-        m_faults.push_back({kind, m_sender + 1, m_port + 1, cabinet + 1, text});
+        m_faults.push_back({{m_sender + 1, m_port + 1, cabinet + 1, text}, kind});
     }
 
     static constexpr int kNoCabinet = -1;
@@ -301,8 +300,9 @@ void Checker::CheckParameterFiles()
         const bool there = QFileInfo(path).isFile() && CConstantData::GetMD5FromFile(path) == file.type;
         if (!there && !products->FindProductFromGuid(file.type))
             m_faults.push_back(
-                {FaultKind::MissingParameterFile, 0, 0, 0,
-                 QStringLiteral("missing-parameter-file: %1, ").arg(file.name) + file.type.ToString()});
+                {{0, 0, 0,
+                  QStringLiteral("missing-parameter-file: %1, ").arg(file.name) + file.type.ToString()},
+                 FaultKind::MissingParameterFile});
     }
 }
 
@@ -319,16 +319,6 @@ QStringList FaultKindNames()
     for (const char* name : kKindNames)
         names.append(QLatin1String(name));
     return names;
-}
-
-QString Fault::Line() const
-{
-    return PlaceLine(sender, port, cabinet, text);
-}
-
-QJsonObject Fault::Json() const
-{
-    return PlaceJson(FaultKindName(kind), sender, port, cabinet, text);
 }
 
 void CheckProject(const CProjectData& project, const CheckOptions& options,

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "orvantools/placedtext.h"
 #include "orvantools/portload.h"
 
-#include <QJsonObject>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -35,17 +35,11 @@ enum class FaultKind
 QString FaultKindName(FaultKind kind); ///< "overlap", "off-canvas" …
 QStringList FaultKindNames();          ///< of all kinds, in their order
 
-/// One fault. Numbers count from 1 as the host shows them; 0 means that it does not apply.
-struct Fault
+struct Fault : PlacedText
 {
     FaultKind kind = FaultKind::Overlap;
-    int sender = 0;
-    int port = 0;
-    int cabinet = 0; ///< place in the order of the port's cabinets
-    QString text;
 
-    QString Line() const; ///< "sender 1 port 2 cabinet 3: …", fit for a terminal
-    QJsonObject Json() const;
+    QJsonObject Json() const { return JsonOfKind(FaultKindName(kind)); }
 };
 
 struct CheckOptions

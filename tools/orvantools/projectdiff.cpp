@@ -3,7 +3,6 @@
 #include "orvantools/cabinetchange.h"
 #include "orvantools/cabinetmatch.h"
 #include "orvantools/groupdiff.h"
-#include "orvantools/placeline.h"
 #include "orvantools/projectrows.h"
 
 #include <OrvanData/orvandata.h>
@@ -12,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <tuple>
 
 namespace OrvanTools {
@@ -83,7 +83,7 @@ private:
 
     void Add(DifferenceKind kind, int sender, int port, int cabinet, const QString& text)
     {
-        m_found.push_back({kind, sender + 1, port + 1, cabinet + 1, text});
+        m_found.push_back({{sender + 1, port + 1, cabinet + 1, text}, kind});
     }
 
     const ProjectSide& m_a;
@@ -128,10 +128,12 @@ void Comparer::MatchSenders()
     const int countB = m_b.project.GetSenderCount();
     m_partnerOfA.assign(static_cast<size_t>(countA), kNone);
     m_partnerOfB.assign(static_cast<size_t>(countB), kNone);
-    const auto idOf = [](const CSender& sender) { return sender.GetId().toString(); };
-    const auto nameOf = [](const CSender& sender) { return sender.GetSenderName(); };
-    const auto anyName = [](const CSender&) { return QStringLiteral("any"); };
-    for (QString (*keyOf)(const CSender&) : {+idOf, +nameOf, +anyName}) {
+    const std::function<QString(const CSender&)> keys[] = {
+        [](const CSender& sender) { return sender.GetId().toString(); },
+        [](const CSender& sender) { return sender.GetSenderName(); },
+        [](const CSender&) { return QStringLiteral("any"); },
+    };
+    for (const auto& keyOf : keys) {
         QHash<QString, QList<int>> left;
         for (int b = 0; b < countB; ++b) {
             if (m_partnerOfB[static_cast<size_t>(b)] == kNone)
@@ -272,16 +274,6 @@ void Comparer::TellPair(const CabinetPair& pair, int sender)
 QString DifferenceKindName(DifferenceKind kind)
 {
     return QLatin1String(kKinds[static_cast<size_t>(kind)].name);
-}
-
-QString Difference::Line() const
-{
-    return PlaceLine(sender, port, cabinet, text);
-}
-
-QJsonObject Difference::Json() const
-{
-    return PlaceJson(DifferenceKindName(kind), sender, port, cabinet, text);
 }
 
 std::vector<Difference> CompareProjects(const ProjectSide& a, const ProjectSide& b)

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QJsonObject>
-#include <QString>
+#include "orvantools/placedtext.h"
 
 #include <vector>
 
@@ -30,18 +29,12 @@ enum class DifferenceKind
 
 QString DifferenceKindName(DifferenceKind kind); ///< "project", "sender-added" …
 
-/// One difference. Numbers count from 1 in the second project, in the first for what was removed; 0 means
-/// that it does not apply.
-struct Difference
+/// Its numbers are those of the second project, of the first for what was removed.
+struct Difference : PlacedText
 {
     DifferenceKind kind = DifferenceKind::Project;
-    int sender = 0;
-    int port = 0;
-    int cabinet = 0; ///< place in the order of the port's cabinets
-    QString text;
 
-    QString Line() const; ///< "sender 1 port 2 cabinet 3: …", fit for a terminal
-    QJsonObject Json() const;
+    QJsonObject Json() const { return JsonOfKind(DifferenceKindName(kind)); }
 };
 
 /// A project with the monitoring settings that were read with it. They belong to the process, so whoever

@@ -1,10 +1,10 @@
-#include "orvantools/placeline.h"
+#include "orvantools/placedtext.h"
 
 #include "orvantools/printable.h"
 
 namespace OrvanTools {
 
-QString PlaceLine(int sender, int port, int cabinet, const QString& text)
+QString PlacedText::Line() const
 {
     QString line;
     const auto place = [&line](const char* name, int number) {
@@ -18,7 +18,7 @@ QString PlaceLine(int sender, int port, int cabinet, const QString& text)
     return Printable(line.isEmpty() ? text : line + QStringLiteral(": ") + text);
 }
 
-QJsonObject PlaceJson(const QString& kind, int sender, int port, int cabinet, const QString& text)
+QJsonObject PlacedText::JsonOfKind(const QString& kind) const
 {
     return {{QStringLiteral("kind"), kind},
             {QStringLiteral("sender"), sender},
