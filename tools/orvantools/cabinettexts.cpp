@@ -11,7 +11,8 @@ namespace {
 
 constexpr double kMostNumber = 70;
 constexpr double kMostReceiver = 40;
-constexpr double kInset = 0.09; ///< of a number, in parts of the shorter side
+constexpr double kInset = 0.09;      ///< of a number, in parts of the shorter side
+constexpr double kOfReceiver = 0.13; ///< height of the number of a receiving card, in the same parts
 
 double ShorterOf(const QSizeF& size)
 {
@@ -71,36 +72,46 @@ QRectF CabinetTextPlaces::BoxOf(const TextPlace& text, int digits) const
     return box;
 }
 
-TextPlace CabinetTextPlaces::Number(const QSizeF& room, int digits) const
+TextPlace CabinetTextPlaces::Number(double height, double inset, int digits) const
 {
-    const double height = std::min(kMostNumber * m_growth, NumberHeight(room));
     if (height < m_leastText)
         return {};
-    const double inset = ShorterOf(room) * kInset;
     return {QPointF(inset + digits * height * kDigitWidth / 2, inset + height / 2), height};
 }
 
 CabinetTexts CabinetTextPlaces::Place(const PictureCabinet& cabinet, const QSizeF& size) const
 {
+    CabinetTexts texts;
     const int digits = FromOne(cabinet.number).size();
-    CabinetTexts texts{Number(size, digits), {}};
+    double height = std::min(kMostNumber * m_growth, NumberHeight(size));
+    const double inset = ShorterOf(size) * kInset;
+    texts.number = Number(height, inset, digits);
     if (cabinet.receivers.empty())
         return texts;
-    const QRectF number = BoxOf(texts.number, digits);
     const QRectF& first = FirstPart(cabinet.receivers);
-    bool isNumberFree = true;
     for (const QRectF& part : cabinet.receivers) {
-        const double height =
-            std::min({kMostReceiver * m_growth, ShorterOf(size) * 0.16, ReceiverHeight(SizeOf(part, size))});
+        const double wanted = std::min(
+            {kMostReceiver * m_growth, ShorterOf(size) * kOfReceiver, ReceiverHeight(SizeOf(part, size))});
         const QPointF middle = ReceiverPlace(part, &part == &first);
-        const TextPlace place{QPointF(middle.x() * size.width(), middle.y() * size.height()),
-                              height < m_leastText ? 0 : height};
-        isNumberFree =
-            isNumberFree && (place.height == 0 || !BoxOf(place, m_receiverDigits).intersects(number));
-        texts.receivers.push_back(place);
+        texts.receivers.push_back({QPointF(middle.x() * size.width(), middle.y() * size.height()),
+                                   wanted < m_leastText ? 0 : wanted});
     }
-    if (!isNumberFree)
-        texts.number = Number(SizeOf(first, size), digits);
+    // The number gets smaller until it is beside those of the cards, at last so small that it fits on its
+    // card.
+    const auto isFree = [&] {
+        const QRectF number = BoxOf(texts.number, digits);
+        return std::none_of(texts.receivers.begin(), texts.receivers.end(), [&](const TextPlace& place) {
+            return place.height > 0 && BoxOf(place, m_receiverDigits).intersects(number);
+        });
+    };
+    const QSizeF card = SizeOf(first, size);
+    const double least = std::max(m_leastText, NumberHeight(card));
+    while (!isFree() && height > least) {
+        height = std::max(least, height * 0.9);
+        texts.number = Number(height, inset, digits);
+    }
+    if (!isFree())
+        texts.number = Number(std::min(height, NumberHeight(card)), ShorterOf(card) * kInset, digits);
     return texts;
 }
 
@@ -109,7 +120,7 @@ double CabinetTextPlaces::ReadableScale(const PictureCabinet& cabinet, const QSi
     const std::vector<QRectF>& parts = cabinet.receivers;
     double least = NumberHeight(parts.empty() ? size : SizeOf(FirstPart(parts), size));
     if (!parts.empty())
-        least = std::min(least, ShorterOf(size) * 0.16);
+        least = std::min(least, ShorterOf(size) * kOfReceiver);
     for (const QRectF& part : parts)
         least = std::min(least, ReceiverHeight(SizeOf(part, size)));
     return least > 0 ? m_leastText * (1 + 1e-9) / least : 0;

@@ -45,7 +45,7 @@ private:
     double NumberHeight(const QSizeF& room) const;
     double ReceiverHeight(const QSizeF& card) const;
     QRectF BoxOf(const TextPlace& text, int digits) const;
-    TextPlace Number(const QSizeF& room, int digits) const; ///< `digits` of this number
+    TextPlace Number(double height, double inset, int digits) const; ///< `digits` of this number
 
     double m_leastText;
     double m_growth;

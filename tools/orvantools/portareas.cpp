@@ -13,7 +13,7 @@ namespace {
 
 constexpr short kBare = -1;
 constexpr short kSeveral = -2;
-constexpr double kMostCells = 600000;
+constexpr double kMostCells = 1200000;
 constexpr double kTouch = 0.01; ///< neighbours that share an edge do not share cells behind it
 
 } // namespace

@@ -19,7 +19,7 @@ constexpr double kUsualWidth = 4000;       ///< of a drawing whose lines need no
 constexpr double kMostBeside = 0.12;       ///< of the height, for what stands beside the wall
 constexpr double kSmallSide = 50;          ///< of a cabinet whose arrows and groups are bare of white edges
 constexpr double kLeastGrouped = 16;       ///< width of a port, in steps from one group's line to the next
-constexpr double kLeastOutlined = 8;       ///< side of cabinets that are drawn each
+constexpr double kLeastOutlined = 17;      ///< side of cabinets that are drawn each
 constexpr double kLeastOutlinedPixels = 8; ///< the same on a screen
 
 /// The part of the canvas to show: all of it when the wall fills much of it, else only the wall.
@@ -392,7 +392,8 @@ void WallPainter::PaintGroups(const Part& part)
     if (port.groups.empty())
         return;
     // From the outer group inwards, so that none hides another.
-    const double step = Limited(part.side * 0.05, 4, 10 * m_growth);
+    const bool hasEdges = part.side >= kSmallSide;
+    const double step = hasEdges ? Limited(part.side * 0.05, 8, 10 * m_growth) : 4;
     const double border = BorderWidth(part) * 1.3;
     if (std::min(part.bound.width(), part.bound.height()) * m_scale < kLeastGrouped * step)
         return;
@@ -409,7 +410,7 @@ void WallPainter::PaintGroups(const Part& part)
         }
     }
     m_painter.setBrush(Qt::NoBrush);
-    if (part.side >= kSmallSide) {
+    if (hasEdges) {
         m_painter.setPen(QPen(Qt::white, 5, Qt::SolidLine, Qt::SquareCap));
         DrawLines(lines);
     }

@@ -112,7 +112,8 @@ private:
     void PaintTags(Part& part);      ///< numbers where the chain begins, ends and turns
     void PaintInnerTags(Part& part); ///< the others
     void PaintBackups(const Part& part);
-    bool PaintTag(const Part& part, const Label& label, const QColor& ground); ///< where it is free
+    /// Where it is free; `isInside`: of other ports' cabinets in any case.
+    bool PaintTag(const Part& part, const Label& label, const QColor& ground, bool isInside = false);
     /// On the cabinet, or close to it beside the wall.
     bool PaintNumberTag(const Part& part, const TileShape& shape, const Label& label);
     QRectF TagBox(const Label& label);

@@ -330,10 +330,10 @@ QRectF WallPainter::TagBox(const Label& label)
     return TurnedBox(label.place, QSizeF(width + label.height * 0.4, label.height * 1.2), label.angle);
 }
 
-bool WallPainter::PaintTag(const Part& part, const Label& label, const QColor& ground)
+bool WallPainter::PaintTag(const Part& part, const Label& label, const QColor& ground, bool isInside)
 {
     const QRectF box = TagBox(label);
-    if (!IsFree(part.port->index, box) || !m_labels.Take(box))
+    if (!(isInside ? m_around.contains(box) : IsFree(part.port->index, box)) || !m_labels.Take(box))
         return false;
     m_painter.save();
     m_painter.translate(label.place);
@@ -365,7 +365,8 @@ bool WallPainter::PaintNumberTag(const Part& part, const TileShape& shape, const
         const bool isOn = part.isSmall ? Areas().IsOwn(part.port->index, place)
                                        : cabinet.containsPoint(moved.place, Qt::OddEvenFill);
         const QColor ground = isOn && !label.isEnd ? FillOf(*part.port) : QColor(Qt::white);
-        return (isOn || Areas().IsBare(place)) && PaintTag(part, moved, ground);
+        const bool isInside = !shape.IsTurned() && Map(shape.Bound()).contains(place);
+        return (isOn || Areas().IsBare(place)) && PaintTag(part, moved, ground, isInside);
     });
 }
 
