@@ -89,11 +89,49 @@ TEST_F(WallPictureTest, BackupsAreNamedAtBothEnds)
     ASSERT_EQ(picture.ports.size(), 2U); // a backup is shown though it has no cabinets
     EXPECT_EQ(picture.ports[0].backups,
               (QStringList{QStringLiteral("port 2"), QStringLiteral("门厅 port 3")}));
+    EXPECT_EQ(picture.ports[0].note, QStringLiteral("backup: port 2, 门厅 port 3"));
     EXPECT_EQ(picture.ports[1].note, QStringLiteral("backup of port 1"));
     const WallPicture second = MakeWallPicture(Project(), 1);
     ASSERT_EQ(second.ports.size(), 2U);
     EXPECT_EQ(second.ports[0].note, QStringLiteral("backup of Processor 1 port 1"));
+    EXPECT_EQ(second.ports[0].cabinets.size(), 1U); // those of its source, since it has no others
+    EXPECT_TRUE(second.ports[0].load.isEmpty());
+    EXPECT_EQ(second.bound, picture.bound);
     EXPECT_TRUE(second.ports[1].note.contains(QStringLiteral("1.2.3.4")));
+}
+
+TEST_F(WallPictureTest, TheRearIsMirroredAndAPortCanBeAlone)
+{
+    Build(QSize(4, 2), 2).SetCanvasSize(QSize(600, 300));
+    Tile(0, 0).SetBeMultiRcvsTile(true);
+    Tile(0, 0).SetMultiRcvsSize(QSize(4, 1));
+    Turn(1, 30);
+    const WallPicture front = MakeWallPicture(Project(), 0);
+    PictureOptions options;
+    options.rear = true;
+    options.capacity.framesPerSecond = 120;
+    const WallPicture rear = MakeWallPicture(Project(), 0, options);
+    EXPECT_EQ(rear.canvas, QRectF(-600, 0, 600, 300));
+    for (size_t p = 0; p < 2; ++p) {
+        for (size_t i = 0; i < 4; ++i) {
+            const TileShape& seen = front.ports[p].shapes[i];
+            const TileShape& behind = rear.ports[p].shapes[i];
+            EXPECT_EQ(behind.angle, -seen.angle);
+            EXPECT_EQ(behind.Center(), QPointF(-seen.Center().x(), seen.Center().y()));
+            EXPECT_EQ(behind.corners[0], QPointF(-seen.corners[1].x(), seen.corners[1].y()));
+            EXPECT_EQ(behind.corners[2], QPointF(-seen.corners[3].x(), seen.corners[3].y()));
+        }
+    }
+    EXPECT_DOUBLE_EQ(rear.ports[0].cabinets[0].receivers[0].right(), 1); // the first card is at the right now
+    EXPECT_EQ(rear.ports[0].groups[0].lines.front().line.x1(),
+              -front.ports[0].groups[0].lines.front().line.x1());
+    EXPECT_EQ(rear.ports[0].load, QStringLiteral("20 %")); // of 655360 pixels at 60 frames
+
+    options.port = 1;
+    const WallPicture alone = MakeWallPicture(Project(), 0, options);
+    ASSERT_EQ(alone.ports.size(), 1U);
+    EXPECT_EQ(alone.ports[0].index, 1);
+    EXPECT_EQ(alone.view, QStringLiteral("port 2  ·  rear view"));
 }
 
 TEST_F(WallPictureTest, ReceivingCardsLieInTheirCabinet)

@@ -46,6 +46,12 @@ TEST(RenderCommandTest, TheSenderAskedForIsDrawn)
     };
     EXPECT_TRUE(shows({}, "Hall left")); // the current one
     EXPECT_TRUE(shows(Args({"--sender", "2"}), "Processor 2"));
+    EXPECT_TRUE(shows({}, "<title>示例屏幕 &lt;1&gt; &amp; &quot;2&quot;</title>"));
+    EXPECT_FALSE(shows({}, "rear view"));
+    EXPECT_TRUE(shows(Args({"--rear", "--port", "2"}), "port 2  ·  rear view"));
+    EXPECT_FALSE(shows(Args({"--port", "2"}), "Port 1"));
+    EXPECT_TRUE(shows({}, "25 %"));
+    EXPECT_TRUE(shows(Args({"--fps", "120"}), "50 %"));
 }
 
 TEST(RenderCommandTest, AFailedDrawingLeavesWhatIsThere)
@@ -56,6 +62,8 @@ TEST(RenderCommandTest, AFailedDrawingLeavesWhatIsThere)
     EXPECT_EQ(RunOrvan({Arg("render"), broken, output}).status, 3);
     EXPECT_EQ(Render(output, Args({"--sender", "3"})).status, 2);
     EXPECT_EQ(Render(output, Args({"--sender", "0"})).status, 2);
+    EXPECT_EQ(Render(output, Args({"--port", "0"})).status, 2);
+    EXPECT_TRUE(Render(output, Args({"--port", "5"})).errors.endsWith(Arg("has no port 5\n")));
     EXPECT_EQ(Render(output, Args({"--width", "1"})).status, 2);
     EXPECT_EQ(Render(output, Args({"--width", "1000000"})).status, 2);
     EXPECT_EQ(ReadFile(output), QByteArray("precious"));

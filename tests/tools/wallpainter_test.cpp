@@ -1,6 +1,7 @@
 #include "tools/textrecorder.h"
 #include "tools/toolsproject.h"
 
+#include <orvantools/cabinettexts.h>
 #include <orvantools/labelplacer.h>
 #include <orvantools/layoutdrawing.h>
 #include <orvantools/samplewall.h>
@@ -114,7 +115,11 @@ TEST_F(WallPainterTest, AtTheReadableScaleEveryNumberIsWritten)
     }
     for (const bool rear : {false, true}) {
         const WallPicture picture = MakeWallPicture(Project(), 0, {-1, rear, {}});
-        const double scale = CabinetTextPlaces(picture.ports[0], 16).ReadableScale(picture.ports[0]);
+        const PicturePort& port = picture.ports[0];
+        const CabinetTextPlaces places(port, 16);
+        double scale = 0;
+        for (size_t i = 0; i < port.cabinets.size(); ++i)
+            scale = std::max(scale, places.ReadableScale(port.cabinets[i], port.shapes[i].Size()));
         const QRectF page(0, 0, scale * 640 + 60, scale * 128 + 60);
         for (int part = 0; part < 3; ++part) { // five cabinets a page
             const QRectF shown(picture.bound.left() + part * 512, 0, 640, 128);

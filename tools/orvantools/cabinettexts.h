@@ -12,8 +12,6 @@ namespace OrvanTools {
 struct PictureCabinet;
 struct PicturePort;
 
-constexpr double kDigitWidth = 0.64; ///< of a text's height, the widest of usual fonts
-
 /// A text in a cabinet.
 struct TextPlace
 {

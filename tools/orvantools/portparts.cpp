@@ -1,8 +1,8 @@
 #include "orvantools/portparts.h"
 
 #include "orvantools/cabinettexts.h"
-#include "orvantools/wallpainter.h"
 #include "orvantools/wallpaintertools.h"
+#include "orvantools/wallview.h"
 
 #include <algorithm>
 #include <set>
@@ -187,7 +187,7 @@ void Enlarge(PanelPage& page, const QSizeF& body)
 
 std::vector<PanelPage> LayOutPort(const PicturePort& port, const QSizeF& body, double leastText)
 {
-    const QSizeF frame(2 * WallPainter::kMargin, 2 * WallPainter::kMargin + kCaptionHeight);
+    const QSizeF frame(2 * WallView::kMargin, 2 * WallView::kMargin + kCaptionHeight);
     std::vector<PortPart> parts = SplitPort(port, (body - frame) / (1 + 2 * kAroundPart), leastText);
     const bool isWhole = parts.size() == 1;
     PanelRows rows(body);

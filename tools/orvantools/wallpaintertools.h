@@ -2,10 +2,14 @@
 
 #include "orvantools/wallpicture.h"
 
+#include <QSizeF>
+
 #include <algorithm>
 #include <cmath>
 
 namespace OrvanTools {
+
+constexpr double kDigitWidth = 0.64; ///< of a text's height, the widest of usual fonts
 
 inline double Limited(double value, double least, double most)
 {
@@ -29,6 +33,12 @@ inline QColor FillOf(const PicturePort& port)
     const auto mix = [](int channel) { return (channel + 3 * 255) / 4; };
     const QColor lighter(mix(port.color.red()), mix(port.color.green()), mix(port.color.blue()));
     return port.hidden ? lighter : port.color;
+}
+
+/// Of the mark where a chain starts, with the port's number in it.
+inline QSizeF StartSize(const QString& text, double textHeight)
+{
+    return QSizeF(std::max(1.5, text.size() * kDigitWidth + 0.75) * textHeight, 1.5 * textHeight);
 }
 
 /// Shows a number that counts from 0. A file may hold any number.

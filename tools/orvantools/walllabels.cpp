@@ -1,5 +1,6 @@
-// Everything written on the wall: numbers, ends of chains, backups.
-#include "orvantools/wallpainter.h"
+#include "orvantools/walllabels.h"
+
+#include "orvantools/cabinettexts.h"
 #include "orvantools/wallpaintertools.h"
 
 #include <QCoreApplication>
@@ -38,7 +39,31 @@ double Upright(double angle)
 
 } // namespace
 
-const QFont& WallPainter::Font(double height)
+WallLabels::WallLabels(QPainter& painter, const WallView& view)
+    : m_painter(painter), m_view(view), m_leastText(view.GetLeastText()), m_labels(100)
+{}
+
+Omissions WallLabels::Paint()
+{
+    const std::vector<WallPart>& parts = m_view.GetParts();
+    for (const WallPart& part : parts)
+        PaintTexts(part);
+    PaintStarts();
+    // What may be left out comes last, the most useful first.
+    for (const WallPart& part : parts)
+        PaintPortNumber(part);
+    for (const WallPart& part : parts)
+        PaintEnd(part);
+    for (const WallPart& part : parts)
+        PaintTags(part);
+    for (const WallPart& part : parts)
+        PaintInnerTags(part);
+    for (const WallPart& part : parts)
+        PaintBackups(part);
+    return m_omitted;
+}
+
+const QFont& WallLabels::Font(double height)
 {
     const int pixels = std::max(1, static_cast<int>(height));
     auto font = m_fonts.find(pixels);
@@ -49,71 +74,67 @@ const QFont& WallPainter::Font(double height)
     return *font;
 }
 
-PortAreas& WallPainter::Areas()
+PortAreas& WallLabels::Areas()
 {
     if (!m_areas) {
-        m_areas = std::make_unique<PortAreas>(m_around, m_leastText / 8);
-        for (const Part& part : m_parts)
-            m_areas->Add(part.port->index, part.port->shapes, m_scale, m_origin);
+        m_areas = std::make_unique<PortAreas>(m_view.GetArea(), m_leastText / 8);
+        for (const WallPart& part : m_view.GetParts())
+            m_areas->Add(part.port->index, part.port->shapes, m_view.GetScale(), m_view.GetOrigin());
     }
     return *m_areas;
 }
 
-bool WallPainter::IsFree(int port, const QRectF& box)
+bool WallLabels::IsFree(int port, const QRectF& box)
 {
-    return m_around.contains(box) && (m_parts.size() == 1 || Areas().IsFree(port, box));
+    return m_view.GetArea().contains(box) && (m_view.GetParts().size() == 1 || Areas().IsFree(port, box));
 }
 
-void WallPainter::PaintTexts(Part& part)
+void WallLabels::PaintTexts(const WallPart& part)
 {
     const PicturePort& port = *part.port;
     const QColor color = TextOn(FillOf(port));
-    const CabinetTextPlaces places(port, m_leastText, m_growth);
-    part.isWritten.assign(port.cabinets.size(), false);
+    const CabinetTextPlaces places(port, m_leastText, m_view.GetGrowth());
+    std::vector<bool>& isWritten = m_written[&part];
+    isWritten.assign(port.cabinets.size(), false);
     for (const int at : part.cabinets) {
-        const TileShape& shape = port.shapes[static_cast<size_t>(at)];
+        const TileShape& shape = part.ShapeOf(at);
         const PictureCabinet& cabinet = port.cabinets[static_cast<size_t>(at)];
-        const CabinetTexts texts = places.Place(cabinet, shape.Size() * m_scale);
+        const CabinetTexts texts = places.Place(cabinet, shape.Size() * m_view.GetScale());
         QTransform turn;
         turn.rotate(shape.angle);
         const auto paint = [&](const TextPlace& place, const QString& text) {
-            const QPointF middle = Map(shape.corners[0]) + turn.map(place.middle);
+            const QPointF middle = m_view.Map(shape.corners[0]) + turn.map(place.middle);
             return place.height > 0 && PaintText({middle, text, place.height, Upright(shape.angle)}, color);
         };
         if (cabinet.number >= 0)
-            part.isWritten[static_cast<size_t>(at)] = paint(texts.number, FromOne(cabinet.number));
+            isWritten[static_cast<size_t>(at)] = paint(texts.number, FromOne(cabinet.number));
         for (size_t i = 0; cabinet.firstReceiver >= 0 && i < texts.receivers.size(); ++i) {
             if (!paint(texts.receivers[i], FromOne(cabinet.firstReceiver + static_cast<qint64>(i))))
-                m_omitted.receivers += IsShown(shape) ? 1 : 0;
+                m_omitted.receivers += m_view.IsShown(shape) ? 1 : 0;
         }
     }
 }
 
-bool WallPainter::PaintText(const Label& label, const QColor& color)
+bool WallLabels::PaintText(const Label& label, const QColor& color)
 {
     const double width = QFontMetricsF(Font(label.height)).horizontalAdvance(label.text);
     const QRectF box = TurnedBox(label.place, QSizeF(width, label.height), label.angle);
-    if (!m_around.contains(box) || !m_labels.Take(box))
+    if (!m_view.GetArea().contains(box) || !m_labels.Take(box))
         return false;
     PaintInside(label, color);
     return true;
 }
 
-QSizeF WallPainter::StartSize(const QString& text, double height) const
-{
-    return QSizeF(std::max(1.5, text.size() * kDigitWidth + 0.75) * height, 1.5 * height);
-}
-
-std::optional<QPointF> WallPainter::PlaceOnCabinet(const Part& part, const TileShape& shape,
-                                                   const QSizeF& size)
+std::optional<QPointF> WallLabels::PlaceOnCabinet(const WallPart& part, const TileShape& shape,
+                                                  const QSizeF& size)
 {
     constexpr double aside[][2] = {{0, 0}, {1, 1},  {-1, 1}, {1, -1}, {0, 1},
                                    {1, 0}, {-1, 0}, {0, -1}, {-1, -1}};
-    const QRectF cabinet = Map(shape.Bound());
+    const QRectF cabinet = m_view.Map(shape.Bound());
     QRectF box(QPointF(), size);
     for (const double distance : {0.2, 0.4, 0.65, 1.0}) {
         for (const auto& way : aside) {
-            box.moveCenter(Map(shape.Center())
+            box.moveCenter(m_view.Map(shape.Center())
                            + QPointF(way[0] * size.width(), way[1] * size.height()) * distance);
             if (box.intersects(cabinet) && IsFree(part.port->index, box) && m_labels.Take(box))
                 return box.center();
@@ -123,25 +144,26 @@ std::optional<QPointF> WallPainter::PlaceOnCabinet(const Part& part, const TileS
 }
 
 /// Straight out of the wall, as long as the way is over cabinets of the port.
-std::optional<QPointF> WallPainter::PlaceBeside(const Part& part, const QPointF& middle, const QSizeF& size)
+std::optional<QPointF> WallLabels::PlaceBeside(const WallPart& part, const QPointF& middle,
+                                               const QSizeF& size)
 {
     constexpr double ways[][2] = {{0, -1}, {0, 1}, {-1, 0}, {1, 0}};
     QRectF box(QPointF(), size);
     for (const auto& unit : ways) {
         const QPointF way = QPointF(unit[0] * size.width(), unit[1] * size.height()) * 0.5;
         const QPointF across = QPointF(unit[1], unit[0]) * m_leastText * 0.06; // half of the leader's width
-        for (QPointF place = middle; m_around.contains(place); place += way) {
+        for (QPointF place = middle; m_view.GetArea().contains(place); place += way) {
             box.moveCenter(place);
             if (!Areas().IsFree(part.port->index, QRectF(place - across, place + way + across).normalized()))
                 break;
-            if (Areas().IsBare(box) && m_around.contains(box) && m_labels.Take(box))
+            if (Areas().IsBare(box) && m_view.GetArea().contains(box) && m_labels.Take(box))
                 return place;
         }
     }
     return {};
 }
 
-void WallPainter::PaintLeader(const QPointF& from, const QPointF& to)
+void WallLabels::PaintLeader(const QPointF& from, const QPointF& to)
 {
     m_painter.setPen(QPen(Qt::white, m_leastText * 0.25));
     m_painter.drawLine(from, to);
@@ -149,18 +171,18 @@ void WallPainter::PaintLeader(const QPointF& from, const QPointF& to)
     m_painter.drawLine(from, to);
 }
 
-void WallPainter::PaintStarts()
+void WallLabels::PaintStarts()
 {
     std::vector<Start> starts;
-    for (const Part& part : m_parts) {
+    for (const WallPart& part : m_view.GetParts()) {
         const PicturePort& port = *part.port;
-        if (port.chain.empty() || !port.chainBegins
-            || !IsShown(port.shapes[static_cast<size_t>(port.chain.front())]))
+        if (port.chain.empty() || !port.chainBegins || !m_view.IsShown(part.ShapeOf(port.chain.front())))
             continue;
-        const TileShape& shape = port.shapes[static_cast<size_t>(port.chain.front())];
-        const double height = Limited(SideOf(shape) * 0.176, m_leastText, kMostMark * m_growth);
+        const TileShape& shape = part.ShapeOf(port.chain.front());
+        const double height =
+            Limited(m_view.SideOf(shape) * 0.176, m_leastText, kMostMark * m_view.GetGrowth());
         const QSizeF size = StartSize(FromOne(port.index), height) * 1.05;
-        const QPointF middle = Map(shape.Center());
+        const QPointF middle = m_view.Map(shape.Center());
         auto place = PlaceOnCabinet(part, shape, size);
         if (!place)
             place = PlaceBeside(part, middle, size);
@@ -182,22 +204,24 @@ void WallPainter::PaintStarts()
 }
 
 /// A frame around the number when that is not beside the chain, else a mark of its own.
-void WallPainter::PaintEnd(Part& part)
+void WallLabels::PaintEnd(const WallPart& part)
 {
     const PicturePort& port = *part.port;
+    std::vector<bool>& isWritten = m_written[&part];
     if (port.chain.size() < 2 || !port.chainEnds)
         return;
     const auto last = static_cast<size_t>(port.chain.back());
     const TileShape& shape = port.shapes[last];
-    if (!IsShown(shape))
+    if (!m_view.IsShown(shape))
         return;
-    if (!part.isWritten[last]) {
-        part.isWritten[last] = PaintNumberTag(
-            part, shape, {Map(shape.Center()), FromOne(port.cabinets[last].number), m_leastText, 0, true});
-        if (part.isWritten[last])
+    if (!isWritten[last]) {
+        isWritten[last] = PaintNumberTag(
+            part, shape,
+            {m_view.Map(shape.Center()), FromOne(port.cabinets[last].number), m_leastText, 0, true});
+        if (isWritten[last])
             return;
     }
-    double side = Limited(SideOf(shape) * 0.19, m_leastText * 0.8, kMostMark * m_growth);
+    double side = Limited(m_view.SideOf(shape) * 0.19, m_leastText * 0.8, kMostMark * m_view.GetGrowth());
     auto place = PlaceOnCabinet(part, shape, QSizeF(side, side) * 1.2);
     if (!place) {
         side /= 2;
@@ -213,35 +237,35 @@ void WallPainter::PaintEnd(Part& part)
     m_painter.drawRect(QRectF(*place - half, *place + half));
 }
 
-void WallPainter::PaintPortNumber(const Part& part)
+void WallLabels::PaintPortNumber(const WallPart& part)
 {
     if (!part.isSmall)
         return;
     const PicturePort& port = *part.port;
     const QString text = FromOne(port.index);
-    const QSizeF size = part.bound.size() * m_scale;
-    const double height = std::min(
-        {kMostPortNumber * m_growth, size.height() * 0.5, size.width() * 0.7 / (text.size() * kDigitWidth)});
+    const QSizeF size = part.bound.size() * m_view.GetScale();
+    const double height = std::min({kMostPortNumber * m_view.GetGrowth(), size.height() * 0.5,
+                                    size.width() * 0.7 / (text.size() * kDigitWidth)});
     if (height < m_leastText)
         return;
     for (const QPointF& middle :
          {part.bound.center(),
           port.shapes[static_cast<size_t>(part.cabinets[part.cabinets.size() / 2])].Center()}) {
-        const Label label{Map(middle), text, height, 0};
+        const Label label{m_view.Map(middle), text, height, 0};
         if (Areas().IsOwn(port.index, TagBox(label)) && PaintTag(part, label, FillOf(port)))
             return;
     }
 }
 
 /// The way of the chain to a place in it; none to the first.
-QPointF WallPainter::WayTo(const PicturePort& port, size_t at) const
+QPointF WallLabels::WayTo(const PicturePort& port, size_t at) const
 {
     const auto middle = [&](size_t i) { return port.shapes[static_cast<size_t>(port.chain[i])].Center(); };
-    return at == 0 || at >= port.chain.size() ? QPointF() : (middle(at) - middle(at - 1)) * m_scale;
+    return at == 0 || at >= port.chain.size() ? QPointF() : (middle(at) - middle(at - 1)) * m_view.GetScale();
 }
 
 /// Where the chain begins, ends and turns, but not where it does so all the time.
-std::vector<size_t> WallPainter::Turns(const Part& part) const
+std::vector<size_t> WallLabels::Turns(const WallPart& part) const
 {
     const PicturePort& port = *part.port;
     std::vector<size_t> turns;
@@ -269,35 +293,37 @@ std::vector<size_t> WallPainter::Turns(const Part& part) const
 }
 
 /// Smaller cabinets have numbers first of all where the chain begins, ends and turns.
-void WallPainter::PaintTags(Part& part)
+void WallLabels::PaintTags(const WallPart& part)
 {
     const PicturePort& port = *part.port;
+    std::vector<bool>& isWritten = m_written[&part];
     for (const size_t at : Turns(part)) {
         const auto place = static_cast<size_t>(port.chain[at]);
         const TileShape& shape = port.shapes[place];
-        if (part.isWritten[place] || !IsShown(shape))
+        if (isWritten[place] || !m_view.IsShown(shape))
             continue;
         if (at == 0 && port.cabinets[place].number == 0) {
-            part.isWritten[place] = true; // the mark of the start says it
+            isWritten[place] = true; // the mark of the start says it
             continue;
         }
-        const Label label{Map(shape.Center()), FromOne(port.cabinets[place].number), m_leastText, 0};
-        part.isWritten[place] = PaintNumberTag(part, shape, label);
+        const Label label{m_view.Map(shape.Center()), FromOne(port.cabinets[place].number), m_leastText, 0};
+        isWritten[place] = PaintNumberTag(part, shape, label);
     }
 }
 
 /// Where a number does not fit beside the chain, it may do so on it.
-void WallPainter::PaintInnerTags(Part& part)
+void WallLabels::PaintInnerTags(const WallPart& part)
 {
     const PicturePort& port = *part.port;
+    std::vector<bool>& isWritten = m_written[&part];
     for (const int at : part.chain) {
         const auto place = static_cast<size_t>(port.chain[static_cast<size_t>(at)]);
         const TileShape& shape = port.shapes[place];
-        if (part.isWritten[place] || !IsShown(shape))
+        if (isWritten[place] || !m_view.IsShown(shape))
             continue;
-        const Label label{Map(shape.Center()), FromOne(port.cabinets[place].number), m_leastText,
+        const Label label{m_view.Map(shape.Center()), FromOne(port.cabinets[place].number), m_leastText,
                           Upright(shape.angle)};
-        const QSizeF room = shape.Size() * m_scale;
+        const QSizeF room = shape.Size() * m_view.GetScale();
         const QSizeF needed = TagBox({QPointF(), label.text, label.height, 0}).size();
         const bool fits =
             needed.width() < room.width() * kWidest && needed.height() < room.height() * kHighest;
@@ -306,7 +332,7 @@ void WallPainter::PaintInnerTags(Part& part)
     }
 }
 
-void WallPainter::PaintInside(const Label& label, const QColor& color)
+void WallLabels::PaintInside(const Label& label, const QColor& color)
 {
     const QFont& font = Font(label.height);
     const QFontMetricsF metrics(font);
@@ -324,16 +350,16 @@ void WallPainter::PaintInside(const Label& label, const QColor& color)
     m_painter.restore();
 }
 
-QRectF WallPainter::TagBox(const Label& label)
+QRectF WallLabels::TagBox(const Label& label)
 {
     const double width = QFontMetricsF(Font(label.height)).horizontalAdvance(label.text);
     return TurnedBox(label.place, QSizeF(width + label.height * 0.4, label.height * 1.2), label.angle);
 }
 
-bool WallPainter::PaintTag(const Part& part, const Label& label, const QColor& ground, bool isInside)
+bool WallLabels::PaintTag(const WallPart& part, const Label& label, const QColor& ground, bool isInside)
 {
     const QRectF box = TagBox(label);
-    if (!(isInside ? m_around.contains(box) : IsFree(part.port->index, box)) || !m_labels.Take(box))
+    if (!(isInside ? m_view.GetArea().contains(box) : IsFree(part.port->index, box)) || !m_labels.Take(box))
         return false;
     m_painter.save();
     m_painter.translate(label.place);
@@ -348,13 +374,13 @@ bool WallPainter::PaintTag(const Part& part, const Label& label, const QColor& g
     return true;
 }
 
-bool WallPainter::PaintNumberTag(const Part& part, const TileShape& shape, const Label& label)
+bool WallLabels::PaintNumberTag(const WallPart& part, const TileShape& shape, const Label& label)
 {
-    const QPolygonF cabinet = Map(shape.Polygon());
+    const QPolygonF cabinet = m_view.Map(shape.Polygon());
     const QSizeF box = TagBox({QPointF(), label.text, label.height, 0}).size();
     const double down = (label.height + box.height()) * 0.5;
     const double across = (label.height + box.width()) * 0.5;
-    const double beyond = std::max(0.0, box.width() - shape.Bound().width() * m_scale) * 0.5;
+    const double beyond = std::max(0.0, box.width() - shape.Bound().width() * m_view.GetScale()) * 0.5;
     const QPointF ways[] = {{0, 0},    {beyond, 0}, {-beyond, 0}, {0, -down},
                             {0, down}, {across, 0}, {-across, 0}};
     return std::any_of(std::begin(ways), std::end(ways), [&](const QPointF& way) {
@@ -365,12 +391,12 @@ bool WallPainter::PaintNumberTag(const Part& part, const TileShape& shape, const
         const bool isOn = part.isSmall ? Areas().IsOwn(part.port->index, place)
                                        : cabinet.containsPoint(moved.place, Qt::OddEvenFill);
         const QColor ground = isOn && !label.isEnd ? FillOf(*part.port) : QColor(Qt::white);
-        const bool isInside = !shape.IsTurned() && Map(shape.Bound()).contains(place);
+        const bool isInside = !shape.IsTurned() && m_view.Map(shape.Bound()).contains(place);
         return (isOn || Areas().IsBare(place)) && PaintTag(part, moved, ground, isInside);
     });
 }
 
-void WallPainter::PaintBackups(const Part& part)
+void WallLabels::PaintBackups(const WallPart& part)
 {
     const PicturePort& port = *part.port;
     QStringList texts = port.backups;
@@ -380,16 +406,16 @@ void WallPainter::PaintBackups(const Part& part)
         texts.append(port.backupOf);
     if (port.chain.empty() || texts.isEmpty())
         return;
-    const TileShape& shape = port.shapes[static_cast<size_t>(port.chain.back())];
-    if (!IsShown(shape))
+    const TileShape& shape = part.ShapeOf(port.chain.back());
+    if (!m_view.IsShown(shape))
         return;
-    const double radius = Limited(part.side * 0.16, m_leastText, kMostMark * m_growth);
-    Label label{Map(shape.Center()), texts.join(QStringLiteral(", ")),
-                Limited(radius * 0.8, m_leastText, kMostBackup * m_growth), 0};
+    const double radius = Limited(part.side * 0.16, m_leastText, kMostMark * m_view.GetGrowth());
+    Label label{m_view.Map(shape.Center()), texts.join(QStringLiteral(", ")),
+                Limited(radius * 0.8, m_leastText, kMostBackup * m_view.GetGrowth()), 0};
     const QSizeF box = TagBox(label).size();
     const double down = radius + box.height() * 0.5;
     const double across = radius + box.width() * 0.5;
-    const double beyond = std::max(0.0, box.width() - shape.Bound().width() * m_scale) * 0.5;
+    const double beyond = std::max(0.0, box.width() - shape.Bound().width() * m_view.GetScale()) * 0.5;
     const QPointF ways[] = {{0, down},       {0, -down},       {beyond, down}, {-beyond, down},
                             {beyond, -down}, {-beyond, -down}, {across, 0},    {-across, 0}};
     const QPointF middle = label.place;
