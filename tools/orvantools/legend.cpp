@@ -36,9 +36,9 @@ QString OmissionText(const Omissions& omissions, size_t hiddenPorts)
         if (count > 0)
             parts.append(Tr(what).arg(count));
     };
-    add(omissions.numbers, "the numbers of %1 cabinets");
-    add(omissions.receivers, "the numbers of %1 receiving cards");
-    add(omissions.marks, "%1 starts or ends of chains");
+    add(omissions.numbers, "numbers of cabinets (%1)");
+    add(omissions.receivers, "numbers of receiving cards (%1)");
+    add(omissions.marks, "starts or ends of chains (%1)");
     QString text;
     if (hiddenPorts > 0)
         text = Tr("and %1 more ports, see the sheets").arg(hiddenPorts) + QStringLiteral("   ");

@@ -97,18 +97,28 @@ Omissions WallPainter::Paint()
     return omitted;
 }
 
+/// Cut off at the edge of the drawing here, because an SVG is not clipped.
 void WallPainter::PaintCanvas()
 {
-    if (m_canvas.isEmpty())
-        return;
+    const QRectF& area = m_view.GetArea();
     const QRectF canvas = m_view.Map(m_canvas);
+    const QRectF shown = canvas.intersected(area);
+    if (m_canvas.isEmpty() || shown.isEmpty())
+        return;
     const QColor ground(246, 246, 246);
     if (m_isBare && m_asPixels)
-        FillPixels({m_painter.worldTransform().mapRect(canvas.intersected(m_view.GetArea())).toRect()},
-                   ground);
+        FillPixels({m_painter.worldTransform().mapRect(shown).toRect()}, ground);
+    else if (m_isBare)
+        m_painter.fillRect(shown, ground);
     m_painter.setPen(QPen(QColor(110, 110, 110), 3, Qt::DashDotLine));
-    m_painter.setBrush(m_isBare && !m_asPixels ? ground : QBrush(Qt::NoBrush));
-    m_painter.drawRect(canvas);
+    for (const double y : {canvas.top(), canvas.bottom()}) {
+        if (y >= area.top() && y <= area.bottom())
+            m_painter.drawLine(QPointF(shown.left(), y), QPointF(shown.right(), y));
+    }
+    for (const double x : {canvas.left(), canvas.right()}) {
+        if (x >= area.left() && x <= area.right())
+            m_painter.drawLine(QPointF(x, shown.top()), QPointF(x, shown.bottom()));
+    }
 }
 
 void WallPainter::PaintCabinets(const WallPart& part)

@@ -205,12 +205,15 @@ QRectF CanvasOf(const CSender& sender, bool isRear)
     return canvas;
 }
 
-void AddTexts(WallPicture& picture, const CProjectData& project, int index, const PictureOptions& options)
+void AddTexts(WallPicture& picture, const CProjectData& project, int index, const PictureOptions& options,
+              bool isBackupOnly)
 {
     picture.title = TitleOf(project, index);
     picture.senderName =
         Tr("Sender %1").arg(index + 1) + QStringLiteral(": ") + project.GetShowSenderName(index, true);
     QStringList view;
+    if (isBackupOnly)
+        view.append(Tr("backup"));
     if (options.port >= 0)
         view.append(Tr("port %1").arg(options.port + 1));
     if (options.rear)
@@ -261,7 +264,7 @@ WallPicture MakeWallPicture(const CProjectData& project, int index, const Pictur
         picture.ports.push_back(std::move(made));
     }
     picture.canvas = CanvasOf(*project.GetSender(canvasFrom), options.rear);
-    AddTexts(picture, project, index, options);
+    AddTexts(picture, project, index, options, isBackupOnly);
     return picture;
 }
 

@@ -53,7 +53,7 @@ struct WallPicture
 {
     QString title;
     QString senderName;
-    QString view; ///< "port 3 · rear view"; none when all is seen from the front
+    QString view; ///< "backup · port 3 · rear view", as much as applies
     bool isRear = false;
     QString figures;                ///< canvas, wall, cabinets, receivers, pixels
     QStringList form;               ///< printed fields, "Designer: …"

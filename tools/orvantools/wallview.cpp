@@ -9,7 +9,8 @@ namespace OrvanTools {
 
 namespace {
 
-constexpr double kLeastCover = 0.6;  ///< of the canvas, to show it whole
+constexpr double kLeastCover = 0.6; ///< of the canvas, to show it whole
+constexpr double kTiniest = 0.1;     ///< a text has some height
 constexpr double kUsualWidth = 4000; ///< of a drawing whose lines need not grow
 constexpr double kMostBeside = 0.12; ///< of the height, for what stands beside the wall
 
@@ -28,7 +29,7 @@ QRectF Shown(const WallPicture& picture)
 
 WallView::WallView(const WallPicture& picture, const QRectF& area, double leastText, double leastSide,
                    const QRectF& shown)
-    : m_around(area), m_shown(shown), m_leastText(leastText),
+    : m_around(area), m_shown(shown), m_leastText(std::max(leastText, kTiniest)),
       m_growth(std::max(1.0, std::sqrt(area.width() / kUsualWidth)))
 {
     CollectParts(picture);
