@@ -115,11 +115,10 @@ TEST_F(WallPainterTest, AtTheReadableScaleEveryNumberIsWritten)
     }
     for (const bool rear : {false, true}) {
         const WallPicture picture = MakeWallPicture(Project(), 0, {-1, rear, {}});
-        const PicturePort& port = picture.ports[0];
-        const CabinetTextPlaces places(port, 16);
+        const CabinetTextPlaces places(picture.ports[0], 16);
         double scale = 0;
-        for (size_t i = 0; i < port.cabinets.size(); ++i)
-            scale = std::max(scale, places.ReadableScale(port.cabinets[i], port.shapes[i].Size()));
+        for (const PictureCabinet& cabinet : picture.ports[0].cabinets)
+            scale = std::max(scale, places.ReadableScale(cabinet, QSizeF(128, 128)));
         const QRectF page(0, 0, scale * 640 + 60, scale * 128 + 60);
         for (int part = 0; part < 3; ++part) { // five cabinets a page
             const QRectF shown(picture.bound.left() + part * 512, 0, 640, 128);

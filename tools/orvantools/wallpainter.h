@@ -25,6 +25,8 @@ public:
 
     double GetScale() const { return m_view.GetScale(); } ///< units to a pixel of the canvas
 
+    static constexpr double kMargin = WallView::kMargin;
+
     /// The line style of the chain of a port. With the port's colour it is the same after 100 ports only.
     static QPen ChainPen(int port, double width);
     static QPen GroupPen();

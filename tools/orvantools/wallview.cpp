@@ -9,7 +9,7 @@ namespace OrvanTools {
 
 namespace {
 
-constexpr double kLeastCover = 0.6; ///< of the canvas, to show it whole
+constexpr double kLeastCover = 0.6;  ///< of the canvas, to show it whole
 constexpr double kTiniest = 0.1;     ///< a text has some height
 constexpr double kUsualWidth = 4000; ///< of a drawing whose lines need not grow
 constexpr double kMostBeside = 0.12; ///< of the height, for what stands beside the wall

@@ -26,7 +26,7 @@ struct WallPart
 class WallView
 {
 public:
-    static constexpr double kMargin = 30; ///< at least, around what is drawn
+    static constexpr double kMargin = 30; ///< around the wall, for marks beside it
 
     /// [ref] the picture. `shown` is the part of it to draw, null for all; cabinets with a shorter side below
     /// `leastSide` are small.
