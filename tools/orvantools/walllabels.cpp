@@ -245,7 +245,7 @@ void WallLabels::PaintPortNumber(const WallPart& part)
     const QString text = FromOne(port.index);
     const QSizeF size = part.bound.size() * m_view.GetScale();
     const double height = std::min({kMostPortNumber * m_view.GetGrowth(), size.height() * 0.5,
-                                    size.width() * 0.7 / (text.size() * kDigitWidth)});
+                                    size.width() * 0.45 / (text.size() * kDigitWidth)});
     if (height < m_leastText)
         return;
     for (const QPointF& middle :
