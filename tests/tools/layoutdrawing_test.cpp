@@ -1,11 +1,9 @@
 #include "tools/toolsproject.h"
 
 #include <orvantools/layoutdrawing.h>
-#include <orvantools/samplewall.h>
 
 #include <QBuffer>
 #include <QImage>
-#include <QSet>
 #include <QXmlStreamReader>
 
 using OrvanTools::DrawingFormat;
@@ -72,31 +70,6 @@ TEST_F(LayoutDrawingTest, HiddenPortsAreThereButPale)
     EXPECT_LT(PixelsOf(DrawPng(800), CConstantData::GetColorByPort(1)), shown / 4); // the legend's
     EXPECT_TRUE(DrawTexts().contains(QStringLiteral("hidden")));
     EXPECT_TRUE(DrawTexts().contains(QStringLiteral("6")));
-}
-
-TEST_F(LayoutDrawingTest, SmallCabinetsShowTheEndsOfTheirRuns)
-{
-    Build(QSize(256, 128), 2);
-    const QStringList list = DrawTexts();
-    const QSet<QString> texts(list.begin(), list.end());
-    // Port by port 128 columns: runs 1 to 128, 129 to 256 and so on.
-    int ends = 0;
-    int others = 0;
-    for (int number = 3; number < 128 * 128; ++number) { // 1 and 2 are ports too
-        const bool isShown = texts.contains(QString::number(number));
-        (number % 128 <= 1 ? ends : others) += isShown ? 1 : 0;
-    }
-    EXPECT_GT(ends, 100);
-    EXPECT_LE(others, 10); // those of one digit, and figures of the legend
-}
-
-TEST_F(LayoutDrawingTest, ReceivingCardsAreNumberedAlongTheChain)
-{
-    OrvanTools::SampleWall wall([](const QString&) {});
-    ASSERT_TRUE(wall.Build());
-    const QStringList texts = DrawTexts();
-    EXPECT_TRUE(texts.contains(QStringLiteral("32"))); // the last of eight cabinets with four each
-    EXPECT_TRUE(texts.contains(QStringLiteral("backup of port 1")));
 }
 
 TEST_F(LayoutDrawingTest, TheLegendCountsAndThePrintedFieldsStand)

@@ -7,49 +7,31 @@
 
 #include <vector>
 
-/// A device to paint on that keeps nothing but where each text lies.
-class TextRecorder : public QPaintDevice
+/// A device to paint on that keeps nothing but where the letters of each text lie.
+class TextRecorder : public QPaintDevice, private QPaintEngine
 {
 public:
-    struct Text
-    {
-        QString text;
-        QRectF box; ///< of the letters themselves
-    };
+    TextRecorder() : QPaintEngine(AllFeatures) {}
 
-    std::vector<Text> texts;
+    std::vector<std::pair<QString, QRectF>> texts;
 
-    QPaintEngine* paintEngine() const override { return &m_engine; }
-
-protected:
-    int metric(PaintDeviceMetric metric) const override
-    {
-        const bool isCount = metric == PdmWidth || metric == PdmHeight || metric == PdmNumColors;
-        return isCount ? 100000 : metric == PdmDepth ? 32 : metric == PdmDevicePixelRatioScaled ? 65536 : 96;
-    }
+    QPaintEngine* paintEngine() const override { return const_cast<TextRecorder*>(this); }
 
 private:
-    class Engine : public QPaintEngine
+    int metric(PaintDeviceMetric metric) const override
     {
-    public:
-        explicit Engine(std::vector<Text>& texts) : QPaintEngine(AllFeatures), m_texts(texts) {}
-        bool begin(QPaintDevice*) override { return true; }
-        bool end() override { return true; }
-        void updateState(const QPaintEngineState&) override {}
-        void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
-        void drawPath(const QPainterPath&) override {}
-        void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
-        Type type() const override { return User; }
-        void drawTextItem(const QPointF& place, const QTextItem& item) override
-        {
-            const QRectF letters = QFontMetricsF(item.font()).tightBoundingRect(item.text());
-            m_texts.push_back(
-                {item.text().trimmed(), painter()->worldTransform().mapRect(letters.translated(place))});
-        }
-
-    private:
-        std::vector<Text>& m_texts;
-    };
-
-    mutable Engine m_engine{texts};
+        return metric == PdmDepth ? 32 : metric == PdmDevicePixelRatioScaled ? 65536 : 100000;
+    }
+    bool begin(QPaintDevice*) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState&) override {}
+    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+    void drawPath(const QPainterPath&) override {}
+    void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
+    Type type() const override { return User; }
+    void drawTextItem(const QPointF& place, const QTextItem& item) override
+    {
+        const QRectF letters = QFontMetricsF(item.font()).tightBoundingRect(item.text());
+        texts.emplace_back(item.text(), painter()->worldTransform().mapRect(letters.translated(place)));
+    }
 };
