@@ -9,6 +9,14 @@ option(ORVANDATA_WERROR "Treat warnings as errors" OFF)
 set(ORVANDATA_SANITIZE "" CACHE STRING "Sanitizers, comma separated: address,undefined or thread")
 set(ORVANDATA_KRXCONTROL_TARGET "" CACHE STRING
     "Imported target of the host's control library; empty builds the stand-in")
+set(ORVANDATA_TRANSLATIONS_DIR "" CACHE STRING
+    "Where translations are installed and looked for, absolute or below the prefix; empty: a folder of this version")
+
+# Two versions of the library can be installed together.
+set(ORVANDATA_TRANSLATIONS ${CMAKE_INSTALL_DATADIR}/OrvanData-${ORVANDATA_INTERFACE}/Language)
+if(ORVANDATA_TRANSLATIONS_DIR)
+    set(ORVANDATA_TRANSLATIONS ${ORVANDATA_TRANSLATIONS_DIR})
+endif()
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)

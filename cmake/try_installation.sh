@@ -15,7 +15,14 @@ find_pkgconfig() {
 run_example() (
     home=$(mktemp -d)
     trap 'rm -rf "$home"' EXIT
-    HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=offscreen "$1" "$home"
+    export HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home XDG_RUNTIME_DIR=$home LC_ALL=C.UTF-8
+    unset QT_QPA_PLATFORM DISPLAY WAYLAND_DISPLAY
+    "$1" "$home"
+    # What fails is told in one line, which the translation has put into English.
+    touch "$home/file"
+    ! complaint=$("$1" "$home/file" 2>&1 >/dev/null) || { echo "$1 wrote into a file as into a folder"; return 1; }
+    grep -qx '.*: [ -~]*' <<<"$complaint" && [ "$(wc -l <<<"$complaint")" -eq 1 ] ||
+        { echo "$1 said: $complaint"; return 1; }
 )
 
 # by_cmake EXAMPLE PROGRAM: builds an example as a project of its own and runs it.

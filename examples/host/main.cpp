@@ -5,10 +5,31 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QTranslator>
 
 #include <cstdio>
 
 namespace {
+
+/// Qt ends the program where no display is. This one shows nothing and goes on without.
+void ChoosePlatform()
+{
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+        if (!qEnvironmentVariableIsEmpty(name))
+            return;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+/// Tells which step failed, with the reason where the library has one.
+bool Done(bool well, const char* step)
+{
+    const QString reason = GetProjectData()->GetLastFileError();
+    if (!well)
+        std::fprintf(stderr, "orvandata-host: %s failed%s%s\n", step, reason.isEmpty() ? "" : ": ",
+                     qPrintable(reason));
+    return well;
+}
 
 /// Stands for the receiver parameter file that a user would copy into the product folder.
 CProduct* AddProduct()
@@ -39,9 +60,10 @@ bool PlaceWall(CSender* sender, const CProduct& product)
     CProjectUndoRedo* history = GetRuntimeData()->GetProjectUndoRedo();
     CPortProject* layout = sender->GetPort(0)->GetPortProject();
     if (!layout->AddTile(block) || !history->AddOneStep(CSenderRecordItem::OperationAddTiles))
-        return false;
-    return layout->GetTileSet()->AutoConnection(AutoNumberRowsTopLeft, 0)
-           && history->AddOneStep(CSenderRecordItem::OperationAutoConnect);
+        return Done(false, "placing the wall");
+    return Done(layout->GetTileSet()->AutoConnection(AutoNumberRowsTopLeft, 0)
+                    && history->AddOneStep(CSenderRecordItem::OperationAutoConnect),
+                "numbering the wall");
 }
 
 /// Takes the numbering back and brings it again.
@@ -50,8 +72,8 @@ bool UndoAndRedo(CSender* sender)
     CProjectUndoRedo* history = GetRuntimeData()->GetProjectUndoRedo();
     CTileSet* tiles = sender->GetPort(0)->GetPortProject()->GetTileSet();
     if (!history->Undo(1, nullptr, nullptr) || tiles->HasNumberedTiles())
-        return false;
-    return history->Redo(1, nullptr, nullptr) && tiles->GetRcvCount() == tiles->GetCount();
+        return Done(false, "undo");
+    return Done(history->Redo(1, nullptr, nullptr) && tiles->GetRcvCount() == tiles->GetCount(), "redo");
 }
 
 bool SaveAndLoad(const QString& path)
@@ -59,23 +81,26 @@ bool SaveAndLoad(const QString& path)
     GetProjectData()->CancelAllTileSelect(InterfaceDesign); // which cabinets are selected is in no file
     if (!GetProjectData()->SaveProjectToFile(path, nullptr)
         || !GetProjectData()->GetLastFileError().isEmpty())
-        return false;
+        return Done(false, "saving");
     GetRuntimeData()->GetProjectUndoRedo()->SetAsSaveStep();
 
     const CProjectData saved = *GetProjectData();
     QString neededVersion;
     if (!GetProjectData()->LoadProjectFromFile(QFile::encodeName(path).constData(), neededVersion, nullptr))
-        return false;
+        return Done(false, "loading");
     const CPort* before = saved.GetSender(0)->GetPort(0);
     const CPort* after = GetProjectData()->GetSender(0)->GetPort(0);
-    return *before->GetPortProject()->GetTileSet() == *after->GetPortProject()->GetTileSet();
+    return Done(*before->GetPortProject()->GetTileSet() == *after->GetPortProject()->GetTileSet(),
+                "comparing what was loaded");
 }
 
 bool Walk(const QString& path)
 {
     const CProduct* product = AddProduct();
-    CSender* sender = product ? GetProjectData()->NewSender() : nullptr;
-    if (!sender)
+    if (!Done(product, "putting a product into the product folder"))
+        return false;
+    CSender* sender = GetProjectData()->NewSender();
+    if (!Done(sender, "adding a sender"))
         return false;
     sender->SetCanvasSize(QSize(1920, 1080));
     return PlaceWall(sender, *product) && UndoAndRedo(sender) && SaveAndLoad(path);
@@ -85,6 +110,7 @@ bool Walk(const QString& path)
 
 int main(int argc, char** argv)
 {
+    ChoosePlatform();
     const QApplication application(argc, argv);
     if (argc != 2) {
         std::fprintf(stderr, "usage: orvandata-host FOLDER\n");
@@ -93,12 +119,12 @@ int main(int argc, char** argv)
     const QString path = QDir(QFile::decodeName(argv[1])).filePath(QStringLiteral("wall.prj"));
 
     LedNimbraData_Init();
+    QTranslator translator; // in the language of the settings, which is the system's at first
+    if (translator.load(GetConfigData()->GetTranslationPath()))
+        QCoreApplication::installTranslator(&translator);
     const bool done = Walk(path);
     if (done)
         std::printf("saved and loaded again: %s\n", qPrintable(path));
-    else
-        std::fprintf(stderr, "orvandata-host: failed: %s\n",
-                     qPrintable(GetProjectData()->GetLastFileError()));
     LedNimbraData_Release();
     return done ? 0 : 1;
 }

@@ -45,9 +45,7 @@ bool Draw(const QString& path)
 
 int main(int argc, char** argv)
 {
-    // Qt takes the screen of the desktop; a drawing needs none.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // a drawing needs no display
     const QApplication application(argc, argv);
     if (argc != 2) {
         std::fprintf(stderr, "usage: orvandata-drawing FOLDER\n");

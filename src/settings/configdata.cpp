@@ -10,6 +10,7 @@
 #include "settings/settingsfile.h"
 #include "settings/settingslookup.h"
 #include "settings/specifiediplist.h"
+#include "settings/translationfile.h"
 
 #include <QCoreApplication>
 
@@ -95,6 +96,11 @@ void CConfigData::SetLanguage(ELanguageType language)
         m_items.language = language;
     m_languageFilePath = QCoreApplication::applicationDirPath() + QStringLiteral("/Language/")
                          + GetTranslationFileName(GetLanguageType());
+}
+
+QString CConfigData::GetTranslationPath() const
+{
+    return FindTranslation(m_languageFilePath);
 }
 
 void CConfigData::SetAttractionDis(double distance)

@@ -44,6 +44,9 @@ public:
     /// The first call after loading keeps the language loaded and only derives the language file's path.
     void SetLanguage(ELanguageType language);
     QString GetLanguageFilePath() const { return m_languageFilePath; } ///< empty before SetLanguage
+    /// The file for a QTranslator: GetLanguageFilePath when it is there, else what lies in the folder that
+    /// the build has set or beside the library. Empty when there is none; the messages are Chinese then.
+    QString GetTranslationPath() const;
 
     // canvas and design
     bool IsShowGrid() const { return m_items.showGrid; }

@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <cerrno>
@@ -86,10 +85,7 @@ bool Session::LeadTo(const QString& documents, QString* why)
 
 void Session::Translate()
 {
-    // Beside the program, or where an installation keeps it.
-    const QString path = GetConfigData()->GetLanguageFilePath();
-    const QString shared = QCoreApplication::applicationDirPath()
-                           + QStringLiteral("/../share/OrvanData/Language/") + QFileInfo(path).fileName();
-    if (m_translator.load(QFile::exists(path) ? path : shared))
+    const QString path = GetConfigData()->GetTranslationPath();
+    if (!path.isEmpty() && m_translator.load(path))
         QCoreApplication::installTranslator(&m_translator);
 }
