@@ -88,8 +88,9 @@ case $phase in
         rm -rf "$outer"
         cmake -S "$source/examples/subproject" -B "$outer" -G "$generator" -DCMAKE_MAKE_PROGRAM="$make_program" \
             -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON "${options[@]}" >/dev/null
-        cmake --build "$outer" --target orvandata-host
+        cmake --build "$outer"
         run_example "$outer/orvandata-host"
+        run_example "$outer/orvandata-drawing"
         refuse_traces "$outer"
         ;;
     *)
