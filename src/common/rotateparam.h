@@ -1,5 +1,11 @@
 #pragma once
 
+#include "common/export.h"
+
+#include <QMetaType>
+
+class QDebug;
+
 /// A point whose coordinates have the type T.
 template <class T> struct CPointEx
 {
@@ -34,3 +40,11 @@ inline bool operator!=(const SRotateParam& a, const SRotateParam& b)
 {
     return !(a == b);
 }
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const CPointEx<double>& point);
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const CPointEx<int>& point);
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SRotateParam& param);
+
+Q_DECLARE_METATYPE(CPointEx<double>)
+Q_DECLARE_METATYPE(CPointEx<int>)
+Q_DECLARE_METATYPE(SRotateParam)

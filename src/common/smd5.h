@@ -1,10 +1,15 @@
 #pragma once
 
+#include "common/export.h"
+
 #include <QHash>
+#include <QMetaType>
 #include <QString>
 
 #include <cstring>
 #include <type_traits>
+
+class QDebug;
 
 /// MD5 digest (RFC 1321) of a file as 32 lower-case hexadecimal characters and a closing zero byte.
 /// Identifies a cabinet product type by its receiver parameter file; all zero means "no type".
@@ -55,3 +60,7 @@ inline uint qHash(const SMD5& md5, uint seed = 0)
 {
     return qHashBits(md5.digest, SMD5::kDigits, seed);
 }
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SMD5& md5);
+
+Q_DECLARE_METATYPE(SMD5)

@@ -29,6 +29,7 @@ public:
 
     /// [ref] The choice of processors for the next export or import of parameter files.
     SImpExpPrepareInfo* GetImpExpPrepareInfo() { return &m_impExpPrepareInfo; }
+    const SImpExpPrepareInfo* GetImpExpPrepareInfo() const { return &m_impExpPrepareInfo; }
     void SetImpExpPrepareInfo(const SImpExpPrepareInfo& info) { m_impExpPrepareInfo = info; }
 
     QUuid GetAddGroupId() const { return m_addGroupId; } ///< sender group that new senders join, null: none

@@ -4,8 +4,11 @@
 #include "layout/portproject.h"
 
 #include <QColor>
+#include <QMetaType>
 #include <QRect>
 #include <QUuid>
+
+class QDebug;
 
 /// What a port holds beside its layout. Files store all of it but the area.
 struct PortFields
@@ -101,3 +104,7 @@ private:
     PortFields m_fields;
     CPortProject m_layout;
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const CPort& port);
+
+Q_DECLARE_METATYPE(CPort*)

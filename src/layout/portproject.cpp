@@ -320,7 +320,7 @@ bool CPortProject::IsWholeGroup(const CTileSet& tiles) const
            && m_tiles.GetCountInGroup(id) == tiles.GetCount();
 }
 
-bool CPortProject::SelTileCountModifyEnable()
+bool CPortProject::SelTileCountModifyEnable() const
 {
     CTileSet selected;
     m_tiles.GetSelTileSet(selected, kView);
@@ -329,12 +329,22 @@ bool CPortProject::SelTileCountModifyEnable()
     return IsWholeGroup(selected) && selected.IsAllSameSize() && FillGrid(selected);
 }
 
-bool CPortProject::SelTileShapeModifyEnable()
+bool CPortProject::SelTileCountModifyEnable()
+{
+    return std::as_const(*this).SelTileCountModifyEnable();
+}
+
+bool CPortProject::SelTileShapeModifyEnable() const
 {
     CTileSet selected;
     m_tiles.GetSelTileSet(selected, kView);
     return selected.GetCount() > 1 && IsWholeGroup(selected) && selected.IsAllSameSize()
            && FillGrid(selected);
+}
+
+bool CPortProject::SelTileShapeModifyEnable()
+{
+    return std::as_const(*this).SelTileShapeModifyEnable();
 }
 
 void CPortProject::TakeFrom(CPortProject& other)

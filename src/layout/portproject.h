@@ -7,9 +7,11 @@
 #include "layout/tileset.h"
 
 #include <QList>
+#include <QMetaType>
 #include <QPointF>
 #include <QUuid>
 
+class QDebug;
 struct SRotateParam;
 
 /// A block of equal cabinets to place. Lengths in canvas pixels.
@@ -69,6 +71,8 @@ public:
     void SetTileGroupRotateParam(const SRotateParam* param, const CTileSet& tiles, double angle);
 
     // may the selection of view 3 be changed as a block?
+    bool SelTileCountModifyEnable() const;
+    bool SelTileShapeModifyEnable() const;
     bool SelTileCountModifyEnable();
     bool SelTileShapeModifyEnable();
 
@@ -81,3 +85,7 @@ private:
     CTileSet m_tiles;
     CTileGroupSet m_groups;
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SAddTileInfo& info);
+
+Q_DECLARE_METATYPE(SAddTileInfo)

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -87,7 +88,7 @@ void CProjectUndoRedo::Drop(CSenderUndoRedo* history)
     history->Clear();
 }
 
-CSenderUndoRedo* CProjectUndoRedo::GetSenderUndoRedoFromID(const QUuid& senderId)
+const CSenderUndoRedo* CProjectUndoRedo::GetSenderUndoRedoFromID(const QUuid& senderId) const
 {
     if (senderId.isNull())
         return nullptr;
@@ -97,10 +98,20 @@ CSenderUndoRedo* CProjectUndoRedo::GetSenderUndoRedoFromID(const QUuid& senderId
     return it == m_histories.end() ? nullptr : &*it;
 }
 
-CSenderUndoRedo* CProjectUndoRedo::GetCurSenderUndoRedo()
+CSenderUndoRedo* CProjectUndoRedo::GetSenderUndoRedoFromID(const QUuid& senderId)
+{
+    return const_cast<CSenderUndoRedo*>(std::as_const(*this).GetSenderUndoRedoFromID(senderId));
+}
+
+const CSenderUndoRedo* CProjectUndoRedo::GetCurSenderUndoRedo() const
 {
     const CSender* sender = GetLayoutLookup()->CurrentSender();
     return sender ? GetSenderUndoRedoFromID(sender->GetId()) : nullptr;
+}
+
+CSenderUndoRedo* CProjectUndoRedo::GetCurSenderUndoRedo()
+{
+    return const_cast<CSenderUndoRedo*>(std::as_const(*this).GetCurSenderUndoRedo());
 }
 
 CSenderUndoRedo* CProjectUndoRedo::GetSenderUndoRedoEmpty()
@@ -195,19 +206,29 @@ bool CProjectUndoRedo::Move(int steps, bool back, int* ports, int* count)
     return true;
 }
 
-int CProjectUndoRedo::GetCanUndoStep()
+int CProjectUndoRedo::GetCanUndoStep() const
 {
     const CSenderUndoRedo* history = GetCurSenderUndoRedo();
     return history ? history->GetCurrentStep() : 0;
 }
 
-int CProjectUndoRedo::GetCanRedoStep()
+int CProjectUndoRedo::GetCanUndoStep()
+{
+    return std::as_const(*this).GetCanUndoStep();
+}
+
+int CProjectUndoRedo::GetCanRedoStep() const
 {
     const CSenderUndoRedo* history = GetCurSenderUndoRedo();
     return history ? history->GetStepCount() - 1 - history->GetCurrentStep() : 0;
 }
 
-const CSenderRecordItem* CProjectUndoRedo::StepAhead(int n, bool back)
+int CProjectUndoRedo::GetCanRedoStep()
+{
+    return std::as_const(*this).GetCanRedoStep();
+}
+
+const CSenderRecordItem* CProjectUndoRedo::StepAhead(int n, bool back) const
 {
     const CSenderUndoRedo* history = GetCurSenderUndoRedo();
     if (!history || n < 0 || n > CSenderUndoRedo::kStepLimit)
@@ -215,34 +236,59 @@ const CSenderRecordItem* CProjectUndoRedo::StepAhead(int n, bool back)
     return history->GetStep(history->GetCurrentStep() + (back ? -n : n));
 }
 
-int CProjectUndoRedo::GetUndoStepType(int n)
+int CProjectUndoRedo::GetUndoStepType(int n) const
 {
     const CSenderRecordItem* step = StepAhead(n, true);
+    return step ? step->GetType() : -1;
+}
+
+int CProjectUndoRedo::GetUndoStepType(int n)
+{
+    return std::as_const(*this).GetUndoStepType(n);
+}
+
+int CProjectUndoRedo::GetRedoStepType(int n) const
+{
+    const CSenderRecordItem* step = StepAhead(n, false);
     return step ? step->GetType() : -1;
 }
 
 int CProjectUndoRedo::GetRedoStepType(int n)
 {
-    const CSenderRecordItem* step = StepAhead(n, false);
-    return step ? step->GetType() : -1;
+    return std::as_const(*this).GetRedoStepType(n);
 }
 
-int CProjectUndoRedo::GetUndoStepPort(int n)
+int CProjectUndoRedo::GetUndoStepPort(int n) const
 {
     const CSenderRecordItem* step = StepAhead(n, true);
     return step ? step->GetRecentPortIndex() : kNoPort;
 }
 
-int CProjectUndoRedo::GetRedoStepPort(int n)
+int CProjectUndoRedo::GetUndoStepPort(int n)
+{
+    return std::as_const(*this).GetUndoStepPort(n);
+}
+
+int CProjectUndoRedo::GetRedoStepPort(int n) const
 {
     const CSenderRecordItem* step = StepAhead(n, false);
     return step ? step->GetRecentPortIndex() : kNoPort;
 }
 
-int CProjectUndoRedo::GetCurSenderCurStep()
+int CProjectUndoRedo::GetRedoStepPort(int n)
+{
+    return std::as_const(*this).GetRedoStepPort(n);
+}
+
+int CProjectUndoRedo::GetCurSenderCurStep() const
 {
     const CSenderUndoRedo* history = GetCurSenderUndoRedo();
     return history ? history->GetCurrentStep() : -1;
+}
+
+int CProjectUndoRedo::GetCurSenderCurStep()
+{
+    return std::as_const(*this).GetCurSenderCurStep();
 }
 
 bool CProjectUndoRedo::IsModidfied() const

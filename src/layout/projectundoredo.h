@@ -34,7 +34,9 @@ public:
 
     // histories [ref], null when there is none
     CSenderUndoRedo* GetSenderUndoRedoFromID(const QUuid& senderId);
+    const CSenderUndoRedo* GetSenderUndoRedoFromID(const QUuid& senderId) const;
     CSenderUndoRedo* GetCurSenderUndoRedo();
+    const CSenderUndoRedo* GetCurSenderUndoRedo() const;
     CSenderUndoRedo* GetSenderUndoRedoEmpty(); ///< the first free slot
 
     // steps
@@ -52,9 +54,16 @@ public:
     bool Undo(int steps, int* ports, int* count);
     bool Redo(int steps, int* ports, int* count);
 
-    // what the current sender's history holds; out of range: -1
-    int GetCanUndoStep(); ///< 0 without a history
-    int GetCanRedoStep(); ///< 0 without a history
+    // what the current sender's history holds; out of range: -1. The second forms are what older hosts link.
+    int GetCanUndoStep() const; ///< 0 without a history
+    int GetCanRedoStep() const; ///< 0 without a history
+    int GetUndoStepType(int n) const;
+    int GetRedoStepType(int n) const;
+    int GetUndoStepPort(int n) const;
+    int GetRedoStepPort(int n) const;
+    int GetCurSenderCurStep() const;
+    int GetCanUndoStep();
+    int GetCanRedoStep();
     int GetUndoStepType(int n);
     int GetRedoStepType(int n);
     int GetUndoStepPort(int n);
@@ -82,7 +91,7 @@ private:
     bool AddStep(CSender* sender, Type type);
     bool AddFirstStep(CSender* sender, DocumentOperation& operation);
     bool Move(int steps, bool back, int* ports, int* count);
-    const CSenderRecordItem* StepAhead(int n, bool back);
+    const CSenderRecordItem* StepAhead(int n, bool back) const;
     void Drop(CSenderUndoRedo* history);
 
     std::array<CSenderUndoRedo, kSlotCount> m_histories;

@@ -6,6 +6,7 @@
 #include "records/senderparams.h"
 
 #include <QList>
+#include <QMetaType>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
@@ -13,6 +14,8 @@
 #include <QUuid>
 
 #include <array>
+
+class QDebug;
 
 constexpr int kDefaultPortCount = 4; ///< ports in use
 
@@ -144,3 +147,7 @@ private:
     SenderFields m_fields;
     std::array<CPort, kMaxPorts> m_ports;
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const CSender& sender);
+
+Q_DECLARE_METATYPE(CSender*)

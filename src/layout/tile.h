@@ -5,6 +5,7 @@
 #include "common/smd5.h"
 
 #include <QColor>
+#include <QMetaType>
 #include <QPoint>
 #include <QRect>
 #include <QSharedData>
@@ -12,6 +13,7 @@
 #include <QUuid>
 
 class CTileSet;
+class QDebug;
 class TileAccess;
 struct TileData;
 
@@ -86,12 +88,15 @@ public:
     int GetMultiRcvsCount() const; ///< 0 when the size is negative or its product does not fit
     void SetMultiRcvsLine(const unsigned char* line);    ///< as many bytes as there are cards, at most ten
     unsigned char* GetMultiRcvsLine();                   ///< [ref] ten bytes, valid while the tile lives
+    const unsigned char* GetMultiRcvsLine() const;       ///< valid as GetRotateRecord
     unsigned char GetMultiRcvsLineCode(int index) const; ///< 0 outside 0 to 9
     /// Canvas pixels; the null rectangle out of range, so for every card of an empty size.
+    QRect GetMultiRcvRect(int index) const;
     QRect GetMultiRcvRect(int index);
     /// The same, relative to the cabinet. Only the upper end of the range is tested: with a negative index an
     /// empty size is repaired to one card a pixel.
     QRect GetMultiRcvRelativeRect(int index);
+    QRect GetMultiRcvRelativeRect(int index) const; ///< the same, and nothing is repaired
     void SetMultiRcvDemarcateIndex(int index);
     int GetMultiRcvDemarcateIndex() const; ///< inner card marked for calibration, -1 for none
 
@@ -106,6 +111,7 @@ public:
 
     // rotation
     SRotateParam* GetTileRotateParam(); ///< [ref] the tile's own record, valid while the tile lives
+    const SRotateParam* GetTileRotateParam() const { return &GetRotateRecord(); }
     /// To read; valid until the tile is next written to or an undo step is made.
     const SRotateParam& GetRotateRecord() const;
     void SetTileRotateParam(const SRotateParam* param); ///< rotated too when the angle is above 0.0001
@@ -117,7 +123,7 @@ private:
     TileData& Write(); ///< the data, from now on this tile's alone
     template <class Member, class Value> bool Store(Member member, const Value& value);
     template <class Member, class Value> void StorePlace(Member member, const Value& value);
-    QRect CellRect(int index);
+    QRect CellRect(int index) const;
 
     QExplicitlySharedDataPointer<TileData> m_data;
     QColor m_showColor;
@@ -125,3 +131,7 @@ private:
     unsigned short m_rcvSelected = 0; ///< one bit a receiving card
     bool m_leaving = false;           ///< its set is about to free it
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const CTile& tile);
+
+Q_DECLARE_METATYPE(CTile*)

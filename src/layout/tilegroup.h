@@ -5,11 +5,13 @@
 #include "common/rotateparam.h"
 
 #include <QList>
+#include <QMetaType>
 #include <QUuid>
 
 #include <memory>
 
 class CTileGroupSet;
+class QDebug;
 
 /// What a group holds beside its sub-groups. A copy takes all of it; files store the id and the rotation.
 struct GroupFields
@@ -65,3 +67,7 @@ private:
     bool m_visible = true; ///< for the host's drawing: neither copied nor compared
     std::unique_ptr<CTileGroupSet> m_subGroups;
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const CTileGroup& group);
+
+Q_DECLARE_METATYPE(CTileGroup*)

@@ -3,12 +3,18 @@
 #include "layout/tileaccess.h"
 
 #include <cstring>
+#include <utility>
 
 namespace {
 
 bool IsReceiverIndex(int index)
 {
     return index >= 0 && index < kMaxReceiversInTile;
+}
+
+bool HasGrid(const TileData& data)
+{
+    return data.multiSize.width() != 0 && data.multiSize.height() != 0;
 }
 
 } // namespace
@@ -92,7 +98,12 @@ unsigned char CTile::GetMultiRcvsLineCode(int index) const
     return IsReceiverIndex(index) ? m_data->line[index] : static_cast<unsigned char>(0);
 }
 
-QRect CTile::GetMultiRcvRect(int index)
+const unsigned char* CTile::GetMultiRcvsLine() const
+{
+    return m_data->line;
+}
+
+QRect CTile::GetMultiRcvRect(int index) const
 {
     if (index < 0 || index >= GetMultiRcvsCount())
         return QRect();
@@ -100,24 +111,32 @@ QRect CTile::GetMultiRcvRect(int index)
     return SaturatedRect(qint64(GetX()) + cell.x(), qint64(GetY()) + cell.y(), cell.width(), cell.height());
 }
 
-QRect CTile::GetMultiRcvRelativeRect(int index)
+QRect CTile::GetMultiRcvRect(int index)
+{
+    return std::as_const(*this).GetMultiRcvRect(index);
+}
+
+QRect CTile::GetMultiRcvRelativeRect(int index) const
 {
     return index < GetMultiRcvsCount() ? CellRect(index) : QRect();
 }
 
-QRect CTile::CellRect(int index)
+QRect CTile::GetMultiRcvRelativeRect(int index)
+{
+    const QRect cell = std::as_const(*this).GetMultiRcvRelativeRect(index);
+    if (index < GetMultiRcvsCount() && !HasGrid(*m_data))
+        Store(&TileData::multiSize, GetSize()); // a cabinet without a grid is repaired on first use
+    return cell;
+}
+
+QRect CTile::CellRect(int index) const
 {
     const qint64 place = m_data->ordered ? index : qint64(GetMultiRcvsCount()) - 1 - index;
     const int code = GetMultiRcvsLineCode(SaturatedInt(place));
-    qint64 width = 1;
-    qint64 height = 1;
-    if (m_data->multiSize.width() == 0 || m_data->multiSize.height() == 0) {
-        Store(&TileData::multiSize, GetSize()); // a cabinet without a grid is repaired on first use
-    } else {
-        width = qint64(GetWidth()) / m_data->multiSize.width();
-        height = qint64(GetHeight()) / m_data->multiSize.height();
-    }
-    const int rows = m_data->multiSize.height() == 0 ? 1 : m_data->multiSize.height();
+    const QSize grid = HasGrid(*m_data) ? m_data->multiSize : GetSize(); // without one: a card a pixel
+    const qint64 width = HasGrid(*m_data) ? qint64(GetWidth()) / grid.width() : 1;
+    const qint64 height = HasGrid(*m_data) ? qint64(GetHeight()) / grid.height() : 1;
+    const int rows = grid.height() == 0 ? 1 : grid.height();
     return SaturatedRect(code / rows * width, code % rows * height, width, height);
 }
 

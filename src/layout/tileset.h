@@ -12,6 +12,7 @@
 #include <memory>
 
 class CTile;
+class QDebug;
 class TileIndex;
 
 /// Serpentine patterns of automatic numbering: rows, then columns, by start corner.
@@ -124,6 +125,10 @@ public:
     void TileSetNormalization();
     void GetTileSetNumberedNormalization(CTileSet& out); ///< normalises, then lists the chain in order
 
+    /// `for (CTile* tile : set)`, in list order; not while cabinets come or go.
+    QList<CTile*>::const_iterator begin() const { return m_tiles.constBegin(); }
+    QList<CTile*>::const_iterator end() const { return m_tiles.constEnd(); }
+
     // inside the library: for loops over whole walls
     const QList<CTile*>& GetTiles() const { return m_tiles; }
 
@@ -137,3 +142,5 @@ private:
     bool m_owning = false;
     mutable std::unique_ptr<TileIndex> m_index; ///< for hit tests; nothing that a caller sees depends on it
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const CTileSet& tiles);

@@ -3,6 +3,7 @@
 #include "common/export.h"
 #include "monitor/monitorplace.h"
 
+#include <QMetaType>
 #include <QSize>
 #include <QString>
 #include <QVector>
@@ -98,3 +99,7 @@ private:
     QHash<SMonitorPlace, int> m_portCounts;    ///< receiving cards by port
     bool m_starLink = false;
 };
+
+Q_DECLARE_METATYPE(SDetectSenderData)
+Q_DECLARE_METATYPE(SDetectReceiverData)
+Q_DECLARE_METATYPE(CMonitorDetectData)

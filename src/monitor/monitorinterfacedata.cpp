@@ -1,5 +1,7 @@
 #include "monitor/monitorinterfacedata.h"
 
+#include "common/debugline.h"
+
 #include <algorithm>
 #include <iterator>
 #include <tuple>
@@ -73,4 +75,10 @@ void CMonitorInterfaceData::SetToDefaultForVideo()
 void CMonitorInterfaceData::SetIntervalTime(int seconds)
 {
     m_intervalTime = seconds < 1 ? kDefaultInterval : seconds;
+}
+
+QDebug operator<<(QDebug debug, const SVideoInput& input)
+{
+    return DebugLine(debug, "SVideoInput(slot ", input.slot, ", source ", input.sourceType, ':',
+                     input.sourceIndex, input.enable ? ", watched)" : ")");
 }

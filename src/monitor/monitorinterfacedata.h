@@ -3,7 +3,10 @@
 #include "common/export.h"
 
 #include <QList>
+#include <QMetaType>
 #include <QString>
+
+class QDebug;
 
 /// One video input of a processor, and whether monitoring watches it.
 struct SVideoInput
@@ -116,3 +119,9 @@ private:
     SRecevierSetting m_receiver;
     SEmailSetting m_mail;
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SVideoInput& input);
+
+Q_DECLARE_METATYPE(SVideoInput)
+Q_DECLARE_METATYPE(SMailReceiver)
+Q_DECLARE_METATYPE(CMonitorInterfaceData)

@@ -1,9 +1,14 @@
 #pragma once
 
+#include "common/export.h"
+
 #include <QHash>
 #include <QMap>
+#include <QMetaType>
 
 #include <tuple>
+
+class QDebug;
 
 /// What a detected value or warning belongs to: a sender, one of its ports, or a receiving card on that port.
 struct SMonitorPlace
@@ -75,3 +80,7 @@ private:
 
     QMap<SMonitorPlace, Value> m_values;
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SMonitorPlace& place);
+
+Q_DECLARE_METATYPE(SMonitorPlace)

@@ -3,6 +3,7 @@
 #include "common/export.h"
 #include "monitor/monitorplace.h"
 
+#include <QMetaType>
 #include <QString>
 
 /// Which reading the monitoring view writes on the cabinets.
@@ -38,3 +39,5 @@ public:
 private:
     QMap<int, MonitorPlaceMap<QString>> m_texts; ///< by render type; a type without texts has no entry
 };
+
+Q_DECLARE_METATYPE(CMonitorRcvShowData)

@@ -3,6 +3,7 @@
 #include "common/export.h"
 #include "monitor/monitorplace.h"
 
+#include <QMetaType>
 #include <QStringList>
 
 /// The texts that explain the standing warnings to the user, by sender, port and receiving card. Port and
@@ -31,3 +32,5 @@ public:
 private:
     MonitorPlaceMap<QString> m_tips;
 };
+
+Q_DECLARE_METATYPE(CMonitorTipsData)

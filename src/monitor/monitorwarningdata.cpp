@@ -1,5 +1,7 @@
 #include "monitor/monitorwarningdata.h"
 
+#include "common/debugline.h"
+
 bool operator==(const SLoopbackError& a, const SLoopbackError& b)
 {
     return a.backupPort == b.backupPort && a.lastReceiver == b.lastReceiver
@@ -78,4 +80,15 @@ void CMonitorWarningData::ClearSender(unsigned int sender)
 void CMonitorWarningData::SetToDefault()
 {
     *this = CMonitorWarningData();
+}
+
+QDebug operator<<(QDebug debug, const SMonitorPlace& place)
+{
+    return DebugLine(debug, "SMonitorPlace(", place.sender, ':', place.port, ':', place.receiver, ')');
+}
+
+QDebug operator<<(QDebug debug, const SLoopbackError& error)
+{
+    return DebugLine(debug, "SLoopbackError(backup port ", error.backupPort, ", between ", error.lastReceiver,
+                     " and ", error.firstReceiver, ')');
 }

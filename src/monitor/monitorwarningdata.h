@@ -3,6 +3,10 @@
 #include "common/export.h"
 #include "monitor/monitorplace.h"
 
+#include <QMetaType>
+
+class QDebug;
+
 enum ESenderWarning : quint32
 {
     SenderWarningOffline = 1U << 0,
@@ -81,3 +85,8 @@ private:
     MonitorPlaceMap<quint32> m_fibers; ///< the place's port is the fibre
     MonitorPlaceMap<SLoopbackError> m_loopbackErrors;
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SLoopbackError& error);
+
+Q_DECLARE_METATYPE(SLoopbackError)
+Q_DECLARE_METATYPE(CMonitorWarningData)

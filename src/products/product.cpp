@@ -1,5 +1,6 @@
 #include "products/product.h"
 
+#include "common/debugline.h"
 #include "products/productdirectory.h"
 
 #include <QFileInfo>
@@ -32,4 +33,10 @@ QString CProduct::GetName() const
 QString CProduct::GetFileName() const
 {
     return QFileInfo(m_paramPath).fileName();
+}
+
+QDebug operator<<(QDebug debug, const CProduct& product)
+{
+    return DebugLine(debug, "CProduct(", product.GetName(), ' ', product.GetPixelWidth(), 'x',
+                     product.GetPixelHeight(), ')');
 }

@@ -3,9 +3,11 @@
 #include "common/export.h"
 #include "common/smd5.h"
 
+#include <QMetaType>
 #include <QString>
 
 class CProductDirectory;
+class QDebug;
 
 /// One cabinet product type: a receiver parameter file, known by the digest of its content. Owned by the
 /// folder node that it was added to.
@@ -51,3 +53,7 @@ private:
     bool m_multiSet = false;
     CProductDirectory* m_owner = nullptr; ///< [keep] outlives its products
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const CProduct& product);
+
+Q_DECLARE_METATYPE(CProduct*)

@@ -4,6 +4,7 @@
 #include "products/product.h"
 
 #include <QList>
+#include <QMetaType>
 
 #include <functional>
 
@@ -63,3 +64,5 @@ private:
     bool m_expanded = false;
     CProductDirectory* m_parent = nullptr; ///< [keep] the owner, which outlives this node
 };
+
+Q_DECLARE_METATYPE(CProductDirectory*)

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "common/export.h"
 #include "common/smd5.h"
 #include "monitor/monitorinterfacedata.h"
 
 #include <QList>
+#include <QMetaType>
 #include <QString>
 #include <QUuid>
+
+class QDebug;
 
 /// A group of senders in the host's sender tree.
 struct SSenderGroupInfo
@@ -72,3 +76,12 @@ struct ProjectState : ProjectFields
     QString projectName;
     int currentSender = -1;
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SSenderGroupInfo& group);
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SRcvParamGamma& gamma);
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SParameterFileInfo& file);
+
+Q_DECLARE_METATYPE(SSenderGroupInfo)
+Q_DECLARE_METATYPE(SRcvParamGamma)
+Q_DECLARE_METATYPE(SParameterFileInfo)
+Q_DECLARE_METATYPE(SPrintFormData)

@@ -1,4 +1,5 @@
 // Texts that stand for lists in a project file, and other small conversions.
+#include "common/debugline.h"
 #include "monitor/monitordata.h"
 #include "params/elementnames.h"
 #include "params/paramfile.h"
@@ -111,4 +112,19 @@ void TakeMonitorRecord(CProjectData& project, const MonitorRecord& record)
     data.SetLineSetting(record.line);
     if (CMonitorData* monitor = GetProjectLookup()->Monitor())
         monitor->SetInterfaceData(data);
+}
+
+QDebug operator<<(QDebug debug, const SSenderGroupInfo& group)
+{
+    return DebugLine(debug, "SSenderGroupInfo(", group.name, ' ', group.id, ')');
+}
+
+QDebug operator<<(QDebug debug, const SRcvParamGamma& gamma)
+{
+    return DebugLine(debug, "SRcvParamGamma(", gamma.gamma, " of ", gamma.type, ')');
+}
+
+QDebug operator<<(QDebug debug, const SParameterFileInfo& file)
+{
+    return DebugLine(debug, "SParameterFileInfo(", file.name, " of ", file.type, ')');
 }

@@ -5,9 +5,12 @@
 #include "settings/languagetype.h"
 
 #include <QList>
+#include <QMetaType>
 #include <QString>
 
 #include <array>
+
+class QDebug;
 
 constexpr int kHotkeyModes = 2;
 constexpr int kHotkeysInMode = 20;
@@ -92,3 +95,10 @@ struct SConfigItems
     int currentUiStyle = 1;
     HotkeyTable hotkeys = GetDefaultHotkeys();
 };
+
+ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SHotkey& hotkey);
+
+Q_DECLARE_METATYPE(SHotkey)
+Q_DECLARE_METATYPE(SUiStyle)
+Q_DECLARE_METATYPE(SCurrentGain)
+Q_DECLARE_METATYPE(SBrightTableInfo)

@@ -1,5 +1,6 @@
 #include "settings/hotkeys.h"
 
+#include "common/debugline.h"
 #include "common/texts.h"
 #include "settings/configitems.h"
 
@@ -88,4 +89,10 @@ bool NormalizeHotkey(QString* hotkey)
         return false;
     *hotkey = keys.toString(QKeySequence::PortableText);
     return true;
+}
+
+QDebug operator<<(QDebug debug, const SHotkey& hotkey)
+{
+    return DebugLine(debug, "SHotkey(", hotkey.operation, ": ", hotkey.hotkey,
+                     hotkey.enable ? ")" : ", off)");
 }

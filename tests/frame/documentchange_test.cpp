@@ -19,11 +19,9 @@ protected:
         history.SetChangeHandler([this](const SDocumentChange& change) { QDebug(&told) << change; });
     }
 
-    /// What was told since the last call, one call after the other.
-    std::string Told()
+    std::string Told() ///< since the last call
     {
-        const QString all = std::exchange(told, {}).remove(QStringLiteral("SDocumentChange"));
-        return all.simplified().toStdString();
+        return std::exchange(told, {}).remove(QLatin1String("SDocumentChange")).simplified().toStdString();
     }
 
     void Edit(int sender, std::initializer_list<int> ports)
@@ -48,8 +46,7 @@ TEST_F(DocumentChangeTest, AWindowIsToldOnceAfterEachOperation)
     Edit(0, {0});
     Edit(0, {1, 2});
     EXPECT_EQ(Told(), "(senders properties modified) (steps) (steps 0:0) (steps 0:1 0:2)");
-    EXPECT_FALSE(history.AddOneStep(CSenderRecordItem::OperationAddTiles));
-    EXPECT_EQ(Told(), "") << "nothing changed";
+    EXPECT_FALSE(history.AddOneStep(CSenderRecordItem::OperationAddTiles)) << "nothing changed";
     EXPECT_TRUE(history.Undo(2, nullptr, nullptr) && history.Redo(1, nullptr, nullptr));
     EXPECT_EQ(Told(), "(steps 0:0 0:1 0:2) (steps 0:0)");
     project.GetSender(0)->GetPort(1)->SetVisible(false);
@@ -59,7 +56,6 @@ TEST_F(DocumentChangeTest, AWindowIsToldOnceAfterEachOperation)
     project.NewSender();
     Edit(1, {3});
     EXPECT_EQ(Told(), "(senders properties) (steps 1:0 1:1 1:2 1:3)") << "what was there before is not known";
-
     const QString path = folder.Path(QStringLiteral("a.prj"));
     QString error;
     EXPECT_FALSE(project.SaveProjectToFile(folder.Path(), nullptr) && project.GetLastFileError().isEmpty());
@@ -70,9 +66,8 @@ TEST_F(DocumentChangeTest, AWindowIsToldOnceAfterEachOperation)
     ASSERT_TRUE(project.LoadProjectFromFile(path.toUtf8(), error, nullptr));
     Edit(0, {3});
     EXPECT_EQ(Told(), "(replaced modified) (steps modified 0:3)");
-
-    const QUuid id = project.GetSender(0)->GetId();
-    ASSERT_TRUE(project.ImportSender(SamplePath("sender-layout.xml"), id, false, true));
+    const QString sample = SamplePath("sender-layout.xml");
+    ASSERT_TRUE(project.ImportSender(sample, project.GetSender(0)->GetId(), false, true));
     ASSERT_TRUE(project.ExportPort(path) && project.ImportPort(path));
     EXPECT_EQ(Told(), "(properties 0:0 0:1 0:2 0:3) (0:1)");
     GetRuntimeData()->SetImpExpPrepareInfo({false, {0, 1}});

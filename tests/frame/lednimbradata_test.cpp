@@ -1,15 +1,14 @@
-#include "frame/runtimedata.h"
-#include "monitor/monitordata.h"
-#include "project/projectdata.h"
-#include "settings/configdata.h"
-#include "settings/constantdata.h"
+#include "orvandata.h"
 #include "support/library.h"
 #include "support/text.h"
+#include "support/wallbuilder.h"
 
 #include <gtest/gtest.h>
 
+#include <QDebug>
 #include <QDir>
 #include <QStandardPaths>
+#include <QVariant>
 
 #include <array>
 
@@ -52,4 +51,32 @@ TEST(LedNimbraDataTest, EachInitLoadsTheSettingsAndTheSecondKeepsTheObjects)
     LedNimbraData_Release();
     LedNimbraData_Init();
     EXPECT_EQ(GetConfigData()->GetLanguageType(), LanguageEnglish);
+}
+
+TEST(LedNimbraDataTest, ValuesAreShownAndCarriedAndSetsWalked)
+{
+    const Library library;
+    const auto sender = MakeWall(2, 1);
+    const CPort& port = *std::as_const(*sender).GetPort(0);
+    QString shown;
+    QDebug(&shown) << SMD5() << CPointEx<int>() << CPointEx<double>() << SRotateParam() << SGuidCompare()
+                   << SAddTileInfo() << SPortPlace() << SMonitorPlace() << SLoopbackError() << SVideoInput()
+                   << SSenderGroupInfo() << SRcvParamGamma() << SParameterFileInfo() << SHotkey()
+                   << CProduct() << *port.GetTileGroupSet().GetDirectGroupByDirIndex(0) << port.GetTileSet()
+                   << port << *sender;
+    EXPECT_TRUE(shown.contains(QStringLiteral("CTileSet(2 own cabinets) CPort(0, 2 cabinets, 1 groups) "
+                                              "CSender(\"\" QUuid(\"{")))
+        << shown.toStdString();
+    int width = 0;
+    for (const CTile* tile : port.GetTileSet()) {
+        EXPECT_EQ(tile->GetMultiRcvRect(0), tile->GetBound());
+        EXPECT_EQ(tile->GetTileRotateParam()->angle, tile->GetMultiRcvsLine()[0]);
+        width += tile->GetMultiRcvRelativeRect(0).width();
+    }
+    EXPECT_EQ(width, 256);
+    EXPECT_TRUE(port.GetPortProject()->SelTileShapeModifyEnable());
+    const CProjectUndoRedo& history = *GetRuntimeData()->GetProjectUndoRedo();
+    EXPECT_EQ(history.GetCanUndoStep() + history.GetUndoStepPort(0), -1);
+    EXPECT_EQ(QVariant::fromValue(SPortPlace{1, 2}).value<SPortPlace>(), (SPortPlace{1, 2}));
+    EXPECT_EQ(QVariant::fromValue(SMD5()).value<SMD5>(), SMD5());
 }
