@@ -22,6 +22,7 @@
 #include "layout/tileset.h"
 #include "monitor/monitordata.h"
 #include "params/impexpprepareinfo.h"
+#include "params/paramcodes.h"
 #include "params/paramcontents.h"
 #include "products/product.h"
 #include "products/productdirectory.h"

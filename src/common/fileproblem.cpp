@@ -37,9 +37,15 @@ bool MakeFolder(const QString& path, QString* error)
     return !code || Fail(error, CannotMakeFolder(path, code.value()));
 }
 
-QString WhyNotWritable(const QString& folder)
+bool CanWriteIn(const QString& folder, QString* error)
 {
     QTemporaryFile probe(folder + QStringLiteral("/XXXXXX"));
     const bool written = probe.open() && probe.write("x") == 1 && probe.flush();
-    return CannotWrite(folder, written ? QString() : probe.errorString());
+    return written || Fail(error, CannotWrite(folder, probe.errorString()));
+}
+
+QString WhyNotWritable(const QString& folder)
+{
+    QString why;
+    return CanWriteIn(folder, &why) ? CannotWrite(folder, QString()) : why;
 }

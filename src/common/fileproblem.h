@@ -12,5 +12,8 @@ QString NotRegular(const QString& path);
 /// Makes a folder with all its parents. A link to a folder counts as one.
 bool MakeFolder(const QString& path, QString* error = nullptr);
 
+/// Whether a file can be written in a folder; tried, and removed again.
+bool CanWriteIn(const QString& folder, QString* error = nullptr);
+
 /// Why no file can be written in a folder, for a caller that got no reason itself.
 QString WhyNotWritable(const QString& folder);

@@ -1,5 +1,6 @@
 #include "frame/lednimbradata.h"
 
+#include "common/fileproblem.h"
 #include "frame/lookups.h"
 #include "frame/runtimedata.h"
 #include "monitor/monitordata.h"
@@ -50,6 +51,16 @@ void LedNimbraData_Init()
     // The first call after a load keeps the language of the file and only derives the path of its
     // translation.
     g_config->SetLanguage(LanguageChinese);
+}
+
+QString LedNimbraData_FolderProblem()
+{
+    QString why;
+    for (const QString& folder : {CConstantData::GetSysConfigDir(), CProductDirectorySet::GetRootDir(),
+                                  CConstantData::GetProjectParamFileTemp(), CConstantData::GetBKImagePath()})
+        if (!MakeFolder(folder, &why) || !CanWriteIn(folder, &why))
+            return why;
+    return {};
 }
 
 void LedNimbraData_Release()

@@ -17,19 +17,23 @@ struct SRotateParam;
 /// A block of equal cabinets to place. Lengths in canvas pixels.
 struct SAddTileInfo
 {
-    QUuid senderId;
-    int portIndex = 0;
-    SMD5 type;
+    QUuid senderId;    ///< with the port's index what cabinets name as their place: that of this layout
+    int portIndex = 0; ///< from 0
+    SMD5 type;         ///< in the product library, or none; the flags below hold whatever the product says
     int left = 0;
     int top = 0;
-    int columns = 1;
+    int columns = 1; ///< cabinets across and down
     int rows = 1;
-    int width = 0;
+    int width = 0; ///< of one cabinet; more than kMaxCabinetSize becomes that
     int height = 0;
-    bool multi = false;
-    bool fixedLine = false;
-    bool ordered = true;
-    QSize multiSize{1, 1};
+
+    // receiving cards inside each cabinet
+    bool multi = false;     ///< there are several
+    bool fixedLine = false; ///< the product fixes their wiring; false unless there are several
+    bool ordered = true;    ///< false: the chain passes through `line` from its end
+    QSize multiSize{1, 1};  ///< across and down, at most kMaxReceiversInTile in all
+    /// The cell of each card along the chain: column * rows + row. The default puts all cards into the top
+    /// left cell, so with several cards name a cell for each.
     unsigned char line[kMaxReceiversInTile] = {};
 };
 

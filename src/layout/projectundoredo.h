@@ -29,7 +29,9 @@ public:
     // life
     bool Init();    ///< starts the histories of the project's senders anew, unmodified; always true
     void Release(); ///< clears every slot
-    bool SenderUndoRedoInit(CSender* sender); ///< (re)starts one; false: null, without id, or no slot free
+    /// (Re)starts one; false: null, without id, or no slot free. After NewSender, so that its first edit can
+    /// be undone.
+    bool SenderUndoRedoInit(CSender* sender);
     void SenderUndoRedoRelease(const QUuid& senderId);
 
     // histories [ref], null when there is none
@@ -72,8 +74,8 @@ public:
 
     // does the project differ from what was saved?
     bool IsModidfied() const;
-    void SetAsSaveStep();
-    void PrjModify(); ///< marks a change outside the histories; it stays until Init
+    void SetAsSaveStep(); ///< after a save: what the histories hold now is what was saved
+    void PrjModify();     ///< marks a change outside the histories; it stays until Init
 
     // what a window on the open document lives on
     /// One handler, told what changed, once after each operation: a step recorded, undone or redone, a load,

@@ -34,12 +34,12 @@ struct SenderFields
     QSize offset{-1, -1};
     int portCount = kDefaultPortCount;
     int recentPort = 0;
-    QSize canvasSize{-1, -1};
+    QSize canvasSize{-1, -1}; ///< pixels
     QPoint monitorRenderPlace;
     QSize monitorRenderSize{0, 0};
     int monitorRenderPos = 0;
     QPoint monitorRcvOffset;
-    quint32 netIp = 0;
+    quint32 netIp = 0; ///< host order
 };
 
 /// A sender as a file stores it: these two are held with the processor parameters.
@@ -58,7 +58,8 @@ enum class SenderParts
 };
 
 /// One sending unit or video processor of a project: identity, 160 ports of which the first GetPortCount()
-/// are in use, canvas, and the processor parameters. Owned by its project, or by whoever made the copy.
+/// are in use, canvas, and the processor parameters. Owned by its project, or by whoever made the copy; never
+/// delete one that a project handed out.
 class ORVANDATA_EXPORT CSender : public CSenderParams
 {
 public:

@@ -31,6 +31,7 @@ enum EnAutoNumberType : int
 /// An ordered list of cabinets; later ones lie on top. The set inside a port layout owns its tiles and
 /// deletes them; every other set (selections, query results) only refers to tiles owned elsewhere. Queries
 /// empty their result set and make it non-owning before they fill it; a query into the set it reads is safe.
+/// Once an owner has deleted a cabinet, as undo may, a set that still lists it must not be used.
 class ORVANDATA_EXPORT CTileSet
 {
 public:

@@ -1,15 +1,12 @@
 #pragma once
 
+#include "params/paramcodes.h"
+
 #include <QString>
 
-/// Results of the functions on parameter blocks and files.
 namespace params {
 
-constexpr quint32 kDone = 0;
-constexpr quint32 kFailed = 0x80004005;
-constexpr quint32 kTypeDiffers = 0xE0830003;  ///< the file is of another processor type than the sender
-constexpr quint32 kImportFailed = 0xE0830013; ///< the file does not hold what the sender takes
-
+/// The result of a function on a parameter file.
 struct Outcome
 {
     quint32 code = kDone;

@@ -41,8 +41,8 @@ public:
 
     // senders
     CSender* NewSender();            ///< [ref] appended; current only when it is the first
-    void AddSender(CSender* sender); ///< [own]
-    CSender* GetSender(int index) const { return m_senders.value(index); } ///< [ref]
+    void AddSender(CSender* sender); ///< [own] made by new
+    CSender* GetSender(int index) const { return m_senders.value(index); } ///< [ref] until it goes, or a load
     int GetSenderCount() const { return m_senders.size(); }
     QList<CSender*> GetSenders() const { return m_senders; } ///< [ref]
     int GetScIndexByID(const QUuid& id) const;
@@ -121,10 +121,11 @@ public:
     static quint32 GetIntFromOctString(const QString& text); ///< host-order IPv4, or a decimal number; else 0
 
     // project file
-    /// False: refused, and nothing was written. True does not mean that there is an archive: ask
-    /// GetLastFileError(), which is empty when it was written with all that belongs into it. The history is
-    /// not told: CProjectUndoRedo::SetAsSaveStep makes the steps count as saved, while what PrjModify marked
-    /// (senders and sender groups added, renamed or deleted) stays modified until the next load.
+    /// False: refused, and nothing was written. True does not mean that there is an archive. So ask
+    /// GetLastFileError() after each save: empty when all was written, else what is missing, or that no
+    /// archive was written. Then, for the open document, CProjectUndoRedo::SetAsSaveStep makes the steps
+    /// count as saved; what PrjModify marked (senders that came or went, sender groups) stays until the next
+    /// load.
     bool SaveProjectToFile(const QString& path, CCustomProgressbar* progress);
     /// `error` receives the minimum version of a file that is too new. On failure the project is as it was.
     bool LoadProjectFromFile(const char* path, QString& error, CCustomProgressbar* progress);
@@ -140,7 +141,7 @@ public:
     bool ExportPort(const QString& path); ///< of the current sender's recent port
     bool ImportPort(const QString& path); ///< into the current sender's recent port
 
-    // parameter files: 0, or a result code
+    // parameter files: a code of params/paramcodes.h. Parameters that do not fit are told in a message box.
     quint32 ExportMutiSenderParam(const QString& path, const QUuid& id);
     quint32 ExportMutiProcessorParam(const QString& path, const QUuid& id);
     quint32 ImportSenderParam(const QString& path, const QUuid& id);
@@ -148,7 +149,7 @@ public:
     quint32 ImportMutiSenderParam(const QString& path, const QUuid& id);
     quint32 ImportMutiProcessorParam(const QString& path, const QUuid& id);
 
-    // blocks of parameter files: 0, or a result code
+    // blocks of parameter files: likewise
     static quint32 SaveBasicInfoParam(QDomDocument& document, CSender* sender, QDomElement* element);
     static quint32 LoadBasicInfoParam(QDomDocument& document, QDomElement* element, CSender* sender);
     static quint32 SaveDeviceSetParam(QDomDocument& document, QDomElement* element, CSender* sender);

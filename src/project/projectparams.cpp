@@ -186,8 +186,7 @@ quint32 CProjectData::SaveInputParam(QDomDocument& document, QDomElement* elemen
 
 quint32 CProjectData::LoadInputParam(QDomDocument&, QDomElement* element, CSender* sender)
 {
-    constexpr quint32 ofNull = 1; // callers know it so
-    return Load(element, sender, DescribeInputs<ElementReader>, ofNull);
+    return Load(element, sender, DescribeInputs<ElementReader>, kNothingGiven); // callers know it so
 }
 
 quint32 CProjectData::SaveOutputParam(QDomDocument& document, CSender* sender, QDomElement* element)

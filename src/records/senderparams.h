@@ -5,7 +5,7 @@
 
 #include <QSharedDataPointer>
 
-/// The processor parameters of one sender, a value: copies share their data until one is written to.
+/// The processor parameters of one sender, a value. Units and ranges that no comment names are the device's.
 class ORVANDATA_EXPORT CSenderParams
 {
 public:

@@ -1,5 +1,6 @@
 #include "orvandata.h"
 #include "support/library.h"
+#include "support/testfolder.h"
 #include "support/text.h"
 #include "support/wallbuilder.h"
 
@@ -33,6 +34,7 @@ TEST(LedNimbraDataTest, ObjectsLiveBetweenInitAndRelease)
         EXPECT_EQ(std::count(objects.begin(), objects.end(), nullptr), 0);
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         EXPECT_TRUE(QDir(documents + "/Orvan/SysConfig"_s).exists());
+        EXPECT_EQ(LedNimbraData_FolderProblem(), QString());
     }
     EXPECT_EQ(Objects(), none);
     LedNimbraData_Release();
@@ -64,19 +66,27 @@ TEST(LedNimbraDataTest, ValuesAreShownAndCarriedAndSetsWalked)
                    << SSenderGroupInfo() << SRcvParamGamma() << SParameterFileInfo() << SHotkey()
                    << CProduct() << *port.GetTileGroupSet().GetDirectGroupByDirIndex(0) << port.GetTileSet()
                    << port << *sender;
-    EXPECT_TRUE(shown.contains(QStringLiteral("CTileSet(2 own cabinets) CPort(0, 2 cabinets, 1 groups) "
-                                              "CSender(\"\" QUuid(\"{")))
+    EXPECT_TRUE(shown.contains(QStringLiteral("CPort(0, 2 cabinets, 1 groups) CSender(")))
         << shown.toStdString();
     int width = 0;
-    for (const CTile* tile : port.GetTileSet()) {
-        EXPECT_EQ(tile->GetMultiRcvRect(0), tile->GetBound());
-        EXPECT_EQ(tile->GetTileRotateParam()->angle, tile->GetMultiRcvsLine()[0]);
-        width += tile->GetMultiRcvRelativeRect(0).width();
-    }
+    for (const CTile* tile : port.GetTileSet())
+        width += tile->GetMultiRcvRect(0).width() + tile->GetMultiRcvRelativeRect(0).x()
+                 + tile->GetMultiRcvsLine()[0] + qRound(tile->GetTileRotateParam()->angle);
     EXPECT_EQ(width, 256);
     EXPECT_TRUE(port.GetPortProject()->SelTileShapeModifyEnable());
     const CProjectUndoRedo& history = *GetRuntimeData()->GetProjectUndoRedo();
     EXPECT_EQ(history.GetCanUndoStep() + history.GetUndoStepPort(0), -1);
     EXPECT_EQ(QVariant::fromValue(SPortPlace{1, 2}).value<SPortPlace>(), (SPortPlace{1, 2}));
-    EXPECT_EQ(QVariant::fromValue(SMD5()).value<SMD5>(), SMD5());
+}
+
+TEST(LedNimbraDataTest, AFileInThePlaceOfTheFoldersIsTold)
+{
+    QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QString root = documents.filePath(QStringLiteral("Orvan"));
+    QDir(root).removeRecursively();
+    WriteFile(root, "");
+    LedNimbraData_Init();
+    EXPECT_TRUE(LedNimbraData_FolderProblem().contains(root + QStringLiteral("/SysConfig")));
+    LedNimbraData_Release();
+    EXPECT_TRUE(documents.remove(root));
 }
