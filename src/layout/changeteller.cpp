@@ -37,9 +37,9 @@ void ChangeTeller::SetHandler(const DocumentChangeHandler& handler, bool modifie
 
 void ChangeTeller::End(const CProjectUndoRedo& history)
 {
+    // What the handler changes waits for the next operation, so that it is never called within itself.
     if (--m_depth > 0 || m_telling)
-        return; // what the handler changes waits for the next operation, so that it is never called within
-                // itself
+        return;
     SDocumentChange change = std::exchange(m_pending, {});
     if (!m_handler)
         return;

@@ -45,7 +45,7 @@ struct SDocumentChange
     bool steps = false;         ///< what can be undone or redone
     QVector<SPortPlace> ports;  ///< with another layout, each once, in order; not those that back them up
     bool saved = false;         ///< written to a project file, or SetAsSaveStep was called
-    bool modifiedState = false; ///< IsModidfied() is not what it was when the handler was last told
+    bool modifiedState = false; ///< IsModidfied() is not what it was when the handler was set or last told
 };
 
 ORVANDATA_EXPORT QDebug operator<<(QDebug debug, const SPortPlace& place);       ///< sender:port

@@ -56,7 +56,7 @@ public:
     bool Undo(int steps, int* ports, int* count);
     bool Redo(int steps, int* ports, int* count);
 
-    // what the current sender's history holds; out of range: -1. The second forms are what older hosts link.
+    // what the current sender's history holds; out of range: -1
     int GetCanUndoStep() const; ///< 0 without a history
     int GetCanRedoStep() const; ///< 0 without a history
     int GetUndoStepType(int n) const;

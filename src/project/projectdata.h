@@ -19,7 +19,8 @@ class CTileSet;
 class QWidget;
 
 /// One project: senders in display order, sender groups, gamma table, parameter files, print form, demo mode.
-/// Owns its senders. Indices out of range give null, -1, false or an empty text.
+/// Owns its senders. Indices out of range give null, -1, false or an empty text. What happens to the open one
+/// is told by the history of it: CProjectUndoRedo::SetChangeHandler.
 class ORVANDATA_EXPORT CProjectData
 {
 public:
