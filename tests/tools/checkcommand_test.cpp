@@ -37,37 +37,18 @@ TEST(CheckCommandTest, ABareDocumentLacksItsParameterFilesUnlessTheLibraryHasThe
 TEST(CheckCommandTest, TwentyFaultsOfAKindAreToldUnlessAllAreWantedOrTheKindIsIgnored)
 {
     TestFolder folder; // 21 unnumbered cabinets beyond the canvas
-    ASSERT_EQ(
-        RunOrvan(Args({"new", "a.prj", "--grid", "7x3", "--ports", "1", "--canvas", "10x10"}), folder.Path())
-            .status,
-        0);
-    const struct
-    {
-        QStringList options;
-        int status;
-        int lines;
-        QStringList more; // and the last line
-    } cases[] = {
-        {{}, 1, 43, Args({"… and 1 more", "… and 1 more", "42 faults"})},
-        {Args({"--all"}), 1, 43, Args({"42 faults"})},
-        {Args({"--ignore", "unnumbered"}), 1, 22, Args({"… and 1 more", "21 faults, 21 ignored"})},
-        {Args({"--ignore", "unnumbered", "--ignore", "off-canvas"}), 0, 1, Args({"0 faults, 42 ignored"})},
-        {Args({"--ignore", "unnumbered,overlap"}), 2, 0, {}},
-    };
-    for (const auto& c : cases) {
-        const OrvanRun run = RunOrvan(Args({"check", "a.prj"}) + c.options, folder.Path());
-        EXPECT_EQ(run.status, c.status);
+    RunOrvan(Args({"new", "a.prj", "--grid", "7x3", "--ports", "1", "--canvas", "10x10"}), folder.Path());
+    const auto told = [&](std::initializer_list<const char*> options) {
+        const OrvanRun run = RunOrvan(Args({"check", "a.prj"}) + Args(options), folder.Path());
         const QStringList lines = QString::fromUtf8(run.output).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        EXPECT_EQ(lines.size(), c.lines);
-        EXPECT_EQ(lines.filter(QRegularExpression(Arg("^…|faults"))), c.more);
-        EXPECT_EQ(run.errors.contains(Arg("missing-parameter-file")), c.status == 2);
-    }
-    const auto listed = [&](const QStringList& options) {
-        const QStringList check = Args({"check", "a.prj", "--json"}) + options;
-        return RunOrvan(check, folder.Path()).Json()[Arg("faults")].toArray().size();
+        const QStringList counts = lines.filter(QRegularExpression(Arg("^…|faults")));
+        return Arg("%1 %2 ").arg(run.status).arg(lines.size()) + counts.join(QLatin1Char('|'));
     };
-    EXPECT_EQ(listed({}), 42);
-    EXPECT_EQ(listed(Args({"--ignore", "unnumbered"})), 21);
+    EXPECT_EQ(told({}), Arg("1 43 … and 1 more|… and 1 more|42 faults"));
+    EXPECT_EQ(told({"--all"}), Arg("1 43 42 faults"));
+    EXPECT_EQ(told({"--ignore", "unnumbered"}), Arg("1 22 … and 1 more|21 faults, 21 ignored"));
+    EXPECT_EQ(told({"--ignore", "unnumbered", "--ignore", "off-canvas"}), Arg("0 1 0 faults, 42 ignored"));
+    EXPECT_EQ(told({"--ignore", "overlap,unnumbered"}), Arg("2 0 "));
 }
 
 TEST(CheckCommandTest, PortPixelsCanBeSet)
@@ -89,31 +70,19 @@ TEST(DiffCommandTest, DifferencesEndWithOneAndNothingIsPrintedWithoutAny)
 {
     TestFolder folder;
     const QString wall = SamplePath("small-wall.prj");
-    QByteArray text = ReadFile(SamplePath("small-wall.xml"));
-    text.replace("Name=\"Hall left\"", "Name=\"Hall\x7F\"")
-        .replace("RefreshDisTime=\"15\"", "RefreshDisTime=\"20\"");
-    const QString edited = folder.Write(Arg("edited.xml"), text);
-    for (const QString& other : {wall, SamplePath("small-wall.xml")}) {
-        const OrvanRun same = RunOrvan({Arg("diff"), wall, other});
-        EXPECT_EQ(same.status, 0);
-        EXPECT_EQ(same.output + same.errors.toUtf8(), QByteArray());
-    }
-    const OrvanRun run = RunOrvan({Arg("diff"), wall, edited});
+    const QByteArray text = ReadFile(SamplePath("small-wall.xml"));
+    const QString same = folder.Write(Arg("same.xml"), text);
+    const QString other = folder.Write(Arg("b.xml"), QByteArray(text).replace("\"Hall left\"", "\"a\x7F\""));
+    EXPECT_EQ(RunOrvan({Arg("diff"), wall, same}).output, "");
+    EXPECT_EQ(RunOrvan({Arg("diff"), wall, same}).status, 0);
+    const OrvanRun run = RunOrvan({Arg("diff"), wall, other});
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(QString::fromUtf8(run.output), Arg("2 differences: senders changed 1, settings 1\n"
-                                                 "monitoring every 20 s, was 15 s\n"
-                                                 "sender 1: name \"Hall\uFFFD\", was \"Hall left\"\n"));
-    const QJsonArray list =
-        RunOrvan({Arg("diff"), wall, edited, Arg("--json")}).Json()[Arg("differences")].toArray();
-    ASSERT_EQ(list.size(), 2);
-    EXPECT_EQ(list[0][Arg("kind")], QJsonValue(Arg("settings")));
-    EXPECT_EQ(list[1][Arg("sender")], QJsonValue(1));
-    const QString bad = SamplePath("too-new.prj");
-    for (const QStringList& files : {QStringList{wall, bad}, QStringList{bad, wall}}) {
-        const OrvanRun failed = RunOrvan(QStringList{Arg("diff")} + files);
-        EXPECT_EQ(failed.status, 3);
-        EXPECT_TRUE(failed.errors.startsWith(Arg("orvan: ") + bad + Arg(": "))) << qPrintable(failed.errors);
-    }
+    EXPECT_TRUE(run.output.endsWith("\nsender 1: name \"a\uFFFD\", was \"Hall left\"\n"));
+    const QJsonValue json = RunOrvan({Arg("diff"), wall, other, Arg("--json")}).Json();
+    EXPECT_EQ(json[Arg("differences")][0][Arg("kind")], QJsonValue(Arg("sender")));
+    const OrvanRun failed = RunOrvan({Arg("diff"), wall, SamplePath("too-new.prj")});
+    EXPECT_EQ(failed.status, 3);
+    EXPECT_TRUE(failed.errors.startsWith(Arg("orvan: ") + SamplePath("too-new.prj")));
 }
 
 TEST(ParamsCommandTest, AParameterFileIsPrintedUnderItsElementNames)

@@ -27,8 +27,10 @@ bool IsCenterSame(const CTile& before, const CTile& after)
 {
     const SRotateParam& a = before.GetRotateRecord();
     const SRotateParam& b = after.GetRotateRecord();
-    return IsNear(a.centerX, b.centerX, after.GetX() - before.GetX())
-           && IsNear(a.centerY, b.centerY, after.GetY() - before.GetY());
+    const bool used = a.rotated || b.rotated || a.showCenter || b.showCenter;
+    return !used
+           || (IsNear(a.centerX, b.centerX, after.GetX() - before.GetX())
+               && IsNear(a.centerY, b.centerY, after.GetY() - before.GetY()));
 }
 
 bool IsLeftTopSame(const CTile& before, const CTile& after)
@@ -39,9 +41,13 @@ bool IsLeftTopSame(const CTile& before, const CTile& after)
            && IsNear(a.leftTopY, b.leftTopY, after.GetY() - before.GetY());
 }
 
-bool IsTurnedSizeSame(const SRotateParam& a, const SRotateParam& b)
+/// Where a cabinet is to be turned is not told of one that is not turned.
+bool IsBlockSame(const CTile& before, const CTile& after)
 {
-    return IsNear(a.width, b.width) && IsNear(a.height, b.height);
+    const SRotateParam& a = before.GetRotateRecord();
+    const SRotateParam& b = after.GetRotateRecord();
+    return (!a.rotated && !b.rotated)
+           || (IsNear(a.width, b.width) && IsNear(a.height, b.height) && IsLeftTopSame(before, after));
 }
 
 bool IsTurnedSame(const CTile& before, const CTile& after)
@@ -49,7 +55,7 @@ bool IsTurnedSame(const CTile& before, const CTile& after)
     const SRotateParam& a = before.GetRotateRecord();
     const SRotateParam& b = after.GetRotateRecord();
     return IsNear(a.angle, b.angle) && a.rotated == b.rotated && a.showCenter == b.showCenter
-           && IsTurnedSizeSame(a, b) && IsCenterSame(before, after) && IsLeftTopSame(before, after);
+           && IsCenterSame(before, after) && IsBlockSame(before, after);
 }
 
 bool IsWiredSame(const CTile& a, const CTile& b)
@@ -156,11 +162,10 @@ QString CabinetChange::OtherText(const TypeName& before, const TypeName& after) 
     tell(IsCenterSame(m_before, m_after), "turned about ", [](const CTile& tile) {
         return PairText(tile.GetRotateRecord().centerX, tile.GetRotateRecord().centerY);
     });
-    tell(IsLeftTopSame(m_before, m_after), "left top of the turned block ", [](const CTile& tile) {
-        return PairText(tile.GetRotateRecord().leftTopX, tile.GetRotateRecord().leftTopY);
-    });
-    tell(IsTurnedSizeSame(a, b), "size of the turned block ", [](const CTile& tile) {
-        return SizeText(tile.GetRotateRecord().width, tile.GetRotateRecord().height);
+    tell(IsBlockSame(m_before, m_after), "turned as part of ", [](const CTile& tile) {
+        const SRotateParam& record = tile.GetRotateRecord();
+        return SizeText(record.width, record.height) + QStringLiteral(" at ")
+               + PairText(record.leftTopX, record.leftTopY);
     });
     tell(a.showCenter == b.showCenter, "middle of turning ", [](const CTile& tile) {
         return tile.GetRotateRecord().showCenter ? QStringLiteral("shown") : QStringLiteral("hidden");

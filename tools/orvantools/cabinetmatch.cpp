@@ -8,6 +8,7 @@
 #include <array>
 #include <optional>
 #include <tuple>
+#include <unordered_set>
 #include <utility>
 
 namespace OrvanTools {
@@ -83,17 +84,6 @@ void PairLeft(CabinetMatch& match, KeyOf keyOf)
     }
 }
 
-size_t CountDifferences(const CabinetMatch& match, size_t fromPair)
-{
-    size_t count = match.removed.size() + match.added.size();
-    for (size_t i = fromPair; i < match.pairs.size(); ++i) {
-        const CabinetChange change(*match.pairs[i].a.tile, *match.pairs[i].b.tile);
-        count +=
-            (change.IsMoved() ? 1U : 0U) + (change.IsRenumbered() ? 1U : 0U) + (change.IsOther() ? 1U : 0U);
-    }
-    return count;
-}
-
 /// Most ports are alike in their order too, which spares the sorting.
 CabinetMatch MatchInOrder(int port, const CTileSet* a, const CTileSet* b)
 {
@@ -116,28 +106,112 @@ CabinetMatch MatchInOrder(int port, const CTileSet* a, const CTileSet* b)
     return match;
 }
 
-} // namespace
-
-CabinetMatch MatchCabinets(int port, const CTileSet* a, const CTileSet* b)
+const CTileSet* TilesOf(const CSender& sender, int port)
 {
-    CabinetMatch byPlace = MatchInOrder(port, a, b);
-    PairLeft(byPlace, All);
-    if (byPlace.removed.empty() || byPlace.added.empty())
-        return byPlace;
-    const size_t alike = byPlace.pairs.size();
-    CabinetMatch byNumber = byPlace;
-    for (const KeyOf keyOf : {PlaceAndSize, Number, Place})
-        PairLeft(byPlace, keyOf);
-    for (const KeyOf keyOf : {Number, PlaceAndSize, Place})
-        PairLeft(byNumber, keyOf);
-    return CountDifferences(byNumber, alike) < CountDifferences(byPlace, alike) ? byNumber : byPlace;
+    return port < sender.GetPortCount() ? &sender.GetPort(port)->GetTileSet() : nullptr;
 }
 
-CabinetMatch MatchAcrossPorts(std::vector<CabinetRef> removed, std::vector<CabinetRef> added)
+void Append(std::vector<CabinetRef>& to, const std::vector<CabinetRef>& from)
 {
-    CabinetMatch match{{}, std::move(removed), std::move(added)};
-    PairLeft(match, PlaceAndSize);
+    to.insert(to.end(), from.begin(), from.end());
+}
+
+/// What is left of each port goes both ways, and the better one is kept.
+class SenderMatcher
+{
+public:
+    SenderMatch Match(const CSender& a, const CSender& b);
+
+private:
+    void FindCrossing();
+    std::vector<CabinetRef> TakeCrossing(std::vector<CabinetRef>& left) const;
+    CabinetMatch MatchPort(const CabinetMatch& left, CabinetMatch byPlace) const;
+    size_t CountDifferences(const CabinetMatch& match) const;
+
+    std::vector<CabinetMatch> m_left;            ///< of each port, no pairs
+    std::vector<CabinetMatch> m_byPlace;         ///< the same after the first pass by place
+    std::unordered_set<const CTile*> m_crossing; ///< those that another port has at their place then, or had
+};
+
+SenderMatch SenderMatcher::Match(const CSender& a, const CSender& b)
+{
+    SenderMatch match;
+    for (int port = 0; port < std::max(a.GetPortCount(), b.GetPortCount()); ++port) {
+        CabinetMatch alike = MatchInOrder(port, TilesOf(a, port), TilesOf(b, port));
+        PairLeft(alike, All);
+        match.ports.push_back(std::move(alike.pairs));
+        m_left.push_back({{}, std::move(alike.removed), std::move(alike.added)});
+        m_byPlace.push_back(m_left.back());
+        PairLeft(m_byPlace.back(), PlaceAndSize);
+    }
+    FindCrossing();
+    for (size_t port = 0; port < m_left.size(); ++port) {
+        const CabinetMatch best = MatchPort(m_left[port], std::move(m_byPlace[port]));
+        match.ports[port].insert(match.ports[port].end(), best.pairs.begin(), best.pairs.end());
+        Append(match.others.removed, best.removed);
+        Append(match.others.added, best.added);
+    }
+    PairLeft(match.others, PlaceAndSize);
     return match;
+}
+
+void SenderMatcher::FindCrossing()
+{
+    CabinetMatch others;
+    for (const CabinetMatch& port : m_byPlace) {
+        Append(others.removed, port.removed);
+        Append(others.added, port.added);
+    }
+    PairLeft(others, PlaceAndSize);
+    for (const CabinetPair& pair : others.pairs) {
+        m_crossing.insert(pair.a.tile);
+        m_crossing.insert(pair.b.tile);
+    }
+}
+
+std::vector<CabinetRef> SenderMatcher::TakeCrossing(std::vector<CabinetRef>& left) const
+{
+    std::vector<CabinetRef> staying;
+    std::vector<CabinetRef> crossing;
+    for (const CabinetRef& cabinet : left)
+        (m_crossing.count(cabinet.tile) == 0 ? staying : crossing).push_back(cabinet);
+    left = std::move(staying);
+    return crossing;
+}
+
+CabinetMatch SenderMatcher::MatchPort(const CabinetMatch& left, CabinetMatch byPlace) const
+{
+    CabinetMatch byNumber = left;
+    for (const KeyOf keyOf : {Number, PlaceAndSize, Place})
+        PairLeft(byNumber, keyOf);
+    const std::vector<CabinetRef> gone = TakeCrossing(byPlace.removed);
+    const std::vector<CabinetRef> come = TakeCrossing(byPlace.added);
+    for (const KeyOf keyOf : {Number, Place})
+        PairLeft(byPlace, keyOf);
+    Append(byPlace.removed, gone);
+    Append(byPlace.added, come);
+    return CountDifferences(byNumber) < CountDifferences(byPlace) ? byNumber : byPlace;
+}
+
+/// A cabinet that went to another port is counted there.
+size_t SenderMatcher::CountDifferences(const CabinetMatch& match) const
+{
+    size_t count = match.added.size();
+    for (const CabinetRef& cabinet : match.removed)
+        count += m_crossing.count(cabinet.tile) == 0 ? 1U : 0U;
+    for (const CabinetPair& pair : match.pairs) {
+        const CabinetChange change(*pair.a.tile, *pair.b.tile);
+        count +=
+            (change.IsMoved() ? 1U : 0U) + (change.IsRenumbered() ? 1U : 0U) + (change.IsOther() ? 1U : 0U);
+    }
+    return count;
+}
+
+} // namespace
+
+SenderMatch MatchCabinets(const CSender& a, const CSender& b)
+{
+    return SenderMatcher().Match(a, b);
 }
 
 } // namespace OrvanTools

@@ -2,8 +2,8 @@
 
 #include <vector>
 
+class CSender;
 class CTile;
-class CTileSet;
 
 namespace OrvanTools {
 
@@ -29,12 +29,15 @@ struct CabinetMatch
     std::vector<CabinetRef> added;   ///< without one in a
 };
 
-/// Pairs the cabinets of a port by place and size first, or by number first, whichever leaves fewer
-/// differences; by place when both leave as many. What is left then goes by the other of the two, and at last
-/// by place alone. Null stands for a port that one of the projects does not use.
-CabinetMatch MatchCabinets(int port, const CTileSet* a, const CTileSet* b);
+struct SenderMatch
+{
+    std::vector<std::vector<CabinetPair>> ports; ///< those that stayed on their port
+    CabinetMatch others;                         ///< those that went to another one, that left and that came
+};
 
-/// Pairs by place and size what is left on the ports of a sender.
-CabinetMatch MatchAcrossPorts(std::vector<CabinetRef> removed, std::vector<CabinetRef> added);
+/// Pairs the cabinets of each port by place and size first, or by number first, whichever leaves fewer
+/// differences; by place when both leave as many. What is left then goes by the other of the two, by place
+/// alone and at last by place and size on other ports. Ports that a sender does not use are empty.
+SenderMatch MatchCabinets(const CSender& a, const CSender& b);
 
 } // namespace OrvanTools

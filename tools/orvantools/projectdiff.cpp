@@ -75,7 +75,8 @@ private:
     void Pair(int a, int b);
     void CompareSenders();
     void CompareSender(int a, int b);
-    void ComparePort(const CPort* a, const CPort* b, int sender, int port);
+    void ComparePort(const CPort* a, const CPort* b, const std::vector<CabinetPair>& pairs, int sender,
+                     int port);
     void TellCabinets(const CabinetMatch& match, int sender);
     void TellPair(const CabinetPair& pair, int sender);
     void TellSender(DifferenceKind kind, const CProjectData& project, int sender);
@@ -92,7 +93,6 @@ private:
     TypeNames m_typesB;
     std::vector<int> m_partnerOfA; ///< senders
     std::vector<int> m_partnerOfB;
-    CabinetMatch m_left; ///< cabinets of a sender without a partner on their own port
     std::vector<Difference> m_found;
 };
 
@@ -191,11 +191,12 @@ void Comparer::CompareSender(int a, int b)
     const QStringList changes = CompareRows(SenderRows(m_a.project, before), SenderRows(m_b.project, after));
     if (!changes.isEmpty())
         Add(DifferenceKind::Sender, b, kNone, kNone, changes.join(QStringLiteral("; ")));
-    m_left = {};
-    for (int port = 0; port < std::max(before.GetPortCount(), after.GetPortCount()); ++port)
+    const SenderMatch match = MatchCabinets(before, after);
+    for (int port = 0; port < static_cast<int>(match.ports.size()); ++port)
         ComparePort(port < before.GetPortCount() ? before.GetPort(port) : nullptr,
-                    port < after.GetPortCount() ? after.GetPort(port) : nullptr, b, port);
-    TellCabinets(MatchAcrossPorts(std::move(m_left.removed), std::move(m_left.added)), b);
+                    port < after.GetPortCount() ? after.GetPort(port) : nullptr,
+                    match.ports[static_cast<size_t>(port)], b, port);
+    TellCabinets(match.others, b);
 }
 
 /// The port that a port backs up, in the numbers of b.
@@ -214,7 +215,9 @@ QString Comparer::SourceText(const CProjectData& project, const CPort& port) con
            + QStringLiteral(" port %1").arg(qint64(port.GetBackupSrcPortIndex()) + 1);
 }
 
-void Comparer::ComparePort(const CPort* a, const CPort* b, int sender, int port)
+/// Null stands for a port that is not in use.
+void Comparer::ComparePort(const CPort* a, const CPort* b, const std::vector<CabinetPair>& pairs, int sender,
+                           int port)
 {
     if (a && b) {
         TextRows before = PortRows(*a);
@@ -225,13 +228,9 @@ void Comparer::ComparePort(const CPort* a, const CPort* b, int sender, int port)
         if (!changes.isEmpty())
             Add(DifferenceKind::Port, sender, port, kNone, changes.join(QStringLiteral("; ")));
     }
-    const CabinetMatch match =
-        MatchCabinets(port, a ? &a->GetTileSet() : nullptr, b ? &b->GetTileSet() : nullptr);
-    for (const CabinetPair& pair : match.pairs)
+    for (const CabinetPair& pair : pairs)
         TellPair(pair, sender);
-    m_left.removed.insert(m_left.removed.end(), match.removed.begin(), match.removed.end());
-    m_left.added.insert(m_left.added.end(), match.added.begin(), match.added.end());
-    CompareGroups(a, b, match.pairs, [&](const GroupDifference& difference) {
+    CompareGroups(a, b, pairs, [&](const GroupDifference& difference) {
         Add(DifferenceKind::Group, sender, port, difference.cabinet, difference.text);
     });
 }

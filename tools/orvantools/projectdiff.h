@@ -48,7 +48,8 @@ struct ProjectSide
 /// What differs from a to b, in the order of senders, ports, kinds and cabinets, what belongs to no sender
 /// first. Compared is what DescribeProject shows, and some settings more, but for what follows from the rest
 /// (bounds, counts, loads, first receivers) and for what a wall made anew changes: ids of senders and groups,
-/// and the order in which a port lists its cabinets. Groups are the same when the same cabinets are in them.
+/// the order in which a port lists its cabinets, and the place of turning of those that are not turned.
+/// Groups are the same when the same cabinets are in them.
 std::vector<Difference> CompareProjects(const ProjectSide& a, const ProjectSide& b);
 
 /// "3 differences: cabinets moved 2, ports changed 1"; empty when there is none.
