@@ -63,7 +63,8 @@ TEST(RenderCommandTest, AFailedDrawingLeavesWhatIsThere)
     EXPECT_EQ(Render(output, Args({"--sender", "3"})).status, 2);
     EXPECT_EQ(Render(output, Args({"--sender", "0"})).status, 2);
     EXPECT_EQ(Render(output, Args({"--port", "0"})).status, 2);
-    EXPECT_TRUE(Render(output, Args({"--port", "5"})).errors.endsWith(Arg("has no port 5\n")));
+    EXPECT_TRUE(Render(output, Args({"--port", "5"}))
+                    .errors.endsWith(Arg("has no port 5; see orvan render --help\n")));
     EXPECT_EQ(Render(output, Args({"--width", "1"})).status, 2);
     EXPECT_EQ(Render(output, Args({"--width", "1000000"})).status, 2);
     EXPECT_EQ(ReadFile(output), QByteArray("precious"));

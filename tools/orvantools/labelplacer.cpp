@@ -5,11 +5,11 @@
 
 namespace OrvanTools {
 
-template <class Visit> bool LabelPlacer::VisitCells(const QRectF& place, Visit visit)
+template <class Visit> bool LabelPlacer::VisitCells(const QRectF& bound, Visit visit)
 {
     const auto cell = [this](double at) { return static_cast<int>(std::floor(at / m_cell)); };
-    for (int y = cell(place.top()); y <= cell(place.bottom()); ++y) {
-        for (int x = cell(place.left()); x <= cell(place.right()); ++x) {
+    for (int y = cell(bound.top()); y <= cell(bound.bottom()); ++y) {
+        for (int x = cell(bound.left()); x <= cell(bound.right()); ++x) {
             if (!visit(m_taken[y * (qint64(1) << 32) + x]))
                 return false;
         }
@@ -19,20 +19,24 @@ template <class Visit> bool LabelPlacer::VisitCells(const QRectF& place, Visit v
 
 bool LabelPlacer::Take(const QRectF& place)
 {
-    const auto isFree = [&place](const std::vector<QRectF>& taken) {
-        return std::none_of(taken.begin(), taken.end(),
-                            [&place](const QRectF& other) { return other.intersects(place); });
-    };
-    if (!VisitCells(place, isFree))
-        return false;
-    Block(place);
-    return true;
+    return Take(TileShape{{place.topLeft(), place.topRight(), place.bottomRight(), place.bottomLeft()}, 0});
 }
 
-void LabelPlacer::Block(const QRectF& place)
+bool LabelPlacer::Take(const TileShape& place)
 {
-    VisitCells(place, [&place](std::vector<QRectF>& taken) {
-        taken.push_back(place);
+    const Place wanted{place.Bound(), place};
+    const auto overlaps = [&wanted](const Place& other) {
+        return other.bound.intersects(wanted.bound)
+               && ((!other.shape.IsTurned() && !wanted.shape.IsTurned())
+                   || IsOverlap(other.shape, wanted.shape));
+    };
+    const auto isFree = [&overlaps](const std::vector<Place>& taken) {
+        return std::none_of(taken.begin(), taken.end(), overlaps);
+    };
+    if (!VisitCells(wanted.bound, isFree))
+        return false;
+    return VisitCells(wanted.bound, [&wanted](std::vector<Place>& taken) {
+        taken.push_back(wanted);
         return true;
     });
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvantools/tileshape.h"
+
 #include <QHash>
 #include <QRectF>
 
@@ -13,14 +15,20 @@ class LabelPlacer
 public:
     explicit LabelPlacer(double cell) : m_cell(cell) {} ///< about the size of a label
 
-    bool Take(const QRectF& place);  ///< false when some of it is taken
-    void Block(const QRectF& place); ///< takes a place, also one that is not free
+    bool Take(const QRectF& place);    ///< false when some of it is taken
+    bool Take(const TileShape& place); ///< the same for one that may be turned
 
 private:
-    template <class Visit> bool VisitCells(const QRectF& place, Visit visit);
+    struct Place
+    {
+        QRectF bound;
+        TileShape shape;
+    };
+
+    template <class Visit> bool VisitCells(const QRectF& bound, Visit visit);
 
     double m_cell;
-    QHash<qint64, std::vector<QRectF>> m_taken;
+    QHash<qint64, std::vector<Place>> m_taken;
 };
 
 } // namespace OrvanTools

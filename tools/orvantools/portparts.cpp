@@ -5,7 +5,7 @@
 #include "orvantools/wallview.h"
 
 #include <algorithm>
-#include <set>
+#include <map>
 #include <tuple>
 #include <utility>
 
@@ -220,21 +220,26 @@ PicturePort PartPictures::Make(const PortPart& part) const
     if (part.places.size() == m_port.cabinets.size())
         picture.groups = m_port.groups; // the overview shows those that lie on several parts
 
-    std::set<int> steps;
+    std::map<int, bool> steps; // in the chain: whether the cabinet is the part's own
     const int last = static_cast<int>(m_port.chain.size()) - 1;
     for (const int place : part.places) {
         const int step = m_steps[static_cast<size_t>(place)];
-        if (step < 0)
+        if (step < 0) {
             Append(picture, place);
-        for (int i = std::max(0, step - 1); step >= 0 && i <= std::min(last, step + 1); ++i)
-            steps.insert(i);
+            continue;
+        }
+        steps[step] = true;
+        steps.emplace(std::max(0, step - 1), false);
+        steps.emplace(std::min(last, step + 1), false);
     }
-    for (const int step : steps) {
+    for (const auto& [step, isOwn] : steps) {
         picture.chain.push_back(static_cast<int>(picture.cabinets.size()));
         Append(picture, m_port.chain[static_cast<size_t>(step)]);
+        if (!isOwn)
+            picture.cabinets.back().receivers.clear(); // they are on its own page
     }
-    picture.chainBegins = steps.empty() || *steps.begin() == 0;
-    picture.chainEnds = steps.empty() || *steps.rbegin() == last;
+    picture.chainBegins = steps.empty() || steps.begin()->first == 0;
+    picture.chainEnds = steps.empty() || steps.rbegin()->first == last;
     return picture;
 }
 

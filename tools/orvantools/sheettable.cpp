@@ -16,6 +16,7 @@ constexpr double kRowHeight = 38;
 constexpr double kTextHeight = 27;
 constexpr double kCellGap = 22;
 constexpr double kBlockGap = 60;
+constexpr int kLeastRows = 8;  ///< of a table, before there is another beside it
 constexpr int kShadedRows = 2; ///< every other one, to lead the eye
 
 } // namespace
@@ -34,7 +35,8 @@ double SheetTable::Width() const
 
 int SheetTable::BlocksOn(double width) const
 {
-    return std::max(1, static_cast<int>((width + kBlockGap) / (Width() + kBlockGap)));
+    const int room = static_cast<int>((width + kBlockGap) / (Width() + kBlockGap));
+    return std::max(1, std::min(room, m_rows / kLeastRows));
 }
 
 int SheetTable::RowsOn(const QSizeF& area) const

@@ -21,13 +21,16 @@ constexpr double kWidest = 1.7;   ///< of a number on the chain, in widths of it
 constexpr double kHighest = 1.35; ///< the same in heights
 constexpr double kLeastRun = 6;   ///< from one number of a turn to the next, in heights of text
 
-/// The upright rectangle around one that is turned about its middle.
-QRectF TurnedBox(const QPointF& middle, const QSizeF& size, double angle)
+/// A rectangle that is turned about its middle.
+TileShape TurnedShape(const QPointF& middle, const QSizeF& size, double angle)
 {
     QTransform turn;
     turn.translate(middle.x(), middle.y());
     turn.rotate(angle);
-    return turn.mapRect(QRectF(QPointF(-size.width(), -size.height()) / 2, size));
+    const QRectF rect(QPointF(-size.width(), -size.height()) / 2, size);
+    return {{turn.map(rect.topLeft()), turn.map(rect.topRight()), turn.map(rect.bottomRight()),
+             turn.map(rect.bottomLeft())},
+            angle};
 }
 
 /// Text that would stand on its head is turned round.
@@ -118,8 +121,8 @@ void WallLabels::PaintTexts(const WallPart& part)
 bool WallLabels::PaintText(const Label& label, const QColor& color)
 {
     const double width = QFontMetricsF(Font(label.height)).horizontalAdvance(label.text);
-    const QRectF box = TurnedBox(label.place, QSizeF(width, label.height), label.angle);
-    if (!m_view.GetArea().contains(box) || !m_labels.Take(box))
+    const TileShape shape = TurnedShape(label.place, QSizeF(width, label.height), label.angle);
+    if (!m_view.GetArea().contains(shape.Bound()) || !m_labels.Take(shape))
         return false;
     PaintInside(label, color);
     return true;
@@ -353,7 +356,8 @@ void WallLabels::PaintInside(const Label& label, const QColor& color)
 QRectF WallLabels::TagBox(const Label& label)
 {
     const double width = QFontMetricsF(Font(label.height)).horizontalAdvance(label.text);
-    return TurnedBox(label.place, QSizeF(width + label.height * 0.4, label.height * 1.2), label.angle);
+    return TurnedShape(label.place, QSizeF(width + label.height * 0.4, label.height * 1.2), label.angle)
+        .Bound();
 }
 
 bool WallLabels::PaintTag(const WallPart& part, const Label& label, const QColor& ground, bool isInside)

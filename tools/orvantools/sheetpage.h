@@ -1,0 +1,42 @@
+#pragma once
+
+#include "orvantools/sheetset.h"
+
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+class QPainter;
+
+namespace OrvanTools {
+
+// Of a page, in tenths of a millimetre.
+constexpr double kSheetText = 34;
+constexpr double kSheetLine = 52;
+constexpr double kSheetGap = 30;
+constexpr double kLeastSheetText = 20; ///< of the numbers on the wall
+
+/// One page of a set. Its painters keep what they refer to.
+struct SheetPage
+{
+    using Painting = std::function<void(QPainter&, const QRectF& area)>;
+
+    bool landscape = false;
+    QString title;   ///< of the project
+    QString heading; ///< sender and port
+    QString figures;
+    Painting body;
+    Painting keyPlan; ///< none: no place is left for it
+};
+
+QSizeF SheetSize(Paper paper, bool landscape);
+QRectF SheetBody(const QSizeF& page); ///< what the header and the margins leave
+
+/// `aside`: the view and the number of the page, which stand at the right of two lines.
+void PaintSheetHeader(QPainter& painter, const SheetPage& page, const QSizeF& size, const QStringList& aside);
+
+QString Joined(QStringList parts);                                 ///< in one line, without the empty ones
+QString Counted(qint64 number, const char* one, const char* many); ///< "1 cabinet", "2 cabinets", translated
+
+} // namespace OrvanTools
