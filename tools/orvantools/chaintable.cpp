@@ -41,14 +41,27 @@ ChainTable::ChainTable(const CProjectData& project, const CTileSet& tiles, const
     const QList<SParameterFileInfo> files = project.GetParameterFiles();
     for (const SParameterFileInfo& file : files)
         m_products.insert(file.type.ToString(), file.name);
-    m_cells = {Cell::Number, Cell::Cabinet, Cell::Cards, Cell::X, Cell::Y};
-    for (const Cell cell : {Cell::Size, Cell::Angle, Cell::Product}) {
+    m_cells = {Cell::Number, Cell::Cabinet};
+    if (!IsOneCardEach())
+        m_cells.push_back(Cell::Cards);
+    m_cells.insert(m_cells.end(), {Cell::X, Cell::Y});
+    for (const Cell cell : {Cell::Size, Cell::Angle, Cell::Product, Cell::Distance}) {
         if (!IsCommon(cell))
             m_cells.push_back(cell);
         else if (!m_order.empty() && Text(m_order.front(), cell, -1) != None())
             m_common.append(Text(m_order.front(), cell, -1));
     }
-    m_cells.push_back(Cell::Distance);
+    if (m_order.size() > 1 && IsCommon(Cell::Distance))
+        m_common.append(Tr("distance %1").arg(DistanceText(m_order[1], m_order[0])));
+}
+
+/// Then the numbers of cabinets are those of their cards.
+bool ChainTable::IsOneCardEach() const
+{
+    return std::all_of(m_order.begin(), m_order.end(), [this](int place) {
+        const PictureCabinet& cabinet = m_port.cabinets[static_cast<size_t>(place)];
+        return cabinet.receivers.empty() && cabinet.firstReceiver == cabinet.number;
+    });
 }
 
 bool ChainTable::IsCommon(Cell cell) const
@@ -66,7 +79,12 @@ bool ChainTable::IsCommon(Cell cell) const
             return tile.GetType() == first.GetType();
         }
     };
-    return std::all_of(m_order.begin(), m_order.end(), isSame);
+    if (cell != Cell::Distance)
+        return std::all_of(m_order.begin(), m_order.end(), isSame);
+    for (size_t i = 2; i < m_order.size(); ++i)
+        if (DistanceText(m_order[i], m_order[i - 1]) != DistanceText(m_order[1], m_order[0]))
+            return false;
+    return true;
 }
 
 QString ChainTable::CommonText() const

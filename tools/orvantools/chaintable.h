@@ -39,6 +39,7 @@ private:
     QString Text(int place, Cell cell, int before) const; ///< `before`: the cabinet before it, -1: none
     QString ProductText(const CTile& tile) const;
     QString DistanceText(int place, int before) const;
+    bool IsOneCardEach() const;
     bool IsCommon(Cell cell) const;
 
     const CTileSet& m_tiles;

@@ -1,5 +1,6 @@
 #include "orvantools/sheettable.h"
 
+#include "orvantools/textbatch.h"
 #include "orvantools/textline.h"
 
 #include <QPainter>
@@ -55,15 +56,18 @@ void SheetTable::Paint(QPainter& painter, const QRectF& area, int first) const
     const int blocks = BlocksOn(area.width());
     const int rowsOfBlock = RowsOn(area.size()) / blocks;
     const int end = std::min(m_rows, first + rowsOfBlock * blocks);
+    painter.setFont(FontOf(painter, kTextHeight));
+    TextBatch texts(painter.font());
     for (int block = 0; block < blocks && first + block * rowsOfBlock < end; ++block) {
         QPointF place = area.topLeft() + QPointF(block * (Width() + kBlockGap), 0);
         const int begin = first + block * rowsOfBlock;
         PaintTitles(painter, place);
         for (int row = begin; row < std::min(end, begin + rowsOfBlock); ++row) {
             place.ry() += kRowHeight;
-            PaintRow(painter, place, row);
+            PaintRow(painter, texts, place, row);
         }
     }
+    texts.Paint(painter);
 }
 
 void SheetTable::PaintTitles(QPainter& painter, QPointF leftTop) const
@@ -80,14 +84,17 @@ void SheetTable::PaintTitles(QPainter& painter, QPointF leftTop) const
     painter.setFont(FontOf(painter, kTextHeight));
 }
 
-void SheetTable::PaintRow(QPainter& painter, QPointF leftTop, int row) const
+void SheetTable::PaintRow(QPainter& painter, TextBatch& texts, QPointF leftTop, int row) const
 {
     if (row % kShadedRows == 1)
         painter.fillRect(QRectF(leftTop, QSizeF(Width(), kRowHeight)), QColor(240, 240, 240));
     for (size_t i = 0; i < m_columns.size(); ++i) {
         const SheetColumn& column = m_columns[i];
-        DrawLine(painter, QRectF(leftTop, QSizeF(column.width, kRowHeight)), m_text(row, static_cast<int>(i)),
-                 column.isNumber ? Qt::AlignRight : Qt::AlignLeft);
+        const QRectF place(leftTop, QSizeF(column.width, kRowHeight));
+        const QString text = m_text(row, static_cast<int>(i));
+        const Qt::Alignment alignment = column.isNumber ? Qt::AlignRight : Qt::AlignLeft;
+        if (!texts.Add(place, text, alignment))
+            DrawLine(painter, place, text, alignment);
         leftTop.rx() += column.width + kCellGap;
     }
 }

@@ -12,6 +12,8 @@ class QPainter;
 
 namespace OrvanTools {
 
+class TextBatch;
+
 struct SheetColumn
 {
     QString title;
@@ -36,7 +38,7 @@ private:
     double Width() const;
     int BlocksOn(double width) const;
     void PaintTitles(QPainter& painter, QPointF leftTop) const;
-    void PaintRow(QPainter& painter, QPointF leftTop, int row) const;
+    void PaintRow(QPainter& painter, TextBatch& texts, QPointF leftTop, int row) const;
 
     std::vector<SheetColumn> m_columns;
     int m_rows;

@@ -66,15 +66,32 @@ Omissions WallLabels::Paint()
     return m_omitted;
 }
 
-const QFont& WallLabels::Font(double height)
+const WallLabels::Face& WallLabels::FaceOf(double height)
 {
     const int pixels = std::max(1, static_cast<int>(height));
-    auto font = m_fonts.find(pixels);
-    if (font == m_fonts.end()) {
-        font = m_fonts.insert(pixels, m_painter.font());
-        font->setPixelSize(pixels);
+    auto face = m_faces.find(pixels);
+    if (face == m_faces.end()) {
+        face = m_faces.insert(pixels, {m_painter.font(), 0, {}});
+        face->font.setPixelSize(pixels);
+        const QFontMetricsF metrics(face->font);
+        face->capHeight = metrics.capHeight();
+        for (size_t i = 0; i < face->digits.size(); ++i)
+            face->digits[i] = metrics.horizontalAdvance(QChar(static_cast<ushort>('0' + i)));
     }
-    return *font;
+    return *face;
+}
+
+double WallLabels::WidthOf(const QString& text, double height)
+{
+    const Face& face = FaceOf(height);
+    double width = 0;
+    for (const QChar character : text) {
+        const ushort digit = static_cast<ushort>(character.unicode() - '0');
+        if (digit >= face.digits.size())
+            return QFontMetricsF(face.font).horizontalAdvance(text);
+        width += face.digits[digit];
+    }
+    return width;
 }
 
 PortAreas& WallLabels::Areas()
@@ -120,7 +137,7 @@ void WallLabels::PaintTexts(const WallPart& part)
 
 bool WallLabels::PaintText(const Label& label, const QColor& color)
 {
-    const double width = QFontMetricsF(Font(label.height)).horizontalAdvance(label.text);
+    const double width = WidthOf(label.text, label.height);
     const TileShape shape = TurnedShape(label.place, QSizeF(width, label.height), label.angle);
     if (!m_view.GetArea().contains(shape.Bound()) || !m_labels.Take(shape))
         return false;
@@ -337,10 +354,9 @@ void WallLabels::PaintInnerTags(const WallPart& part)
 
 void WallLabels::PaintInside(const Label& label, const QColor& color)
 {
-    const QFont& font = Font(label.height);
-    const QFontMetricsF metrics(font);
-    const QPointF baseline(-metrics.horizontalAdvance(label.text) / 2, metrics.capHeight() / 2);
-    m_painter.setFont(font);
+    const Face& face = FaceOf(label.height);
+    const QPointF baseline(-WidthOf(label.text, label.height) / 2, face.capHeight / 2);
+    m_painter.setFont(face.font);
     m_painter.setPen(color);
     if (label.angle == 0) {
         m_painter.drawText(label.place + baseline, label.text);
@@ -355,7 +371,7 @@ void WallLabels::PaintInside(const Label& label, const QColor& color)
 
 QRectF WallLabels::TagBox(const Label& label)
 {
-    const double width = QFontMetricsF(Font(label.height)).horizontalAdvance(label.text);
+    const double width = WidthOf(label.text, label.height);
     return TurnedShape(label.place, QSizeF(width + label.height * 0.4, label.height * 1.2), label.angle)
         .Bound();
 }

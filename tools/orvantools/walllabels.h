@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QHash>
 
+#include <array>
 #include <memory>
 #include <optional>
 
@@ -68,7 +69,16 @@ private:
     bool IsFree(int port, const QRectF& box); ///< of other ports' cabinets, and inside the drawing
     PortAreas& Areas();
     void PaintInside(const Label& label, const QColor& color);
-    const QFont& Font(double height);
+    /// A font, and what measuring each number anew would take as long as painting it.
+    struct Face
+    {
+        QFont font;
+        double capHeight;
+        std::array<double, 10> digits; ///< their widths
+    };
+
+    const Face& FaceOf(double height);
+    double WidthOf(const QString& text, double height);
 
     QPainter& m_painter;
     const WallView& m_view;
@@ -77,7 +87,7 @@ private:
     std::unique_ptr<PortAreas> m_areas;                  ///< made when it is first needed
     QHash<const WallPart*, std::vector<bool>> m_written; ///< for every cabinet whether its number is there
     Omissions m_omitted;
-    QHash<int, QFont> m_fonts;
+    QHash<int, Face> m_faces; ///< by the pixels of their height
 };
 
 } // namespace OrvanTools
