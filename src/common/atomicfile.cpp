@@ -4,10 +4,12 @@
 #include "common/texts.h"
 #include "common/turnlock.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QIODevice>
+#include <QRegularExpression>
 #include <QThread>
 #include <QUuid>
 
@@ -263,4 +265,13 @@ bool ReplaceFile(const QString& path, const QByteArray& content, QString* error)
 bool ReplaceWorkFile(const QString& path, const std::function<bool(QIODevice&)>& write, QString* error)
 {
     return Replace(QFileInfo(path).absoluteFilePath(), false, write, error);
+}
+
+void RemoveUnfinished(const QString& folder)
+{
+    static const QRegularExpression fresh(QStringLiteral("\\A\\.[0-9a-f-]{36}\\.part\\z"));
+    const QDir there(folder);
+    for (const QString& name : there.entryList({QStringLiteral(".*.part")}, QDir::Files | QDir::Hidden))
+        if (fresh.match(name).hasMatch())
+            QFile::remove(there.filePath(name));
 }

@@ -18,3 +18,6 @@ bool ReplaceFile(const QString& path, const QByteArray& content, QString* error 
 /// the new file is whole it has no name, or one that no other file has. Of two writers the last one counts.
 bool ReplaceWorkFile(const QString& path, const std::function<bool(QIODevice&)>& write,
                      QString* error = nullptr);
+
+/// Removes what a killed ReplaceWorkFile left in a folder, which the caller keeps others from writing to.
+void RemoveUnfinished(const QString& folder);

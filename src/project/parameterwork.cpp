@@ -276,6 +276,7 @@ bool MakeProjectFolder(QString* error)
         QFile::remove(path);
     if (!MakeFolder(path, error))
         return false;
+    RemoveUnfinished(CConstantData::GetProjectParamFileTemp());
     const QDir folder(path);
     for (const QFileInfo& entry : folder.entryInfoList(kAllEntries))
         if (IsOurs(entry.fileName()))

@@ -33,7 +33,8 @@ QString LibraryFile(const CProductDirectorySet* products, const SMD5& type);
 bool Store(const QString& source, const QString& name, const SMD5& type, QString* error = nullptr);
 
 /// Makes the project folder, in the place of a file or link of that name if there is one, and removes the
-/// document and the numbered files that an earlier packing or unpacking left there.
+/// document and the numbered files that an earlier packing or unpacking left there, and what killed ones
+/// left.
 bool MakeProjectFolder(QString* error);
 
 /// The same with a new document in the folder. When it cannot be written, nothing there has changed.

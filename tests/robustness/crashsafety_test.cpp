@@ -11,6 +11,7 @@
 #include <QDirIterator>
 #include <QProcess>
 #include <QThread>
+#include <QUuid>
 
 #include <random>
 
@@ -75,6 +76,10 @@ TEST_F(CrashSafetyTest, KilledSaveLeavesTheOldFileOrTheNewOne)
         for (int document = 0; document < kDocuments; ++document)
             ASSERT_NE(VersionOf(Document(document), folder), 0) << document << ", kill " << kill;
     }
+    // Between two calls of the system; few kills hit it.
+    QFile unfinished(CConstantData::GetProjectParamFileTemp() + "."_s
+                     + QUuid::createUuid().toString(QUuid::WithoutBraces) + ".part"_s);
+    ASSERT_TRUE(unfinished.open(QIODevice::WriteOnly));
     ExpectNothingLeft();
 }
 
