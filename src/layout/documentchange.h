@@ -39,8 +39,8 @@ struct SDocumentChange
     bool documentReplaced = false;
     /// Senders came or went, so that places name others now. `ports` is empty then: look at all.
     bool senders = false;
-    /// What no history holds: names, sender groups, canvas, processor parameters. After PrjModify and
-    /// whatever calls it, and after an import of parameters.
+    /// What no history holds: names, sender groups, canvas, and processor parameters, of which a project file
+    /// holds next to none. After PrjModify and whatever calls it, and after an import of parameters.
     bool properties = false;
     bool steps = false;         ///< what can be undone or redone
     QVector<SPortPlace> ports;  ///< with another layout, each once, in order; not those that back them up

@@ -56,12 +56,13 @@ public:
     bool Undo(int steps, int* ports, int* count);
     bool Redo(int steps, int* ports, int* count);
 
-    // what the current sender's history holds; out of range: -1
+    // what the current sender's history holds. Of a step: 0 is the one that Undo(1) takes back, 1 the one
+    // before it; with redo 1 is the one that Redo(1) brings back. Out of range: -1
     int GetCanUndoStep() const; ///< 0 without a history
     int GetCanRedoStep() const; ///< 0 without a history
     int GetUndoStepType(int n) const;
     int GetRedoStepType(int n) const;
-    int GetUndoStepPort(int n) const;
+    int GetUndoStepPort(int n) const; ///< the sender's recent port when the step was recorded
     int GetRedoStepPort(int n) const;
     int GetCurSenderCurStep() const;
     int GetCanUndoStep();

@@ -142,11 +142,13 @@ public:
     bool ExportPort(const QString& path); ///< of the current sender's recent port
     bool ImportPort(const QString& path); ///< into the current sender's recent port
 
-    // parameter files: a code of params/paramcodes.h. Parameters that do not fit are told in a message box.
+    // parameter files: a code of params/paramcodes.h. Parameters that do not fit are told in a message box. A
+    // project file holds none of them but signal frequency and colour depth; an import marks nothing
+    // modified.
     quint32 ExportMutiSenderParam(const QString& path, const QUuid& id);
     quint32 ExportMutiProcessorParam(const QString& path, const QUuid& id);
     quint32 ImportSenderParam(const QString& path, const QUuid& id);
-    quint32 ImportProcessorParam(const QString& path, const QUuid& id);
+    quint32 ImportProcessorParam(const QString& path, const QUuid& id); ///< kFailed, too, for another type
     quint32 ImportMutiSenderParam(const QString& path, const QUuid& id);
     quint32 ImportMutiProcessorParam(const QString& path, const QUuid& id);
 
