@@ -8,8 +8,6 @@
 
 #include <QDir>
 
-#include <algorithm>
-
 namespace {
 
 constexpr int kMaxListedProducts = 999999;
@@ -18,14 +16,6 @@ constexpr int kMaxListedProducts = 999999;
 QString PathIn(const QString& folder, const QString& name)
 {
     return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
-}
-
-bool IsHexadecimal(const QString& text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) {
-        return (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
-               || (c >= QLatin1Char('a') && c <= QLatin1Char('f'));
-    });
 }
 
 /// The digests in a product list, which ends at the first entry that is missing or empty. False when the list
@@ -45,7 +35,7 @@ bool ReadProductList(const QString& path, QSet<SMD5>& digests)
         if (text.isEmpty() || text == noFile)
             break;
         const SMD5 md5 = SMD5::FromString(text.toLower());
-        if (!md5.IsNull() && IsHexadecimal(md5.ToString()))
+        if (!md5.IsNull()) // other characters than those of a digest equal no file's
             digests.insert(md5);
     }
     return true;

@@ -93,10 +93,11 @@ struct ParamSampleTest : ProjectTest
     {
         const QByteArray sample = FullSample(name);
         const QString hollow = folder.Write("hollow.xml"_s, Hollow(sample, kStructure));
-        const auto taken = [&](const QString& path) { EXPECT_EQ((project.*take)(path, QUuid()), 0U); };
+        const QUuid every;
+        const auto taken = [&](const QString& path) { EXPECT_EQ((project.*take)(path, every), 0U); };
         const auto written = [&] {
             const QString path = folder.Path("a.xml"_s);
-            EXPECT_EQ((project.*write)(path, QUuid()), 0U);
+            EXPECT_EQ((project.*write)(path, every), 0U);
             return ReadFile(path);
         };
         taken(hollow);

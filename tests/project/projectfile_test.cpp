@@ -115,6 +115,8 @@ TEST_F(ProjectFileTest, ParameterFileThatIsDamagedOrTooLargeCostsItselfAlone)
     ASSERT_TRUE(UnpackArchive(path, folder.Path("out"_s)));
     EXPECT_EQ(QDir(folder.Path("out/project"_s)).entryList(QDir::Files),
               QStringList({"0.rcvbp"_s, "new.prj"_s}));
+    ASSERT_TRUE(Load(path));
+    EXPECT_TRUE(Error().contains("large"_s));
 }
 
 TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QNetworkInterface>
+
 TEST(SpecifiedIpListTest, OnlyDottedAddressesAreReadOnceAndInOrder)
 {
     TestFolder folder;
@@ -38,4 +40,9 @@ TEST(SpecifiedIpListTest, AddressesOutsideEveryNetworkAreErrors)
         {0x0A010001, 0xFFFF0000}, {0xC0A807FE, 0xFFFFFF80}, {0x0A080001, 0}};
     EXPECT_EQ(list.Outside(networks), QStringList({"10.2.2.3"_s, "192.168.7.127"_s}));
     EXPECT_EQ(list.Outside({}), list.Addresses());
+
+    SpecifiedIpList own;
+    for (const QHostAddress& address : QNetworkInterface::allAddresses())
+        own.Add(address.toString()); // those of IPv4
+    EXPECT_EQ(own.Outside(GetLocalNetworks()), QStringList());
 }
