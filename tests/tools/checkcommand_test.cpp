@@ -80,6 +80,15 @@ TEST(DiffCommandTest, DifferencesEndWithOneAndNothingIsPrintedWithoutAny)
     EXPECT_TRUE(run.output.endsWith("\nsender 1: name \"a\uFFFD\", was \"Hall left\"\n"));
     const QJsonValue json = RunOrvan({Arg("diff"), wall, other, Arg("--json")}).Json();
     EXPECT_EQ(json[Arg("differences")][0][Arg("kind")], QJsonValue(Arg("sender")));
+    const auto odd = [&](const char* id) { // two rows of one type, and a group without cabinets
+        QByteArray content = QByteArray(text).replace("{b4ab3746-1f28-4f9a-a8ca-e28a881dc396}\" Rotate", id);
+        content.replace("bbc0857749a0c47936bd918f0819549e", "6a68bac7e613028bb11b40c35340e863");
+        return folder.Write(Arg(id).left(9), content);
+    };
+    EXPECT_EQ(RunOrvan({Arg("diff"), odd("{c4ab3746-1f28-4f9a-a8ca-e28a881dc396}\" Rotate"),
+                        odd("{d4ab3746-1f28-4f9a-a8ca-e28a881dc396}\" Rotate")})
+                  .output,
+              "");
     const OrvanRun failed = RunOrvan({Arg("diff"), wall, SamplePath("too-new.prj")});
     EXPECT_EQ(failed.status, 3);
     EXPECT_TRUE(failed.errors.startsWith(Arg("orvan: ") + SamplePath("too-new.prj")));

@@ -86,6 +86,8 @@ public:
 private:
     void Pair(int a, int b);
     void PairAll();
+    void PairEmpty();
+    int ParentAfter(const Group& before); ///< the partner of the group around it
     void CountChanges();
     QString ChangeText(const Group& before, const Group& after);
 
@@ -113,6 +115,29 @@ void GroupComparer::PairAll()
         if (const int partner = m_a.At(group).partner; partner != kNone)
             Pair(m_a.At(group).parent, m_b.At(partner).parent);
     }
+    PairEmpty();
+}
+
+/// Groups without cabinets that are left go by their order.
+void GroupComparer::PairEmpty()
+{
+    QHash<int, QList<int>> left; // by the group around them
+    for (int group = 0; group < static_cast<int>(m_b.Count()); ++group) {
+        const Group& after = m_b.At(group);
+        if (after.partner == kNone && after.cabinets == 0)
+            left[after.parent].append(group);
+    }
+    for (int group = 0; group < static_cast<int>(m_a.Count()) && !left.isEmpty(); ++group) {
+        const Group& before = m_a.At(group);
+        const auto found = left.find(ParentAfter(before));
+        if (before.partner == kNone && before.cabinets == 0 && found != left.end() && !found->isEmpty())
+            Pair(group, found->takeFirst());
+    }
+}
+
+int GroupComparer::ParentAfter(const Group& before)
+{
+    return before.parent < 0 ? before.parent : m_a.At(before.parent).partner;
 }
 
 void GroupComparer::CountChanges()
@@ -136,7 +161,7 @@ QString GroupComparer::ChangeText(const Group& before, const Group& after)
         changes.append(QStringLiteral("%1 joined").arg(after.changed));
     if (before.changed > 0)
         changes.append(QStringLiteral("%1 left").arg(before.changed));
-    if ((before.parent < 0 ? before.parent : m_a.At(before.parent).partner) != after.parent)
+    if (ParentAfter(before) != after.parent)
         changes.append(after.parent >= 0         ? QStringLiteral("inside another group")
                        : after.parent == kOrphan ? QStringLiteral("not known to the port")
                                                  : QStringLiteral("inside no group"));

@@ -20,7 +20,8 @@ struct GroupDifference
 };
 
 /// Tells how the groups of a port differ. Groups with the same id are the same, then groups in which the same
-/// cabinet is, then those around them. `pairs`: the cabinets that stayed on the port.
+/// cabinet is, then those around them, at last those without cabinets in their order. `pairs`: the cabinets
+/// that stayed on the port.
 void CompareGroups(const CPort* a, const CPort* b, const std::vector<CabinetPair>& pairs,
                    const std::function<void(const GroupDifference&)>& found);
 

@@ -48,16 +48,16 @@ using TypeNames = QHash<SMD5, QString>;
 TypeNames NamesOfTypes(const CProjectData& project)
 {
     TypeNames names;
-    for (const SParameterFileInfo& file : project.GetParameterFiles())
-        names.insert(file.type, file.name + QStringLiteral(" (%1)").arg(file.type.ToString().left(8)));
+    for (const SParameterFileInfo& file : project.GetParameterFiles()) {
+        if (!file.type.IsNull())
+            names.insert(file.type, file.name + QStringLiteral(" (%1)").arg(file.type.ToString().left(8)));
+    }
     return names;
 }
 
 CabinetChange::TypeName NameWith(const TypeNames& names)
 {
-    return [&names](const SMD5& type) {
-        return type.IsNull() ? QStringLiteral("none") : names.value(type, type.ToString());
-    };
+    return [&names](const SMD5& type) { return names.value(type, TypeText(type)); };
 }
 
 /// Compares two projects. Senders, ports and cabinets count from 0 here, in differences from 1.

@@ -42,7 +42,7 @@ QHash<SMD5, QString> ProductNames(const CProjectData& project)
 {
     QHash<SMD5, QString> names;
     for (const SParameterFileInfo& file : project.GetParameterFiles()) {
-        if (!names.contains(file.type))
+        if (!file.type.IsNull() && !names.contains(file.type))
             names.insert(file.type, file.name);
     }
     return names;

@@ -3,7 +3,6 @@
 #include <OrvanData/orvandata.h>
 
 #include <QHostAddress>
-#include <QSet>
 
 namespace OrvanTools {
 
@@ -44,12 +43,6 @@ TextRow PrintRow(const char* name, const SPrintLine& line)
     return Row(name, Quoted(line.text) + (line.enable ? QString() : QStringLiteral(" (not printed)")));
 }
 
-QString SizeOrNone(const QSize& size)
-{
-    return size == QSize(-1, -1) ? QStringLiteral("none")
-                                 : Number(size.width()) + QLatin1Char('x') + Number(size.height());
-}
-
 QString GroupName(const CProjectData& project, const QUuid& id)
 {
     QList<SSenderGroupInfo> groups;
@@ -68,6 +61,17 @@ bool IsOtherMonitoringSame(const CMonitorInterfaceData& a, const CMonitorInterfa
     return WithoutTold(a) == WithoutTold(b);
 }
 
+QString TypeText(const SMD5& type)
+{
+    return type.IsNull() ? QStringLiteral("none") : type.ToString();
+}
+
+QString CanvasText(const QSize& size)
+{
+    return size == QSize(-1, -1) ? QStringLiteral("none")
+                                 : Number(size.width()) + QLatin1Char('x') + Number(size.height());
+}
+
 QString AddressText(unsigned long ip)
 {
     return QHostAddress(static_cast<quint32>(ip)).toString();
@@ -78,17 +82,12 @@ TextRows ProjectRows(const CProjectData& project)
     TextRows rows{Row("current sender", QString::number(project.GetCurSenderIndex() + 1))};
     QList<SSenderGroupInfo> groups;
     project.GetAllSenderGroup(groups);
-    QSet<QString> names;
-    for (const SSenderGroupInfo& group : groups) {
-        QString name = QStringLiteral("sender group ") + Quoted(group.name);
-        while (names.contains(name))
-            name += QStringLiteral(", another one");
-        names.insert(name);
-        rows.push_back({name, group.expanded ? QStringLiteral("unfolded") : QStringLiteral("folded")});
-    }
+    for (const SSenderGroupInfo& group : groups)
+        rows.push_back({QStringLiteral("sender group ") + Quoted(group.name),
+                        group.expanded ? QStringLiteral("unfolded") : QStringLiteral("folded")});
     for (const SRcvParamGamma& gamma : project.GetRcvParamGammas())
         rows.push_back(
-            {QStringLiteral("gamma of type ") + gamma.type.ToString(), Number(double(gamma.gamma))});
+            {QStringLiteral("gamma of type ") + TypeText(gamma.type), Number(double(gamma.gamma))});
     return rows;
 }
 
@@ -96,7 +95,7 @@ TextRows ParameterFileRows(const CProjectData& project)
 {
     TextRows rows;
     for (const SParameterFileInfo& file : project.GetParameterFiles())
-        rows.push_back({QStringLiteral("parameter file ") + file.type.ToString(), Quoted(file.name)});
+        rows.push_back({QStringLiteral("parameter file of type ") + TypeText(file.type), Quoted(file.name)});
     return rows;
 }
 
@@ -120,7 +119,7 @@ TextRows SettingsRows(const CProjectData& project, const CMonitorInterfaceData& 
                   Row("humidity limit", Number(receiver.humidityLimit) + QStringLiteral(" %"))};
     for (int i = 0; i < SRecevierSetting::kVoltages; ++i) {
         const SVoltageSetting& limits = receiver.voltage[i];
-        rows.push_back({QStringLiteral("limits of voltage %1").arg(i + 1),
+        rows.push_back({QStringLiteral("voltage %1 from").arg(i + 1),
                         QStringLiteral("%1 to %2 V").arg(Number(limits.minimum), Number(limits.maximum))});
     }
     return rows;
@@ -135,7 +134,7 @@ TextRows SenderRows(const CProjectData& project, const CSender& sender)
         Row("group", GroupName(project, sender.GetBelongGroup())),
         Row("ports", Number(sender.GetPortCount())),
         Row("recent port", QString::number(qint64(sender.GetRecentPortIndex()) + 1)),
-        Row("canvas", SizeOrNone(sender.GetCanvasSize())),
+        Row("canvas", CanvasText(sender.GetCanvasSize())),
         Row("offset", offset == QSize(-1, -1)
                           ? QStringLiteral("none")
                           : Number(offset.width()) + QStringLiteral(", ") + Number(offset.height())),

@@ -6,6 +6,8 @@ class CMonitorInterfaceData;
 class CPort;
 class CProjectData;
 class CSender;
+class QSize;
+struct SMD5;
 
 namespace OrvanTools {
 
@@ -19,6 +21,8 @@ bool IsOtherMonitoringSame(const CMonitorInterfaceData& a, const CMonitorInterfa
 TextRows SenderRows(const CProjectData& project, const CSender& sender);
 TextRows PortRows(const CPort& port); ///< without what it backs up
 
+QString TypeText(const SMD5& type);    ///< the digest, or "none"
+QString CanvasText(const QSize& size); ///< "1920x1080", or "none"
 QString AddressText(unsigned long ip); ///< of a host-order IPv4 address, 192.168.1.10
 
 } // namespace OrvanTools

@@ -78,7 +78,7 @@ QString SenderText(const CProjectData& project, int index, const PortCapacity& c
 {
     const CSender& sender = *project.GetSender(index);
     QString title = project.GetShowSenderName(index, true) + QStringLiteral(", canvas ")
-                    + SizeText(sender.GetCanvasSize());
+                    + CanvasText(sender.GetCanvasSize());
     if (sender.GetNetSenderIP() != 0)
         title += QStringLiteral(", ") + AddressText(sender.GetNetSenderIP());
     if (index == project.GetCurSenderIndex())

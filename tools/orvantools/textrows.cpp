@@ -6,12 +6,23 @@ namespace OrvanTools {
 
 namespace {
 
-QHash<QString, QString> ByName(const TextRows& rows)
+/// The values of each name, in the order of the rows.
+QHash<QString, QStringList> ByName(const TextRows& rows)
 {
-    QHash<QString, QString> values;
+    QHash<QString, QStringList> values;
     for (const TextRow& row : rows)
-        values.insert(row.name, row.value);
+        values[row.name].append(row.value);
     return values;
+}
+
+/// Takes the next value of that name. False when there is none left.
+bool TakeValue(QHash<QString, QStringList>& values, const QString& name, QString* value)
+{
+    const auto found = values.find(name);
+    if (found == values.end() || found->isEmpty())
+        return false;
+    *value = found->takeFirst();
+    return true;
 }
 
 } // namespace
@@ -29,19 +40,19 @@ QString Counted(qint64 number, const char* noun)
 
 QStringList CompareRows(const TextRows& a, const TextRows& b)
 {
-    const QHash<QString, QString> before = ByName(a);
-    const QHash<QString, QString> after = ByName(b);
+    QHash<QString, QStringList> before = ByName(a);
+    QHash<QString, QStringList> after = ByName(b);
     QStringList differences;
+    QString was;
     for (const TextRow& row : a) {
-        if (!after.contains(row.name))
+        if (!TakeValue(after, row.name, &was))
             differences.append(row.name + QLatin1Char(' ') + row.value + QStringLiteral(" removed"));
     }
     for (const TextRow& row : b) {
-        const auto was = before.constFind(row.name);
-        if (was == before.constEnd())
+        if (!TakeValue(before, row.name, &was))
             differences.append(row.name + QLatin1Char(' ') + row.value + QStringLiteral(" added"));
-        else if (*was != row.value)
-            differences.append(row.name + QLatin1Char(' ') + row.value + QStringLiteral(", was ") + *was);
+        else if (was != row.value)
+            differences.append(row.name + QLatin1Char(' ') + row.value + QStringLiteral(", was ") + was);
     }
     return differences;
 }

@@ -7,7 +7,7 @@
 
 namespace OrvanTools {
 
-/// A value of a project in words. In a list of them each name stands once.
+/// A value of a project in words. Of rows with one name the first is compared with the first, and so on.
 struct TextRow
 {
     QString name;
