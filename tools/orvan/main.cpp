@@ -1,5 +1,6 @@
 #include "command.h"
 #include "console.h"
+#include "samefile.h"
 #include "session.h"
 
 #include <QCommandLineParser>
@@ -162,6 +163,11 @@ int Dispatch(const Command& command, const QStringList& arguments)
         return UsageFault(QStringLiteral("usage is orvan ") + UsageOf(command));
     if (!command.takesStreams && given.contains(QStringLiteral("-")))
         return UsageFault(QStringLiteral("- stands for no file here"));
+    for (const QString& file : given) {
+        if (IsSameFile(file, QStringLiteral("-")))
+            return Fail(StatusUsage, QStringLiteral("standard output"),
+                        QStringLiteral("is one of the files given"));
+    }
     if (parser.isSet(QStringLiteral("documents")) && parser.value(QStringLiteral("documents")).isEmpty())
         return UsageFault(QStringLiteral("--documents takes a folder"));
     return RunCommand(command, parser);
