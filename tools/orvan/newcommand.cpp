@@ -17,18 +17,22 @@ using OrvanTools::NewProject;
 
 void AddOptions(QCommandLineParser& parser)
 {
-    const auto option = [&parser](const char* name, const char* description, const char* value,
+    const auto option = [&parser](const char* name, const char* help, const char* value,
                                   const char* standard = "") {
+        QString text = QLatin1String(help);
+        if (*standard)
+            text += QStringLiteral(", %1 by default").arg(QLatin1String(standard));
         parser.addOption(
-            {QLatin1String(name), QLatin1String(description), QLatin1String(value), QLatin1String(standard)});
+            {QLatin1String(name), text + QLatin1Char('.'), QLatin1String(value), QLatin1String(standard)});
     };
-    option("product", "Receiver parameter file of the cabinets; several alternate by column.", "FILE");
-    option("cabinet", "Pixels of a cabinet.", "WxH", "128x128");
-    option("grid", "Columns and rows of the block.", "COLUMNSxROWS", "4x3");
-    option("ports", "Ports that share the block in column strips.", "N", "4");
-    option("order", "Number each port in this pattern: 0 to 3 by rows, 4 to 7 by columns.", "0..7");
-    option("canvas", "Pixels of the canvas.", "WxH", "1920x1080");
-    option("name", "Name of the sender and of the project on the printed form.", "TEXT");
+    option("product", "Receiver parameter file of the cabinets; several alternate by column", "FILE");
+    option("cabinet", "Pixels of a cabinet", "WxH", "128x128");
+    option("grid", "Columns and rows of the block", "COLUMNSxROWS", "4x3");
+    option("ports", "Ports that share the block in column strips", "N", "4");
+    option("order", "Number each port in this pattern: 0 to 3 by rows, 4 to 7 by columns; else none is",
+           "0..7");
+    option("canvas", "Pixels of the canvas", "WxH", "1920x1080");
+    option("name", "Name of the sender and of the project on the printed form", "TEXT");
     parser.addOption({QStringLiteral("force"), QStringLiteral("Replace an existing file.")});
 }
 

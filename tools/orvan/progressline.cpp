@@ -23,7 +23,8 @@ void ProgressLine::Show(int percent)
         return;
     m_next = m_clock.elapsed() + 100;
     m_shown = true;
-    std::fprintf(stderr, "\rorvan: %s: %d %%", m_work.toLocal8Bit().constData(), percent);
+    // A line that the terminal breaks could not be written over, so it is cut.
+    std::fprintf(stderr, "\r\033[?7lorvan: %d %%, %s\033[?7h", percent, m_work.toLocal8Bit().constData());
     std::fflush(stderr);
 }
 

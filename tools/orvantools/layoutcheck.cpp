@@ -173,7 +173,7 @@ void Checker::CheckPlaces()
     const QSize size = sender.GetCanvasSize();
     const QRectF limits(0, 0, kMaxCanvasWidth, kMaxCanvasHeight);
     const QRectF canvas = size.isEmpty() ? limits : QRectF(QPointF(), size);
-    const QString beyond = QStringLiteral("off-canvas: beyond the largest canvas");
+    const QString beyond = QStringLiteral("off-canvas: outside the largest canvas");
     const QString outside =
         QStringLiteral("off-canvas: outside the canvas of %1x%2").arg(size.width()).arg(size.height());
     for (int i = 0; i < Tiles().GetCount(); ++i) {
@@ -242,9 +242,10 @@ void Checker::CheckReceivers()
         const int cabinet = link.second;
         if (stored[static_cast<size_t>(cabinet)] != receivers)
             Add(FaultKind::ReceiverMismatch, cabinet,
-                QStringLiteral("receiver-mismatch: the file has first receiver %1, the wiring gives %2")
-                    .arg(stored[static_cast<size_t>(cabinet)])
-                    .arg(receivers));
+                QStringLiteral(
+                    "receiver-mismatch: the file begins with receiving card %1, the wiring with %2")
+                    .arg(Shown(stored[static_cast<size_t>(cabinet)]))
+                    .arg(receivers + 1));
         receivers += tiles.GetTile(cabinet)->GetMultiRcvsCount();
     }
 }
