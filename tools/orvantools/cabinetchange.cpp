@@ -1,5 +1,7 @@
 #include "orvantools/cabinetchange.h"
 
+#include "orvantools/textrows.h"
+
 #include <OrvanData/orvandata.h>
 
 #include <QStringList>
@@ -71,11 +73,6 @@ bool IsWiredSame(const CTile& a, const CTile& b)
 QString PairText(double x, double y)
 {
     return QString::number(x) + QStringLiteral(", ") + QString::number(y);
-}
-
-QString SizeText(double width, double height)
-{
-    return QString::number(width) + QLatin1Char('x') + QString::number(height);
 }
 
 QString PlaceText(const CTile& tile)

@@ -1,6 +1,7 @@
 #include "orvantools/layoutcheck.h"
 
 #include "orvantools/backupmap.h"
+#include "orvantools/cabinetchain.h"
 #include "orvantools/overlapfinder.h"
 #include "orvantools/storedreceivers.h"
 
@@ -190,18 +191,6 @@ void Checker::CheckPlaces()
     }
 }
 
-/// The numbered cabinets, by number and then by place.
-std::vector<std::pair<int, int>> ChainOf(const CTileSet& tiles)
-{
-    std::vector<std::pair<int, int>> chain;
-    for (int i = 0; i < tiles.GetCount(); ++i) {
-        if (tiles.GetTile(i)->HasSetConnectIndex())
-            chain.emplace_back(tiles.GetTile(i)->GetConnectionIndex(), i);
-    }
-    std::sort(chain.begin(), chain.end());
-    return chain;
-}
-
 void Checker::CheckChain()
 {
     const CTileSet& tiles = Tiles();
@@ -209,17 +198,17 @@ void Checker::CheckChain()
         if (!tiles.GetTile(i)->HasSetConnectIndex())
             Add(FaultKind::Unnumbered, i, QStringLiteral("unnumbered: not in the chain"));
     }
-    const auto chain = ChainOf(tiles);
+    const std::vector<ChainLink> chain = ChainOf(tiles);
     for (size_t i = 0; i < chain.size(); ++i) {
-        const int before = i == 0 ? -1 : chain[i - 1].first;
+        const int before = i == 0 ? -1 : chain[i - 1].number;
         const auto [number, cabinet] = chain[i];
         const bool again = i > 0 && before == number;
-        const bool once = !again && (i + 1 == chain.size() || chain[i + 1].first != number);
+        const bool once = !again && (i + 1 == chain.size() || chain[i + 1].number != number);
         if (!once)
             Add(FaultKind::DuplicateIndex, cabinet,
                 QStringLiteral("duplicate-index: number %1, as cabinet %2")
                     .arg(Shown(number))
-                    .arg((again ? chain[i - 1] : chain[i + 1]).second + 1));
+                    .arg((again ? chain[i - 1] : chain[i + 1]).cabinet + 1));
         if (number > Shown(before))
             Add(FaultKind::IndexGap, cabinet,
                 before < 0 ? QStringLiteral("index-gap: the chain begins with number %1").arg(Shown(number))
@@ -238,8 +227,8 @@ void Checker::CheckReceivers()
     if (static_cast<int>(stored.size()) != tiles.GetCount())
         return; // the file states other cabinets than it holds; reading it said so
     qint64 receivers = 0;
-    for (const auto& link : ChainOf(tiles)) {
-        const int cabinet = link.second;
+    for (const ChainLink& link : ChainOf(tiles)) {
+        const int cabinet = link.cabinet;
         if (stored[static_cast<size_t>(cabinet)] != receivers)
             Add(FaultKind::ReceiverMismatch, cabinet,
                 QStringLiteral(

@@ -1,5 +1,6 @@
 #include "orvantools/projectjson.h"
 
+#include "orvantools/cabinetchain.h"
 #include "orvantools/jsonwriter.h"
 #include "orvantools/tileshape.h"
 
@@ -124,14 +125,6 @@ QJsonValue DescribeBackup(const CPort& port)
     else
         source.insert(Key("sender"), port.GetBackupSrcSenderId().toString());
     return source;
-}
-
-int NumberedCount(const CTileSet& tiles)
-{
-    int numbered = 0;
-    for (int i = 0; i < tiles.GetCount(); ++i)
-        numbered += tiles.GetTile(i)->HasSetConnectIndex() ? 1 : 0;
-    return numbered;
 }
 
 QJsonObject DescribePort(const CPort& port, const PortCapacity& capacity)

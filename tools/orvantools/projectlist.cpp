@@ -1,5 +1,6 @@
 #include "orvantools/projectlist.h"
 
+#include "orvantools/cabinetchain.h"
 #include "orvantools/rowwriter.h"
 #include "orvantools/tileshape.h"
 
@@ -8,10 +9,8 @@
 #include <QHash>
 #include <QLineF>
 
-#include <algorithm>
 #include <functional>
 #include <optional>
-#include <vector>
 
 namespace OrvanTools {
 
@@ -79,20 +78,6 @@ bool AddCabinet(RowWriter& rows, int sender, const CPort& port, int index,
     return rows.EndRow();
 }
 
-/// The numbered cabinets of a set by number, those of one number in the order of the set.
-std::vector<int> ChainOf(const CTileSet& tiles)
-{
-    std::vector<int> chain;
-    for (int i = 0; i < tiles.GetCount(); ++i) {
-        if (tiles.GetTile(i)->HasSetConnectIndex())
-            chain.push_back(i);
-    }
-    std::stable_sort(chain.begin(), chain.end(), [&tiles](int a, int b) {
-        return tiles.GetTile(a)->GetConnectionIndex() < tiles.GetTile(b)->GetConnectionIndex();
-    });
-    return chain;
-}
-
 /// One end of a cable.
 struct CableEnd
 {
@@ -129,8 +114,8 @@ bool AddCables(RowWriter& rows, int sender, const CPort& port)
 {
     std::optional<CableEnd> from;
     qint64 step = 0;
-    for (const int cabinet : ChainOf(port.GetTileSet())) {
-        const CableEnd to{cabinet, ShapeOf(*port.GetTileSet().GetTile(cabinet)).Center()};
+    for (const ChainLink& link : ChainOf(port.GetTileSet())) {
+        const CableEnd to{link.cabinet, ShapeOf(*port.GetTileSet().GetTile(link.cabinet)).Center()};
         for (const qint64 number : {Shown(sender), Shown(port.GetPortIndex()), ++step})
             rows.Add(number);
         if (!AddCable(rows, from, to))

@@ -68,8 +68,7 @@ QString TypeText(const SMD5& type)
 
 QString CanvasText(const QSize& size)
 {
-    return size == QSize(-1, -1) ? QStringLiteral("none")
-                                 : Number(size.width()) + QLatin1Char('x') + Number(size.height());
+    return size == QSize(-1, -1) ? QStringLiteral("none") : SizeText(size.width(), size.height());
 }
 
 QString AddressText(unsigned long ip)

@@ -1,5 +1,6 @@
 #include "orvantools/projecttext.h"
 
+#include "orvantools/cabinetchain.h"
 #include "orvantools/printable.h"
 #include "orvantools/projectrows.h"
 #include "orvantools/tileshape.h"
@@ -26,18 +27,13 @@ QString PrintRow(const char* label, const SPrintLine& line)
     return Row(label, line.enable ? line.text : line.text + QStringLiteral(" (not printed)"));
 }
 
-QString SizeText(const QSize& size)
-{
-    return QString::number(size.width()) + QLatin1Char('x') + QString::number(size.height());
-}
-
 QString BoundText(const CTileSet& tiles)
 {
     if (tiles.GetCount() == 0)
         return QStringLiteral("-");
     const QRect bound = tiles.GetBound(false, QSize());
-    return SizeText(bound.size()) + QStringLiteral(" at ") + QString::number(bound.left()) + QLatin1Char(',')
-           + QString::number(bound.top());
+    return SizeText(bound.width(), bound.height()) + QStringLiteral(" at ") + QString::number(bound.left())
+           + QLatin1Char(',') + QString::number(bound.top());
 }
 
 QString BackupText(const CProjectData& project, const CPort& port)
@@ -53,9 +49,6 @@ QString BackupText(const CProjectData& project, const CPort& port)
 QString PortRow(const CProjectData& project, const CPort& port, const PortCapacity& capacity)
 {
     const CTileSet& tiles = port.GetTileSet();
-    int numbered = 0;
-    for (int i = 0; i < tiles.GetCount(); ++i)
-        numbered += tiles.GetTile(i)->HasSetConnectIndex() ? 1 : 0;
     QStringList notes;
     if (port.IsBackupDest())
         notes.append(BackupText(project, port));
@@ -65,7 +58,8 @@ QString PortRow(const CProjectData& project, const CPort& port, const PortCapaci
         notes.append(QStringLiteral("hidden"));
 
     QString row = QStringLiteral("  ");
-    for (const int number : {port.GetPortIndex() + 1, tiles.GetCount(), numbered, tiles.GetRcvCount()})
+    for (const int number :
+         {port.GetPortIndex() + 1, tiles.GetCount(), NumberedCount(tiles), tiles.GetRcvCount()})
         row += QString::number(number).rightJustified(9) + QLatin1Char(' ');
     row += capacity.PercentText(PixelsOf(tiles)).rightJustified(9) + QStringLiteral("  ");
     row += BoundText(tiles).leftJustified(22) + Printable(notes.join(QStringLiteral(", ")));

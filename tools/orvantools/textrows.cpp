@@ -32,6 +32,11 @@ QString Quoted(const QString& text)
     return text.isEmpty() ? QStringLiteral("none") : QLatin1Char('"') + text + QLatin1Char('"');
 }
 
+QString SizeText(double width, double height)
+{
+    return QString::number(width) + QLatin1Char('x') + QString::number(height);
+}
+
 QString Counted(qint64 number, const char* noun)
 {
     return QString::number(number) + QLatin1Char(' ') + QLatin1String(noun)

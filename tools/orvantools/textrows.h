@@ -17,6 +17,7 @@ struct TextRow
 using TextRows = std::vector<TextRow>;
 
 QString Quoted(const QString& text);              ///< "none" when it is empty
+QString SizeText(double width, double height);    ///< "1920x1080"
 QString Counted(qint64 number, const char* noun); ///< "1 cabinet", "2 cabinets"
 
 /// "NAME value, was value", "NAME value added", "NAME value removed", in the order of b, what was removed
