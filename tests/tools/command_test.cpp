@@ -125,6 +125,7 @@ TEST(CommandTest, WrongUsageEndsWithTwo)
         Args({"--frobnicate"}),
         Args({"info"}),
         Args({"info", "a", "b"}),
+        Args({"info", ""}),
         Args({"info", "a", "--tiles"}),
         Args({"info", "a", "--fps", "0"}),
         Args({"info", "a", "--documents", ""}),

@@ -122,6 +122,29 @@ bool ShowHelpOrVersion(const QCommandLineParser& parser)
     return true;
 }
 
+/// Empty when a command takes these files, else what is wrong with them.
+QString WhyNotFiles(const Command& command, const QStringList& files)
+{
+    const QString stream = QStringLiteral("-");
+    if (files.size() < command.leastFiles || files.size() > command.mostFiles)
+        return QStringLiteral("usage is orvan ") + UsageOf(command);
+    if (files.contains(QString()))
+        return QStringLiteral("the name of a file is empty");
+    if (!command.takesStreams && files.contains(stream))
+        return QStringLiteral("- stands for no file here");
+    const bool printsInto = std::any_of(files.begin(), files.end(),
+                                        [&](const QString& file) { return IsSameFile(file, stream); });
+    return printsInto ? QStringLiteral("standard output: is one of the files given") : QString();
+}
+
+/// The status of a command that is done, unless standard output did not take all.
+int Finish(int status)
+{
+    return FlushOutput()
+               ? status
+               : Fail(StatusFile, QStringLiteral("standard output"), QStringLiteral("cannot be written"));
+}
+
 /// Runs a command whose arguments are in order, in the documents folder it wants.
 int RunCommand(const Command& command, const QCommandLineParser& parser)
 {
@@ -139,9 +162,7 @@ int RunCommand(const Command& command, const QCommandLineParser& parser)
             return Fail(StatusFile, given, why);
         status = command.run(invocation);
     }
-    if (!FlushOutput())
-        return Fail(StatusFile, QStringLiteral("standard output"), QStringLiteral("cannot be written"));
-    return status;
+    return Finish(status);
 }
 
 int Dispatch(const Command& command, const QStringList& arguments)
@@ -157,17 +178,10 @@ int Dispatch(const Command& command, const QStringList& arguments)
     if (!parser.parse(arguments))
         return UsageFault(ParserFault(parser));
     if (ShowHelpOrVersion(parser))
-        return StatusDone;
-    const QStringList given = parser.positionalArguments().mid(1);
-    if (given.size() < command.leastFiles || given.size() > command.mostFiles)
-        return UsageFault(QStringLiteral("usage is orvan ") + UsageOf(command));
-    if (!command.takesStreams && given.contains(QStringLiteral("-")))
-        return UsageFault(QStringLiteral("- stands for no file here"));
-    for (const QString& file : given) {
-        if (IsSameFile(file, QStringLiteral("-")))
-            return Fail(StatusUsage, QStringLiteral("standard output"),
-                        QStringLiteral("is one of the files given"));
-    }
+        return Finish(StatusDone);
+    const QString wrong = WhyNotFiles(command, parser.positionalArguments().mid(1));
+    if (!wrong.isEmpty())
+        return UsageFault(wrong);
     if (parser.isSet(QStringLiteral("documents")) && parser.value(QStringLiteral("documents")).isEmpty())
         return UsageFault(QStringLiteral("--documents takes a folder"));
     return RunCommand(command, parser);
@@ -210,7 +224,7 @@ int main(int argc, char** argv)
     if (command)
         return Dispatch(*command, arguments);
     if (ShowHelpOrVersion(overview))
-        return StatusDone;
+        return Finish(StatusDone);
     return UsageFault(name.isEmpty() ? QStringLiteral("no command given")
                                      : QStringLiteral("unknown command '%1'").arg(name));
 }
