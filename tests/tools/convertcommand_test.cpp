@@ -26,6 +26,14 @@ TEST(ConvertCommandTest, ThereAndBackGivesTheSameBytes)
     EXPECT_EQ(convert("alone.prj", "again.xml").status, 0);
     EXPECT_EQ(ReadFile(folder.Path(Arg("again.xml"))), ReadFile(folder.Path(Arg("wall.xml"))));
 
+    // The first row's type once more: files are stored by rows, though a type is listed once.
+    QByteArray twice = ReadFile(folder.Path(Arg("wall.xml")));
+    const int row = twice.indexOf("<File1"), end = twice.indexOf("<File2");
+    twice.replace("<File2", "<File3").insert(end, twice.mid(row, end - row).replace("File1", "File2"));
+    folder.Write(Arg("twice.xml"), twice.replace("File Count=\"2\"", "File Count=\"3\""));
+    EXPECT_EQ(convert("twice.xml", "twice.prj").errors, QString());
+    EXPECT_EQ(RunOrvan(Args({"check", "twice.prj"}), folder.Path()).output, "0 faults\n");
+
     folder.Write(Arg("broken.xml"), "<?xml version=\"1.0\"?><LedSetting>");
     const std::pair<const char*, const char*> wrong[] = {
         {"wall.xml", "wall.xml"}, {"wall.xml", "other.xml"}, {"back.prj", "other.prj"}, {"back.prj", "-"}};

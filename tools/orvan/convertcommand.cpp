@@ -6,12 +6,15 @@
 #include "samefile.h"
 
 #include <OrvanData/orvandata.h>
+#include <orvantools/tagreader.h>
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+
+#include <map>
 
 namespace {
 
@@ -69,17 +72,52 @@ QHash<SMD5, QString> FilesByType(const QString& folder)
     return paths;
 }
 
+/// The rows of each type in a document, counted from 0. The library lists a type once, but an archive holds
+/// the files by all rows.
+QMultiHash<QByteArray, int> RowsByType(const QString& document)
+{
+    std::map<int, QByteArray> types; // by the numbers in the names of the elements
+    bool inList = false;
+    OrvanTools::TagReader tags([&](std::string_view name, std::string_view attributes) {
+        const QByteArray element(name.data(), static_cast<int>(name.size()));
+        if (inList && element.startsWith("File")) {
+            const std::string_view type = OrvanTools::TagReader::Attribute(attributes, "Md5").substr(0, 32);
+            types.emplace(element.mid(4).toInt(), QByteArray(type.data(), static_cast<int>(type.size())));
+        } else {
+            inList = element == "ParameterFile";
+        }
+    });
+    QFile file(document);
+    if (file.open(QIODevice::ReadOnly)) {
+        for (QByteArray bytes = file.read(1 << 16); !bytes.isEmpty(); bytes = file.read(1 << 16))
+            tags.Take({bytes.constData(), static_cast<size_t>(bytes.size())});
+    }
+    QMultiHash<QByteArray, int> rows;
+    for (const auto& type : types)
+        rows.insert(type.second, rows.size());
+    return rows;
+}
+
 /// Lays the files down by the numbers of their rows, as an archive holds them.
 void CollectParameterFiles(const QString& document, const QString& products, const QDir& folder)
 {
-    const QList<SParameterFileInfo> rows = GetProjectData()->GetParameterFiles();
-    const QHash<SMD5, QString> paths = rows.isEmpty() ? QHash<SMD5, QString>() : FilesByType(products);
-    for (int i = 0; i < rows.size(); ++i) {
-        const QString path = rows[i].type.IsNull() ? QString() : paths.value(rows[i].type);
-        if (path.isEmpty())
-            WarnOfFile(document, rows[i], products + QStringLiteral(" has no file of its type"));
-        else if (!QFile::copy(path, folder.filePath(QStringLiteral("project/%1.rcvbp").arg(i))))
-            WarnOfFile(document, rows[i], path + QStringLiteral(" cannot be read"));
+    const QList<SParameterFileInfo> files = GetProjectData()->GetParameterFiles();
+    if (files.isEmpty())
+        return;
+    const QHash<SMD5, QString> paths = FilesByType(products);
+    const QMultiHash<QByteArray, int> rows = RowsByType(document);
+    for (const SParameterFileInfo& file : files) {
+        const QString path = file.type.IsNull() ? QString() : paths.value(file.type);
+        if (path.isEmpty()) {
+            WarnOfFile(document, file, products + QStringLiteral(" has no file of its type"));
+            continue;
+        }
+        bool copied = true;
+        for (const int row : rows.values(file.type.ToString().toLatin1()))
+            copied =
+                copied && QFile::copy(path, folder.filePath(QStringLiteral("project/%1.rcvbp").arg(row)));
+        if (!copied)
+            WarnOfFile(document, file, path + QStringLiteral(" cannot be read"));
     }
 }
 
