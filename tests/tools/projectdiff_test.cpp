@@ -103,4 +103,13 @@ TEST_F(ProjectDiffTest, CabinetsWiredToOtherPortsStayWhereTheyAreAndSettingsStan
               "sender 1 port 3 cabinet 2: moved from port 2 to port 3, number 2, was 3\n"
               "sender 1 port 3 cabinet 1: group of 2 cabinets added\n"
               "sender 2: Processor 2, 4 ports, 0 cabinets, added");
+    auto* last = new CSender;
+    last->CopySender(After());
+    m_after.DeleteSender(last->GetId());
+    m_after.AddSender(last);
+    last->GetPort(0)->GetTileSet().DeteleTile(1);
+    const char* removed = "2 differences: senders changed 1, cabinets removed 1\n"
+                          "sender 1 port 1 cabinet 2: removed from 128, 0, size 128x128, number 2\n"
+                          "sender 2: was sender 1 before";
+    EXPECT_EQ(Told(removed), removed);
 }

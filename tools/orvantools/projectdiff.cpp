@@ -60,6 +60,13 @@ CabinetChange::TypeName NameWith(const TypeNames& names)
     return [&names](const SMD5& type) { return names.value(type, TypeText(type)); };
 }
 
+/// The same sender before and after.
+struct SenderPair
+{
+    int a;
+    int b;
+};
+
 /// Compares two projects. Senders, ports and cabinets count from 0 here, in differences from 1.
 class Comparer
 {
@@ -74,10 +81,10 @@ private:
     void MatchSenders();
     void Pair(int a, int b);
     void CompareSenders();
-    void CompareSender(int a, int b);
-    void ComparePort(const CPort* a, const CPort* b, const std::vector<CabinetPair>& pairs, int sender,
-                     int port);
-    void TellCabinets(const CabinetMatch& match, int sender);
+    void CompareSender(const SenderPair& sender);
+    void ComparePort(const CPort* a, const CPort* b, const std::vector<CabinetPair>& pairs,
+                     const SenderPair& sender, int port);
+    void TellCabinets(const CabinetMatch& match, const SenderPair& sender);
     void TellPair(const CabinetPair& pair, int sender);
     void TellSender(DifferenceKind kind, const CProjectData& project, int sender);
     QString SourceText(const CProjectData& project, const CPort& port) const;
@@ -162,7 +169,7 @@ void Comparer::CompareSenders()
         if (a < last)
             Add(DifferenceKind::Sender, b, kNone, kNone, QStringLiteral("was sender %1 before").arg(a + 1));
         last = std::max(last, a);
-        CompareSender(a, b);
+        CompareSender({a, b});
     }
     for (int a = 0; a < m_a.project.GetSenderCount(); ++a) {
         if (m_partnerOfA[static_cast<size_t>(a)] == kNone)
@@ -184,19 +191,19 @@ void Comparer::TellSender(DifferenceKind kind, const CProjectData& project, int 
             .join(QStringLiteral(", ")));
 }
 
-void Comparer::CompareSender(int a, int b)
+void Comparer::CompareSender(const SenderPair& sender)
 {
-    const CSender& before = *m_a.project.GetSender(a);
-    const CSender& after = *m_b.project.GetSender(b);
+    const CSender& before = *m_a.project.GetSender(sender.a);
+    const CSender& after = *m_b.project.GetSender(sender.b);
     const QStringList changes = CompareRows(SenderRows(m_a.project, before), SenderRows(m_b.project, after));
     if (!changes.isEmpty())
-        Add(DifferenceKind::Sender, b, kNone, kNone, changes.join(QStringLiteral("; ")));
+        Add(DifferenceKind::Sender, sender.b, kNone, kNone, changes.join(QStringLiteral("; ")));
     const SenderMatch match = MatchCabinets(before, after);
     for (int port = 0; port < static_cast<int>(match.ports.size()); ++port)
         ComparePort(port < before.GetPortCount() ? before.GetPort(port) : nullptr,
                     port < after.GetPortCount() ? after.GetPort(port) : nullptr,
-                    match.ports[static_cast<size_t>(port)], b, port);
-    TellCabinets(match.others, b);
+                    match.ports[static_cast<size_t>(port)], sender, port);
+    TellCabinets(match.others, sender);
 }
 
 /// The port that a port backs up, in the numbers of b.
@@ -216,8 +223,8 @@ QString Comparer::SourceText(const CProjectData& project, const CPort& port) con
 }
 
 /// Null stands for a port that is not in use.
-void Comparer::ComparePort(const CPort* a, const CPort* b, const std::vector<CabinetPair>& pairs, int sender,
-                           int port)
+void Comparer::ComparePort(const CPort* a, const CPort* b, const std::vector<CabinetPair>& pairs,
+                           const SenderPair& sender, int port)
 {
     if (a && b) {
         TextRows before = PortRows(*a);
@@ -226,24 +233,25 @@ void Comparer::ComparePort(const CPort* a, const CPort* b, const std::vector<Cab
         after.push_back({QStringLiteral("backup"), SourceText(m_b.project, *b)});
         const QStringList changes = CompareRows(before, after);
         if (!changes.isEmpty())
-            Add(DifferenceKind::Port, sender, port, kNone, changes.join(QStringLiteral("; ")));
+            Add(DifferenceKind::Port, sender.b, port, kNone, changes.join(QStringLiteral("; ")));
     }
     for (const CabinetPair& pair : pairs)
-        TellPair(pair, sender);
+        TellPair(pair, sender.b);
     CompareGroups(a, b, pairs, [&](const GroupDifference& difference) {
-        Add(DifferenceKind::Group, sender, port, difference.cabinet, difference.text);
+        Add(DifferenceKind::Group, difference.removed ? sender.a : sender.b, port, difference.cabinet,
+            difference.text);
     });
 }
 
-void Comparer::TellCabinets(const CabinetMatch& match, int sender)
+void Comparer::TellCabinets(const CabinetMatch& match, const SenderPair& sender)
 {
     for (const CabinetPair& pair : match.pairs)
-        TellPair(pair, sender);
+        TellPair(pair, sender.b);
     for (const CabinetRef& cabinet : match.removed)
-        Add(DifferenceKind::CabinetRemoved, sender, cabinet.port, cabinet.cabinet,
+        Add(DifferenceKind::CabinetRemoved, sender.a, cabinet.port, cabinet.cabinet,
             QStringLiteral("removed from ") + CabinetChange::Describe(*cabinet.tile));
     for (const CabinetRef& cabinet : match.added)
-        Add(DifferenceKind::CabinetAdded, sender, cabinet.port, cabinet.cabinet,
+        Add(DifferenceKind::CabinetAdded, sender.b, cabinet.port, cabinet.cabinet,
             QStringLiteral("added at ") + CabinetChange::Describe(*cabinet.tile));
 }
 
