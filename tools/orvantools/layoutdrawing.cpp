@@ -56,7 +56,7 @@ double PaintHeader(QPainter& painter, const WallPicture& picture, const QRectF& 
     line = QRectF(line.left(), line.bottom(), line.width(), height * kLineHeight);
     painter.setFont(FontOf(painter, height));
     const double figures = QFontMetricsF(painter.font()).horizontalAdvance(picture.figures);
-    const double left = std::max(line.width() - figures - height, line.width() * 0.3);
+    const double left = std::max(line.width() - figures - height * 1.6, line.width() * 0.3);
     const double name =
         DrawLine(painter, QRectF(line.topLeft(), QSizeF(left, line.height())), picture.senderName);
     DrawLine(painter, line.adjusted(name + height * 1.5, 0, 0, 0), picture.figures);

@@ -38,7 +38,9 @@ QString OmissionText(const Omissions& omissions, size_t hiddenPorts)
     };
     add(omissions.numbers, "numbers of cabinets (%1)");
     add(omissions.receivers, "numbers of receiving cards (%1)");
+    add(omissions.ports, "numbers of ports (%1)");
     add(omissions.marks, "starts or ends of chains (%1)");
+    add(omissions.chains, "chains (%1)");
     QString text;
     if (hiddenPorts > 0)
         text = Tr("and %1 more ports, see the sheets").arg(hiddenPorts) + QStringLiteral("   ");

@@ -20,8 +20,12 @@ double DrawLine(QPainter& painter, const QRectF& place, const QString& text, Qt:
     const QFontMetricsF metrics(painter.font());
     if (place.width() <= 0)
         return 0;
-    const QString shown = metrics.elidedText(text, Qt::ElideRight, place.width());
-    const double width = metrics.horizontalAdvance(shown);
+    QString shown = metrics.elidedText(text, Qt::ElideRight, place.width());
+    double width = metrics.horizontalAdvance(shown);
+    if (width > place.width()) { // eliding takes widths that are rounded
+        shown = metrics.elidedText(text, Qt::ElideRight, 2 * place.width() - width);
+        width = metrics.horizontalAdvance(shown);
+    }
     if (shown.isEmpty() || width > place.width())
         return 0;
     const double x = alignment & Qt::AlignRight ? place.right() - width : place.left();

@@ -1,6 +1,7 @@
 #include "orvantools/walllabels.h"
 
 #include "orvantools/cabinettexts.h"
+#include "orvantools/chainturns.h"
 #include "orvantools/wallpaintertools.h"
 
 #include <QCoreApplication>
@@ -31,13 +32,6 @@ TileShape TurnedShape(const QPointF& middle, const QSizeF& size, double angle)
     return {{turn.map(rect.topLeft()), turn.map(rect.topRight()), turn.map(rect.bottomRight()),
              turn.map(rect.bottomLeft())},
             angle};
-}
-
-/// Text that would stand on its head is turned round.
-double Upright(double angle)
-{
-    const double turned = std::remainder(angle, 360);
-    return std::abs(turned) > 90 ? std::remainder(turned + 180, 360) : turned;
 }
 
 } // namespace
@@ -183,6 +177,15 @@ std::optional<QPointF> WallLabels::PlaceBeside(const WallPart& part, const QPoin
     return {};
 }
 
+/// So far from the port's edge that a leader does not touch its neighbours.
+QPointF WallLabels::InsidePort(const WallPart& part, const QPointF& place) const
+{
+    const QRectF bound = m_view.Map(part.bound);
+    const double distance = std::min(m_leastText * 0.3, m_view.NarrowOf(part) * 0.5);
+    return QPointF(Limited(place.x(), bound.left() + distance, bound.right() - distance),
+                   Limited(place.y(), bound.top() + distance, bound.bottom() - distance));
+}
+
 void WallLabels::PaintLeader(const QPointF& from, const QPointF& to)
 {
     m_painter.setPen(QPen(Qt::white, m_leastText * 0.25));
@@ -202,14 +205,20 @@ void WallLabels::PaintStarts()
         const double height =
             Limited(m_view.SideOf(shape) * 0.176, m_leastText, kMostMark * m_view.GetGrowth());
         const QSizeF size = StartSize(FromOne(port.index), height) * 1.05;
-        const QPointF middle = m_view.Map(shape.Center());
+        QPointF middle = m_view.Map(shape.Center());
         auto place = PlaceOnCabinet(part, shape, size);
         if (!place)
             place = PlaceBeside(part, middle, size);
-        if (place)
+        if (!place && part.isSmall) {
+            middle = InsidePort(part, middle);
+            place = PlaceBeside(part, middle, size);
+        }
+        if (place) {
             starts.push_back({middle, *place, FromOne(port.index), height});
-        else
+            m_named.insert(&part);
+        } else {
             ++m_omitted.marks;
+        }
     }
     for (const Start& start : starts)
         PaintLeader(start.middle, start.place);
@@ -257,59 +266,34 @@ void WallLabels::PaintEnd(const WallPart& part)
     m_painter.drawRect(QRectF(*place - half, *place + half));
 }
 
+/// Where single cabinets or the start of a chain cannot be seen.
 void WallLabels::PaintPortNumber(const WallPart& part)
 {
-    if (!part.isSmall)
-        return;
+    const bool isWanted = part.isSmall || (part.port->chain.empty() && m_view.GetParts().size() > 1);
+    if (isWanted && !IsPortNumberPainted(part) && !m_named.contains(&part))
+        ++m_omitted.ports;
+}
+
+bool WallLabels::IsPortNumberPainted(const WallPart& part)
+{
     const PicturePort& port = *part.port;
-    const QString text = FromOne(port.index);
+    // On cabinets that are drawn each, a number alone would be taken for that of a cabinet.
+    const QString text = part.isSmall
+                             ? FromOne(port.index)
+                             : QCoreApplication::translate("OrvanTools", "Port %1").arg(port.index + 1);
     const QSizeF size = part.bound.size() * m_view.GetScale();
     const double height = std::min({kMostPortNumber * m_view.GetGrowth(), size.height() * 0.5,
                                     size.width() * 0.45 / (text.size() * kDigitWidth)});
     if (height < m_leastText)
-        return;
+        return false;
     for (const QPointF& middle :
          {part.bound.center(),
           port.shapes[static_cast<size_t>(part.cabinets[part.cabinets.size() / 2])].Center()}) {
         const Label label{m_view.Map(middle), text, height, 0};
         if (Areas().IsOwn(port.index, TagBox(label)) && PaintTag(part, label, FillOf(port)))
-            return;
+            return true;
     }
-}
-
-/// The way of the chain to a place in it; none to the first.
-QPointF WallLabels::WayTo(const PicturePort& port, size_t at) const
-{
-    const auto middle = [&](size_t i) { return port.shapes[static_cast<size_t>(port.chain[i])].Center(); };
-    return at == 0 || at >= port.chain.size() ? QPointF() : (middle(at) - middle(at - 1)) * m_view.GetScale();
-}
-
-/// Where the chain begins, ends and turns, but not where it does so all the time.
-std::vector<size_t> WallLabels::Turns(const WallPart& part) const
-{
-    const PicturePort& port = *part.port;
-    std::vector<size_t> turns;
-    std::vector<double> runs; // from the turn before
-    double run = 0;
-    for (const int place : part.chain) {
-        const auto at = static_cast<size_t>(place);
-        const QPointF in = WayTo(port, at);
-        const QPointF out = WayTo(port, at + 1);
-        run += in.manhattanLength();
-        const bool isEnd = at == 0 || at + 1 == port.chain.size();
-        if (!isEnd && std::abs(in.x() * out.y() - in.y() * out.x()) <= 1e-6 * (1 + in.manhattanLength()))
-            continue;
-        turns.push_back(at);
-        runs.push_back(run);
-        run = 0;
-    }
-    std::vector<size_t> kept;
-    for (size_t i = 0; i < turns.size(); ++i) {
-        const double longer = i + 1 < turns.size() ? std::max(runs[i], runs[i + 1]) : runs[i];
-        if (turns[i] == 0 || turns[i] + 1 == port.chain.size() || longer >= kLeastRun * m_leastText)
-            kept.push_back(turns[i]);
-    }
-    return kept;
+    return false;
 }
 
 /// Smaller cabinets have numbers first of all where the chain begins, ends and turns.
@@ -317,7 +301,7 @@ void WallLabels::PaintTags(const WallPart& part)
 {
     const PicturePort& port = *part.port;
     std::vector<bool>& isWritten = m_written[&part];
-    for (const size_t at : Turns(part)) {
+    for (const size_t at : ChainTurns(part, m_view.GetScale(), kLeastRun * m_leastText)) {
         const auto place = static_cast<size_t>(port.chain[at]);
         const TileShape& shape = port.shapes[place];
         if (isWritten[place] || !m_view.IsShown(shape))
@@ -394,6 +378,14 @@ bool WallLabels::PaintTag(const WallPart& part, const Label& label, const QColor
     return true;
 }
 
+/// Beside its own port only; what is longer than that would be taken for the neighbour's too.
+bool WallLabels::IsBesidePort(const WallPart& part, const QRectF& box, bool isBelow) const
+{
+    const QSizeF room = part.bound.size() * m_view.GetScale();
+    return m_view.GetParts().size() == 1
+           || (isBelow ? box.width() <= room.width() : box.height() <= room.height());
+}
+
 bool WallLabels::PaintNumberTag(const WallPart& part, const TileShape& shape, const Label& label)
 {
     const QPolygonF cabinet = m_view.Map(shape.Polygon());
@@ -412,7 +404,8 @@ bool WallLabels::PaintNumberTag(const WallPart& part, const TileShape& shape, co
                                        : cabinet.containsPoint(moved.place, Qt::OddEvenFill);
         const QColor ground = isOn && !label.isEnd ? FillOf(*part.port) : QColor(Qt::white);
         const bool isInside = !shape.IsTurned() && m_view.Map(shape.Bound()).contains(place);
-        return (isOn || Areas().IsBare(place)) && PaintTag(part, moved, ground, isInside);
+        return (isOn || (IsBesidePort(part, place, way.y() != 0) && Areas().IsBare(place)))
+               && PaintTag(part, moved, ground, isInside);
     });
 }
 

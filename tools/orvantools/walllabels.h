@@ -6,6 +6,7 @@
 
 #include <QFont>
 #include <QHash>
+#include <QSet>
 
 #include <array>
 #include <memory>
@@ -21,6 +22,8 @@ struct Omissions
     int numbers = 0;   ///< of cabinets
     int receivers = 0; ///< numbers of receiving cards
     int marks = 0;     ///< starts and ends of chains
+    int ports = 0;     ///< numbers of ports
+    int chains = 0;    ///< lines of chains
 };
 
 /// Writes the numbers and marks of a wall, each on its own port's cabinets or beside the wall, and none on
@@ -45,7 +48,7 @@ private:
     bool PaintText(const Label& label, const QColor& color); ///< where it is free
     struct Start
     {
-        QPointF middle; ///< of the cabinet
+        QPointF middle; ///< of the cabinet, or close to it
         QPointF place;
         QString text;
         double height; ///< of the text
@@ -54,10 +57,10 @@ private:
     void PaintEnd(const WallPart& part);
     std::optional<QPointF> PlaceOnCabinet(const WallPart& part, const TileShape& shape, const QSizeF& size);
     std::optional<QPointF> PlaceBeside(const WallPart& part, const QPointF& middle, const QSizeF& size);
+    QPointF InsidePort(const WallPart& part, const QPointF& place) const;
     void PaintLeader(const QPointF& from, const QPointF& to);
-    void PaintPortNumber(const WallPart& part); ///< where single cabinets cannot be seen
-    QPointF WayTo(const PicturePort& port, size_t at) const;
-    std::vector<size_t> Turns(const WallPart& part) const;
+    void PaintPortNumber(const WallPart& part);
+    bool IsPortNumberPainted(const WallPart& part);
     void PaintTags(const WallPart& part);      ///< numbers where the chain begins, ends and turns
     void PaintInnerTags(const WallPart& part); ///< the others
     void PaintBackups(const WallPart& part);
@@ -65,6 +68,7 @@ private:
     bool PaintTag(const WallPart& part, const Label& label, const QColor& ground, bool isInside = false);
     /// On the cabinet, or close to it beside the wall.
     bool PaintNumberTag(const WallPart& part, const TileShape& shape, const Label& label);
+    bool IsBesidePort(const WallPart& part, const QRectF& box, bool isBelow) const;
     QRectF TagBox(const Label& label);
     bool IsFree(int port, const QRectF& box); ///< of other ports' cabinets, and inside the drawing
     PortAreas& Areas();
@@ -86,6 +90,7 @@ private:
     LabelPlacer m_labels;
     std::unique_ptr<PortAreas> m_areas;                  ///< made when it is first needed
     QHash<const WallPart*, std::vector<bool>> m_written; ///< for every cabinet whether its number is there
+    QSet<const WallPart*> m_named;                       ///< those with a mark that says their port
     Omissions m_omitted;
     QHash<int, Face> m_faces; ///< by the pixels of their height
 };

@@ -18,6 +18,9 @@ constexpr double kSmallSide = 50;          ///< of a cabinet whose arrows and gr
 constexpr double kLeastGrouped = 16;       ///< width of a port, in steps from one group's line to the next
 constexpr double kLeastOutlined = 17;      ///< side of cabinets that are drawn each
 constexpr double kLeastOutlinedPixels = 8; ///< the same on a screen
+constexpr double kLeastStep = 7;           ///< of a chain from cabinet to cabinet
+constexpr double kLeastStepPixels = 3;     ///< the same on a screen
+constexpr double kLeastChained = 3;        ///< width of a port with a chain, in least steps
 
 /// Adds a point. The point before it is left out when it lies on the same straight way.
 void LineTo(QPolygonF& line, const QPointF& to)
@@ -90,9 +93,15 @@ Omissions WallPainter::Paint()
         PaintBorder(part);
     for (const WallPart& part : m_view.GetParts())
         PaintGroups(part);
-    for (const WallPart& part : m_view.GetParts())
-        PaintChain(part);
-    const Omissions omitted = WallLabels(m_painter, m_view).Paint();
+    int hiddenChains = 0;
+    for (const WallPart& part : m_view.GetParts()) {
+        if (IsChainSeen(part))
+            PaintChain(part);
+        else
+            ++hiddenChains;
+    }
+    Omissions omitted = WallLabels(m_painter, m_view).Paint();
+    omitted.chains = hiddenChains;
     m_painter.restore();
     return omitted;
 }
@@ -316,6 +325,14 @@ void WallPainter::PaintGroups(const WallPart& part)
     }
     m_painter.setPen(GroupPen());
     DrawLines(lines);
+}
+
+/// No line is thinner than a dot of the screen or the printer: chains of tiny cabinets would hide the colour.
+bool WallPainter::IsChainSeen(const WallPart& part) const
+{
+    const double step = m_asPixels ? kLeastStepPixels / m_painter.worldTransform().m11() : kLeastStep;
+    return part.chain.size() < 2 || !part.isSmall
+           || (part.side >= step && m_view.NarrowOf(part) >= kLeastChained * step);
 }
 
 void WallPainter::PaintChain(const WallPart& part)

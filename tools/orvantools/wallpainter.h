@@ -42,6 +42,7 @@ private:
     void PaintBorder(const WallPart& part);
     void PaintReceivers(const WallPart& part);
     void PaintGroups(const WallPart& part);
+    bool IsChainSeen(const WallPart& part) const;
     void PaintChain(const WallPart& part);
     void DrawLines(const std::vector<QPolygonF>& lines);
     void DrawArrows(const std::vector<QPolygonF>& arrows);

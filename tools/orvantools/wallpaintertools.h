@@ -52,4 +52,11 @@ inline int NumberOf(const PicturePort& port, int place)
     return port.cabinets[static_cast<size_t>(place)].number;
 }
 
+/// Text that would stand on its head is turned round.
+inline double Upright(double angle)
+{
+    const double turned = std::remainder(angle, 360);
+    return std::abs(turned) > 90 ? std::remainder(turned + 180, 360) : turned;
+}
+
 } // namespace OrvanTools
