@@ -3,8 +3,10 @@
 #include "tools/textrecorder.h"
 #include "tools/toolsproject.h"
 
+#include <orvantools/labelplacer.h>
 #include <orvantools/portparts.h>
-#include <orvantools/sheetset.h>
+#include <orvantools/sheetpage.h>
+#include <orvantools/sheettable.h>
 #include <orvantools/wallpainter.h>
 
 #include <QBuffer>
@@ -79,6 +81,29 @@ TEST_F(SheetSetTest, EveryCabinetOfAPortIsDrawnOnceAndItsNumbersCanBeRead)
     ExpectReadable(0, QSizeF(1900, 2500));
     Turn(0, 33);
     ExpectReadable(0, QSizeF(1900, 2500));
+}
+
+TEST_F(SheetSetTest, AHeaderKeepsThePortBesideLongNames)
+{
+    const QString name(200, QLatin1Char('n'));
+    for (const Paper paper : {Paper::A4, Paper::A3, Paper::Letter}) {
+        for (const bool landscape : {false, true}) {
+            TextRecorder device;
+            QPainter painter(&device);
+            PaintSheetHeader(painter, {landscape, name, name, QStringLiteral("Port 7"), name, {}, {}},
+                             SheetSize(paper, landscape), {QStringLiteral("page 1 of 9"), name});
+            LabelPlacer placer(100);
+            ASSERT_EQ(device.texts.size(), 5U);
+            for (const auto& text : device.texts) {
+                EXPECT_TRUE(QRectF(QPointF(), SheetSize(paper, landscape)).contains(text.second));
+                EXPECT_TRUE(placer.Take(text.second)) << qPrintable(text.first);
+            }
+            EXPECT_TRUE(device.texts[3].first.endsWith(QStringLiteral("Port 7")));
+        }
+    }
+    const QStringList list{name, name, QString()};
+    EXPECT_EQ(SheetTable::Lines(list, 500).join(QString()), list.join(QStringLiteral(", ")));
+    EXPECT_EQ(SheetTable::Lines({QStringLiteral("a"), QStringLiteral("b")}, 500), Args({"a, b"}));
 }
 
 TEST_F(SheetSetTest, TheSetHoldsWhatIsInUse)

@@ -35,8 +35,9 @@ std::vector<int> OrderOf(const PicturePort& port)
 
 } // namespace
 
-ChainTable::ChainTable(const CProjectData& project, const CTileSet& tiles, const PicturePort& port)
-    : m_tiles(tiles), m_port(port), m_order(OrderOf(port))
+ChainTable::ChainTable(const CProjectData& project, const CTileSet& tiles, const PicturePort& port,
+                       bool isRear)
+    : m_tiles(tiles), m_port(port), m_isRear(isRear), m_order(OrderOf(port))
 {
     const QList<SParameterFileInfo> files = project.GetParameterFiles();
     for (const SParameterFileInfo& file : files)
@@ -51,7 +52,7 @@ ChainTable::ChainTable(const CProjectData& project, const CTileSet& tiles, const
         else if (!m_order.empty() && Text(m_order.front(), cell, -1) != None())
             m_common.append(Text(m_order.front(), cell, -1));
     }
-    if (m_order.size() > 1 && IsCommon(Cell::Distance))
+    if (m_port.chain.size() > 1 && IsCommon(Cell::Distance))
         m_common.append(Tr("distance %1").arg(DistanceText(m_order[1], m_order[0])));
 }
 
@@ -95,9 +96,11 @@ QString ChainTable::CommonText() const
 SheetTable ChainTable::Make() const
 {
     const SheetColumn known[] = {
-        {Tr("number"), 130, true}, {Tr("cabinet"), 130, true},  {Tr("cards"), 145, true},
-        {Tr("x"), 115, true},      {Tr("y"), 115, true},        {Tr("size"), 190, true},
-        {Tr("angle"), 120, true},  {Tr("product"), 420, false}, {Tr("distance"), 145, true},
+        {Tr("number"), 130, true},   {Tr("cabinet"), 130, true},
+        {Tr("cards"), 145, true},    {m_isRear ? Tr("front x") : Tr("x"), 115, true},
+        {Tr("y"), 115, true},        {Tr("size"), 190, true},
+        {Tr("angle"), 120, true},    {Tr("product"), 420, false},
+        {Tr("distance"), 145, true},
     };
     std::vector<SheetColumn> columns;
     for (const Cell cell : m_cells)

@@ -16,8 +16,8 @@ namespace OrvanTools {
 class ChainTable
 {
 public:
-    /// [ref] all. The picture is that of the tiles, in their order, not mirrored or mirrored.
-    ChainTable(const CProjectData& project, const CTileSet& tiles, const PicturePort& port);
+    /// [ref] all. The picture is that of the tiles, in their order, mirrored for the rear.
+    ChainTable(const CProjectData& project, const CTileSet& tiles, const PicturePort& port, bool isRear);
 
     SheetTable Make() const;    ///< refers to this
     QString CommonText() const; ///< "All cabinets: 128 × 128, …"; empty when they have nothing in common
@@ -44,6 +44,7 @@ private:
 
     const CTileSet& m_tiles;
     const PicturePort& m_port;
+    bool m_isRear;
     QHash<QString, QString> m_products; ///< names by type
     std::vector<int> m_order;
     std::vector<Cell> m_cells; ///< of a row

@@ -18,6 +18,7 @@ namespace OrvanTools {
 namespace {
 
 constexpr double kLeastKey = 8;       ///< of a port on the key plan
+constexpr double kLeastOwnKey = 14;   ///< the same of the page's own
 constexpr double kLeastDrawing = 0.5; ///< of a page that holds the chain's table too
 
 QString Tr(const char* text)
@@ -50,7 +51,7 @@ PortSheets::PortSheets(const CProjectData& project, const SheetWall& wall, Paper
 std::vector<SheetPage> PortSheets::Make(const PicturePort& port) const
 {
     const CTileSet& tiles = m_project.GetSender(m_wall.sender)->GetPort(port.index)->GetTileSet();
-    Chain chain{std::make_shared<ChainTable>(m_project, tiles, port), {}};
+    Chain chain{std::make_shared<ChainTable>(m_project, tiles, port, m_wall.picture.isRear), {}};
     chain.table = std::make_shared<SheetTable>(chain.source->Make());
     std::vector<SheetPage> pages;
     if (AddShort(pages, port, chain))
@@ -90,16 +91,20 @@ PortSheets::Drawing PortSheets::BestDrawing(const PicturePort& port,
 /// Drawing and table on one page, where the drawing is large enough beside it.
 bool PortSheets::AddShort(std::vector<SheetPage>& pages, const PicturePort& port, const Chain& chain) const
 {
-    const auto below = [table = chain.table](double width) { return table->HeightOn(width) + 2 * kSheetGap; };
+    const auto below = [table = chain.table](double width) {
+        return kSheetGap + kSheetLine + table->HeightOn(width);
+    };
     const Drawing drawing = BestDrawing(port, below);
     if (drawing.pages.size() != 1)
         return false;
     SheetPage page = DrawingPage(port, drawing, drawing.pages.front());
-    page.figures = Joined({page.figures, chain.source->CommonText()});
     page.body = [panels = page.body, below, chain](QPainter& painter, const QRectF& area) {
         panels(painter, area);
-        chain.table->Paint(painter,
-                           area.adjusted(0, area.height() - below(area.width()) + 2 * kSheetGap, 0, 0), 0);
+        const QPointF leftTop(area.left(), area.bottom() - below(area.width()) + kSheetGap);
+        painter.setPen(Qt::black);
+        painter.setFont(FontOf(painter, kSheetText));
+        DrawLine(painter, QRectF(leftTop, QSizeF(area.width(), kSheetLine)), chain.source->CommonText());
+        chain.table->Paint(painter, QRectF(leftTop + QPointF(0, kSheetLine), area.bottomRight()), 0);
     };
     pages.push_back(std::move(page));
     return true;
@@ -113,13 +118,14 @@ SheetPage PortSheets::DrawingPage(const PicturePort& port, const Drawing& drawin
         cabinets += static_cast<qint64>(panel.part.places.size());
     SheetPage page;
     page.landscape = drawing.landscape;
-    page.heading = Joined({m_wall.picture.senderName, PortText(port)});
     page.title = m_wall.picture.title;
+    page.sender = m_wall.picture.senderName;
+    page.heading = PortText(port);
     if (drawing.pages.size() > 1)
         page.heading =
             Joined({page.heading,
                     Tr("part %1 of %2").arg(&panels - drawing.pages.data() + 1).arg(drawing.pages.size())});
-    page.figures = Joined({Counted(cabinets, "%1 cabinet", "%1 cabinets"), port.load});
+    page.figures = Joined({Counted(cabinets, "%1 cabinet", "%1 cabinets"), port.load, port.note});
     page.keyPlan = KeyPlan(port, panels);
     page.body = [&wall = m_wall, pictures = drawing.pictures, panels](QPainter& painter, const QRectF& area) {
         const bool isAlone = panels.size() == 1;
@@ -144,8 +150,9 @@ void PortSheets::AddChain(std::vector<SheetPage>& pages, const PicturePort& port
     const QSizeF body = SheetBody(SheetSize(m_paper, false)).size();
     for (int first = 0; first < chain.table->RowCount(); first += chain.table->RowsOn(body)) {
         SheetPage page;
-        page.heading = Joined({m_wall.picture.senderName, PortText(port), Tr("chain")});
         page.title = m_wall.picture.title;
+        page.sender = m_wall.picture.senderName;
+        page.heading = Joined({PortText(port), Tr("chain")});
         page.figures = chain.source->CommonText();
         page.body = [chain, first](QPainter& painter, const QRectF& area) {
             chain.table->Paint(painter, area, first);
@@ -181,12 +188,13 @@ SheetPage::Painting PortSheets::KeyPlan(const PicturePort& port, const PanelPage
                 painter.drawRect(place);
         }
         const QSizeF beyond =
-            (QSizeF(kLeastKey, kLeastKey) - own.size() * scale).expandedTo(QSizeF(0, 0)) / 2;
-        painter.fillRect(map(own)
-                             + QMarginsF(beyond.width(), beyond.height(), beyond.width(), beyond.height()),
-                         port.color);
-        painter.setPen(QPen(Qt::black, 1));
+            (QSizeF(kLeastOwnKey, kLeastOwnKey) - own.size() * scale).expandedTo(QSizeF(0, 0)) / 2;
+        painter.setPen(QPen(Qt::black, 2));
         painter.drawRect(map(all));
+        painter.setBrush(port.color);
+        painter.drawRect(map(own)
+                         + QMarginsF(beyond.width(), beyond.height(), beyond.width(), beyond.height()));
+        painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(Qt::black, 3));
         for (const Panel& panel : panels)
             if (!isWhole)

@@ -24,7 +24,8 @@ struct SheetPage
 
     bool landscape = false;
     QString title;   ///< of the project
-    QString heading; ///< sender and port
+    QString sender;  ///< stands before the heading, shortened where there is no room for both
+    QString heading; ///< port and part
     QString figures;
     Painting body;
     Painting keyPlan; ///< none: no place is left for it
@@ -33,8 +34,14 @@ struct SheetPage
 QSizeF SheetSize(Paper paper, bool landscape);
 QRectF SheetBody(const QSizeF& page); ///< what the header and the margins leave
 
-/// `aside`: the view and the number of the page, which stand at the right of two lines.
-void PaintSheetHeader(QPainter& painter, const SheetPage& page, const QSizeF& size, const QStringList& aside);
+/// What stands at the right of the header.
+struct SheetAside
+{
+    QString number; ///< "page 2 of 5"
+    QString view;   ///< front or rear
+};
+
+void PaintSheetHeader(QPainter& painter, const SheetPage& page, const QSizeF& size, const SheetAside& aside);
 
 QString Joined(QStringList parts);                                 ///< in one line, without the empty ones
 QString Counted(qint64 number, const char* one, const char* many); ///< "1 cabinet", "2 cabinets", translated

@@ -21,9 +21,17 @@ namespace OrvanTools {
 
 namespace {
 
+constexpr double kNoteWidth = 540; ///< of the last column but one of the contents
+
 QString Tr(const char* text)
 {
     return QCoreApplication::translate("OrvanTools", text);
+}
+
+/// Says it of a sender that shows another one's wall.
+QString OverviewText(const WallPicture& picture)
+{
+    return picture.isBackup ? Tr("overview of a backup") : Tr("overview");
 }
 
 QRectF BoundOf(const PicturePort& port)
@@ -47,12 +55,14 @@ public:
     QByteArray Paint() const;
 
 private:
-    /// A row of the contents: a sender, or one of its ports.
+    /// A row of the contents: a sender, one of its ports, or more of a port's note.
     struct Entry
     {
-        const WallPicture* wall;
+        const SheetWall* wall;
         const PicturePort* port; ///< null: the sender itself
-        size_t page = 0;         ///< counted from 1; 0: it has none
+        QString note;
+        bool goesOn = false; ///< the row above
+        size_t page = 0;     ///< counted from 1; 0: it has none
     };
 
     void ListContents();
@@ -91,7 +101,9 @@ SheetSet::SheetSet(const CProjectData& project, const SheetOptions& options) : m
                 std::vector<SheetPage> pages = sheets.Make(port);
                 std::move(pages.begin(), pages.end(), std::back_inserter(m_pages));
             }
-            ++entry;
+            do {
+                ++entry;
+            } while (entry != m_contents.end() && entry->goesOn);
         }
     }
 }
@@ -104,9 +116,12 @@ QString SheetSet::Title() const
 void SheetSet::ListContents()
 {
     for (const SheetWall& wall : m_walls) {
-        m_contents.push_back({&wall.picture, nullptr});
-        for (const PicturePort& port : wall.picture.ports)
-            m_contents.push_back({&wall.picture, &port});
+        m_contents.push_back({&wall, nullptr, OverviewText(wall.picture)});
+        for (const PicturePort& port : wall.picture.ports) {
+            const QStringList notes = SheetTable::Lines(port.note.split(QStringLiteral(", ")), kNoteWidth);
+            for (const QString& note : notes)
+                m_contents.push_back({&wall, &port, note, &note != &notes.first()});
+        }
     }
 }
 
@@ -137,10 +152,12 @@ QStringList SheetSet::CoverLines() const
 
 QString SheetSet::EntryText(const Entry& entry, int column) const
 {
-    const PicturePort* port = entry.port;
+    const PicturePort* port = entry.goesOn ? nullptr : entry.port;
     switch (column) {
     case 0:
-        return port ? QString() : entry.wall->senderName;
+        return port           ? Tr("Sender %1").arg(entry.wall->sender + 1)
+               : entry.goesOn ? QString()
+                              : entry.wall->picture.senderName;
     case 1:
         return port ? QString::number(port->index + 1) : QString();
     case 2:
@@ -152,7 +169,7 @@ QString SheetSet::EntryText(const Entry& entry, int column) const
     case 5:
         return port ? port->load : QString();
     case 6:
-        return port ? port->note : Tr("overview");
+        return entry.note;
     default:
         return entry.page > 0 ? QString::number(entry.page) : QString();
     }
@@ -169,7 +186,7 @@ void SheetSet::AddCover()
                                                                              {Tr("receivers"), 155, true},
                                                                              {Tr("pixels"), 170, true},
                                                                              {Tr("load"), 100, true},
-                                                                             {QString(), 540, false},
+                                                                             {QString(), kNoteWidth, false},
                                                                              {Tr("page"), 90, true}},
                                                     static_cast<int>(m_contents.size()), text);
     const QStringList lines = CoverLines();
@@ -205,8 +222,9 @@ void SheetSet::AddOverview(const WallPicture& picture)
     SheetPage page;
     page.landscape = scaleOn(SheetBody(SheetSize(m_options.paper, true)).size())
                      > scaleOn(SheetBody(SheetSize(m_options.paper, false)).size());
-    page.heading = Joined({picture.senderName, Tr("overview")});
     page.title = picture.title;
+    page.sender = picture.senderName;
+    page.heading = OverviewText(picture);
     page.figures = picture.figures;
     page.body = [&picture](QPainter& painter, const QRectF& area) {
         const Omissions omitted =
@@ -227,7 +245,7 @@ QByteArray SheetSet::Paint() const
         const SheetPage& page = m_pages[i];
         const QSizeF size = SheetSize(m_options.paper, page.landscape);
         QPainter& painter = document.BeginPage(size);
-        PaintSheetHeader(painter, page, size, {view, Tr("page %1 of %2").arg(i + 1).arg(m_pages.size())});
+        PaintSheetHeader(painter, page, size, {Tr("page %1 of %2").arg(i + 1).arg(m_pages.size()), view});
         page.body(painter, SheetBody(size));
         if (m_options.progress)
             m_options.progress(static_cast<int>((i + 1) * 100 / m_pages.size()));

@@ -3,6 +3,7 @@
 #include "orvantools/textbatch.h"
 #include "orvantools/textline.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QRectF>
 
@@ -25,6 +26,33 @@ constexpr int kShadedRows = 2; ///< every other one, to lead the eye
 SheetTable::SheetTable(std::vector<SheetColumn> columns, int rows, std::function<QString(int, int)> text)
     : m_columns(std::move(columns)), m_rows(rows), m_text(std::move(text))
 {}
+
+QStringList SheetTable::Lines(const QStringList& list, double width)
+{
+    QFont font;
+    font.setPixelSize(static_cast<int>(kTextHeight));
+    const QFontMetricsF metrics(font);
+    QStringList lines{QString()};
+    for (int i = 0; i < list.size(); ++i) {
+        const QString item = i + 1 < list.size() ? list[i] + QStringLiteral(", ") : list[i];
+        if (!lines.last().isEmpty() && metrics.horizontalAdvance(lines.last() + item) > width)
+            lines.append(QString());
+        lines.last() += item;
+    }
+    return lines;
+}
+
+/// Of a cell and the empty ones behind it.
+double SheetTable::WidthOf(int row, size_t column) const
+{
+    double width = m_columns[column].width;
+    for (size_t i = column + 1; !m_columns[column].isNumber && i < m_columns.size(); ++i) {
+        if (!m_text(row, static_cast<int>(i)).isEmpty())
+            break;
+        width += kCellGap + m_columns[i].width;
+    }
+    return width;
+}
 
 double SheetTable::Width() const
 {
@@ -90,8 +118,8 @@ void SheetTable::PaintRow(QPainter& painter, TextBatch& texts, QPointF leftTop, 
         painter.fillRect(QRectF(leftTop, QSizeF(Width(), kRowHeight)), QColor(240, 240, 240));
     for (size_t i = 0; i < m_columns.size(); ++i) {
         const SheetColumn& column = m_columns[i];
-        const QRectF place(leftTop, QSizeF(column.width, kRowHeight));
         const QString text = m_text(row, static_cast<int>(i));
+        const QRectF place(leftTop, QSizeF(text.isEmpty() ? column.width : WidthOf(row, i), kRowHeight));
         const Qt::Alignment alignment = column.isNumber ? Qt::AlignRight : Qt::AlignLeft;
         if (!texts.Add(place, text, alignment))
             DrawLine(painter, place, text, alignment);

@@ -14,6 +14,8 @@ namespace OrvanTools {
 
 namespace {
 
+constexpr int kLongestName = 24; ///< of a sender, in a note about another one's port
+
 QString Tr(const char* text)
 {
     return QCoreApplication::translate("OrvanTools", text);
@@ -65,9 +67,12 @@ std::vector<int> MakeChain(const std::vector<PictureCabinet>& cabinets)
 QString PortName(const CProjectData& project, const PortPlace& place, int fromSender)
 {
     const QString port = Tr("port %1").arg(place.port + 1);
-    return place.sender == fromSender
-               ? port
-               : Printable(project.GetShowSenderName(place.sender, true)) + QLatin1Char(' ') + port;
+    if (place.sender == fromSender)
+        return port;
+    const QString name = Printable(project.GetShowSenderName(place.sender, true));
+    // A long name would leave no room for the port.
+    return (name.size() > kLongestName ? Tr("sender %1").arg(place.sender + 1) : name) + QLatin1Char(' ')
+           + port;
 }
 
 QString BackupText(const CProjectData& project, const CPort& port, const BackupMap& map, int sender)
@@ -205,14 +210,13 @@ QRectF CanvasOf(const CSender& sender, bool isRear)
     return canvas;
 }
 
-void AddTexts(WallPicture& picture, const CProjectData& project, int index, const PictureOptions& options,
-              bool isBackupOnly)
+void AddTexts(WallPicture& picture, const CProjectData& project, int index, const PictureOptions& options)
 {
     picture.title = TitleOf(project, index);
     picture.senderName =
         Tr("Sender %1").arg(index + 1) + QStringLiteral(": ") + project.GetShowSenderName(index, true);
     QStringList view;
-    if (isBackupOnly)
+    if (picture.isBackup)
         view.append(Tr("backup"));
     if (options.port >= 0)
         view.append(Tr("port %1").arg(options.port + 1));
@@ -240,6 +244,7 @@ WallPicture MakeWallPicture(const CProjectData& project, int index, const Pictur
     int canvasFrom = index;
     WallPicture picture;
     picture.isRear = options.rear;
+    picture.isBackup = isBackupOnly;
     for (int i = 0; i < sender.GetPortCount(); ++i) {
         if (options.port >= 0 && i != options.port)
             continue;
@@ -264,7 +269,7 @@ WallPicture MakeWallPicture(const CProjectData& project, int index, const Pictur
         picture.ports.push_back(std::move(made));
     }
     picture.canvas = CanvasOf(*project.GetSender(canvasFrom), options.rear);
-    AddTexts(picture, project, index, options, isBackupOnly);
+    AddTexts(picture, project, index, options);
     return picture;
 }
 

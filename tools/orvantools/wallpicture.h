@@ -55,6 +55,7 @@ struct WallPicture
     QString senderName;
     QString view; ///< "backup · port 3 · rear view", as much as applies
     bool isRear = false;
+    bool isBackup = false;          ///< of other senders alone, whose wall it shows
     QString figures;                ///< canvas, wall, cabinets, receivers, pixels
     QStringList form;               ///< printed fields, "Designer: …"
     QRectF canvas;                  ///< in the cabinets' coordinates; empty: none
