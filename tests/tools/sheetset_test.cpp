@@ -134,7 +134,7 @@ TEST(SheetCommandTest, TheSameProjectGivesTheSameBytes)
         return RunOrvan(arguments + options, {}, {Arg(zone)}).status;
     };
     EXPECT_EQ(draw("a.pdf", "TZ=UTC-1", Args({"--sheets"})), 0);
-    EXPECT_EQ(draw("b.pdf", "TZ=UTC-2", Args({"--sheets"})), 0);
+    EXPECT_EQ(draw("b.pdf", "TZ=UTC+2", Args({"--sheets"})), 0);
     EXPECT_EQ(ReadFile(folder.Path(Arg("a.pdf"))), ReadFile(folder.Path(Arg("b.pdf"))));
     EXPECT_EQ(draw("c.png", "A=B", Args({"--sheets"})), 2);
     EXPECT_EQ(draw("c.pdf", "A=B", Args({"--paper", "A3"})), 2);

@@ -24,7 +24,9 @@ void FixCreationDate(QByteArray* pdf)
     const QByteArray fixed = QByteArray("20000101000000").leftJustified(end - begin);
     for (int i = begin; i < end; ++i) {
         const char old = pdf->at(i);
-        if (old >= '0' && old <= '9') // the sign of a time zone and its marks stay
+        if (old == '-')
+            (*pdf)[i] = '+';
+        else if (old >= '0' && old <= '9') // the marks of a time zone stay
             (*pdf)[i] = fixed[i - begin] == ' ' ? '0' : fixed[i - begin];
     }
 }
