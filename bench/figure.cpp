@@ -6,6 +6,8 @@
 #include <ctime>
 #include <vector>
 
+#include <sys/resource.h>
+
 namespace {
 
 constexpr int kRuns = 9;
@@ -13,11 +15,24 @@ constexpr WallKind kWalls[] = {{1024}, {8192}, {32768}, {131072}, {32768, 160}, 
 
 bool g_cpuTime = false;
 
-double Now()
+double OnClock(clockid_t clock)
 {
     timespec time = {};
-    clock_gettime(g_cpuTime ? CLOCK_PROCESS_CPUTIME_ID : CLOCK_MONOTONIC, &time);
+    clock_gettime(clock, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+double OfCommands()
+{
+    rusage used = {};
+    getrusage(RUSAGE_CHILDREN, &used);
+    return static_cast<double>(used.ru_utime.tv_sec + used.ru_stime.tv_sec)
+           + static_cast<double>(used.ru_utime.tv_usec + used.ru_stime.tv_usec) / 1e6;
+}
+
+double Now()
+{
+    return g_cpuTime ? OnClock(CLOCK_PROCESS_CPUTIME_ID) + OfCommands() : OnClock(CLOCK_MONOTONIC);
 }
 
 double Median(std::vector<double> values)
@@ -81,7 +96,12 @@ Pair Interleaved(const Run& floor, const Run& ours)
 void OnWalls(const Figure& figure, const std::function<Pair(const WallKind&)>& measure)
 {
     for (const WallKind& wall : kWalls)
-        Register(figure.what + "/" + NameOf(wall), figure, [=] { return measure(wall); });
+        OnWall(figure, wall, measure);
+}
+
+void OnWall(const Figure& figure, const WallKind& wall, const std::function<Pair(const WallKind&)>& measure)
+{
+    Register(figure.what + "/" + NameOf(wall), figure, [=] { return measure(wall); });
 }
 
 void Once(const Figure& figure, const std::function<Pair()>& measure)

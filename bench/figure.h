@@ -24,8 +24,8 @@ struct Pair
 /// The seconds that one run took, without its preparation.
 using Run = std::function<double()>;
 
-/// Makes Seconds count what the processor spent on this program, for a machine that is busy with others.
-/// Waiting for the disk is then left out.
+/// Makes Seconds count what the processor spent on this program and the commands it ran, for a machine that
+/// is busy with others. Waiting for the disk is then left out.
 void CountCpuTime();
 
 double Seconds(const std::function<void()>& work);
@@ -37,4 +37,5 @@ Pair Interleaved(const Run& floor, const Run& ours);
 
 /// On every wall; the name of a benchmark is that of the figure, a slash, and the wall.
 void OnWalls(const Figure& figure, const std::function<Pair(const WallKind&)>& measure);
+void OnWall(const Figure& figure, const WallKind& wall, const std::function<Pair(const WallKind&)>& measure);
 void Once(const Figure& figure, const std::function<Pair()>& measure);

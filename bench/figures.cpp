@@ -17,6 +17,7 @@ int main(int argc, char** argv)
         return 2;
     QApplication application(argc, argv);
     LedNimbraData_Init();
+    CommandFigures(home.Path()); // first: a command's peak of memory begins at that of this program
     FileFigures(home.Path());
     UndoFigures();
     ChainFigures();

@@ -6,6 +6,7 @@
 
 // The figures of each concern. They are measured while the six shared objects are up, with an empty product
 // folder.
+void CommandFigures(const QString& folder);
 void FileFigures(const QString& folder);
 void UndoFigures();
 void ChainFigures();

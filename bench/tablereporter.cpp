@@ -16,9 +16,9 @@ std::string Number(double value)
 }
 
 /// The power of the number of cabinets that the time grows with.
-double Exponent(double few, double many)
+double Exponent(double few, double many, double times)
 {
-    return std::log(many / few) / std::log(131072.0 / 8192);
+    return std::log(many / few) / std::log(times);
 }
 
 /// The bounds are those of walls of 32768 cabinets; other walls show how a figure grows.
@@ -63,7 +63,7 @@ void TableReporter::ReportRuns(const std::vector<Run>& runs)
                             counter("of value") != 0};
         const Pair pair{counter("floor"), counter("ours")};
         m_pairs[name] = pair;
-        PrintRow(figure, wall, pair, wall == "131072" && !figure.ofValue ? Growth(figure.what, pair) : "");
+        PrintRow(figure, wall, pair, figure.ofValue ? "" : Growth(figure.what, wall, pair));
     }
 }
 
@@ -73,15 +73,22 @@ void TableReporter::Finalize()
     PrintGrowth({"save, 131072 against 32768 cabinets", "times", 4.6, 4.2, true}, "save to an archive");
 }
 
-/// From 8192 to 131072 cabinets.
-std::string TableReporter::Growth(const std::string& what, const Pair& large) const
+/// To the largest wall, from the smallest of its kind.
+std::string TableReporter::Growth(const std::string& what, const std::string& wall, const Pair& large) const
 {
-    const auto small = m_pairs.find(what + "/8192");
-    if (small == m_pairs.end())
+    const std::string largest = "131072";
+    if (wall.rfind(largest, 0) != 0)
         return {};
-    const double floor = Exponent(small->second.floor, large.floor);
-    const double ours = Exponent(small->second.ours, large.ours);
-    return Number(floor) + " → " + Number(ours) + (ours > floor + kMostAboveFloor ? " NO" : "");
+    for (const int cabinets : {8192, 32768}) {
+        const auto small = m_pairs.find(what + "/" + std::to_string(cabinets) + wall.substr(largest.size()));
+        if (small == m_pairs.end())
+            continue;
+        const double times = 131072.0 / cabinets;
+        const double floor = Exponent(small->second.floor, large.floor, times);
+        const double ours = Exponent(small->second.ours, large.ours, times);
+        return Number(floor) + " → " + Number(ours) + (ours > floor + kMostAboveFloor ? " NO" : "");
+    }
+    return {};
 }
 
 /// How often the time for 32768 cabinets goes into that for 131072.

@@ -15,7 +15,7 @@ public:
     void Finalize() override;
 
 private:
-    std::string Growth(const std::string& what, const Pair& large) const;
+    std::string Growth(const std::string& what, const std::string& wall, const Pair& large) const;
     void PrintGrowth(const Figure& figure, const std::string& of) const;
 
     std::map<std::string, Pair> m_pairs; ///< by name of the benchmark
