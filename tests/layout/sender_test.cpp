@@ -44,6 +44,7 @@ TEST(SenderTest, ACopyTakesThePortsWithTheirViewAndTheParameters)
     EXPECT_TRUE(last.IsFlagLock() && !last.IsVisible() && last.GetPortArea() == port.GetPortArea());
     for (int i = 0; i < kMaxPorts; ++i)
         EXPECT_TRUE(copy.GetPort(i)->BeSameAs(*source->GetPort(i))) << i;
+    EXPECT_EQ(copy.GetMonitorRenderArea(), QRect(6, 7, 8, 9));
     copy.ResetMonitorRenderParam(false);
     EXPECT_EQ(copy.GetMonitorRenderArea(), QRect());
     EXPECT_EQ(copy.GetMonitorRcvOffsetPt(), QPoint(11, 12));

@@ -257,6 +257,8 @@ TEST_F(ParamBlocksTest, ColorEntriesWithoutSourceStandForTheirSlot)
     EXPECT_EQ(target.GetColorCubeParams()[0].sourceIndex, 0);
     EXPECT_FALSE(target.GetColorCubeParams()[0].enable);
     EXPECT_EQ(target.GetColorCurveParams()[0].slotNum, 2);
+    target.SetProcessorColorCurveInfo(target.GetColorCurveParams()[0]);
+    EXPECT_EQ(target.GetProcessorColorCurveInfo().slotNum, 2);
 }
 
 TEST_F(ParamBlocksTest, CurvePointsAreBelievedAsFarAsTheFileHoldsThem)

@@ -85,4 +85,6 @@ TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
     EXPECT_FALSE(project.ImportPort(sender));
     EXPECT_FALSE(project.ExportSender(hollow, QUuid()));
     EXPECT_EQ(TilesOf(*target->GetPort(0)).GetCount(), 4);
+    EXPECT_TRUE(project.ImportPort(port));
+    EXPECT_EQ(Error(), QString());
 }
