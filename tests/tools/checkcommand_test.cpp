@@ -117,7 +117,7 @@ TEST(ProductsCommandTest, ADoubleIsLeftOutAndLeftWhereItIs)
     folder.Write(Arg("b/double.rcvbp"), "one");
     folder.Write(Arg("b/other.RCVBP"), "three");
     const auto before = Snapshot(folder.Path());
-    const OrvanRun run = RunOrvan({Arg("products"), folder.Path(), Arg("--json")});
+    const OrvanRun run = RunOrvan(Args({"products", ".", "--json"}), folder.Path());
     ASSERT_EQ(run.status, 0);
     const QJsonArray products = run.Json()[Arg("products")].toArray();
     ASSERT_EQ(products.size(), 2);

@@ -58,10 +58,10 @@ void PrintTable(const QJsonArray& products)
 int Run(const Invocation& invocation)
 {
     const bool given = !invocation.files.isEmpty();
-    const QString folder = given ? invocation.files.first() : invocation.ProductFolder();
-    const QFileInfo info(folder);
+    const QFileInfo info(given ? invocation.files.first() : invocation.ProductFolder());
     if (given && !(info.isDir() && info.isReadable()))
-        return Fail(StatusFile, folder, QStringLiteral("is no folder that can be read"));
+        return Fail(StatusFile, info.filePath(), QStringLiteral("is no folder that can be read"));
+    const QString folder = info.absoluteFilePath();
     const QString copy = CProductDirectorySet::GetRootDir();
     QString failed;
     if (!CopyProducts(folder, copy, &failed))
