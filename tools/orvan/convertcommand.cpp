@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QHash>
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -80,11 +81,11 @@ QMultiHash<QByteArray, int> RowsByType(const QString& document)
     bool inList = false;
     OrvanTools::TagReader tags([&](std::string_view name, std::string_view attributes) {
         const QByteArray element(name.data(), static_cast<int>(name.size()));
-        if (inList && element.startsWith("File")) {
+        const int number = element.startsWith("File") ? element.mid(4).toInt() : 0;
+        inList = inList || element == "ParameterFile";
+        if (inList && number > 0) {
             const std::string_view type = OrvanTools::TagReader::Attribute(attributes, "Md5").substr(0, 32);
-            types.emplace(element.mid(4).toInt(), QByteArray(type.data(), static_cast<int>(type.size())));
-        } else {
-            inList = element == "ParameterFile";
+            types.emplace(number, QByteArray(type.data(), static_cast<int>(type.size())));
         }
     });
     QFile file(document);
@@ -112,11 +113,13 @@ void CollectParameterFiles(const QString& document, const QString& products, con
             WarnOfFile(document, file, products + QStringLiteral(" has no file of its type"));
             continue;
         }
-        bool copied = true;
-        for (const int row : rows.values(file.type.ToString().toLatin1()))
-            copied =
-                copied && QFile::copy(path, folder.filePath(QStringLiteral("project/%1.rcvbp").arg(row)));
-        if (!copied)
+        const QList<int> places = rows.values(file.type.ToString().toLatin1());
+        const bool copied = std::all_of(places.begin(), places.end(), [&](int row) {
+            return QFile::copy(path, folder.filePath(QStringLiteral("project/%1.rcvbp").arg(row)));
+        });
+        if (places.isEmpty())
+            WarnOfFile(document, file, QStringLiteral("its row cannot be read"));
+        else if (!copied)
             WarnOfFile(document, file, path + QStringLiteral(" cannot be read"));
     }
 }
