@@ -26,4 +26,12 @@ for command in $("$orvan" --help | sed -n '/^Commands:/,/^$/s/^  \([a-z]*\) .*/\
         grep -qF -- "${option//-/\\-}" "$manual" || { echo "$option of $command is not in the manual"; status=1; }
     done
 done
+
+kinds=$({ "$orvan" check wall.prj --ignore any 2>&1 || true; } | sed 's/.*only //; s/;.*//; s/, /\n/g' | sort)
+COMP_WORDS=(orvan check --ignore "") COMP_CWORD=3
+_orvan
+for told in "$(printf '%s\n' "${COMPREPLY[@]}")" "$(between 'kinds=(' $'\n    )' | xargs -n 1)" \
+    "$(sed -n '/^.SH FAULTS/,/^.SH EXIT/s/^.B //p' "$manual")"; do
+    diff <(echo "$kinds") <(sort <<<"$told") || { echo "kinds of faults in bash, zsh or the manual"; status=1; }
+done
 exit $status
