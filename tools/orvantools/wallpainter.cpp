@@ -18,9 +18,9 @@ constexpr double kSmallSide = 50;          ///< of a cabinet whose arrows and gr
 constexpr double kLeastGrouped = 16;       ///< width of a port, in steps from one group's line to the next
 constexpr double kLeastOutlined = 17;      ///< side of cabinets that are drawn each
 constexpr double kLeastOutlinedPixels = 8; ///< the same on a screen
-constexpr double kLeastStep = 7;           ///< of a chain from cabinet to cabinet
-constexpr double kLeastStepPixels = 3;     ///< the same on a screen
-constexpr double kLeastChained = 3;        ///< width of a port with a chain, in least steps
+constexpr double kLeastStep = 12;          ///< of a chain from cabinet to cabinet
+constexpr double kLeastStepPixels = 4;     ///< the same on a screen
+constexpr double kLeastChained = 2;        ///< width of a port with a chain, in least steps
 
 /// Adds a point. The point before it is left out when it lies on the same straight way.
 void LineTo(QPolygonF& line, const QPointF& to)
