@@ -122,11 +122,10 @@ public:
     static quint32 GetIntFromOctString(const QString& text); ///< host-order IPv4, or a decimal number; else 0
 
     // project file
-    /// False: refused, and nothing was written. True does not mean that there is an archive. So ask
-    /// GetLastFileError() after each save: empty when all was written, else what is missing, or that no
-    /// archive was written. Then, for the open document, CProjectUndoRedo::SetAsSaveStep makes the steps
-    /// count as saved; what PrjModify marked (senders that came or went, sender groups) stays until the next
-    /// load.
+    /// False: refused, and nothing was written. True does not mean that there is an archive: ask
+    /// GetLastFileError() after each save, which is empty when all was written. Then, for the open document,
+    /// CProjectUndoRedo::SetAsSaveStep makes the steps count as saved; what PrjModify marked (senders that
+    /// came or went, sender groups) stays until the next load.
     bool SaveProjectToFile(const QString& path, CCustomProgressbar* progress);
     /// `error` receives the minimum version of a file that is too new. On failure the project is as it was.
     bool LoadProjectFromFile(const char* path, QString& error, CCustomProgressbar* progress);
@@ -142,9 +141,8 @@ public:
     bool ExportPort(const QString& path); ///< of the current sender's recent port
     bool ImportPort(const QString& path); ///< into the current sender's recent port
 
-    // parameter files: a code of params/paramcodes.h. Parameters that do not fit are told in a message box. A
-    // project file holds none of them but signal frequency and colour depth; an import marks nothing
-    // modified.
+    // parameter files: a code of params/paramcodes.h. Parameters that do not fit are told in a message box.
+    // Of them a project file holds signal frequency and colour depth alone; an import marks nothing modified.
     quint32 ExportMutiSenderParam(const QString& path, const QUuid& id);
     quint32 ExportMutiProcessorParam(const QString& path, const QUuid& id);
     quint32 ImportSenderParam(const QString& path, const QUuid& id);
