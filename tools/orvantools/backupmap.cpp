@@ -94,6 +94,17 @@ std::vector<PortPlace> BackupMap::BackupsOf(const PortPlace& port) const
     return backups;
 }
 
+PortPlace BackupMap::OriginalOf(PortPlace port) const
+{
+    while (!IsInLoop(port)) {
+        const auto source = SourceOf(port);
+        if (!source)
+            break;
+        port = *source;
+    }
+    return port;
+}
+
 bool BackupMap::IsInLoop(const PortPlace& port) const
 {
     const int index = IndexOf(port);

@@ -31,6 +31,8 @@ public:
 
     /// The port that a port backs up; none when it is no backup or its source does not exist.
     std::optional<PortPlace> SourceOf(const PortPlace& port) const;
+    /// The port that a port backs up, also through other backups; itself when it backs up none.
+    PortPlace OriginalOf(PortPlace port) const;
     std::vector<PortPlace> BackupsOf(const PortPlace& port) const;
     bool IsInLoop(const PortPlace& port) const; ///< following the sources from it leads back to it
 

@@ -169,8 +169,7 @@ void Checker::CheckPlaces()
 {
     constexpr double rounding = 1; // of turned corners
     const CSender& sender = *m_project.GetSender(m_sender);
-    // A sender that nobody has placed yet has the offset (-1, -1), one without a canvas the size (-1, -1).
-    const QSize offset = sender.GetOffset() == QSize(-1, -1) ? QSize(0, 0) : sender.GetOffset();
+    const QPointF offset = OffsetOf(sender);
     const QSize size = sender.GetCanvasSize();
     const QRectF limits(0, 0, kMaxCanvasWidth, kMaxCanvasHeight);
     const QRectF canvas = size.isEmpty() ? limits : QRectF(QPointF(), size);
@@ -180,7 +179,7 @@ void Checker::CheckPlaces()
     for (int i = 0; i < Tiles().GetCount(); ++i) {
         const CTile& tile = *Tiles().GetTile(i);
         const TileShape shape = ShapeOf(tile);
-        const QRectF bound = shape.Bound().translated(offset.width(), offset.height());
+        const QRectF bound = shape.Bound().translated(offset);
         const double allowed = shape.IsTurned() ? rounding : 0;
         if (PixelsOf(tile) == 0)
             continue;

@@ -4,6 +4,7 @@
 #include "orvantools/patternface.h"
 #include "orvantools/pngrows.h"
 #include "orvantools/tileshape.h"
+#include "orvantools/wallpaintertools.h"
 
 #include <OrvanData/orvandata.h>
 
@@ -43,21 +44,6 @@ bool HasOwnCabinets(const CPort& port)
     return !port.IsBackupDest() && port.GetTileSet().GetCount() > 0;
 }
 
-/// The port whose layout a backup shows, over any number of backups; none when there is no such port.
-const CPort* OriginalOf(const CProjectData& project, const BackupMap& backups, PortPlace place)
-{
-    while (!backups.IsInLoop(place)) {
-        const CPort& port = *project.GetSender(place.sender)->GetPort(place.port);
-        if (!port.IsBackupDest())
-            return &port;
-        const auto source = backups.SourceOf(place);
-        if (!source)
-            break;
-        place = *source;
-    }
-    return nullptr;
-}
-
 std::vector<const CPort*> ShownPorts(const CProjectData& project, int index)
 {
     const CSender& sender = *project.GetSender(index);
@@ -70,8 +56,10 @@ std::vector<const CPort*> ShownPorts(const CProjectData& project, int index)
         return ports;
     const BackupMap backups(project);
     for (int i = 0; i < sender.GetPortCount(); ++i) {
-        if (const CPort* original = OriginalOf(project, backups, {index, i}))
-            ports.push_back(original);
+        const PortPlace original = backups.OriginalOf({index, i});
+        const CPort* port = project.GetSender(original.sender)->GetPort(original.port);
+        if (!port->IsBackupDest())
+            ports.push_back(port);
     }
     return ports;
 }
@@ -96,9 +84,8 @@ struct Area
 
 Area AreaOf(const CSender& sender, const std::vector<const CPort*>& ports)
 {
-    const QSize offset = sender.GetOffset() == QSize(-1, -1) ? QSize(0, 0) : sender.GetOffset();
     if (!sender.GetCanvasSize().isEmpty())
-        return {QPoint(PixelAt(-double(offset.width())), PixelAt(-double(offset.height()))),
+        return {QPoint(PixelAt(-OffsetOf(sender).x()), PixelAt(-OffsetOf(sender).y())),
                 sender.GetCanvasSize()};
     QRectF bound;
     ForEachCabinet(ports, [&bound](const CPort& /*port*/, const CTile& tile) {
@@ -106,22 +93,6 @@ Area AreaOf(const CSender& sender, const std::vector<const CPort*>& ports)
     });
     const QRect pixels = PixelRect(bound);
     return {pixels.topLeft(), pixels.size()};
-}
-
-/// Relative luminance as the guidelines for readable web pages define it.
-double LuminanceOf(QRgb color)
-{
-    const auto linear = [](int channel) {
-        const double part = channel / 255.0;
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
-}
-
-bool IsBlackReadableOn(QRgb color)
-{
-    const double light = LuminanceOf(color) + 0.05;
-    return light / 0.05 > 1.05 / light;
 }
 
 /// A third of the way to its text, so that the text stays readable upon it.
@@ -202,7 +173,7 @@ Colors PatternPainter::ColorsOf(const CPort& port)
     if (m_mode == PatternMode::Numbers)
         return {};
     const QRgb ground = CConstantData::GetColorByPort(port.GetPortIndex()).rgb();
-    const uchar text = IsBlackReadableOn(ground) ? kBlack : kWhite;
+    const uchar text = TextOn(ground) == Qt::black ? kBlack : kWhite;
     int index = m_palette.indexOf(ground);
     if (index < 0) {
         index = m_palette.size();

@@ -120,6 +120,12 @@ TileShape ShapeOf(const CTile& tile)
     return shape;
 }
 
+QPointF OffsetOf(const CSender& sender)
+{
+    const QSize offset = sender.GetOffset();
+    return offset == QSize(-1, -1) ? QPointF() : QPointF(offset.width(), offset.height());
+}
+
 qint64 PixelsOf(const CTile& tile)
 {
     return tile.GetSize().isEmpty() ? 0 : qint64(tile.GetWidth()) * tile.GetHeight();

@@ -7,6 +7,7 @@
 
 #include <array>
 
+class CSender;
 class CTile;
 class CTileSet;
 
@@ -30,6 +31,10 @@ struct TileShape
 
 /// A width or height below 0 counts as 0, and no corner lies farther out than any canvas could.
 TileShape ShapeOf(const CTile& tile);
+
+/// From the canvas to the cabinets' coordinates; (-1, -1) in a file is that of a sender nobody has placed
+/// yet.
+QPointF OffsetOf(const CSender& sender);
 
 qint64 PixelsOf(const CTile& tile);
 qint64 PixelsOf(const CTileSet& tiles); ///< of all of them, covered twice or not

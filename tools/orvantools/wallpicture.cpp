@@ -86,18 +86,6 @@ QString BackupText(const CProjectData& project, const CPort& port, const BackupM
            + QLatin1Char(' ') + Tr("port %1").arg(qint64(port.GetBackupSrcPortIndex()) + 1);
 }
 
-/// The port that a port backs up, also through other backups; itself when it backs up none.
-PortPlace BackedUp(const BackupMap& map, PortPlace place)
-{
-    while (!map.IsInLoop(place)) {
-        const auto source = map.SourceOf(place);
-        if (!source)
-            break;
-        place = *source;
-    }
-    return place;
-}
-
 /// Whether no port of a sender has cabinets but for those that back up others.
 bool IsBackupOnly(const CSender& sender)
 {
@@ -201,10 +189,9 @@ QString Figures(const WallPicture& picture)
 /// In the coordinates of the sender's cabinets.
 QRectF CanvasOf(const CSender& sender, bool isRear)
 {
-    const QSize offset = sender.GetOffset() == QSize(-1, -1) ? QSize(0, 0) : sender.GetOffset();
     if (sender.GetCanvasSize().isEmpty())
         return QRectF();
-    QRectF canvas(-QPointF(offset.width(), offset.height()), sender.GetCanvasSize());
+    QRectF canvas(-OffsetOf(sender), sender.GetCanvasSize());
     if (isRear)
         canvas.moveLeft(-canvas.right());
     return canvas;
@@ -249,7 +236,7 @@ WallPicture MakeWallPicture(const CProjectData& project, int index, const Pictur
         if (options.port >= 0 && i != options.port)
             continue;
         const CPort& port = *sender.GetPort(i);
-        const PortPlace shown = isBackupOnly ? BackedUp(backups, {index, i}) : PortPlace{index, i};
+        const PortPlace shown = isBackupOnly ? backups.OriginalOf({index, i}) : PortPlace{index, i};
         PicturePort made;
         made.index = i;
         made.hidden = !port.IsVisible();
