@@ -94,10 +94,12 @@ struct ParamSampleTest : ProjectTest
         const QByteArray sample = FullSample(name);
         const QString hollow = folder.Write("hollow.xml"_s, Hollow(sample, kStructure));
         const QUuid every;
-        const auto taken = [&](const QString& path) { EXPECT_EQ((project.*take)(path, every), 0U); };
+        const auto taken = [&](const QString& path) {
+            EXPECT_EQ(std::invoke(take, project, path, every), 0U);
+        };
         const auto written = [&] {
             const QString path = folder.Path("a.xml"_s);
-            EXPECT_EQ((project.*write)(path, every), 0U);
+            EXPECT_EQ(std::invoke(write, project, path, every), 0U);
             return ReadFile(path);
         };
         taken(hollow);
