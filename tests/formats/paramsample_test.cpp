@@ -5,6 +5,8 @@
 #include "support/projecttest.h"
 #include "support/wallbuilder.h"
 
+#include <functional>
+
 namespace {
 
 /// Counts and what tells processors apart are needed to reach the values. The rest is the sender's own.
