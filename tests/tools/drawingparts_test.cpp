@@ -97,7 +97,6 @@ TEST_F(WallPictureTest, BackupsAreNamedAtBothEnds)
     EXPECT_EQ(second.ports[0].cabinets.size(), 1U); // those of its source, since it has no others
     EXPECT_TRUE(second.ports[0].load.isEmpty());
     EXPECT_EQ(second.view, QStringLiteral("backup"));
-    EXPECT_TRUE(second.isBackup && !picture.isBackup);
     sender.SetSenderName(QString(25, QLatin1Char('n')));
     EXPECT_EQ(MakeWallPicture(Project(), 1).ports[0].note, QStringLiteral("backup of sender 1 port 1"));
     EXPECT_EQ(second.bound, picture.bound);
