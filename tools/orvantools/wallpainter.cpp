@@ -20,6 +20,7 @@ constexpr double kLeastOutlined = 17;      ///< side of cabinets that are drawn 
 constexpr double kLeastOutlinedPixels = 8; ///< the same on a screen
 constexpr double kLeastStep = 12;          ///< of a chain from cabinet to cabinet
 constexpr double kLeastStepPixels = 4;     ///< the same on a screen
+constexpr double kLeastBorder = 1.3;       ///< of a dark line, which else would leave no colour
 constexpr double kLeastChained = 2;        ///< width of a port with a chain, in least steps
 
 /// Adds a point. The point before it is left out when it lies on the same straight way.
@@ -188,9 +189,12 @@ void WallPainter::PaintBorder(const WallPart& part)
 {
     const std::vector<BorderLine> border = PortBorder(*part.port, part.cabinets);
     const double width = BorderWidth(part);
+    const bool isThin = width < kLeastBorder; // then both sides share the white line
     for (const bool isLight : {true, false}) {
+        if (isThin && !isLight)
+            break;
         std::vector<QPolygonF> lines;
-        const double inset = width * (isLight ? 0.15 : 0.8);
+        const double inset = isThin ? 0 : width * (isLight ? 0.15 : 0.8);
         for (const BorderLine& piece : border) {
             const QLineF line(m_view.Map(piece.line.p1()), m_view.Map(piece.line.p2()));
             if (line.length() == 0)
