@@ -2,6 +2,8 @@
 
 #include <OrvanData/orvandata.h>
 
+#include <QTransform>
+
 #include <algorithm>
 #include <cmath>
 
@@ -99,6 +101,17 @@ TileShape TileShape::Mirrored() const
 {
     const auto mirror = [](const QPointF& corner) { return QPointF(-corner.x(), corner.y()); };
     return {{mirror(corners[1]), mirror(corners[0]), mirror(corners[3]), mirror(corners[2])}, -angle};
+}
+
+TileShape TurnedShape(const QPointF& middle, const QSizeF& size, double angle)
+{
+    QTransform turn;
+    turn.translate(middle.x(), middle.y());
+    turn.rotate(angle);
+    const QRectF rect(QPointF(-size.width(), -size.height()) / 2, size);
+    return {{turn.map(rect.topLeft()), turn.map(rect.topRight()), turn.map(rect.bottomRight()),
+             turn.map(rect.bottomLeft())},
+            angle};
 }
 
 TileShape ShapeOf(const CTile& tile)

@@ -29,6 +29,9 @@ struct TileShape
     TileShape Mirrored() const; ///< as seen from behind: x is negated, the first corner is the left-top again
 };
 
+/// A rectangle that is turned about its middle.
+TileShape TurnedShape(const QPointF& middle, const QSizeF& size, double angle);
+
 /// A width or height below 0 counts as 0, and no corner lies farther out than any canvas could.
 TileShape ShapeOf(const CTile& tile);
 

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPainter>
 
 #include <algorithm>
@@ -22,22 +23,11 @@ constexpr double kWidest = 1.7;   ///< of a number on the chain, in widths of it
 constexpr double kHighest = 1.35; ///< the same in heights
 constexpr double kLeastRun = 6;   ///< from one number of a turn to the next, in heights of text
 
-/// A rectangle that is turned about its middle.
-TileShape TurnedShape(const QPointF& middle, const QSizeF& size, double angle)
-{
-    QTransform turn;
-    turn.translate(middle.x(), middle.y());
-    turn.rotate(angle);
-    const QRectF rect(QPointF(-size.width(), -size.height()) / 2, size);
-    return {{turn.map(rect.topLeft()), turn.map(rect.topRight()), turn.map(rect.bottomRight()),
-             turn.map(rect.bottomLeft())},
-            angle};
-}
-
 } // namespace
 
 WallLabels::WallLabels(QPainter& painter, const WallView& view)
-    : m_painter(painter), m_view(view), m_leastText(view.GetLeastText()), m_labels(100)
+    : m_painter(painter), m_view(view), m_leastText(view.GetLeastText()), m_labels(100),
+      m_inBatches(painter.paintEngine()->type() == QPaintEngine::Pdf)
 {}
 
 Omissions WallLabels::Paint()
@@ -57,6 +47,10 @@ Omissions WallLabels::Paint()
         PaintInnerTags(part);
     for (const WallPart& part : parts)
         PaintBackups(part);
+    for (const auto& [look, batch] : m_batches) {
+        m_painter.setPen(QColor(look.second));
+        batch.Paint(m_painter);
+    }
     return m_omitted;
 }
 
@@ -339,7 +333,15 @@ void WallLabels::PaintInnerTags(const WallPart& part)
 void WallLabels::PaintInside(const Label& label, const QColor& color)
 {
     const Face& face = FaceOf(label.height);
-    const QPointF baseline(-WidthOf(label.text, label.height) / 2, face.capHeight / 2);
+    const double width = WidthOf(label.text, label.height);
+    const QPointF baseline(-width / 2, face.capHeight / 2);
+    if (m_inBatches && label.angle == 0) {
+        TextBatch& batch =
+            m_batches.try_emplace({face.font.pixelSize(), color.rgb()}, face.font).first->second;
+        const QRectF place(label.place.x() - width / 2, label.place.y(), 2 * width, 0); // letters are rounded
+        if (batch.Add(place, label.text, Qt::AlignLeft))
+            return;
+    }
     m_painter.setFont(face.font);
     m_painter.setPen(color);
     if (label.angle == 0) {

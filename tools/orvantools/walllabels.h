@@ -2,6 +2,7 @@
 
 #include "orvantools/labelplacer.h"
 #include "orvantools/portareas.h"
+#include "orvantools/textbatch.h"
 #include "orvantools/wallview.h"
 
 #include <QFont>
@@ -9,6 +10,7 @@
 #include <QSet>
 
 #include <array>
+#include <map>
 #include <memory>
 #include <optional>
 
@@ -93,6 +95,8 @@ private:
     QSet<const WallPart*> m_named;                       ///< those with a mark that says their port
     Omissions m_omitted;
     QHash<int, Face> m_faces; ///< by the pixels of their height
+    bool m_inBatches;         ///< in a PDF, where single texts take most of the time; an SVG would lose them
+    std::map<std::pair<int, QRgb>, TextBatch> m_batches; ///< by height and colour
 };
 
 } // namespace OrvanTools
