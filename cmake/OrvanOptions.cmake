@@ -2,6 +2,7 @@
 # another project this one builds its libraries and nothing else, and what is set here stays in these folders.
 option(ORVANDATA_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(ORVANDATA_COMMAND "Build the command orvan" ${PROJECT_IS_TOP_LEVEL})
+option(ORVANDATA_DESIGNER "Build the desktop program orvan-designer" ${PROJECT_IS_TOP_LEVEL})
 option(ORVANDATA_INSTALL "Install the libraries, their headers and the command" ${PROJECT_IS_TOP_LEVEL})
 option(ORVANDATA_BENCHMARKS "Build the benchmarks" OFF)
 option(ORVANDATA_FUZZ "Link the fuzzers with libFuzzer; needs clang" OFF)

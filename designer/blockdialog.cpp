@@ -1,0 +1,148 @@
+#include "blockdialog.h"
+
+#include "documentcontroller.h"
+#include "loadofport.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+
+namespace {
+
+constexpr int kMostAcross = 4096; ///< columns or rows; a port's own limit is below the product
+constexpr int kColumns = 4;
+constexpr int kRows = 3;
+
+} // namespace
+
+BlockDialog::BlockDialog(const DocumentController& document, QWidget* parent)
+    : QDialog(parent), m_document(document), m_port(new QComboBox(this)), m_about(new QLabel(this)),
+      m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
+{
+    setWindowTitle(tr("Add a block of cabinets"));
+    const QSize cabinet = GetConfigData()->GetCustomerTileSize();
+    const QPoint place = FreePlace(*document.GetSender());
+    m_columns = AddNumber(tr("Columns"), 1, kMostAcross, kColumns);
+    m_rows = AddNumber(tr("Rows"), 1, kMostAcross, kRows);
+    m_width = AddNumber(tr("Width of a cabinet"), 1, kMaxCabinetSize, cabinet.width());
+    m_height = AddNumber(tr("Height of a cabinet"), 1, kMaxCabinetSize, cabinet.height());
+    m_left = AddNumber(tr("Left"), 0, kMaxCanvasWidth - 1, place.x());
+    m_top = AddNumber(tr("Top"), 0, kMaxCanvasHeight - 1, place.y());
+    FillPorts();
+
+    auto* form = new QFormLayout(this);
+    AddPair(*form, tr("&Columns and rows:"), m_columns, QStringLiteral("×"), m_rows);
+    AddPair(*form, tr("Cabinet &size in pixels:"), m_width, QStringLiteral("×"), m_height);
+    AddPair(*form, tr("&Left and top in pixels:"), m_left, QStringLiteral(","), m_top);
+    form->addRow(tr("&Port:"), m_port);
+    m_about->setMinimumWidth(fontMetrics().averageCharWidth() * 46);
+    m_about->setMinimumHeight(fontMetrics().lineSpacing() * 3);
+    m_about->setWordWrap(true);
+    form->addRow(m_about);
+    form->addRow(m_buttons);
+    m_buttons->button(QDialogButtonBox::Ok)->setText(tr("&Add"));
+    connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_port, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &BlockDialog::ShowBlock);
+    ShowBlock();
+    m_columns->setFocus();
+    m_columns->selectAll();
+}
+
+QSpinBox* BlockDialog::AddNumber(const QString& name, int least, int most, int value)
+{
+    auto* box = new QSpinBox(this);
+    box->setRange(least, most);
+    box->setValue(value);
+    box->setAccessibleName(name);
+    box->setToolTip(tr("%1, %2 to %3").arg(name).arg(least).arg(most));
+    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &BlockDialog::ShowBlock);
+    return box;
+}
+
+void BlockDialog::AddPair(QFormLayout& form, const QString& label, QSpinBox* first, const QString& between,
+                          QSpinBox* second)
+{
+    auto* row = new QHBoxLayout;
+    row->addWidget(first, 1);
+    row->addWidget(new QLabel(between, this));
+    row->addWidget(second, 1);
+    auto* name = new QLabel(label, this);
+    name->setBuddy(first);
+    form.addRow(name, row);
+}
+
+void BlockDialog::FillPorts()
+{
+    const CSender& sender = *m_document.GetSender();
+    for (int i = 0; i < sender.GetPortCount(); ++i) {
+        const CPort& port = *sender.GetPort(i);
+        if (!port.IsVisible() || port.IsFlagLock() || port.IsBackupDest())
+            continue;
+        m_port->addItem(tr("Port %1").arg(i + 1), i);
+        if (i == sender.GetRecentPortIndex())
+            m_port->setCurrentIndex(m_port->count() - 1);
+    }
+}
+
+/// To the right of all cabinets while the canvas has room there, else below them.
+QPoint BlockDialog::FreePlace(const CSender& sender)
+{
+    CTileSet tiles;
+    if (!sender.GetTileSet(tiles))
+        return {};
+    const QRect bound = tiles.GetBound();
+    const int room = sender.GetCanvasSize().width() - bound.right() - 1;
+    const QPoint place = room >= bound.width() / qMax(tiles.GetCount(), 1) && room > 0
+                             ? QPoint(bound.right() + 1, bound.top())
+                             : QPoint(bound.left(), bound.bottom() + 1);
+    return QPoint(qBound(0, place.x(), kMaxCanvasWidth - 1), qBound(0, place.y(), kMaxCanvasHeight - 1));
+}
+
+SAddTileInfo BlockDialog::GetBlock() const
+{
+    SAddTileInfo block;
+    block.senderId = m_document.GetSender()->GetId();
+    block.portIndex = m_port->currentData().toInt();
+    block.left = m_left->value();
+    block.top = m_top->value();
+    block.columns = m_columns->value();
+    block.rows = m_rows->value();
+    block.width = m_width->value();
+    block.height = m_height->value();
+    return block;
+}
+
+void BlockDialog::ShowBlock()
+{
+    if (m_port->currentIndex() < 0) {
+        m_about->setText(tr("Every port is hidden, locked or a backup. Open the one that the block is for."));
+        m_buttons->button(QDialogButtonBox::Ok)->setEnabled(false);
+        return;
+    }
+    const SAddTileInfo block = GetBlock();
+    const CSender& sender = *m_document.GetSender();
+    const CPort& port = *sender.GetPort(block.portIndex);
+    const qint64 count = qint64(block.columns) * block.rows;
+    const QString why = m_document.WhyNotAddable(block);
+    const qint64 pixels = PixelsOf(port) + count * block.width * block.height;
+    QStringList lines{
+        tr("%1 cabinets, %2 × %3 pixels. Port %4 is then %5 full.")
+            .arg(count)
+            .arg(qint64(block.columns) * block.width)
+            .arg(qint64(block.rows) * block.height)
+            .arg(block.portIndex + 1)
+            .arg(CapacityOf(sender).PercentText(pixels).replace(QLatin1Char(' '), QChar(QChar::Nbsp)))};
+    const QRect canvas(QPoint(), sender.GetCanvasSize());
+    if (!why.isEmpty())
+        lines.append(why);
+    else if (!canvas.isEmpty() && !canvas.contains(m_document.BoundOf(block)))
+        lines.append(tr("Part of it lies beyond the canvas."));
+    m_about->setText(lines.join(QLatin1Char('\n')));
+    m_buttons->button(QDialogButtonBox::Ok)->setEnabled(why.isEmpty());
+    emit BlockChanged(block);
+}

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "documentfile.h"
+
+#include <OrvanData/orvandata.h>
+
+#include <QList>
+#include <QObject>
+
+class QWidget;
+
+/// The open document as the windows see it. Nothing else in the program writes to the library: each edit is
+/// one call here, and one step of the history. Lives between LedNimbraData_Init and LedNimbraData_Release.
+class DocumentController : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DocumentController(QObject* parent = nullptr);
+    ~DocumentController() override;
+
+    // what is open
+    CProjectData& GetProject() const { return *GetProjectData(); }
+    CSender* GetSender() const; ///< [ref] the current one, null without senders
+    CPort* GetPort() const;     ///< [ref] the current one of that sender
+    const DocumentFile& GetFile() const { return m_file; }
+    bool IsModified() const; ///< as the library has it
+    /// Whether there is a change since the last save that a save would keep. A project may stay modified
+    /// after it.
+    bool IsSaveNeeded() const;
+
+    // files
+    void NewProject(); ///< with one sender
+    DocumentFile::Outcome Open(const QString& path, bool readOnly, CCustomProgressbar* progress,
+                               QString* text);
+    DocumentFile::Outcome Save(const QString& path, CCustomProgressbar* progress, QString* text);
+
+    // selection: of the current sender's cabinets, no edit
+    enum class Choice
+    {
+        Replace,
+        Add,
+        Toggle,
+    };
+    void Select(const QList<CTile*>& tiles, Choice choice);
+    void SelectBlock(const CTile& tile); ///< its outermost group, or itself alone
+    void SelectAll();                    ///< of ports that are shown and not locked
+    QList<CTile*> GetSelection() const;  ///< [ref] by port, in list order
+    QRect GetSelectionBound() const;
+    /// The current port's nearest cabinet in the direction of an arrow key, from the last selected one.
+    CTile* FindNeighbour(int key) const;
+
+    // edits of the selection: one step each. False: refused, and told why, or nothing to do
+    bool MayEditSelection(); ///< false, and told why, when some of it is on a closed port
+    QPoint Limited(const QRect& bound, const QPoint& by) const; ///< so that it stays on the largest canvas
+    bool MoveSelection(const QPoint& by);
+    bool DeleteSelection();
+
+    // adding a block of cabinets
+    static QRect BoundOf(const SAddTileInfo& block);        ///< wall pixels
+    QString WhyNotAddable(const SAddTileInfo& block) const; ///< to the current sender; empty: it can be added
+    bool AddBlock(const SAddTileInfo& block);
+
+    // chain of the current port: one step each
+    bool NumberAll(EnAutoNumberType pattern);
+    bool ClearNumbers();
+    bool NumberByKey(int key); ///< the next cabinet in the direction of an arrow key
+    bool MayNumber();          ///< false, and told why, for a port that is hidden, locked or a backup
+    /// Numbers cabinets one after the other without a step, until FinishNumbering makes one of all of them.
+    /// Passes over those that have a number or are not of this port; false when none is left.
+    bool NumberNext(const QList<CTile*>& tiles);
+    bool FinishNumbering();
+    const CTile* GetEndOfChain() const; ///< null: nothing is numbered
+
+    // senders and ports: no step holds these, and the project is marked as modified
+    void AddSender();                              ///< and makes it current
+    bool DeleteSender(int index, QWidget* parent); ///< asks first
+    void RenameSender(int index, const QString& name);
+    void SetPortShown(const SPortPlace& place, bool shown);
+    void SetPortLocked(const SPortPlace& place, bool locked);
+    void SetCurrentPort(int sender, int port); ///< no change of the project
+
+    // history
+    bool Undo(int steps = 1);
+    bool Redo(int steps = 1);
+    QString GetUndoText(int n = 0) const; ///< of the step that is taken back n steps from now; empty: none
+    QString GetRedoText(int n = 0) const;
+
+signals:
+    void Changed(const SDocumentChange& change); ///< in the document
+    void FileChanged();                          ///< another path, or another right to it
+    void SelectionChanged();
+    void PortStatesChanged();         ///< shown, locked, current
+    void PortEdited(int port);        ///< of the current sender; the step comes later
+    void SenderChanged();             ///< another one is current
+    void Refused(const QString& why); ///< for the user
+
+private:
+    void Note(const SDocumentChange& change);
+    bool Record(CProjectUndoRedo::Type type);
+    void SelectionDone();
+    CPort* FindPort(const SPortPlace& place) const;
+    static QString WhyClosed(const CPort& port); ///< why its cabinets stay as they are; empty: they need not
+    CSender* Append(const QSize& canvas);        ///< [ref]
+    bool Go(int steps, bool back);
+
+    DocumentFile m_file;
+    bool m_unsaved = false; ///< a change that no history holds, since the last save
+};

@@ -1,0 +1,188 @@
+#include "fileactions.h"
+
+#include "documentcontroller.h"
+
+#include "custommessagebox.h"
+#include "customprogressbar.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+
+namespace {
+
+constexpr int kMostRecent = 9;
+const QString kSuffix = QStringLiteral(".prj");
+
+} // namespace
+
+FileActions::FileActions(DocumentController& document, QWidget& window)
+    : QObject(&window), m_document(document), m_window(window)
+{}
+
+QAction* FileActions::Add(QMenu& menu, const QString& text, const QString& tip, const QKeySequence& key,
+                          void (FileActions::*slot)())
+{
+    QAction* action = menu.addAction(text, this, slot, key);
+    action->setStatusTip(tip);
+    action->setToolTip(tip);
+    return action;
+}
+
+void FileActions::AddTo(QMenu& menu)
+{
+    Add(menu, tr("&New"), tr("Start an empty project with one sender"), QKeySequence::New, &FileActions::New);
+    Add(menu, tr("&Open…"), tr("Open a project: an archive (.prj) or a bare document (.xml)"),
+        QKeySequence::Open, &FileActions::Choose);
+    m_recent = menu.addMenu(tr("Open &recent"));
+    connect(m_recent, &QMenu::aboutToShow, this, &FileActions::FillRecent);
+    menu.addSeparator();
+    Add(menu, tr("&Save"), tr("Save the project to its file"), QKeySequence::Save,
+        &FileActions::SaveByAction);
+    Add(menu, tr("Save &as…"), tr("Save the project under another name"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &FileActions::SaveAsByAction);
+}
+
+void FileActions::FillRecent()
+{
+    m_recent->clear();
+    const CConfigData& config = *GetConfigData();
+    for (int i = 0; i < qMin(config.GetProjectRecordCount(), kMostRecent); ++i) {
+        const QString path = config.GetProjectRecordPath(i);
+        QString name = QDir::toNativeSeparators(path);
+        name.replace(QLatin1Char('&'), QLatin1String("&&"));
+        m_recent->addAction(QStringLiteral("&%1  %2").arg(QString::number(i + 1), name), this,
+                            [this, path] { Open(path); });
+    }
+    if (m_recent->isEmpty())
+        m_recent->addAction(tr("None yet"))->setEnabled(false);
+}
+
+void FileActions::Tell(const QString& text)
+{
+    CCustomMessageBox::information(&m_window, text);
+}
+
+bool FileActions::MayLeave()
+{
+    if (!m_document.IsSaveNeeded())
+        return true;
+    const QString path = m_document.GetFile().GetPath();
+    const QString name = path.isEmpty() ? tr("This project") : QFileInfo(path).fileName();
+    const QMessageBox::StandardButton answer = CCustomMessageBox::question(
+        &m_window, tr("%1 has changes that are not saved. Save them now?").arg(name),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    if (answer == QMessageBox::Save)
+        return Save();
+    return answer == QMessageBox::Discard;
+}
+
+void FileActions::New()
+{
+    if (MayLeave())
+        m_document.NewProject();
+}
+
+void FileActions::Choose()
+{
+    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Open a project"),
+                                                      QFileInfo(m_document.GetFile().GetPath()).path(),
+                                                      tr("Projects (*.prj *.xml);;All files (*)"));
+    if (!path.isEmpty())
+        Open(path);
+}
+
+bool FileActions::Open(const QString& path)
+{
+    if (!MayLeave())
+        return false;
+    QString text;
+    DocumentFile::Outcome outcome = DocumentFile::Outcome::Failed;
+    {
+        CCustomProgressbar progress(tr("Opening %1").arg(QFileInfo(path).fileName()), &m_window);
+        outcome = m_document.Open(path, false, &progress, &text);
+    }
+    switch (outcome) {
+    case DocumentFile::Outcome::Done:
+        return true;
+    case DocumentFile::Outcome::DoneInPart:
+        Tell(tr("Not all of %1 could be read. Saving it under its own name would lose the rest.\n\n%2")
+                 .arg(QFileInfo(path).fileName(), text));
+        return true;
+    case DocumentFile::Outcome::InUse:
+        return OpenInUse(path, text);
+    case DocumentFile::Outcome::Failed:
+        break;
+    }
+    Tell(tr("%1 could not be opened; what was open before still is.\n\n%2")
+             .arg(QDir::toNativeSeparators(path), text));
+    return false;
+}
+
+bool FileActions::OpenInUse(const QString& path, const QString& holder)
+{
+    const QString name = QFileInfo(path).fileName();
+    const QMessageBox::StandardButton answer = CCustomMessageBox::question(
+        &m_window,
+        tr("%1 cannot be opened for editing.\n\n%2\n\nOpen it to look at? It can then be saved under "
+           "another name.")
+            .arg(name, holder));
+    if (answer != QMessageBox::Yes)
+        return false;
+    QString text;
+    CCustomProgressbar progress(tr("Opening %1").arg(name), &m_window);
+    const DocumentFile::Outcome outcome = m_document.Open(path, true, &progress, &text);
+    if (!text.isEmpty())
+        Tell(text);
+    return outcome != DocumentFile::Outcome::Failed;
+}
+
+bool FileActions::Save()
+{
+    const DocumentFile& file = m_document.GetFile();
+    if (file.GetPath().isEmpty() || file.IsReadOnly())
+        return SaveAs();
+    const QString question =
+        tr("%1 was read only in part. Saving replaces the file, and what was not read is "
+           "lost. Save all the same?");
+    if (file.IsInPart()
+        && CCustomMessageBox::question(&m_window, question.arg(QFileInfo(file.GetPath()).fileName()))
+               != QMessageBox::Yes)
+        return false;
+    return SaveTo(file.GetPath());
+}
+
+bool FileActions::SaveAs()
+{
+    QString path = QFileDialog::getSaveFileName(&m_window, tr("Save the project"),
+                                                m_document.GetFile().GetPath(), tr("Projects (*.prj)"));
+    if (path.isEmpty())
+        return false;
+    if (QFileInfo(path).suffix().isEmpty()) {
+        path += kSuffix;
+        const QString question = tr("%1 is there already. Replace it?");
+        if (QFileInfo::exists(path)
+            && CCustomMessageBox::question(&m_window, question.arg(QFileInfo(path).fileName()))
+                   != QMessageBox::Yes)
+            return false;
+    }
+    return SaveTo(path);
+}
+
+bool FileActions::SaveTo(const QString& path)
+{
+    QString text;
+    DocumentFile::Outcome outcome = DocumentFile::Outcome::Failed;
+    {
+        CCustomProgressbar progress(tr("Saving %1").arg(QFileInfo(path).fileName()), &m_window);
+        outcome = m_document.Save(path, &progress, &text);
+    }
+    if (outcome == DocumentFile::Outcome::Done) {
+        emit Told(tr("Saved: %1").arg(QDir::toNativeSeparators(path)));
+        return true;
+    }
+    Tell(tr("%1 was not saved. Try another name or folder.\n\n%2").arg(QDir::toNativeSeparators(path), text));
+    return false;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "documentfile.h"
+
+#include <QObject>
+
+class DocumentController;
+class QAction;
+class QMenu;
+class QWidget;
+
+/// New, open, recent, save: what the user is asked before something would be lost, and told when it did not
+/// go well.
+class FileActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    FileActions(DocumentController& document, QWidget& window); ///< [keep] both
+
+    void AddTo(QMenu& menu);
+
+    void New();
+    bool Open(const QString& path); ///< asks to save first
+    bool Save();                    ///< under another name when there is none yet
+    bool SaveAs();
+    bool SaveTo(const QString& path);
+    bool MayLeave(); ///< whether what is open may go: saved, not changed, or given up by the user
+
+signals:
+    void Told(const QString& text); ///< of what went well
+
+private:
+    QAction* Add(QMenu& menu, const QString& text, const QString& tip, const QKeySequence& key,
+                 void (FileActions::*slot)());
+    void Choose();
+    void SaveByAction() { Save(); }
+    void SaveAsByAction() { SaveAs(); }
+    void FillRecent();
+    void Tell(const QString& text);
+    bool OpenInUse(const QString& path, const QString& holder);
+
+    DocumentController& m_document;
+    QWidget& m_window;
+    QMenu* m_recent = nullptr;
+};

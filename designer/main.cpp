@@ -1,0 +1,58 @@
+#include "fileactions.h"
+#include "mainwindow.h"
+
+#include "custommessagebox.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QTimer>
+#include <QTranslator>
+
+namespace {
+
+int Run(const QString& file)
+{
+    const QString problem = LedNimbraData_FolderProblem();
+    if (!problem.isEmpty())
+        CCustomMessageBox::information(nullptr, problem);
+    MainWindow window;
+    window.show();
+    if (!file.isEmpty())
+        QTimer::singleShot(0, &window, [&] { window.GetFiles().Open(file); });
+    const int status = QApplication::exec();
+    GetConfigData()->Save();
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("orvan-designer"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Orvan Designer"));
+    QApplication::setApplicationVersion(QStringLiteral(ORVAN_VERSION));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Lays out, numbers and checks the cabinets of LED walls."));
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The project to open."),
+                                 QStringLiteral("[FILE]"));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.process(application);
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1)
+        parser.showHelp(2);
+
+    LedNimbraData_Init();
+    QTranslator translator;
+    if (translator.load(GetConfigData()->GetTranslationPath()))
+        QCoreApplication::installTranslator(&translator);
+    const int status = Run(files.isEmpty() ? QString() : QFileInfo(files.first()).absoluteFilePath());
+    LedNimbraData_Release();
+    return status;
+}

@@ -1,0 +1,273 @@
+#include "mainwindow.h"
+
+#include "blockdialog.h"
+#include "chainactions.h"
+#include "designview.h"
+#include "editactions.h"
+#include "fileactions.h"
+#include "numbertool.h"
+#include "pantool.h"
+#include "projecttree.h"
+#include "selecttool.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+
+namespace {
+
+constexpr int kMessageTime = 6000; ///< milliseconds
+
+/// The one file that is dragged, else empty.
+QString DraggedFile(const QMimeData* data)
+{
+    return data->urls().size() == 1 ? data->urls().first().toLocalFile() : QString();
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent), m_view(new DesignView(m_scene, this)), m_files(new FileActions(m_document, *this)),
+      m_edits(new EditActions(m_document, this)), m_bar(addToolBar(tr("Tools"))),
+      m_tree(new ProjectTree(m_document, this))
+{
+    setCentralWidget(m_view);
+    auto* dock = new QDockWidget(tr("Project"), this);
+    dock->setObjectName(QStringLiteral("project"));
+    dock->setWidget(m_tree);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    setAcceptDrops(true);
+    resize(1200, 800);
+    resizeDocks({dock}, {340}, Qt::Horizontal);
+    m_bar->setObjectName(QStringLiteral("tools"));
+    m_bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    Connect();
+    MakeStatusBar();
+    MakeFileMenu();
+    MakeEditMenu();
+    MakeViewMenu();
+    MakeTools();
+    MakeProjectMenu();
+    MakeWallMenu();
+    m_view->SetHint(
+        tr("There are no cabinets yet.\n\nPress Insert, or choose Wall, Add block, to place a block of "
+           "them. Or drop a project here to open it."));
+    m_document.NewProject();
+    m_view->setFocus();
+}
+
+void MainWindow::Connect()
+{
+    connect(&m_document, &DocumentController::Changed, this, &MainWindow::Take);
+    connect(&m_document, &DocumentController::FileChanged, this, &MainWindow::ShowTitle);
+    connect(&m_document, &DocumentController::SelectionChanged, &m_scene, &SceneModel::RenewSelection);
+    connect(&m_document, &DocumentController::PortStatesChanged, &m_scene, &SceneModel::RenewPortStates);
+    connect(&m_document, &DocumentController::PortEdited, &m_scene, &SceneModel::RenewPort);
+    connect(&m_document, &DocumentController::SenderChanged, this, &MainWindow::ShowSender);
+    connect(&m_document, &DocumentController::Refused, this,
+            [this](const QString& why) { statusBar()->showMessage(why, kMessageTime); });
+    connect(&m_scene, &SceneModel::Renewed, this, &MainWindow::ShowCounts);
+    connect(m_files, &FileActions::Told, this,
+            [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });
+}
+
+void MainWindow::Take(const SDocumentChange& change)
+{
+    m_scene.Take(change);
+    m_tree->Take(change);
+    if (change.documentReplaced)
+        m_view->Fit();
+    m_view->ShowTool();
+    ShowTitle();
+}
+
+void MainWindow::ShowSender()
+{
+    m_scene.Renew();
+    m_view->Fit();
+}
+
+void MainWindow::MakeFileMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    m_files->AddTo(*menu);
+    menu->addSeparator();
+    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+}
+
+void MainWindow::MakeEditMenu()
+{
+    m_edits->AddTo(*menuBar()->addMenu(tr("&Edit")));
+    m_edits->AddTo(*m_bar);
+    m_bar->addSeparator();
+}
+
+/// Each tool is made anew when it is chosen.
+void MainWindow::MakeTools()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Tools"));
+    auto* group = new QActionGroup(this);
+    const auto add = [&](const QString& text, const QString& tip, const QKeySequence& key, auto make) {
+        QAction* action = menu->addAction(text);
+        action->setShortcut(key);
+        action->setCheckable(true);
+        action->setStatusTip(tip);
+        action->setToolTip(QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
+        group->addAction(action);
+        m_bar->addAction(action);
+        connect(action, &QAction::triggered, this, [this, make] { m_view->SetTool(make()); });
+        return action;
+    };
+    add(tr("&Select"), tr("Select and move cabinets"), Qt::Key_S, [this] {
+        return std::make_unique<SelectTool>(*m_view, m_document);
+    })->trigger();
+    add(tr("&Number"), tr("Number the current port's cabinets one by one"), Qt::Key_N,
+        [this] { return std::make_unique<NumberTool>(*m_view, m_document); });
+    add(tr("&Pan"), tr("Move the view; also with the middle button, or with the space bar held"), Qt::Key_H,
+        [this] { return std::make_unique<PanTool>(*m_view); });
+}
+
+void MainWindow::MakeProjectMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Project"));
+    const auto add = [&](const QString& text, const QString& tip, const QKeySequence& key, auto act) {
+        menu->addAction(text, this, act, key)->setStatusTip(tip);
+    };
+    add(tr("&Add sender"), tr("Add a sending unit or processor, with ports of its own"), Qt::CTRL | Qt::Key_T,
+        [this] { m_document.AddSender(); });
+    add(tr("&Rename sender"), tr("Give the sender in the tree a name"), Qt::Key_F2,
+        [this] { m_tree->RenameCurrent(); });
+    add(tr("&Delete sender…"), tr("Delete the sender in the tree with all its cabinets"), QKeySequence(),
+        [this] { m_document.DeleteSender(m_tree->GetSelectedSender(), this); });
+}
+
+void MainWindow::MakeWallMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Wall"));
+    QAction* block = menu->addAction(tr("Add &block…"), this, &MainWindow::AskForBlock, Qt::Key_Insert);
+    block->setStatusTip(tr("Place a block of equal cabinets on a port"));
+    block->setToolTip(tr("Place a block of equal cabinets on a port (Ins)"));
+    m_bar->addSeparator();
+    m_bar->addAction(block);
+    menu->addSeparator();
+    auto* chain = new ChainActions(m_document, this);
+    chain->AddTo(*menu);
+    QToolBar* bar = addToolBar(tr("Chain"));
+    bar->setObjectName(QStringLiteral("chain"));
+    chain->AddTo(*bar);
+}
+
+void MainWindow::AskForBlock()
+{
+    if (!m_document.GetSender()) {
+        statusBar()->showMessage(tr("There is no sender yet. Add one first."), kMessageTime);
+        return;
+    }
+    auto* dialog = new BlockDialog(m_document, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    const auto preview = [this](const SAddTileInfo& block) {
+        m_view->SetPreview(DocumentController::BoundOf(block), QSize(block.width, block.height));
+    };
+    preview(dialog->GetBlock());
+    connect(dialog, &BlockDialog::BlockChanged, this, preview);
+    connect(dialog, &QDialog::finished, this, [this, dialog](int result) {
+        m_view->SetPreview({}, {});
+        const SAddTileInfo block = dialog->GetBlock();
+        if (result == QDialog::Accepted && m_document.AddBlock(block))
+            GetConfigData()->SetCustomerTileSize(QSize(block.width, block.height));
+    });
+    dialog->open();
+}
+
+void MainWindow::MakeViewMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&View"));
+    const auto add = [&](const QString& text, const QKeySequence& key, void (DesignView::*slot)()) {
+        return menu->addAction(text, m_view, slot, key);
+    };
+    add(tr("Zoom &in"), QKeySequence::ZoomIn, &DesignView::ZoomIn)
+        ->setShortcuts({QKeySequence(QKeySequence::ZoomIn), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+    add(tr("Zoom &out"), QKeySequence::ZoomOut, &DesignView::ZoomOut);
+    add(tr("&Fit the wall"), Qt::CTRL | Qt::Key_0, &DesignView::Fit);
+    add(tr("&Actual size"), Qt::CTRL | Qt::Key_1, &DesignView::ActualSize);
+}
+
+void MainWindow::MakeStatusBar()
+{
+    m_hint = new QLabel(this);
+    m_hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the counts matter more
+    statusBar()->addWidget(m_hint, 1);
+    for (QLabel** label : {&m_state, &m_counts, &m_place, &m_zoom}) {
+        *label = new QLabel(this);
+        statusBar()->addPermanentWidget(*label);
+    }
+    m_place->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000, 00000")));
+    m_zoom->setToolTip(tr("View pixels for 100 pixels of the wall"));
+    connect(m_view, &DesignView::ToolHint, this, [this](const QString& text) {
+        m_hint->setText(text);
+        m_hint->setToolTip(text);
+    });
+    connect(m_view, &DesignView::Zoomed, this, [this](double scaling) {
+        m_zoom->setText(QStringLiteral("%1 %").arg(scaling * 100, 0, 'g', 3));
+    });
+    connect(m_view, &DesignView::PointedAt, this, [this](const QPoint& wall) {
+        m_place->setText(wall.x() < 0 || wall.y() < 0 ? QString()
+                                                      : QStringLiteral("%1, %2").arg(wall.x()).arg(wall.y()));
+    });
+}
+
+void MainWindow::ShowTitle()
+{
+    const DocumentFile& file = m_document.GetFile();
+    const QString name = file.GetPath().isEmpty() ? tr("New project") : QFileInfo(file.GetPath()).fileName();
+    setWindowTitle((file.IsReadOnly() ? tr("%1[*] (to look at)") : QStringLiteral("%1[*]")).arg(name));
+    setWindowFilePath(file.GetPath());
+    setWindowModified(m_document.IsModified());
+    const bool stays = m_document.IsModified() && !m_document.IsSaveNeeded();
+    m_state->setText(stays ? tr("Saved, stays marked as modified") : QString());
+    m_state->setToolTip(tr("Senders, names and the like changed, which no undo takes back. A project that "
+                           "changed so counts as modified until it is opened again, though all is saved."));
+}
+
+void MainWindow::ShowCounts()
+{
+    size_t cabinets = 0;
+    size_t selected = 0;
+    size_t numbered = 0;
+    for (const ScenePort& port : m_scene.GetPorts()) {
+        cabinets += port.cabinets.size();
+        numbered += port.chain.size();
+        for (const SceneCabinet& cabinet : port.cabinets)
+            selected += cabinet.selected ? 1 : 0;
+    }
+    m_counts->setText(tr("%1 cabinets, %2 numbered, %3 selected").arg(cabinets).arg(numbered).arg(selected));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(m_files->MayLeave());
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!DraggedFile(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+/// The program that the file comes from waits until this returns, so the file is opened afterwards.
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QString path = DraggedFile(event->mimeData());
+    event->acceptProposedAction();
+    QTimer::singleShot(0, this, [this, path] { m_files->Open(path); });
+}

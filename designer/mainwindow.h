@@ -1,0 +1,60 @@
+#pragma once
+
+#include "documentcontroller.h"
+#include "scenemodel.h"
+
+#include <QMainWindow>
+
+class DesignView;
+class EditActions;
+class FileActions;
+class ProjectTree;
+class QLabel;
+class QToolBar;
+
+/// The window: menus, the view of the wall, and what is told about it.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr); ///< shows the open document
+
+    DocumentController& GetDocument() { return m_document; }
+    DesignView& GetView() { return *m_view; }
+    FileActions& GetFiles() { return *m_files; }
+    ProjectTree& GetTree() { return *m_tree; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void MakeFileMenu();
+    void MakeEditMenu();
+    void MakeViewMenu();
+    void MakeStatusBar();
+    void MakeTools();
+    void MakeProjectMenu();
+    void MakeWallMenu();
+    void Connect();
+    void AskForBlock();
+    void ShowSender();
+    void ShowTitle();
+    void ShowCounts();
+    void Take(const SDocumentChange& change);
+
+    DocumentController m_document;
+    SceneModel m_scene;
+    DesignView* m_view = nullptr;
+    FileActions* m_files = nullptr;
+    EditActions* m_edits = nullptr;
+    QToolBar* m_bar = nullptr;
+    ProjectTree* m_tree = nullptr;
+    QLabel* m_hint = nullptr;
+    QLabel* m_state = nullptr;
+    QLabel* m_counts = nullptr;
+    QLabel* m_place = nullptr;
+    QLabel* m_zoom = nullptr;
+};

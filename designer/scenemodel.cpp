@@ -1,0 +1,165 @@
+#include "scenemodel.h"
+
+#include <algorithm>
+
+namespace {
+
+SceneCabinet Read(const CTile& tile, std::vector<QPolygonF>& corners)
+{
+    SceneCabinet cabinet;
+    cabinet.place = tile.GetBound();
+    cabinet.number = tile.GetConnectionIndex();
+    cabinet.selected = tile.IsSelected(InterfaceDesign);
+    if (tile.IsMultiRcvTile()) {
+        const QSize cards =
+            tile.GetMultiRcvsSize().boundedTo(QSize(kMaxReceiversInTile, kMaxReceiversInTile));
+        cabinet.cardColumns = static_cast<short>(cards.width());
+        cabinet.cardRows = static_cast<short>(cards.height());
+    }
+    if (tile.IsTileRotated()) {
+        CPointEx<double> points[4];
+        tile.GetRotateArea(points);
+        QPolygonF polygon;
+        for (const CPointEx<double>& point : points)
+            polygon.append(QPointF(point.x, point.y));
+        cabinet.turned = static_cast<int>(corners.size());
+        corners.push_back(polygon);
+    }
+    return cabinet;
+}
+
+/// Equal numbers stay as listed.
+std::vector<int> ChainOf(const std::vector<SceneCabinet>& cabinets)
+{
+    std::vector<int> chain;
+    for (size_t i = 0; i < cabinets.size(); ++i) {
+        if (cabinets[i].number >= 0)
+            chain.push_back(static_cast<int>(i));
+    }
+    std::stable_sort(chain.begin(), chain.end(), [&](int a, int b) {
+        return cabinets[static_cast<size_t>(a)].number < cabinets[static_cast<size_t>(b)].number;
+    });
+    return chain;
+}
+
+} // namespace
+
+const SceneCabinet* ScenePort::Neighbour(const SceneCabinet& cabinet, int step) const
+{
+    const int at = cabinet.chainPlace + step;
+    if (cabinet.chainPlace < 0 || at < 0 || at >= static_cast<int>(chain.size()))
+        return nullptr;
+    const SceneCabinet& other = cabinets[static_cast<size_t>(chain[static_cast<size_t>(at)])];
+    return qint64(other.number) == qint64(cabinet.number) + step ? &other : nullptr;
+}
+
+SceneModel::SceneModel(QObject* parent) : QObject(parent)
+{}
+
+QRect SceneModel::GetBound() const
+{
+    QRect bound;
+    for (const ScenePort& port : m_ports) {
+        if (port.visible)
+            bound |= port.bound;
+    }
+    return bound;
+}
+
+void SceneModel::Take(const SDocumentChange& change)
+{
+    if (change.documentReplaced || change.senders || change.properties) {
+        Renew();
+        return;
+    }
+    if (change.ports.isEmpty())
+        return;
+    const int sender = GetProjectData()->GetCurSenderIndex();
+    for (const SPortPlace& place : change.ports) {
+        if (place.sender == sender && place.port < static_cast<int>(m_ports.size()))
+            Read(place.port);
+    }
+    ReadStates();
+    Tell();
+}
+
+void SceneModel::Renew()
+{
+    const CSender* sender = GetProjectData()->GetCurrentSender();
+    m_ports.clear();
+    m_ports.resize(sender ? static_cast<size_t>(sender->GetPortCount()) : 0);
+    for (size_t port = 0; port < m_ports.size(); ++port)
+        Read(static_cast<int>(port));
+    ReadStates();
+    Tell();
+}
+
+void SceneModel::RenewPort(int port)
+{
+    Read(port);
+    Tell();
+}
+
+void SceneModel::RenewPortStates()
+{
+    ReadStates();
+    Tell();
+}
+
+void SceneModel::RenewSelection()
+{
+    const CSender* sender = GetProjectData()->GetCurrentSender();
+    for (size_t i = 0; i < m_ports.size(); ++i) {
+        size_t place = 0;
+        if (m_ports[i].cabinets.empty())
+            continue;
+        for (const CTile* tile : sender->GetPort(static_cast<int>(i))->GetTileSet())
+            m_ports[i].cabinets[place++].selected = tile->IsSelected(InterfaceDesign);
+    }
+    Tell();
+}
+
+/// A backup port shows what its source shows, and that is drawn already.
+void SceneModel::Read(int index)
+{
+    const CPort& port = *GetProjectData()->GetCurrentSender()->GetPort(index);
+    ScenePort scene;
+    if (!port.IsBackupDest()) {
+        scene.cabinets.reserve(static_cast<size_t>(port.GetTileSet().GetCount()));
+        for (const CTile* tile : port.GetTileSet()) {
+            scene.cabinets.push_back(::Read(*tile, scene.corners));
+            scene.pixels += qint64(std::max(tile->GetWidth(), 0)) * std::max(tile->GetHeight(), 0);
+        }
+    }
+    scene.chain = ChainOf(scene.cabinets);
+    for (size_t i = 0; i < scene.chain.size(); ++i)
+        scene.cabinets[static_cast<size_t>(scene.chain[i])].chainPlace = static_cast<int>(i);
+    for (size_t i = 0; i < scene.cabinets.size(); ++i) {
+        if (i % ScenePort::kBlock == 0)
+            scene.blocks.emplace_back();
+        scene.blocks.back() |= scene.cabinets[i].place;
+    }
+    for (const QRect& block : scene.blocks)
+        scene.bound |= block;
+    m_ports[static_cast<size_t>(index)] = std::move(scene);
+}
+
+void SceneModel::ReadStates()
+{
+    const CSender* sender = GetProjectData()->GetCurrentSender();
+    m_canvas = QRect();
+    m_currentPort = sender ? sender->GetRecentPortIndex() : 0;
+    if (sender && !sender->GetCanvasSize().isEmpty())
+        m_canvas = QRect(QPoint(), sender->GetCanvasSize());
+    for (size_t i = 0; i < m_ports.size(); ++i) {
+        const CPort& port = *sender->GetPort(static_cast<int>(i));
+        m_ports[i].visible = port.IsVisible();
+        m_ports[i].locked = port.IsFlagLock();
+    }
+}
+
+void SceneModel::Tell()
+{
+    ++m_revision;
+    emit Renewed();
+}

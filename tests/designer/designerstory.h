@@ -1,0 +1,46 @@
+#pragma once
+
+#include "designview.h"
+#include "fileactions.h"
+#include "mainwindow.h"
+#include "support/messagerecorder.h"
+#include "support/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include <memory>
+
+/// The window with an empty project, its boxes answered, and a folder for files.
+struct DesignerStory : testing::Test
+{
+    DesignerStory();
+    ~DesignerStory() override;
+
+    QString MakeProject(const QString& name, const QSize& grid, int ports, int order); ///< its path
+    void Click(const QPoint& wall, Qt::KeyboardModifiers keys = Qt::NoModifier);
+    void Drag(const QList<QPoint>& wall, Qt::KeyboardModifiers keys = Qt::NoModifier,
+              Qt::MouseButton button = Qt::LeftButton); ///< down at the first place, up at the last
+    void Key(int key, Qt::KeyboardModifiers keys = Qt::NoModifier)
+    {
+        QTest::keyClick(&view, Qt::Key(key), keys);
+    }
+    QColor ColorAt(const QPoint& wall); ///< as it is on the screen
+    const CTileSet& Tiles(int port = 0) const
+    {
+        return GetProjectData()->GetSender(0)->GetPort(port)->GetTileSet();
+    }
+    void Picture(const char* name); ///< into the folder of ORVAN_PICTURES, for eyes
+
+    struct Library
+    {
+        Library() { LedNimbraData_Init(); }
+        ~Library() { LedNimbraData_Release(); }
+    } library;
+    TestFolder folder;
+    MessageRecorder messages;
+    MainWindow window;
+    DesignView& view = window.GetView();
+    DocumentController& document = window.GetDocument();
+};
