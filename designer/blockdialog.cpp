@@ -25,7 +25,7 @@ BlockDialog::BlockDialog(const DocumentController& document, QWidget* parent)
 {
     setWindowTitle(tr("Add a block of cabinets"));
     const QSize cabinet = GetConfigData()->GetCustomerTileSize();
-    const QPoint place = FreePlace(*document.GetSender());
+    const QPoint place = FreePlace(*document.GetSender(), kColumns * cabinet.width());
     m_columns = AddNumber(tr("Columns"), 1, kMostAcross, kColumns);
     m_rows = AddNumber(tr("Rows"), 1, kMostAcross, kRows);
     m_width = AddNumber(tr("Width of a cabinet"), 1, kMaxCabinetSize, cabinet.width());
@@ -89,17 +89,16 @@ void BlockDialog::FillPorts()
     }
 }
 
-/// To the right of all cabinets while the canvas has room there, else below them.
-QPoint BlockDialog::FreePlace(const CSender& sender)
+/// To the right of all cabinets while the canvas has room there for a block as proposed, else below them.
+QPoint BlockDialog::FreePlace(const CSender& sender, int width)
 {
     CTileSet tiles;
     if (!sender.GetTileSet(tiles))
         return {};
     const QRect bound = tiles.GetBound();
-    const int room = sender.GetCanvasSize().width() - bound.right() - 1;
-    const QPoint place = room >= bound.width() / qMax(tiles.GetCount(), 1) && room > 0
-                             ? QPoint(bound.right() + 1, bound.top())
-                             : QPoint(bound.left(), bound.bottom() + 1);
+    const bool hasRoom = bound.right() + width < sender.GetCanvasSize().width();
+    const QPoint place =
+        hasRoom ? QPoint(bound.right() + 1, bound.top()) : QPoint(bound.left(), bound.bottom() + 1);
     return QPoint(qBound(0, place.x(), kMaxCanvasWidth - 1), qBound(0, place.y(), kMaxCanvasHeight - 1));
 }
 

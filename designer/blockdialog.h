@@ -30,7 +30,7 @@ private:
                  QSpinBox* second);
     void FillPorts();
     void ShowBlock();
-    static QPoint FreePlace(const CSender& sender);
+    static QPoint FreePlace(const CSender& sender, int width);
 
     const DocumentController& m_document;
     QSpinBox* m_columns;

@@ -328,7 +328,8 @@ void DesignView::keyReleaseEvent(QKeyEvent* event)
 
 void DesignView::focusOutEvent(QFocusEvent* event)
 {
-    m_spaceHeld = false;
+    if (std::exchange(m_spaceHeld, false))
+        m_held = Qt::NoButton;
     ShowTool();
     QAbstractScrollArea::focusOutEvent(event);
 }

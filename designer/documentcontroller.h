@@ -55,6 +55,7 @@ public:
     QPoint Limited(const QRect& bound, const QPoint& by) const; ///< so that it stays on the largest canvas
     bool MoveSelection(const QPoint& by);
     bool DeleteSelection();
+    bool TurnSelection(double angle); ///< degrees, clockwise, about its middle; rotation is on afterwards
 
     // adding a block of cabinets
     static QRect BoundOf(const SAddTileInfo& block);        ///< wall pixels
@@ -71,6 +72,9 @@ public:
     bool NumberNext(const QList<CTile*>& tiles);
     bool FinishNumbering();
     const CTile* GetEndOfChain() const; ///< null: nothing is numbered
+
+    /// Whether turned cabinets are shown and found as turned: a setting of the user's.
+    void SetRotationOn(bool on);
 
     // senders and ports: no step holds these, and the project is marked as modified
     void AddSender();                              ///< and makes it current
@@ -90,9 +94,10 @@ signals:
     void Changed(const SDocumentChange& change); ///< in the document
     void FileChanged();                          ///< another path, or another right to it
     void SelectionChanged();
-    void PortStatesChanged();         ///< shown, locked, current
-    void PortEdited(int port);        ///< of the current sender; the step comes later
-    void SenderChanged();             ///< another one is current
+    void PortStatesChanged();  ///< shown, locked, current
+    void PortEdited(int port); ///< of the current sender; the step comes later
+    void SenderChanged();      ///< another one is current
+    void RotationChanged(bool on);
     void Refused(const QString& why); ///< for the user
 
 private:

@@ -1,6 +1,8 @@
 // The selection of the open document, and the edits of its layout.
 #include "documentcontroller.h"
 
+#include <cmath>
+
 namespace {
 
 /// The ports in use that have cabinets of their own.
@@ -41,6 +43,34 @@ void MoveRecords(CTileGroup& group, const QPoint& by)
     const CTileGroupSet& below = *group.GetSubGroupSet();
     for (int i = 0; i < below.GetDirectCount(); ++i)
         MoveRecords(*below.GetDirectGroupByDirIndex(i), by);
+}
+
+struct TurnedGroup
+{
+    CTileGroup* group;
+    SRotateParam record;
+};
+
+/// The records of the port's outermost groups, as they are to be after a turn of what is selected.
+QVector<TurnedGroup> RecordsAfter(const SRotateParam& turn, CPort& port)
+{
+    QVector<TurnedGroup> records;
+    const QList<CTileGroup*> whole = WholeGroups(port);
+    for (int i = 0; i < port.GetTileGroupSet().GetDirectCount(); ++i) {
+        CTileGroup* group = port.GetTileGroupSet().GetDirectGroupByDirIndex(i);
+        SRotateParam record = *group->GetRotateParam();
+        if (whole.contains(group)) {
+            const CPointEx<double> center = GetRotatePoint(&turn, record.centerX, record.centerY);
+            record.leftTopX += center.x - record.centerX; // of the unturned block, which goes with its centre
+            record.leftTopY += center.y - record.centerY;
+            record.centerX = center.x;
+            record.centerY = center.y;
+            record.angle = std::remainder(record.angle + turn.angle, 360);
+            record.rotated = record.angle != 0;
+        }
+        records.append({group, record});
+    }
+    return records;
 }
 
 } // namespace
@@ -174,6 +204,39 @@ bool DocumentController::DeleteSelection()
         port->GetTileSet().TileSetNormalization();
     }
     return Record(CSenderRecordItem::OperationDeleteTiles);
+}
+
+/// The library gives the record of the turn to a port's only group, whether that was turned or not; so the
+/// records of groups are set afterwards.
+bool DocumentController::TurnSelection(double angle)
+{
+    const QRectF bound = GetSelectionBound();
+    if (bound.isEmpty() || qFuzzyIsNull(angle) || !MayEditSelection())
+        return false;
+    SRotateParam turn;
+    turn.angle = angle;
+    turn.centerX = bound.center().x();
+    turn.centerY = bound.center().y();
+    for (CPort* port : PortsOf(GetSender())) {
+        CTileSet selected;
+        port->GetTileSet().GetSelTileSet(selected, InterfaceDesign);
+        if (selected.GetCount() == 0)
+            continue;
+        const QVector<TurnedGroup> groups = RecordsAfter(turn, *port);
+        port->GetPortProject()->SetTileGroupRotateParam(&turn, selected, angle);
+        for (const TurnedGroup& turned : groups)
+            turned.group->SetRotateParam(&turned.record);
+    }
+    SetRotationOn(true);
+    return Record(CSenderRecordItem::OperationRotate);
+}
+
+void DocumentController::SetRotationOn(bool on)
+{
+    if (GetConfigData()->IsEnableRotate() == on)
+        return;
+    GetConfigData()->SetEnableRotate(on);
+    emit RotationChanged(on);
 }
 
 QRect DocumentController::BoundOf(const SAddTileInfo& block)

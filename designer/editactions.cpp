@@ -1,8 +1,8 @@
 #include "editactions.h"
 
 #include "documentcontroller.h"
+#include "makeaction.h"
 
-#include <QAction>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
@@ -15,14 +15,15 @@ constexpr int kMostListed = 30;
 
 EditActions::EditActions(DocumentController& document, QObject* parent)
     : QObject(parent), m_document(document),
-      m_undo(Make(tr("&Undo"), tr("Take back the last edit"), QKeySequence::Undo)),
-      m_redo(Make(tr("&Redo"), tr("Bring back what was undone"), QKeySequence::Redo)),
-      m_delete(Make(tr("&Delete"), tr("Delete the selected cabinets; their chains close up"),
-                    QKeySequence::Delete)),
-      m_selectAll(Make(tr("Select &all"),
-                       tr("Select the cabinets of all ports that are shown and not locked"),
-                       QKeySequence::SelectAll)),
-      m_selectNone(Make(tr("Select &none"), tr("Select no cabinet"), Qt::CTRL | Qt::SHIFT | Qt::Key_A))
+      m_undo(MakeAction(this, tr("&Undo"), tr("Take back the last edit"), QKeySequence::Undo)),
+      m_redo(MakeAction(this, tr("&Redo"), tr("Bring back what was undone"), QKeySequence::Redo)),
+      m_delete(MakeAction(this, tr("&Delete"), tr("Delete the selected cabinets; their chains close up"),
+                          QKeySequence::Delete)),
+      m_selectAll(MakeAction(this, tr("Select &all"),
+                             tr("Select the cabinets of all ports that are shown and not locked"),
+                             QKeySequence::SelectAll)),
+      m_selectNone(
+          MakeAction(this, tr("Select &none"), tr("Select no cabinet"), Qt::CTRL | Qt::SHIFT | Qt::Key_A))
 {
     connect(m_undo, &QAction::triggered, this, [this] { m_document.Undo(); });
     connect(m_redo, &QAction::triggered, this, [this] { m_document.Redo(); });
@@ -31,18 +32,9 @@ EditActions::EditActions(DocumentController& document, QObject* parent)
     connect(m_selectNone, &QAction::triggered, this,
             [this] { m_document.Select({}, DocumentController::Choice::Replace); });
     connect(&document, &DocumentController::Changed, this, &EditActions::Show);
-    connect(&document, &DocumentController::PortStatesChanged, this, &EditActions::Show); // another sender
+    connect(&document, &DocumentController::SenderChanged, this, &EditActions::Show);
     connect(&document, &DocumentController::SelectionChanged, this, &EditActions::ShowSelection);
     Show();
-}
-
-QAction* EditActions::Make(const QString& text, const QString& tip, const QKeySequence& key)
-{
-    auto* action = new QAction(text, this);
-    action->setShortcut(key);
-    action->setStatusTip(tip);
-    action->setToolTip(QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
-    return action;
 }
 
 void EditActions::AddTo(QMenu& menu)

@@ -20,7 +20,6 @@ public:
     void AddTo(QToolBar& bar);
 
 private:
-    QAction* Make(const QString& text, const QString& tip, const QKeySequence& key);
     void Show();
     void ShowSelection();
     void FillSteps(QMenu& menu, bool back);

@@ -1,20 +1,28 @@
 #include "fileactions.h"
 
 #include "documentcontroller.h"
+#include "makeaction.h"
 
 #include "custommessagebox.h"
 #include "customprogressbar.h"
 
-#include <QAction>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
+#include <QStandardPaths>
 
 namespace {
 
 constexpr int kMostRecent = 9;
 const QString kSuffix = QStringLiteral(".prj");
+
+/// Where the user looks for projects.
+QString Folder(const DocumentFile& file)
+{
+    return file.GetPath().isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                    : QFileInfo(file.GetPath()).path();
+}
 
 } // namespace
 
@@ -22,27 +30,22 @@ FileActions::FileActions(DocumentController& document, QWidget& window)
     : QObject(&window), m_document(document), m_window(window)
 {}
 
-QAction* FileActions::Add(QMenu& menu, const QString& text, const QString& tip, const QKeySequence& key,
-                          void (FileActions::*slot)())
-{
-    QAction* action = menu.addAction(text, this, slot, key);
-    action->setStatusTip(tip);
-    action->setToolTip(tip);
-    return action;
-}
-
 void FileActions::AddTo(QMenu& menu)
 {
-    Add(menu, tr("&New"), tr("Start an empty project with one sender"), QKeySequence::New, &FileActions::New);
-    Add(menu, tr("&Open…"), tr("Open a project: an archive (.prj) or a bare document (.xml)"),
-        QKeySequence::Open, &FileActions::Choose);
+    const auto add = [&](const QString& text, const QString& tip, const QKeySequence& key, auto act) {
+        QAction* action = MakeAction(this, text, tip, key);
+        connect(action, &QAction::triggered, this, act);
+        menu.addAction(action);
+    };
+    add(tr("&New"), tr("Start an empty project with one sender"), QKeySequence::New, [this] { New(); });
+    add(tr("&Open…"), tr("Open a project: an archive (.prj) or a bare document (.xml)"), QKeySequence::Open,
+        [this] { Choose(); });
     m_recent = menu.addMenu(tr("Open &recent"));
     connect(m_recent, &QMenu::aboutToShow, this, &FileActions::FillRecent);
     menu.addSeparator();
-    Add(menu, tr("&Save"), tr("Save the project to its file"), QKeySequence::Save,
-        &FileActions::SaveByAction);
-    Add(menu, tr("Save &as…"), tr("Save the project under another name"),
-        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &FileActions::SaveAsByAction);
+    add(tr("&Save"), tr("Save the project to its file"), QKeySequence::Save, [this] { Save(); });
+    add(tr("Save &as…"), tr("Save the project under another name"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+        [this] { SaveAs(); });
 }
 
 void FileActions::FillRecent()
@@ -156,8 +159,11 @@ bool FileActions::Save()
 
 bool FileActions::SaveAs()
 {
-    QString path = QFileDialog::getSaveFileName(&m_window, tr("Save the project"),
-                                                m_document.GetFile().GetPath(), tr("Projects (*.prj)"));
+    const QString present = m_document.GetFile().GetPath();
+    const QString name = present.isEmpty() ? tr("wall") : QFileInfo(present).completeBaseName();
+    QString path = QFileDialog::getSaveFileName(
+        &m_window, tr("Save the project"), Folder(m_document.GetFile()) + QLatin1Char('/') + name + kSuffix,
+        tr("Projects (*.prj)"));
     if (path.isEmpty())
         return false;
     if (QFileInfo(path).suffix().isEmpty()) {

@@ -5,7 +5,6 @@
 #include <QObject>
 
 class DocumentController;
-class QAction;
 class QMenu;
 class QWidget;
 
@@ -31,11 +30,7 @@ signals:
     void Told(const QString& text); ///< of what went well
 
 private:
-    QAction* Add(QMenu& menu, const QString& text, const QString& tip, const QKeySequence& key,
-                 void (FileActions::*slot)());
     void Choose();
-    void SaveByAction() { Save(); }
-    void SaveAsByAction() { SaveAs(); }
     void FillRecent();
     void Tell(const QString& text);
     bool OpenInUse(const QString& path, const QString& holder);

@@ -8,7 +8,8 @@ QList<CPort*> OpenPorts(CSender& sender)
     QList<CPort*> ports;
     const auto add = [&](int index) {
         CPort* port = sender.GetPort(index);
-        if (port && port->IsVisible() && !port->IsFlagLock() && !port->IsBackupDest())
+        if (port && index < sender.GetPortCount() && port->IsVisible() && !port->IsFlagLock()
+            && !port->IsBackupDest())
             ports.append(port);
     };
     const int current = sender.GetRecentPortIndex();

@@ -4,18 +4,20 @@
 #include "chainactions.h"
 #include "designview.h"
 #include "editactions.h"
+#include "faultsdock.h"
 #include "fileactions.h"
+#include "makeaction.h"
 #include "numbertool.h"
 #include "pantool.h"
 #include "projecttree.h"
 #include "selecttool.h"
 
-#include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -46,9 +48,12 @@ MainWindow::MainWindow(QWidget* parent)
     dock->setObjectName(QStringLiteral("project"));
     dock->setWidget(m_tree);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
+    m_faults = new FaultsDock(m_document, this);
+    addDockWidget(Qt::BottomDockWidgetArea, m_faults);
     setAcceptDrops(true);
     resize(1200, 800);
     resizeDocks({dock}, {340}, Qt::Horizontal);
+    resizeDocks({m_faults}, {110}, Qt::Vertical);
     m_bar->setObjectName(QStringLiteral("tools"));
     m_bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     Connect();
@@ -72,10 +77,12 @@ void MainWindow::Connect()
     connect(&m_document, &DocumentController::FileChanged, this, &MainWindow::ShowTitle);
     connect(&m_document, &DocumentController::SelectionChanged, &m_scene, &SceneModel::RenewSelection);
     connect(&m_document, &DocumentController::PortStatesChanged, &m_scene, &SceneModel::RenewPortStates);
+    connect(&m_document, &DocumentController::PortStatesChanged, m_view, &DesignView::ShowTool);
     connect(&m_document, &DocumentController::PortEdited, &m_scene, &SceneModel::RenewPort);
     connect(&m_document, &DocumentController::SenderChanged, this, &MainWindow::ShowSender);
     connect(&m_document, &DocumentController::Refused, this,
             [this](const QString& why) { statusBar()->showMessage(why, kMessageTime); });
+    connect(m_faults, &FaultsDock::CabinetChosen, m_view, &DesignView::Show);
     connect(&m_scene, &SceneModel::Renewed, this, &MainWindow::ShowCounts);
     connect(m_files, &FileActions::Told, this,
             [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });
@@ -118,12 +125,10 @@ void MainWindow::MakeTools()
     QMenu* menu = menuBar()->addMenu(tr("&Tools"));
     auto* group = new QActionGroup(this);
     const auto add = [&](const QString& text, const QString& tip, const QKeySequence& key, auto make) {
-        QAction* action = menu->addAction(text);
-        action->setShortcut(key);
+        QAction* action = MakeAction(this, text, tip, key);
         action->setCheckable(true);
-        action->setStatusTip(tip);
-        action->setToolTip(QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
         group->addAction(action);
+        menu->addAction(action);
         m_bar->addAction(action);
         connect(action, &QAction::triggered, this, [this, make] { m_view->SetTool(make()); });
         return action;
@@ -141,7 +146,9 @@ void MainWindow::MakeProjectMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Project"));
     const auto add = [&](const QString& text, const QString& tip, const QKeySequence& key, auto act) {
-        menu->addAction(text, this, act, key)->setStatusTip(tip);
+        QAction* action = MakeAction(this, text, tip, key);
+        connect(action, &QAction::triggered, this, act);
+        menu->addAction(action);
     };
     add(tr("&Add sender"), tr("Add a sending unit or processor, with ports of its own"), Qt::CTRL | Qt::Key_T,
         [this] { m_document.AddSender(); });
@@ -154,17 +161,38 @@ void MainWindow::MakeProjectMenu()
 void MainWindow::MakeWallMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Wall"));
-    QAction* block = menu->addAction(tr("Add &block…"), this, &MainWindow::AskForBlock, Qt::Key_Insert);
-    block->setStatusTip(tr("Place a block of equal cabinets on a port"));
-    block->setToolTip(tr("Place a block of equal cabinets on a port (Ins)"));
+    QAction* block =
+        MakeAction(this, tr("Add &block…"), tr("Place a block of equal cabinets on a port"), Qt::Key_Insert);
+    connect(block, &QAction::triggered, this, &MainWindow::AskForBlock);
+    menu->addAction(block);
     m_bar->addSeparator();
     m_bar->addAction(block);
+    QAction* turn = MakeAction(this, tr("&Turn…"), tr("Turn the selected cabinets about their middle"),
+                               Qt::CTRL | Qt::Key_R);
+    connect(turn, &QAction::triggered, this, &MainWindow::AskForAngle);
+    QAction* turned = MakeAction(this, tr("Show turned cabinets as &turned"),
+                                 tr("Off: they are shown and found where they lay before they were turned"));
+    turned->setCheckable(true);
+    turned->setChecked(GetConfigData()->IsEnableRotate());
+    connect(turned, &QAction::toggled, &m_document, &DocumentController::SetRotationOn);
+    connect(&m_document, &DocumentController::RotationChanged, turned, &QAction::setChecked);
+    connect(&m_document, &DocumentController::RotationChanged, &m_scene, &SceneModel::Renew);
+    menu->addActions({turn, turned});
     menu->addSeparator();
     auto* chain = new ChainActions(m_document, this);
     chain->AddTo(*menu);
     QToolBar* bar = addToolBar(tr("Chain"));
     bar->setObjectName(QStringLiteral("chain"));
     chain->AddTo(*bar);
+}
+
+void MainWindow::AskForAngle()
+{
+    bool isChosen = false;
+    const double angle =
+        QInputDialog::getDouble(this, tr("Turn"), tr("Degrees, clockwise:"), 90, -360, 360, 2, &isChosen);
+    if (isChosen)
+        m_document.TurnSelection(angle);
 }
 
 void MainWindow::AskForBlock()
@@ -200,6 +228,9 @@ void MainWindow::MakeViewMenu()
     add(tr("Zoom &out"), QKeySequence::ZoomOut, &DesignView::ZoomOut);
     add(tr("&Fit the wall"), Qt::CTRL | Qt::Key_0, &DesignView::Fit);
     add(tr("&Actual size"), Qt::CTRL | Qt::Key_1, &DesignView::ActualSize);
+    menu->addSeparator();
+    for (const QDockWidget* dock : findChildren<QDockWidget*>())
+        menu->addAction(dock->toggleViewAction());
 }
 
 void MainWindow::MakeStatusBar()

@@ -7,6 +7,7 @@
 
 class DesignView;
 class EditActions;
+class FaultsDock;
 class FileActions;
 class ProjectTree;
 class QLabel;
@@ -24,6 +25,7 @@ public:
     DesignView& GetView() { return *m_view; }
     FileActions& GetFiles() { return *m_files; }
     ProjectTree& GetTree() { return *m_tree; }
+    FaultsDock& GetFaults() { return *m_faults; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -40,6 +42,7 @@ private:
     void MakeWallMenu();
     void Connect();
     void AskForBlock();
+    void AskForAngle();
     void ShowSender();
     void ShowTitle();
     void ShowCounts();
@@ -52,6 +55,7 @@ private:
     EditActions* m_edits = nullptr;
     QToolBar* m_bar = nullptr;
     ProjectTree* m_tree = nullptr;
+    FaultsDock* m_faults = nullptr;
     QLabel* m_hint = nullptr;
     QLabel* m_state = nullptr;
     QLabel* m_counts = nullptr;

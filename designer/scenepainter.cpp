@@ -257,20 +257,42 @@ void ScenePainter::PaintStart(const ScenePort& port)
     m_painter.drawEllipse(m_map.ToView(Center(first.place)), radius, radius);
 }
 
-/// In the left upper quarter, beside the lines of the chain.
+/// The left upper quarter, beside the lines of the chain, or the middle of that quarter of a turned one.
+QRectF ScenePainter::NumberCell(const ScenePort& port, const SceneCabinet& cabinet) const
+{
+    const double scaling = m_map.GetScaling();
+    if (cabinet.turned < 0) {
+        const QSizeF size = QSizeF(cabinet.place.size()) * (scaling / 2);
+        const double inset = std::min(size.width() * 0.12, 6.0);
+        return QRectF(m_map.ToView(QRectF(cabinet.place).topLeft()), size).adjusted(inset, 0, inset, 0);
+    }
+    const QPolygonF& corners = port.corners[static_cast<size_t>(cabinet.turned)];
+    const double side =
+        std::min(QLineF(corners[0], corners[1]).length(), QLineF(corners[0], corners[3]).length()) * scaling
+        / 2;
+    QRectF cell(0, 0, side, side);
+    cell.moveCenter(m_map.ToView((corners[0] * 3 + corners[2]) / 4));
+    return cell;
+}
+
+/// All in the size in which the longest one has room, where cabinets are alike.
 void ScenePainter::PaintNumbers(const ScenePort& port, const QColor& color)
 {
-    QFont font = m_painter.font();
+    if (port.chain.empty())
+        return;
+    const auto textOf = [](const SceneCabinet& cabinet) {
+        return QString::number(qint64(cabinet.number) + 1);
+    };
+    const int digits = textOf(port.cabinets[static_cast<size_t>(port.chain.back())]).size();
     const QColor onSelected = TextOn(Selected(color));
+    QFont font = m_painter.font();
     int height = 0;
     port.Walk(m_shown, [&](size_t i) {
         const SceneCabinet& cabinet = port.cabinets[i];
         if (cabinet.number < 0)
             return;
-        const QRectF place(m_map.ToView(QRectF(cabinet.place).topLeft()),
-                           QRectF(cabinet.place).size() * m_map.GetScaling());
-        const QString text = QString::number(qint64(cabinet.number) + 1);
-        const double room = std::min(place.height() * 0.38, place.width() * 0.72 / text.size());
+        const QRectF place = NumberCell(port, cabinet);
+        const double room = std::min(place.height() * 0.76, place.width() * 1.44 / digits);
         const int wanted = std::min(static_cast<int>(room), 26);
         if (wanted < 6)
             return;
@@ -280,8 +302,7 @@ void ScenePainter::PaintNumbers(const ScenePort& port, const QColor& color)
             m_painter.setFont(font);
         }
         m_painter.setPen(cabinet.selected ? onSelected : TextOn(color));
-        const double inset = std::min(place.width() * 0.06, 6.0);
-        m_painter.drawText(QRectF(place.left() + inset, place.top(), place.width(), place.height() * 0.48),
-                           Qt::AlignLeft | Qt::AlignVCenter, text);
+        m_painter.drawText(place, cabinet.turned < 0 ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter,
+                           textOf(cabinet));
     });
 }

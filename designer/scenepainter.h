@@ -45,6 +45,7 @@ private:
     void PaintChain(const ScenePort& port);
     void PaintStart(const ScenePort& port);
     void PaintNumbers(const ScenePort& port, const QColor& color);
+    QRectF NumberCell(const ScenePort& port, const SceneCabinet& cabinet) const; ///< view pixels
     QColor Selected(const QColor& color) const;
 
     QPainter& m_painter;

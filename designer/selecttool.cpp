@@ -124,7 +124,7 @@ void SelectTool::Release(const QMouseEvent& event)
         m_document.MoveSelection(m_snapped.moved);
     else if (state == State::Banding)
         FinishBand(event.modifiers());
-    else if (CTile* tile = m_selectsOne ? TileAt(event.pos()) : nullptr)
+    else if (CTile* tile = std::exchange(m_selectsOne, false) ? TileAt(event.pos()) : nullptr)
         m_document.Select({tile}, DocumentController::Choice::Replace);
     m_view.Redraw();
 }

@@ -96,6 +96,26 @@ TEST_F(EditingStory, EachEditIsOneStepAndComesBack)
     EXPECT_EQ(Place(2, 1), before) << "locked since it was selected";
 }
 
+TEST_F(EditingStory, ABlockIsTurnedAndFoundWhereItLies)
+{
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.GetMap().ToView(QPoint(10, 10)));
+    Drag({{10, 10}, {300, 50}, {500, 190}}, Qt::AltModifier);
+    const QRect block = document.GetSelectionBound();
+    ASSERT_TRUE(document.TurnSelection(30));
+    const SRotateParam record =
+        *document.GetPort()->GetTileGroupSet().GetDirectGroupByDirIndex(0)->GetRotateParam();
+    EXPECT_TRUE(record.rotated && record.angle == 30 && qAbs(record.centerX - block.center().x()) <= 1);
+    EXPECT_GT(document.GetSelectionBound().width(), block.width());
+    Picture("turned");
+    Click(block.topLeft() + QPoint(5, 5));
+    EXPECT_EQ(Selected(), "1:3") << "its corner went elsewhere, and this one was below it";
+    Click(block.center() + QPoint(5, 5));
+    EXPECT_EQ(document.GetSelection().size(), 1);
+    ASSERT_TRUE(document.Undo() && document.Undo());
+    EXPECT_EQ(Place(0), QPoint(0, 0));
+    document.SetRotationOn(false);
+}
+
 TEST_F(EditingStory, ALargeWallIsSelectedMovedAndUndoneAtOnce)
 {
     SAddTileInfo block;

@@ -1,8 +1,9 @@
 #include "blockdialog.h"
 #include "designerstory.h"
+#include "faultsdock.h"
 #include "projecttree.h"
 
-#include <QMenuBar>
+#include <QListWidget>
 #include <QSpinBox>
 #include <QStatusBar>
 
@@ -120,4 +121,23 @@ TEST_F(WallStory, EachSenderHasItsOwnWallAndHistory)
     EXPECT_TRUE(document.DeleteSender(1, &window) && window.GetTree().topLevelItemCount() == 1);
     document.RenameSender(0, "Stage"_s);
     EXPECT_EQ(window.GetTree().topLevelItem(0)->text(0).toStdString(), "Stage");
+}
+
+TEST_F(WallStory, APlantedFaultIsToldAndFound)
+{
+    AddBlock({2, 2, 100, 100});
+    QTest::keyClick(&window, Qt::Key_1, Qt::AltModifier);
+    FaultsDock& faults = window.GetFaults();
+    QTRY_COMPARE(faults.windowTitle(), "No faults"_s);
+    AddBlock({1, 1, 100, 100, 1850, 50});
+    QTRY_COMPARE(faults.windowTitle(), "Faults: 2"_s);
+    document.Select({}, DocumentController::Choice::Replace);
+    auto* list = faults.findChild<QListWidget*>();
+    view.ActualSize();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    EXPECT_EQ(document.GetSelection(), QList<CTile*>{Tiles().GetTile(4)});
+    EXPECT_TRUE(view.GetMap().GetShown().contains(QRect(1850, 50, 100, 100)));
+    Picture("fault");
+    Key(Qt::Key_Delete);
+    QTRY_COMPARE(faults.GetFaultCount(), 0);
 }

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QAction>
+
+/// An action with a tip that names its key too.
+inline QAction* MakeAction(QObject* parent, const QString& text, const QString& tip,
+                           const QKeySequence& key = {})
+{
+    auto* action = new QAction(text, parent);
+    action->setShortcut(key);
+    action->setStatusTip(tip);
+    action->setToolTip(
+        key.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
+    return action;
+}
