@@ -43,7 +43,7 @@ public:
         Toggle,
     };
     void Select(const QList<CTile*>& tiles, Choice choice);
-    void SelectBlock(const CTile& tile); ///< its outermost group, or itself alone
+    void SelectBlock(const CTile& tile); ///< its outermost group
     void SelectAll();                    ///< of ports that are shown and not locked
     QList<CTile*> GetSelection() const;  ///< [ref] by port, in list order
     QRect GetSelectionBound() const;
@@ -110,5 +110,6 @@ private:
     bool Go(int steps, bool back);
 
     DocumentFile m_file;
-    bool m_unsaved = false; ///< a change that no history holds, since the last save
+    bool m_numbered = false; ///< some cabinet, since the last step
+    bool m_unsaved = false;  ///< a change that no history holds, since the last save
 };

@@ -31,8 +31,17 @@ QList<CTileGroup*> WholeGroups(CPort& port)
     return groups;
 }
 
-/// Moves the records by which a group and those below it are turned.
-void MoveRecords(CTileGroup& group, const QPoint& by)
+/// Those and the groups inside them.
+QList<CTileGroup*> AllWholeGroups(CPort& port)
+{
+    QList<CTileGroup*> groups = WholeGroups(port);
+    for (const CTileGroup* group : WholeGroups(port))
+        group->GetSubGroupSet()->GetGroupListRecursive(groups);
+    return groups;
+}
+
+/// Moves what a group is turned by.
+void MoveRecord(CTileGroup& group, const QPointF& by)
 {
     SRotateParam record = *group.GetRotateParam();
     record.centerX += by.x();
@@ -40,37 +49,27 @@ void MoveRecords(CTileGroup& group, const QPoint& by)
     record.leftTopX += by.x();
     record.leftTopY += by.y();
     group.SetRotateParam(&record);
-    const CTileGroupSet& below = *group.GetSubGroupSet();
-    for (int i = 0; i < below.GetDirectCount(); ++i)
-        MoveRecords(*below.GetDirectGroupByDirIndex(i), by);
 }
 
-struct TurnedGroup
+/// What the groups of a port are turned by.
+QVector<SRotateParam> RecordsOf(const QList<CTileGroup*>& groups)
 {
-    CTileGroup* group;
-    SRotateParam record;
-};
-
-/// The records of the port's outermost groups, as they are to be after a turn of what is selected.
-QVector<TurnedGroup> RecordsAfter(const SRotateParam& turn, CPort& port)
-{
-    QVector<TurnedGroup> records;
-    const QList<CTileGroup*> whole = WholeGroups(port);
-    for (int i = 0; i < port.GetTileGroupSet().GetDirectCount(); ++i) {
-        CTileGroup* group = port.GetTileGroupSet().GetDirectGroupByDirIndex(i);
-        SRotateParam record = *group->GetRotateParam();
-        if (whole.contains(group)) {
-            const CPointEx<double> center = GetRotatePoint(&turn, record.centerX, record.centerY);
-            record.leftTopX += center.x - record.centerX; // of the unturned block, which goes with its centre
-            record.leftTopY += center.y - record.centerY;
-            record.centerX = center.x;
-            record.centerY = center.y;
-            record.angle = std::remainder(record.angle + turn.angle, 360);
-            record.rotated = record.angle != 0;
-        }
-        records.append({group, record});
-    }
+    QVector<SRotateParam> records;
+    for (const CTileGroup* group : groups)
+        records.append(*group->GetRotateParam());
     return records;
+}
+
+/// Turns the record of an unturned block, which goes with its centre.
+void TurnRecord(CTileGroup& group, const SRotateParam& turn)
+{
+    const SRotateParam before = *group.GetRotateParam();
+    const CPointEx<double> center = GetRotatePoint(&turn, before.centerX, before.centerY);
+    MoveRecord(group, QPointF(center.x - before.centerX, center.y - before.centerY));
+    SRotateParam record = *group.GetRotateParam();
+    record.angle = std::remainder(record.angle + turn.angle, 360);
+    record.rotated = record.angle != 0;
+    group.SetRotateParam(&record);
 }
 
 } // namespace
@@ -186,8 +185,8 @@ bool DocumentController::MoveSelection(const QPoint& by)
     if (by.isNull() || !MayEditSelection())
         return false;
     for (CPort* port : PortsOf(GetSender())) {
-        for (CTileGroup* group : WholeGroups(*port))
-            MoveRecords(*group, by);
+        for (CTileGroup* group : AllWholeGroups(*port))
+            MoveRecord(*group, by);
     }
     for (CTile* tile : GetSelection())
         tile->Offset(by.x(), by.y());
@@ -200,8 +199,10 @@ bool DocumentController::DeleteSelection()
     if (GetSelection().isEmpty() || !MayEditSelection())
         return false;
     for (CPort* port : PortsOf(GetSender())) {
+        const int before = port->GetTileSet().GetCount();
         port->GetPortProject()->DeleteSelectedTileAndGroup();
-        port->GetTileSet().TileSetNormalization();
+        if (port->GetTileSet().GetCount() != before)
+            port->GetTileSet().TileSetNormalization();
     }
     return Record(CSenderRecordItem::OperationDeleteTiles);
 }
@@ -222,10 +223,14 @@ bool DocumentController::TurnSelection(double angle)
         port->GetTileSet().GetSelTileSet(selected, InterfaceDesign);
         if (selected.GetCount() == 0)
             continue;
-        const QVector<TurnedGroup> groups = RecordsAfter(turn, *port);
+        QList<CTileGroup*> groups;
+        port->GetTileGroupSet().GetGroupListRecursive(groups);
+        const QVector<SRotateParam> records = RecordsOf(groups);
         port->GetPortProject()->SetTileGroupRotateParam(&turn, selected, angle);
-        for (const TurnedGroup& turned : groups)
-            turned.group->SetRotateParam(&turned.record);
+        for (int i = 0; i < groups.size(); ++i)
+            groups[i]->SetRotateParam(&records[i]);
+        for (CTileGroup* group : AllWholeGroups(*port))
+            TurnRecord(*group, turn);
     }
     SetRotationOn(true);
     return Record(CSenderRecordItem::OperationRotate);
@@ -301,13 +306,15 @@ bool DocumentController::NumberAll(EnAutoNumberType pattern)
         emit Refused(tr("Port %1 has no cabinets to number.").arg(GetPort()->GetPortIndex() + 1));
         return false;
     }
+    if (GetPort()->GetTileSet().GetConnectionType() == pattern)
+        return false; // a selection changed meanwhile would make a step of its own
     GetPort()->GetTileSet().AutoConnection(pattern, 0);
     return Record(CSenderRecordItem::OperationAutoConnect);
 }
 
 bool DocumentController::ClearNumbers()
 {
-    if (!MayNumber())
+    if (!MayNumber() || !GetPort()->GetTileSet().HasNumberedTiles())
         return false;
     GetPort()->GetTileSet().ClearConnectIndex();
     GetPort()->GetTileSet().TileSetNormalization();
@@ -330,18 +337,19 @@ bool DocumentController::NumberNext(const QList<CTile*>& tiles)
     }
     if (any)
         emit PortEdited(port);
+    m_numbered = m_numbered || any;
     return any;
 }
 
 bool DocumentController::FinishNumbering()
 {
-    return Record(CSenderRecordItem::OperationConnect);
+    return std::exchange(m_numbered, false) && Record(CSenderRecordItem::OperationConnect);
 }
 
 bool DocumentController::NumberByKey(int key)
 {
     return MayNumber() && GetPort()->GetTileSet().DirectionKeyConnection(static_cast<unsigned long>(key))
-           && FinishNumbering();
+           && Record(CSenderRecordItem::OperationConnect);
 }
 
 const CTile* DocumentController::GetEndOfChain() const

@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QList>
-#include <QPixmap>
 
 class CTile;
 class DesignView;
