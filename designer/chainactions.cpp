@@ -22,7 +22,7 @@ ChainActions::ChainActions(DocumentController& document, QObject* parent)
         const auto pattern = static_cast<EnAutoNumberType>(number++);
         QAction* action =
             MakeAction(this, name, tr("Number all cabinets of the current port: %1").arg(name.toLower()),
-                       Qt::ALT | (Qt::Key_0 + number));
+                       QKeySequence(QStringLiteral("Alt+%1").arg(number)));
         action->setIcon(PatternIcon(pattern, QGuiApplication::palette()));
         connect(action, &QAction::triggered, this, [this, pattern] { m_document.NumberAll(pattern); });
         m_patterns.append(action);

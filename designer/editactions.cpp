@@ -22,8 +22,7 @@ EditActions::EditActions(DocumentController& document, QObject* parent)
       m_selectAll(MakeAction(this, tr("Select &all"),
                              tr("Select the cabinets of all ports that are shown and not locked"),
                              QKeySequence::SelectAll)),
-      m_selectNone(
-          MakeAction(this, tr("Select &none"), tr("Select no cabinet"), Qt::CTRL | Qt::SHIFT | Qt::Key_A))
+      m_selectNone(MakeAction(this, tr("Select &none"), tr("Select no cabinet"), Keys("Ctrl+Shift+A")))
 {
     connect(m_undo, &QAction::triggered, this, [this] { m_document.Undo(); });
     connect(m_redo, &QAction::triggered, this, [this] { m_document.Redo(); });

@@ -44,7 +44,7 @@ void FileActions::AddTo(QMenu& menu)
     connect(m_recent, &QMenu::aboutToShow, this, &FileActions::FillRecent);
     menu.addSeparator();
     add(tr("&Save"), tr("Save the project to its file"), QKeySequence::Save, [this] { Save(); });
-    add(tr("Save &as…"), tr("Save the project under another name"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+    add(tr("Save &as…"), tr("Save the project under another name"), Keys("Ctrl+Shift+S"),
         [this] { SaveAs(); });
 }
 

@@ -150,7 +150,7 @@ void MainWindow::MakeProjectMenu()
         connect(action, &QAction::triggered, this, act);
         menu->addAction(action);
     };
-    add(tr("&Add sender"), tr("Add a sending unit or processor, with ports of its own"), Qt::CTRL | Qt::Key_T,
+    add(tr("&Add sender"), tr("Add a sending unit or processor, with ports of its own"), Keys("Ctrl+T"),
         [this] { m_document.AddSender(); });
     add(tr("&Rename sender"), tr("Give the sender in the tree a name"), Qt::Key_F2,
         [this] { m_tree->RenameCurrent(); });
@@ -167,8 +167,8 @@ void MainWindow::MakeWallMenu()
     menu->addAction(block);
     m_bar->addSeparator();
     m_bar->addAction(block);
-    QAction* turn = MakeAction(this, tr("&Turn…"), tr("Turn the selected cabinets about their middle"),
-                               Qt::CTRL | Qt::Key_R);
+    QAction* turn =
+        MakeAction(this, tr("&Turn…"), tr("Turn the selected cabinets about their middle"), Keys("Ctrl+R"));
     connect(turn, &QAction::triggered, this, &MainWindow::AskForAngle);
     QAction* turned = MakeAction(this, tr("Show turned cabinets as &turned"),
                                  tr("Off: they are shown and found where they lay before they were turned"));
@@ -224,10 +224,10 @@ void MainWindow::MakeViewMenu()
         return menu->addAction(text, m_view, slot, key);
     };
     add(tr("Zoom &in"), QKeySequence::ZoomIn, &DesignView::ZoomIn)
-        ->setShortcuts({QKeySequence(QKeySequence::ZoomIn), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+        ->setShortcuts({QKeySequence(QKeySequence::ZoomIn), Keys("Ctrl+=")});
     add(tr("Zoom &out"), QKeySequence::ZoomOut, &DesignView::ZoomOut);
-    add(tr("&Fit the wall"), Qt::CTRL | Qt::Key_0, &DesignView::Fit);
-    add(tr("&Actual size"), Qt::CTRL | Qt::Key_1, &DesignView::ActualSize);
+    add(tr("&Fit the wall"), Keys("Ctrl+0"), &DesignView::Fit);
+    add(tr("&Actual size"), Keys("Ctrl+1"), &DesignView::ActualSize);
     menu->addSeparator();
     for (const QDockWidget* dock : findChildren<QDockWidget*>())
         menu->addAction(dock->toggleViewAction());

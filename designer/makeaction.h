@@ -2,6 +2,11 @@
 
 #include <QAction>
 
+inline QKeySequence Keys(const char* keys) ///< as "Ctrl+T"
+{
+    return QKeySequence::fromString(QLatin1String(keys), QKeySequence::PortableText);
+}
+
 /// An action with a tip that names its key too.
 inline QAction* MakeAction(QObject* parent, const QString& text, const QString& tip,
                            const QKeySequence& key = {})

@@ -111,7 +111,7 @@ void SceneModel::RenewSelection()
     const CSender* sender = GetProjectData()->GetCurrentSender();
     for (size_t i = 0; i < m_ports.size(); ++i) {
         size_t place = 0;
-        if (m_ports[i].cabinets.empty())
+        if (!sender || m_ports[i].cabinets.empty())
             continue;
         for (const CTile* tile : sender->GetPort(static_cast<int>(i))->GetTileSet())
             m_ports[i].cabinets[place++].selected = tile->IsSelected(InterfaceDesign);
@@ -151,7 +151,7 @@ void SceneModel::ReadStates()
     m_currentPort = sender ? sender->GetRecentPortIndex() : 0;
     if (sender && !sender->GetCanvasSize().isEmpty())
         m_canvas = QRect(QPoint(), sender->GetCanvasSize());
-    for (size_t i = 0; i < m_ports.size(); ++i) {
+    for (size_t i = 0; sender && i < m_ports.size(); ++i) {
         const CPort& port = *sender->GetPort(static_cast<int>(i));
         m_ports[i].visible = port.IsVisible();
         m_ports[i].locked = port.IsFlagLock();
