@@ -247,7 +247,7 @@ void DocumentController::SetRotationOn(bool on)
 QRect DocumentController::BoundOf(const SAddTileInfo& block)
 {
     const auto end = [](int start, int count, int size, int most) {
-        return static_cast<int>(qMin<qint64>(start + qint64(count) * size, 2 * most));
+        return static_cast<int>(qMin(start + qint64(count) * size, 2 * qint64(most)));
     };
     return QRect(QPoint(block.left, block.top),
                  QPoint(end(block.left, block.columns, block.width, kMaxCanvasWidth) - 1,
