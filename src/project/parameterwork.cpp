@@ -284,16 +284,15 @@ bool MakeProjectFolder(QString* error)
     return true;
 }
 
-bool ReplaceDocument(const QByteArray& document, QString* error)
+bool ReplaceDocument(const std::function<bool(QIODevice&)>& write, QString* error)
 {
     QFile next(NextDocumentPath());
     const auto fail = [&next, error] {
         return Fail(error, CannotWrite(next.fileName(), next.errorString()));
     };
     next.remove(); // left by a save that was killed
-    bool done = (next.open(QIODevice::WriteOnly | QIODevice::NewOnly)
-                 && next.write(document) == document.size() && next.flush())
-                || fail();
+    bool done =
+        (next.open(QIODevice::WriteOnly | QIODevice::NewOnly) && write(next) && next.flush()) || fail();
     next.close();
     done = done && MakeProjectFolder(error) && (next.rename(DocumentPath()) || fail());
     if (!done)
@@ -325,9 +324,9 @@ bool CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirec
     return true;
 }
 
-bool Pack(const QString& archive, const QByteArray& document, QString* error)
+bool Pack(const QString& archive, QString* error)
 {
-    return PackFolder(ProjectFolder(), archive, error, kLimits, {kEntryFolder + kDocument, document});
+    return PackFolder(ProjectFolder(), archive, error, kLimits);
 }
 
 bool UnpackDocument(const QString& archive, QString* error)

@@ -6,7 +6,10 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 class CProductDirectorySet;
+class QIODevice;
 class ReadReport;
 class UniqueNames;
 
@@ -37,8 +40,8 @@ bool Store(const QString& source, const QString& name, const SMD5& type, QString
 /// left.
 bool MakeProjectFolder(QString* error);
 
-/// The same with a new document in the folder. When it cannot be written, nothing there has changed.
-bool ReplaceDocument(const QByteArray& document, QString* error);
+/// The same with a new document in the folder. When `write` fails, nothing there has changed.
+bool ReplaceDocument(const std::function<bool(QIODevice&)>& write, QString* error);
 
 /// Whether the path leads to one of the files that saving and loading remove.
 bool IsInTheWay(const QString& path);
@@ -48,8 +51,7 @@ bool IsInTheWay(const QString& path);
 bool CollectForSaving(const QList<SParameterFileInfo>& rows, const CProductDirectorySet* products,
                       ReadReport& report);
 
-/// Packs what lies in the project folder. `document`: what is in its document, so that it is not read back.
-bool Pack(const QString& archive, const QByteArray& document, QString* error);
+bool Pack(const QString& archive, QString* error); ///< what lies in the project folder
 
 /// Unpacks the document alone. Other entries than it and the parameter files are passed over: they would come
 /// into every project that is packed afterwards.

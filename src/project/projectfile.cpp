@@ -13,7 +13,6 @@
 #include "project/projectlookup.h"
 #include "project/projectreader.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -98,15 +97,9 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     DocumentOperation operation(History()); // ends when the lock has gone
     m_lastFileError.clear();
     const auto write = [&](XmlWriter& writer) { WriteDocument(writer, *this, m_state, progress); };
-    QByteArray document;
-    const auto replace = [&document](const std::function<bool(QIODevice&)>& fill, QString* why) {
-        QBuffer buffer(&document);
-        return buffer.open(QIODevice::WriteOnly) && fill(buffer)
-               && parameterwork::ReplaceDocument(document, why);
-    };
     QLockFile lock(parameterwork::LockPath());
     if (!IsWithinLimits(m_senders, m_state, &m_lastFileError) || !TakeWorkFolder(lock, path, &m_lastFileError)
-        || !WriteXml(replace, write, &m_lastFileError))
+        || !WriteXml(parameterwork::ReplaceDocument, write, &m_lastFileError))
         return false;
 
     ReadReport report;
@@ -114,7 +107,7 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     const bool complete =
         parameterwork::CollectForSaving(m_state.parameterFiles, GetProjectLookup()->Products(), report);
     QString error;
-    const bool saved = complete && parameterwork::Pack(path, document, &error);
+    const bool saved = complete && parameterwork::Pack(path, &error);
     m_lastFileError = report.Text();
     if (saved)
         operation.Changed(&SDocumentChange::saved);

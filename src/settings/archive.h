@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include <functional>
@@ -18,18 +17,11 @@ struct ArchiveLimits
     QString apart;
 };
 
-/// A file of the folder whose content is at hand, by the name of its entry. It is not read again.
-struct HeldEntry
-{
-    QString name;
-    QByteArray content;
-};
-
 /// Packs all that is below a folder, without links, into an archive that replaces `zipPath` as one step. The
 /// names of entries begin with the name of the folder. The same content gives the same bytes. On failure the
 /// old archive stays and `error` says why.
 bool PackFolder(const QString& folder, const QString& zipPath, QString* error = nullptr,
-                const ArchiveLimits& limits = {}, const HeldEntry& held = {});
+                const ArchiveLimits& limits = {});
 
 /// Unpacks an archive below a folder, in the order of the archive. Stops at the first entry that fails, and
 /// what was unpacked before stays; with `leftOut` it goes on and tells of such entries. `wanted` says by its

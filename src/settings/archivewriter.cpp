@@ -124,15 +124,7 @@ zip_int64_t OnOutput(void* state, void* data, zip_uint64_t length, zip_source_cm
     }
 }
 
-zip_source_t* SourceOf(zip_t* archive, const Entry& entry, const HeldEntry& held)
-{
-    if (entry.name == held.name)
-        return zip_source_buffer(archive, held.content.constData(),
-                                 static_cast<zip_uint64_t>(held.content.size()), 0);
-    return zip_source_file(archive, QFile::encodeName(entry.path).constData(), 0, -1);
-}
-
-bool AddEntry(zip_t* archive, const Entry& entry, const HeldEntry& held)
+bool AddEntry(zip_t* archive, const Entry& entry)
 {
     const ArchiveName name = EncodeArchiveName(entry.name);
     const zip_flags_t encoding = name.utf8 ? ZIP_FL_ENC_UTF_8 : ZIP_FL_ENC_GUESS;
@@ -140,7 +132,7 @@ bool AddEntry(zip_t* archive, const Entry& entry, const HeldEntry& held)
     if (entry.path.isEmpty()) {
         index = zip_dir_add(archive, name.bytes.constData(), encoding);
     } else {
-        zip_source_t* source = SourceOf(archive, entry, held);
+        zip_source_t* source = zip_source_file(archive, QFile::encodeName(entry.path).constData(), 0, -1);
         if (source)
             index = zip_file_add(archive, name.bytes.constData(), source, encoding);
         if (source && index < 0)
@@ -169,7 +161,7 @@ QString Reason(zip_t* archive, const QVector<Entry>& entries)
 }
 
 /// The owner of the device says why it refused.
-bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, const HeldEntry& held, QString* error)
+bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, QString* error)
 {
     if (entries.isEmpty())
         return device.write(kEmptyArchive, sizeof(kEmptyArchive)) == qint64(sizeof(kEmptyArchive));
@@ -183,7 +175,7 @@ bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, const HeldEn
     }
     bool done = true;
     for (const Entry& entry : entries)
-        done = done && AddEntry(archive, entry, held);
+        done = done && AddEntry(archive, entry);
     if (done && zip_close(archive) == 0)
         return true;
     Fail(error, Reason(archive, entries));
@@ -193,8 +185,7 @@ bool WriteArchive(QIODevice& device, const QVector<Entry>& entries, const HeldEn
 
 } // namespace
 
-bool PackFolder(const QString& folder, const QString& zipPath, QString* error, const ArchiveLimits& limits,
-                const HeldEntry& held)
+bool PackFolder(const QString& folder, const QString& zipPath, QString* error, const ArchiveLimits& limits)
 {
     const QString root = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
     if (folder.isEmpty() || zipPath.isEmpty() || !QFileInfo(root).isDir())
@@ -210,5 +201,5 @@ bool PackFolder(const QString& folder, const QString& zipPath, QString* error, c
     if (!walk.Walk(QFileInfo(root).canonicalFilePath(), QFileInfo(root).fileName(), error))
         return false;
     return ReplaceFile(
-        zipPath, [&](QIODevice& file) { return WriteArchive(file, walk.Entries(), held, error); }, error);
+        zipPath, [&](QIODevice& file) { return WriteArchive(file, walk.Entries(), error); }, error);
 }
