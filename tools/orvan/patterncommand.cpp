@@ -1,8 +1,6 @@
 #include "command.h"
 #include "console.h"
-#include "openproject.h"
 #include "outputfile.h"
-#include "samefile.h"
 #include "senderoption.h"
 
 #include <OrvanData/orvandata.h>
@@ -66,11 +64,7 @@ int Run(const Invocation& invocation)
         return StatusUsage;
     if (!ReadOrdinal(parser, "sender", &number))
         return StatusUsage;
-    if (IsSameFile(file, output))
-        return Fail(StatusUsage, OutputName(output), QStringLiteral("is the project itself"));
-    if (!OpenProject(file))
-        return StatusFile;
-    if (const int status = FindSender(file, number, &options.sender))
+    if (const int status = OpenSender(file, output, number, &options.sender))
         return status;
     const QSize size = OrvanTools::PatternSize(*GetProjectData(), options.sender);
     if (size.isEmpty())

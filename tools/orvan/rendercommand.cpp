@@ -2,10 +2,8 @@
 #include "command.h"
 #include "console.h"
 #include "drawingfile.h"
-#include "openproject.h"
 #include "outputfile.h"
 #include "progressline.h"
-#include "samefile.h"
 #include "senderoption.h"
 
 #include <OrvanData/orvandata.h>
@@ -108,11 +106,7 @@ int Run(const Invocation& invocation)
         return Fail(StatusUsage, QString(), QStringLiteral("--paper takes A4, A3 or letter"));
     if (const int status = ReadCapacity(parser, &options.capacity))
         return status;
-    if (IsSameFile(file, output))
-        return Fail(StatusUsage, OutputName(output), QStringLiteral("is the project itself"));
-    if (!OpenProject(file))
-        return StatusFile;
-    if (const int status = FindSender(file, number, &options.sender))
+    if (const int status = OpenSender(file, output, number, &options.sender))
         return status;
     if (port > GetProjectData()->GetSender(options.sender)->GetPortCount())
         return Fail(StatusUsage, file, QStringLiteral("has no port %1").arg(port));

@@ -2,6 +2,9 @@
 
 #include "command.h"
 #include "console.h"
+#include "openproject.h"
+#include "outputfile.h"
+#include "samefile.h"
 
 #include <OrvanData/orvandata.h>
 
@@ -22,8 +25,12 @@ bool ReadOrdinal(const QCommandLineParser& parser, const char* option, int* numb
     return false;
 }
 
-int FindSender(const QString& file, int number, int* sender)
+int OpenSender(const QString& file, const QString& output, int number, int* sender)
 {
+    if (IsSameFile(file, output))
+        return Fail(StatusUsage, OutputName(output), QStringLiteral("is the project itself"));
+    if (!OpenProject(file))
+        return StatusFile;
     const CProjectData& project = *GetProjectData();
     if (number > project.GetSenderCount())
         return Fail(StatusUsage, file, QStringLiteral("has no sender %1").arg(number));

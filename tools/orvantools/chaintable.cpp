@@ -1,10 +1,9 @@
 #include "orvantools/chaintable.h"
 
 #include "orvantools/wallpaintertools.h"
+#include "orvantools/words.h"
 
 #include <OrvanData/orvandata.h>
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -12,11 +11,6 @@
 namespace OrvanTools {
 
 namespace {
-
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("OrvanTools", text);
-}
 
 QString None()
 {
@@ -46,13 +40,15 @@ ChainTable::ChainTable(const CProjectData& project, const CTileSet& tiles, const
     if (!IsOneCardEach())
         m_cells.push_back(Cell::Cards);
     m_cells.insert(m_cells.end(), {Cell::X, Cell::Y});
-    for (const Cell cell : {Cell::Size, Cell::Angle, Cell::Product, Cell::Distance}) {
+    for (const Cell cell : {Cell::Size, Cell::Angle, Cell::Product}) {
         if (!IsCommon(cell))
             m_cells.push_back(cell);
         else if (!m_order.empty() && Text(m_order.front(), cell, -1) != None())
             m_common.append(Text(m_order.front(), cell, -1));
     }
-    if (m_port.chain.size() > 1 && IsCommon(Cell::Distance))
+    if (!IsDistanceCommon())
+        m_cells.push_back(Cell::Distance);
+    else if (m_port.chain.size() > 1)
         m_common.append(Tr("distance %1").arg(DistanceText(m_order[1], m_order[0])));
 }
 
@@ -74,18 +70,29 @@ bool ChainTable::IsCommon(Cell cell) const
         case Cell::Size:
             return tile.GetSize() == first.GetSize();
         case Cell::Angle:
-            return m_port.shapes[static_cast<size_t>(place)].angle
-                   == m_port.shapes[static_cast<size_t>(m_order.front())].angle;
+            return AngleOf(place) == AngleOf(m_order.front());
         default:
             return tile.GetType() == first.GetType();
         }
     };
-    if (cell != Cell::Distance)
-        return std::all_of(m_order.begin(), m_order.end(), isSame);
+    return std::all_of(m_order.begin(), m_order.end(), isSame);
+}
+
+/// From each cabinet to the next. The first one has none.
+bool ChainTable::IsDistanceCommon() const
+{
+    const QString first = m_order.size() > 1 ? DistanceText(m_order[1], m_order[0]) : QString();
     for (size_t i = 2; i < m_order.size(); ++i)
-        if (DistanceText(m_order[i], m_order[i - 1]) != DistanceText(m_order[1], m_order[0]))
+        if (DistanceText(m_order[i], m_order[i - 1]) != first)
             return false;
     return true;
+}
+
+double ChainTable::AngleOf(int place) const
+{
+    return m_port.shapes[static_cast<size_t>(place)].IsTurned()
+               ? m_tiles.GetTile(place)->GetRotateRecord().angle
+               : 0;
 }
 
 QString ChainTable::CommonText() const
@@ -136,7 +143,7 @@ QString ChainTable::Text(int place, Cell cell, int before) const
     case Cell::Size:
         return QString::number(tile.GetWidth()) + QStringLiteral(" × ") + QString::number(tile.GetHeight());
     case Cell::Angle: {
-        const double angle = tile.GetRotateRecord().rotated ? tile.GetRotateRecord().angle : 0;
+        const double angle = AngleOf(place);
         return angle == 0 ? None() : QString::number(angle, 'g', 6) + QStringLiteral("°");
     }
     case Cell::Product:

@@ -41,6 +41,8 @@ private:
     QString DistanceText(int place, int before) const;
     bool IsOneCardEach() const;
     bool IsCommon(Cell cell) const;
+    bool IsDistanceCommon() const;
+    double AngleOf(int place) const; ///< as the project states it; 0: not turned
 
     const CTileSet& m_tiles;
     const PicturePort& m_port;

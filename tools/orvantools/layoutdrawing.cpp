@@ -149,13 +149,6 @@ void PaintLayout(QPainter& painter, const CProjectData& project, const DrawingOp
         legend.Paint(painter, QPointF(inside.left(), bottom), omissions);
 }
 
-void PaintLayout(QPainter& painter, const CProjectData& project, int sender, double leastText)
-{
-    DrawingOptions options;
-    options.sender = sender;
-    PaintLayout(painter, project, options, QSizeF(kPageWidth, kPageHeight), leastText);
-}
-
 bool WriteLayout(QIODevice& device, DrawingFormat format, const CProjectData& project,
                  const DrawingOptions& options)
 {

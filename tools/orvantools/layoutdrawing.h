@@ -37,9 +37,6 @@ struct DrawingOptions
 void PaintLayout(QPainter& painter, const CProjectData& project, const DrawingOptions& options,
                  const QSizeF& page, double leastText);
 
-/// The same on a page of A3 without options.
-void PaintLayout(QPainter& painter, const CProjectData& project, int sender, double leastText);
-
 /// The same to a device that is open for writing. False when it does not take all.
 bool WriteLayout(QIODevice& device, DrawingFormat format, const CProjectData& project,
                  const DrawingOptions& options);

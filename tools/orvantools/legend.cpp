@@ -1,8 +1,8 @@
 #include "orvantools/legend.h"
 
 #include "orvantools/textline.h"
+#include "orvantools/words.h"
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -21,11 +21,6 @@ constexpr double kSmall = 0.85; ///< headings and the marks
 
 constexpr int kFewRows = 6;       ///< of one table, before a second one begins beside it
 constexpr double kMostForm = 0.3; ///< of the width
-
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("OrvanTools", text);
-}
 
 } // namespace
 

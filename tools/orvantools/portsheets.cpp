@@ -4,10 +4,10 @@
 #include "orvantools/sheettable.h"
 #include "orvantools/textline.h"
 #include "orvantools/wallpainter.h"
+#include "orvantools/words.h"
 
 #include <OrvanData/orvandata.h>
 
-#include <QCoreApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -20,11 +20,6 @@ namespace {
 constexpr double kLeastKey = 8;       ///< of a port on the key plan
 constexpr double kLeastOwnKey = 14;   ///< the same of the page's own
 constexpr double kLeastDrawing = 0.5; ///< of a page that holds the chain's table too
-
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("OrvanTools", text);
-}
 
 QString PortText(const PicturePort& port)
 {
@@ -196,9 +191,10 @@ SheetPage::Painting PortSheets::KeyPlan(const PicturePort& port, const PanelPage
                          + QMarginsF(beyond.width(), beyond.height(), beyond.width(), beyond.height()));
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(Qt::black, 3));
+        if (isWhole)
+            return;
         for (const Panel& panel : panels)
-            if (!isWhole)
-                painter.drawRect(map(panel.part.bound) + QMarginsF(4, 4, 4, 4));
+            painter.drawRect(map(panel.part.bound) + QMarginsF(4, 4, 4, 4));
     };
 }
 

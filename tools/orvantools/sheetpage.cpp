@@ -1,8 +1,8 @@
 #include "orvantools/sheetpage.h"
 
 #include "orvantools/textline.h"
+#include "orvantools/words.h"
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -80,17 +80,6 @@ void PaintSheetHeader(QPainter& painter, const SheetPage& page, const QSizeF& si
     line = QRectF(line.bottomLeft(), QSizeF(header.width(), kSheetLine));
     painter.setFont(FontOf(painter, kSheetText));
     DrawLine(painter, line, page.figures);
-}
-
-QString Joined(QStringList parts)
-{
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral("  ·  "));
-}
-
-QString Counted(qint64 number, const char* one, const char* many)
-{
-    return QCoreApplication::translate("OrvanTools", number == 1 ? one : many).arg(number);
 }
 
 } // namespace OrvanTools

@@ -5,7 +5,6 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
-#include <QStringList>
 
 class QPainter;
 
@@ -42,8 +41,5 @@ struct SheetAside
 };
 
 void PaintSheetHeader(QPainter& painter, const SheetPage& page, const QSizeF& size, const SheetAside& aside);
-
-QString Joined(QStringList parts);                                 ///< in one line, without the empty ones
-QString Counted(qint64 number, const char* one, const char* many); ///< "1 cabinet", "2 cabinets", translated
 
 } // namespace OrvanTools

@@ -7,10 +7,9 @@
 #include "orvantools/sheettable.h"
 #include "orvantools/textline.h"
 #include "orvantools/wallpainter.h"
+#include "orvantools/words.h"
 
 #include <OrvanData/orvandata.h>
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <iterator>
@@ -22,11 +21,6 @@ namespace OrvanTools {
 namespace {
 
 constexpr double kNoteWidth = 540; ///< of the last column but one of the contents
-
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("OrvanTools", text);
-}
 
 /// Says it of a sender that shows another one's wall.
 QString OverviewText(const WallPicture& picture)

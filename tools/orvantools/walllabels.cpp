@@ -3,8 +3,8 @@
 #include "orvantools/cabinettexts.h"
 #include "orvantools/chainturns.h"
 #include "orvantools/wallpaintertools.h"
+#include "orvantools/words.h"
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPainter>
@@ -272,9 +272,7 @@ bool WallLabels::IsPortNumberPainted(const WallPart& part)
 {
     const PicturePort& port = *part.port;
     // On cabinets that are drawn each, a number alone would be taken for that of a cabinet.
-    const QString text = part.isSmall
-                             ? FromOne(port.index)
-                             : QCoreApplication::translate("OrvanTools", "Port %1").arg(port.index + 1);
+    const QString text = part.isSmall ? FromOne(port.index) : Tr("Port %1").arg(port.index + 1);
     const QSizeF size = part.bound.size() * m_view.GetScale();
     const double height = std::min({kMostPortNumber * m_view.GetGrowth(), size.height() * 0.5,
                                     size.width() * 0.45 / (text.size() * kDigitWidth)});
@@ -416,7 +414,7 @@ void WallLabels::PaintBackups(const WallPart& part)
     const PicturePort& port = *part.port;
     QStringList texts = port.backups;
     if (!texts.isEmpty())
-        texts.first().prepend(QCoreApplication::translate("OrvanTools", "backup: "));
+        texts.first().prepend(Tr("backup: "));
     if (!port.backupOf.isEmpty())
         texts.append(port.backupOf);
     if (port.chain.empty() || texts.isEmpty())

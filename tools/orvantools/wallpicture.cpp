@@ -2,10 +2,10 @@
 
 #include "orvantools/backupmap.h"
 #include "orvantools/printable.h"
+#include "orvantools/words.h"
 
 #include <OrvanData/orvandata.h>
 
-#include <QCoreApplication>
 #include <QHostAddress>
 
 #include <algorithm>
@@ -15,16 +15,6 @@ namespace OrvanTools {
 namespace {
 
 constexpr int kLongestName = 24; ///< of a sender, in a note about another one's port
-
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("OrvanTools", text);
-}
-
-QString Joined(const QStringList& parts)
-{
-    return parts.join(QStringLiteral("  ·  "));
-}
 
 QString SizeText(const QSize& size)
 {
@@ -180,9 +170,9 @@ QString Figures(const WallPicture& picture)
         parts.append(Tr("no cabinets"));
     else
         parts.append({Tr("wall ") + SizeText(picture.bound.size().toSize()),
-                      Tr(cabinets == 1 ? "%1 cabinet" : "%1 cabinets").arg(cabinets),
-                      Tr(receivers == 1 ? "%1 receiver" : "%1 receivers").arg(receivers),
-                      Tr(pixels == 1 ? "%1 pixel" : "%1 pixels").arg(pixels)});
+                      Counted(cabinets, "%1 cabinet", "%1 cabinets"),
+                      Counted(receivers, "%1 receiver", "%1 receivers"),
+                      Counted(pixels, "%1 pixel", "%1 pixels")});
     return Joined(parts);
 }
 
