@@ -29,13 +29,10 @@ std::vector<int> OrderOf(const PicturePort& port)
 
 } // namespace
 
-ChainTable::ChainTable(const CProjectData& project, const CTileSet& tiles, const PicturePort& port,
+ChainTable::ChainTable(const QHash<SMD5, QString>& products, const CTileSet& tiles, const PicturePort& port,
                        bool isRear)
-    : m_tiles(tiles), m_port(port), m_isRear(isRear), m_order(OrderOf(port))
+    : m_products(products), m_tiles(tiles), m_port(port), m_isRear(isRear), m_order(OrderOf(port))
 {
-    const QList<SParameterFileInfo> files = project.GetParameterFiles();
-    for (const SParameterFileInfo& file : files)
-        m_products.insert(file.type.ToString(), file.name);
     m_cells = {Cell::Number, Cell::Cabinet};
     if (!IsOneCardEach())
         m_cells.push_back(Cell::Cards);
@@ -157,7 +154,7 @@ QString ChainTable::Text(int place, Cell cell, int before) const
 QString ChainTable::ProductText(const CTile& tile) const
 {
     const QString type = tile.GetType().ToString();
-    return type.isEmpty() ? None() : m_products.value(type, type);
+    return type.isEmpty() ? None() : m_products.value(tile.GetType(), type);
 }
 
 QString ChainTable::DistanceText(int place, int before) const

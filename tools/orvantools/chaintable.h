@@ -3,11 +3,9 @@
 #include "orvantools/sheettable.h"
 #include "orvantools/wallpicture.h"
 
-#include <QHash>
+#include <OrvanData/orvandata.h>
 
-class CProjectData;
-class CTile;
-class CTileSet;
+#include <QHash>
 
 namespace OrvanTools {
 
@@ -16,8 +14,9 @@ namespace OrvanTools {
 class ChainTable
 {
 public:
-    /// [ref] all. The picture is that of the tiles, in their order, mirrored for the rear.
-    ChainTable(const CProjectData& project, const CTileSet& tiles, const PicturePort& port, bool isRear);
+    /// [ref] the tiles and the port. The picture is that of the tiles, in their order, mirrored for the rear.
+    ChainTable(const QHash<SMD5, QString>& products, const CTileSet& tiles, const PicturePort& port,
+               bool isRear);
 
     SheetTable Make() const;    ///< refers to this
     QString CommonText() const; ///< "All cabinets: 128 × 128, …"; empty when they have nothing in common
@@ -44,10 +43,10 @@ private:
     bool IsDistanceCommon() const;
     double AngleOf(int place) const; ///< as the project states it; 0: not turned
 
+    QHash<SMD5, QString> m_products; ///< names by type
     const CTileSet& m_tiles;
     const PicturePort& m_port;
     bool m_isRear;
-    QHash<QString, QString> m_products; ///< names by type
     std::vector<int> m_order;
     std::vector<Cell> m_cells; ///< of a row
     QStringList m_common;

@@ -40,13 +40,13 @@ WallPicture PictureOf(const WallPicture& wall, PicturePort port, const QRectF& b
 } // namespace
 
 PortSheets::PortSheets(const CProjectData& project, const SheetWall& wall, Paper paper)
-    : m_project(project), m_wall(wall), m_paper(paper)
+    : m_project(project), m_wall(wall), m_paper(paper), m_products(ProductNames(project))
 {}
 
 std::vector<SheetPage> PortSheets::Make(const PicturePort& port) const
 {
     const CTileSet& tiles = m_project.GetSender(m_wall.sender)->GetPort(port.index)->GetTileSet();
-    Chain chain{std::make_shared<ChainTable>(m_project, tiles, port, m_wall.picture.isRear), {}};
+    Chain chain{std::make_shared<ChainTable>(m_products, tiles, port, m_wall.picture.isRear), {}};
     chain.table = std::make_shared<SheetTable>(chain.source->Make());
     std::vector<SheetPage> pages;
     if (AddShort(pages, port, chain))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orvantools/portparts.h"
+#include "orvantools/productnames.h"
 #include "orvantools/sheetpage.h"
 
 #include <memory>
@@ -52,6 +53,7 @@ private:
     const CProjectData& m_project;
     const SheetWall& m_wall;
     Paper m_paper;
+    QHash<SMD5, QString> m_products; ///< names by type
 };
 
 } // namespace OrvanTools

@@ -1,12 +1,12 @@
 #include "orvantools/projectlist.h"
 
 #include "orvantools/cabinetchain.h"
+#include "orvantools/productnames.h"
 #include "orvantools/rowwriter.h"
 #include "orvantools/tileshape.h"
 
 #include <OrvanData/orvandata.h>
 
-#include <QHash>
 #include <QLineF>
 
 #include <functional>
@@ -35,16 +35,6 @@ bool ListPorts(RowWriter& rows, const CProjectData& project, const ListPort& lis
         }
     }
     return rows.Finish();
-}
-
-QHash<SMD5, QString> ProductNames(const CProjectData& project)
-{
-    QHash<SMD5, QString> names;
-    for (const SParameterFileInfo& file : project.GetParameterFiles()) {
-        if (!file.type.IsNull() && !names.contains(file.type))
-            names.insert(file.type, file.name);
-    }
-    return names;
 }
 
 void AddNumbers(RowWriter& rows, const CTile& tile)

@@ -1,6 +1,7 @@
 #include "orvantools/wallpicture.h"
 
 #include "orvantools/backupmap.h"
+#include "orvantools/cabinetchain.h"
 #include "orvantools/printable.h"
 #include "orvantools/words.h"
 
@@ -39,19 +40,6 @@ PictureCabinet MakeCabinet(CTile& tile)
 {
     return {tile.HasSetConnectIndex() ? tile.GetConnectionIndex() : -1, tile.GetBeginRcvCnnt(),
             ReceiverParts(tile)};
-}
-
-std::vector<int> MakeChain(const std::vector<PictureCabinet>& cabinets)
-{
-    std::vector<int> chain;
-    for (size_t i = 0; i < cabinets.size(); ++i) {
-        if (cabinets[i].number >= 0)
-            chain.push_back(static_cast<int>(i));
-    }
-    std::stable_sort(chain.begin(), chain.end(), [&cabinets](int a, int b) {
-        return cabinets[static_cast<size_t>(a)].number < cabinets[static_cast<size_t>(b)].number;
-    });
-    return chain;
 }
 
 QString PortName(const CProjectData& project, const PortPlace& place, int fromSender)
@@ -101,7 +89,8 @@ void AddCabinets(PicturePort& picture, const CPort& port)
         picture.pixels += PixelsOf(tile);
     }
     picture.receivers = tiles.GetRcvCount();
-    picture.chain = MakeChain(picture.cabinets);
+    for (const ChainLink& link : ChainOf(tiles))
+        picture.chain.push_back(link.cabinet);
     picture.groups = GroupOutlines(tiles, picture.shapes).Make(port.GetTileGroupSet());
 }
 
