@@ -31,9 +31,9 @@ std::vector<int> OrderOf(const PicturePort& port)
 
 ChainTable::ChainTable(const QHash<SMD5, QString>& products, const CTileSet& tiles, const PicturePort& port,
                        bool isRear)
-    : m_products(products), m_tiles(tiles), m_port(port), m_isRear(isRear), m_order(OrderOf(port))
+    : m_products(products), m_tiles(tiles), m_port(port), m_isRear(isRear),
+      m_order(OrderOf(port)), m_cells{Cell::Number, Cell::Cabinet}
 {
-    m_cells = {Cell::Number, Cell::Cabinet};
     if (!IsOneCardEach())
         m_cells.push_back(Cell::Cards);
     m_cells.insert(m_cells.end(), {Cell::X, Cell::Y});
