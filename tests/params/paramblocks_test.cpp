@@ -169,6 +169,16 @@ TEST_F(ParamBlocksTest, SplitLinesBeyondTheRecordAreNeitherWrittenNorRead)
     }
 }
 
+TEST_F(ParamBlocksTest, AreasOfPortsAreTakenAsFarAsACanvasMayLie)
+{
+    Parse("<OutNetPortParamXmlRoot><OutNetPortAreaCount>1</OutNetPortAreaCount><OutNetPortAreaBase0>"
+          "<OutNetPortAreaX>-2000000000</OutNetPortAreaX><OutNetPortAreaY>1048575</OutNetPortAreaY>"
+          "<OutNetPortAreaWidth>2000000000</OutNetPortAreaWidth></OutNetPortAreaBase0></"
+          "OutNetPortParamXmlRoot>");
+    ASSERT_EQ(Project::LoadVideoOutParam(document, &root, &sender), kDone);
+    EXPECT_EQ(sender.GetPort(0)->GetPortArea(), QRect(-1048576, 1048575, 1048576, 0));
+}
+
 TEST_F(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
 {
     SSupportOptionsInfo support;

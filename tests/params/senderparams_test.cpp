@@ -1,5 +1,7 @@
 #include "records/senderparams.h"
 
+#include "support/text.h"
+
 #include <gtest/gtest.h>
 
 TEST(SenderParamsTest, DeviceClass4KeepsPictureValuesOfItsOwn)
@@ -31,6 +33,10 @@ TEST(SenderParamsTest, WholeSenderEnableIsApartFromTheEntryOfItsInput)
     cube.coefs[41] = 7;
     params.SetColorCubeParam(cube);
     EXPECT_EQ(params.GetColorCubeParams(), QList<SInputVideoColorCubeParam>{cube});
+
+    params.Set3DLUTFileName("a.cube"_s, 2, 1);
+    EXPECT_EQ(params.Get3DLUTData(2, 1).fileName, "a.cube"_s);
+    EXPECT_EQ(params.Get3DLUTData(1, 2).fileName, QString());
 }
 
 TEST(SenderParamsTest, ArgumentsOutOfRangeAndNullTablesChangeNothing)

@@ -1,3 +1,4 @@
+#include "common/fileproblem.h"
 #include "common/xmldom.h"
 #include "frame/runtimedata.h"
 #include "layout/projectundoredo.h"
@@ -225,6 +226,13 @@ TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
         EXPECT_TRUE(Save(path));
         EXPECT_NE(Error(), QString());
     }
+
+    const QString lockFolder = QFileInfo(parameterwork::LockPath()).path();
+    ASSERT_TRUE(QDir().rename(lockFolder, folder.Path("aside"_s)));
+    WriteFile(lockFolder, "x");
+    EXPECT_FALSE(Save(folder.Path("a.prj"_s)));
+    EXPECT_EQ(Error(), WhyNotWritable(lockFolder));
+    ASSERT_TRUE(QFile::remove(lockFolder) && QDir().rename(folder.Path("aside"_s), lockFolder));
 
     const QByteArray archive = ReadFile(SamplePath("small-wall.prj"));
     const QString next = CConstantData::GetProjectParamFileTemp() + "new.prj.part"_s;

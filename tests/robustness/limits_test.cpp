@@ -102,6 +102,11 @@ TEST_F(LimitsTest, FileThatHoldsTooMuchIsRefusedWhole)
     EXPECT_FALSE(project.ImportSender(senderFile, sender->GetId(), false, true));
     EXPECT_FALSE(project.ImportPort(portFile));
     EXPECT_TRUE(Error().contains(QString::number(kMaxTilesOfPort)));
+    QDomDocument document;
+    ASSERT_TRUE(ParseXmlDom("<root>" + ReadFile(portFile) + "</root>", document, nullptr));
+    QDomElement root = document.documentElement();
+    EXPECT_FALSE(
+        project.ReadPort(document, "PortLayout"_s, sender->GetPort(0), &root, sender->GetId(), 0, false));
     ASSERT_EQ(project.GetSender(0), sender);
     EXPECT_EQ(sender->GetSenderName(), "a"_s);
     EXPECT_EQ(TilesOf(*sender->GetPort(0)).GetCount(), 2);
