@@ -23,6 +23,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
 
@@ -48,6 +49,11 @@ MainWindow::MainWindow(QWidget* parent)
     dock->setObjectName(QStringLiteral("project"));
     dock->setWidget(m_tree);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
+    auto* properties = new QDockWidget(tr("Properties"), this);
+    properties->setObjectName(QStringLiteral("properties"));
+    m_properties = new QTabWidget(properties);
+    properties->setWidget(m_properties);
+    addDockWidget(Qt::RightDockWidgetArea, properties);
     m_faults = new FaultsDock(m_document, this);
     addDockWidget(Qt::BottomDockWidgetArea, m_faults);
     setAcceptDrops(true);

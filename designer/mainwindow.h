@@ -11,6 +11,7 @@ class FaultsDock;
 class FileActions;
 class ProjectTree;
 class QLabel;
+class QTabWidget;
 class QToolBar;
 
 /// The window: menus, the view of the wall, and what is told about it.
@@ -56,6 +57,7 @@ private:
     QToolBar* m_bar = nullptr;
     ProjectTree* m_tree = nullptr;
     FaultsDock* m_faults = nullptr;
+    QTabWidget* m_properties = nullptr; ///< a page for each kind of thing that has properties
     QLabel* m_hint = nullptr;
     QLabel* m_state = nullptr;
     QLabel* m_counts = nullptr;
