@@ -183,6 +183,11 @@ TEST_F(TileSetTest, TurnedTilesAreHitByTheirCorners)
     m_set.GetTileSetAtRect(out, m_tiles[2]->GetBound(), true);
     EXPECT_EQ(out.GetTiles(), Tiles{m_tiles[2]}) << "a tile lies in its own bound";
     EXPECT_EQ(m_set.GetBound(), QRect(-20, -20, 320, 141));
+    // The diamond's corners beside, above and below everything else, to the pixel that they lie in.
+    for (const QRect& reached : {QRect(-21, 45, 5, 10), QRect(45, -21, 10, 5), QRect(45, 116, 10, 5)})
+        EXPECT_TRUE(m_set.GetTileSetAtRect(out, reached, false)) << reached.x() << ' ' << reached.y();
+    for (const QRect& missed : {QRect(-20, 45, 5, 10), QRect(45, -20, 10, 5), QRect(45, 115, 10, 5)})
+        EXPECT_FALSE(m_set.GetTileSetAtRect(out, missed, false)) << missed.x() << ' ' << missed.y();
 }
 
 TEST_F(TileSetTest, OverlapIsStrictOnOneAxis)
