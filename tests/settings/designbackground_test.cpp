@@ -120,6 +120,10 @@ TEST_F(DesignBackgroundTest, StartIsClampedAndChangesAreNotified)
     EXPECT_EQ(notified, 2);
     background.SetViewScaling(3.0f, QPoint(1, 1));
     EXPECT_EQ(notified, 2);
+    bool modified = true;
+    background.ResetViewScaling();
+    EXPECT_EQ(background.GetViewScaling(&modified), 1.0f);
+    EXPECT_TRUE(background.GetViewStartPt().isNull() && !modified);
 }
 
 TEST_F(DesignBackgroundTest, AdaptiveScalingIsTheLargestPercentageThatFits)
