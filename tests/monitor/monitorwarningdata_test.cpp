@@ -19,6 +19,12 @@ TEST(MonitorWarningDataTest, WarningBelowShowsAboveButNotBeside)
     EXPECT_FALSE(data.HasWarning(3, 1)); // a fibre is not a port
     data.SetLoopbackError(4, 0, {1, 3, 4});
     EXPECT_TRUE(data.HasWarning(4, 0));
+
+    CMonitorWarningData fiber;
+    fiber.SetFiberWarning(3, 1, FiberWarningNoLight);
+    CMonitorWarningData loopback;
+    loopback.SetLoopbackError(4, 0, {1, 3, 4});
+    EXPECT_TRUE(fiber != CMonitorWarningData() && loopback != CMonitorWarningData() && fiber != loopback);
 }
 
 TEST(MonitorWarningDataTest, WhatIsTakenBackLeavesNoTrace)

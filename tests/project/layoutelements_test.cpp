@@ -80,6 +80,19 @@ TEST_F(LayoutElementsTest, EachTypeTakesTheFlagsOfItsOwnProduct)
         EXPECT_EQ(tiles.GetTile(i)->IsMultiRcvTile(), i == 0 || i == 3) << i;
 }
 
+TEST_F(LayoutElementsTest, NodesOfOnesOwnAreWrittenAsAFileCanHoldThem)
+{
+    QDomElement root = Parsed("<root/>");
+    const QString text = "<屏幕> \"1\""_s;
+    CProjectData::InsertNodeAttribute(&root, "Name"_s, text + QChar(0xFFFF));
+    CProjectData::InsertChildNode(root.ownerDocument(), &root, "Text"_s, text + QChar(1));
+    EXPECT_EQ(root.attribute("Name"_s), text);
+    QDomNode child;
+    ASSERT_TRUE(CProjectData::GetSubNode(&root, "Text"_s, child));
+    EXPECT_EQ(child.toElement().text(), text);
+    EXPECT_FALSE(CProjectData::GetSubNode(&root, "text"_s, child));
+}
+
 TEST_F(LayoutElementsTest, CountBelowOneKeepsWhatIsHeld)
 {
     tiles.AddTile(new CTile);
