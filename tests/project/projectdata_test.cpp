@@ -11,6 +11,8 @@
 
 #include <QFile>
 
+#include <functional>
+
 namespace {
 
 struct ProjectDataTest : ProjectTest
@@ -106,6 +108,24 @@ TEST_F(ProjectDataTest, RemovalKeepsTheCurrentSenderAndReleasesTheHistory)
     project.ReadSender(QDomDocument(), &none, version, nullptr);
     EXPECT_EQ(history->GetSenderUndoRedoFromID(last), nullptr);
     EXPECT_TRUE(history->IsModidfied());
+}
+
+TEST_F(ProjectDataTest, SenderGroupsMarkTheProjectModified)
+{
+    CProjectUndoRedo* history = GetRuntimeData()->GetProjectUndoRedo();
+    QUuid group;
+    const std::function<void()> changes[] = {[&] { group = project.AddGroupInfo("a"_s); },
+                                             [&] { project.SetGroupName(group, "b"_s); },
+                                             [&] { project.DeleteSenderGroup(group); }};
+    for (const auto& change : changes) {
+        history->Init();
+        change();
+        EXPECT_TRUE(history->IsModidfied()) << (&change - changes);
+    }
+    history->Init();
+    project.SetGroupName(group, "c"_s);
+    project.DeleteSenderGroup(group);
+    EXPECT_FALSE(history->IsModidfied()) << "there is no such group";
 }
 
 TEST_F(ProjectDataTest, BackupsAreFoundByIdAndByAddressButNotWithinASender)
