@@ -2,7 +2,9 @@
 
 #include "command.h"
 #include "console.h"
-#include "outputdevice.h"
+#include "privatefolder.h"
+
+#include <orvantools/outputdevice.h>
 
 #include <QDir>
 #include <QFile>
@@ -38,7 +40,7 @@ QString Spool(QFile& file)
 {
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return file.errorString();
-    OutputDevice device(file);
+    OrvanTools::OutputDevice device(file, IsSignalWaiting);
     QByteArray block(kMebibyte, Qt::Uninitialized);
     int most = 0;
     for (int blocks = 0;; ++blocks) {

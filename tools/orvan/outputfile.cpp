@@ -3,14 +3,15 @@
 #include "command.h"
 #include "console.h"
 #include "inputfile.h"
-#include "outputdevice.h"
 #include "privatefolder.h"
+
+#include <orvantools/outputdevice.h>
+#include <orvantools/wholefile.h>
 
 #include <QBuffer>
 #include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <unistd.h>
 
@@ -58,7 +59,7 @@ int WriteToStandardOutput(const QString& file, const Write& write)
     QFile output;
     if (!output.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered))
         return FailOutput(file, output.errorString());
-    OutputDevice device(output);
+    OrvanTools::OutputDevice device(output, IsSignalWaiting);
     return write(device) && device.Finish() ? StatusDone : FailOutput(file, device.Why());
 }
 
@@ -100,15 +101,9 @@ int WriteOutput(const QString& file, const Write& write)
 {
     if (IsStream(file))
         return WriteToStandardOutput(file, write);
-    const QFileInfo there(file);
-    if (there.exists() && !there.isFile() && !there.isDir())
-        return FailOutput(file, QStringLiteral("is no regular file"));
     const SignalsHeld held; // what is written beside the file is gone or renamed afterwards
-    QSaveFile output(file);
-    if (!output.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return FailOutput(file, output.errorString());
-    OutputDevice device(output);
-    if (!write(device) || !device.Finish())
-        return IsSignalWaiting() ? StatusFile : FailOutput(file, device.Why());
-    return output.commit() ? StatusDone : FailOutput(file, output.errorString());
+    QString why;
+    if (OrvanTools::WriteWholeFile(file, write, &why, IsSignalWaiting))
+        return StatusDone;
+    return IsSignalWaiting() ? StatusFile : FailOutput(file, why);
 }

@@ -1,8 +1,8 @@
-#include "outputdevice.h"
-
-#include "privatefolder.h"
+#include "orvantools/outputdevice.h"
 
 #include <QFileDevice>
+
+namespace OrvanTools {
 
 namespace {
 
@@ -10,7 +10,7 @@ constexpr int kPiece = 1 << 18;
 
 } // namespace
 
-OutputDevice::OutputDevice(QFileDevice& file) : m_file(file)
+OutputDevice::OutputDevice(QFileDevice& file, Stop isStopped) : m_file(file), m_isStopped(std::move(isStopped))
 {
     m_waiting.reserve(2 * kPiece);
     open(QIODevice::WriteOnly);
@@ -43,8 +43,9 @@ bool OutputDevice::Drain()
 {
     qint64 done = 0;
     while (!m_failed && done < m_waiting.size()) {
+        const bool stopped = m_isStopped && m_isStopped();
         const qint64 taken =
-            IsSignalWaiting() ? -1 : m_file.write(m_waiting.constData() + done, m_waiting.size() - done);
+            stopped ? -1 : m_file.write(m_waiting.constData() + done, m_waiting.size() - done);
         m_failed = taken <= 0;
         done += taken;
     }
@@ -53,3 +54,5 @@ bool OutputDevice::Drain()
     m_waiting.resize(0);
     return !m_failed;
 }
+
+} // namespace OrvanTools
