@@ -13,6 +13,7 @@
 #include "settings/translationfile.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
@@ -98,9 +99,14 @@ void CConfigData::SetLanguage(ELanguageType language)
                          + GetTranslationFileName(GetLanguageType());
 }
 
+/// Whoever has chosen neither reads English rather than the Chinese of the sources.
 QString CConfigData::GetTranslationPath() const
 {
-    return FindTranslation(m_languageFilePath);
+    const QString own = FindTranslation(m_languageFilePath);
+    if (!own.isEmpty() || m_languageFilePath.isEmpty() || GetLanguageType() == LanguageChinese)
+        return own;
+    const QFileInfo described(m_languageFilePath);
+    return FindTranslation(described.path() + QLatin1Char('/') + GetTranslationFileName(LanguageEnglish));
 }
 
 void CConfigData::SetAttractionDis(double distance)

@@ -45,7 +45,8 @@ public:
     void SetLanguage(ELanguageType language);
     QString GetLanguageFilePath() const { return m_languageFilePath; } ///< empty before SetLanguage
     /// The file for a QTranslator: GetLanguageFilePath when it is there, else what lies in the folder that
-    /// the build has set or beside the library. Empty when there is none; the messages are Chinese then.
+    /// the build has set or beside the library; of a language without one that of English. Empty for Chinese,
+    /// the language of the sources, and when there is none.
     QString GetTranslationPath() const;
 
     // canvas and design
