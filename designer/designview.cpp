@@ -158,6 +158,13 @@ void DesignView::ActualSize()
         ViewChanged();
 }
 
+void DesignView::ShowAs(double scaling, const QPoint& start)
+{
+    m_map.ZoomTo(scaling, Middle());
+    m_map.ScrollTo(start);
+    ViewChanged();
+}
+
 /// Only now the size is known.
 void DesignView::showEvent(QShowEvent* event)
 {

@@ -32,8 +32,9 @@ public:
     void ZoomOut();
     void Fit(); ///< the canvas, and what lies beyond it
     void ActualSize();
-    void Redraw();   ///< what lies over the wall
-    void ShowTool(); ///< its cursor and hint, which change while it works
+    void ShowAs(double scaling, const QPoint& start); ///< as another view showed it
+    void Redraw();                                    ///< what lies over the wall
+    void ShowTool();                                  ///< its cursor and hint, which change while it works
 
 signals:
     void Zoomed(double scaling);

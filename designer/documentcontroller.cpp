@@ -42,6 +42,7 @@ DocumentController::DocumentController(QObject* parent) : QObject(parent)
 {
     GetRuntimeData()->SetCurInterfaceDlg(InterfaceDesign);
     History().SetChangeHandler([this](const SDocumentChange& change) { Note(change); });
+    NewProject();
 }
 
 DocumentController::~DocumentController()
@@ -56,6 +57,16 @@ void DocumentController::Note(const SDocumentChange& change)
     else if (change.senders || change.properties || (!change.ports.isEmpty() && !change.steps))
         m_unsaved = true;
     emit Changed(change);
+}
+
+void DocumentController::TellAll()
+{
+    SDocumentChange all;
+    all.documentReplaced = true;
+    emit Changed(all);
+    emit SenderChanged();
+    emit FileChanged();
+    emit SelectionChanged();
 }
 
 CSender* DocumentController::GetSender() const

@@ -9,8 +9,17 @@
 
 class QWidget;
 
-/// The open document as the windows see it. Nothing else in the program writes to the library: each edit is
-/// one call here, and one step of the history. Lives between LedNimbraData_Init and LedNimbraData_Release.
+struct LayoutImport
+{
+    QString path;
+    bool ofPort = false;         ///< else of a sender
+    bool keepLockedPorts = true; ///< of a sender
+    bool attributes = false;     ///< how the sender is named and shown, too
+};
+
+/// The open document as the windows see it, at first a new one. Nothing else in the program writes to the
+/// library: each edit is one call here, and one step of the history. Lives between LedNimbraData_Init and
+/// LedNimbraData_Release.
 class DocumentController : public QObject
 {
     Q_OBJECT
@@ -29,11 +38,24 @@ public:
     /// after it.
     bool IsSaveNeeded() const;
 
+    void TellAll(); ///< as if everything were new, for a window that was made since
+
     // files
     void NewProject(); ///< with one sender
     DocumentFile::Outcome Open(const QString& path, bool readOnly, CCustomProgressbar* progress,
                                QString* text);
     DocumentFile::Outcome Save(const QString& path, CCustomProgressbar* progress, QString* text);
+
+    // layouts from files, into the current sender or its current port
+    enum class ImportOutcome
+    {
+        Done,            ///< as one step, unless the history had to end
+        HistoryWouldEnd, ///< no step can hold this; nothing was done
+        Failed,          ///< nothing was done
+    };
+    bool MayImport(bool ofPort); ///< false, and told why, for a port that is hidden, locked or a backup
+    /// `text` receives what to tell the user, unless all went well or MayImport told it.
+    ImportOutcome ImportLayout(const LayoutImport& wanted, bool historyMayEnd, QString* text);
 
     // selection: of the current sender's cabinets, no edit
     enum class Choice

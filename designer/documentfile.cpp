@@ -4,10 +4,17 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 DocumentFile::DocumentFile() = default;
 
 DocumentFile::~DocumentFile() = default;
+
+QString DocumentFile::GetFolder() const
+{
+    return m_path.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                            : QFileInfo(m_path).path();
+}
 
 bool DocumentFile::IsHere(const QString& path) const
 {

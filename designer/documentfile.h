@@ -29,6 +29,7 @@ public:
     void Forget(); ///< the document has no file from now on
 
     QString GetPath() const { return m_path; } ///< empty: none yet
+    QString GetFolder() const;                 ///< where the user looks for files
     bool IsReadOnly() const { return m_readOnly; }
     bool IsInPart() const { return m_inPart; } ///< saving to this path would lose what was not read
 

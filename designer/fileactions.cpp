@@ -10,19 +10,11 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
-#include <QStandardPaths>
 
 namespace {
 
 constexpr int kMostRecent = 9;
 const QString kSuffix = QStringLiteral(".prj");
-
-/// Where the user looks for projects.
-QString Folder(const DocumentFile& file)
-{
-    return file.GetPath().isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                                    : QFileInfo(file.GetPath()).path();
-}
 
 } // namespace
 
@@ -90,9 +82,9 @@ void FileActions::New()
 
 void FileActions::Choose()
 {
-    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Open a project"),
-                                                      QFileInfo(m_document.GetFile().GetPath()).path(),
-                                                      tr("Projects (*.prj *.xml);;All files (*)"));
+    const QString path =
+        QFileDialog::getOpenFileName(&m_window, tr("Open a project"), m_document.GetFile().GetFolder(),
+                                     tr("Projects (*.prj *.xml);;All files (*)"));
     if (!path.isEmpty())
         Open(path);
 }
@@ -162,8 +154,8 @@ bool FileActions::SaveAs()
     const QString present = m_document.GetFile().GetPath();
     const QString name = present.isEmpty() ? tr("wall") : QFileInfo(present).completeBaseName();
     QString path = QFileDialog::getSaveFileName(
-        &m_window, tr("Save the project"), Folder(m_document.GetFile()) + QLatin1Char('/') + name + kSuffix,
-        tr("Projects (*.prj)"));
+        &m_window, tr("Save the project"),
+        m_document.GetFile().GetFolder() + QLatin1Char('/') + name + kSuffix, tr("Projects (*.prj)"));
     if (path.isEmpty())
         return false;
     if (QFileInfo(path).suffix().isEmpty()) {

@@ -1,25 +1,26 @@
 #include "fileactions.h"
 #include "mainwindow.h"
+#include "program.h"
 
 #include "custommessagebox.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QIcon>
 #include <QTimer>
-#include <QTranslator>
 
 namespace {
 
 int Run(const QString& file)
 {
+    Program program;
     const QString problem = LedNimbraData_FolderProblem();
     if (!problem.isEmpty())
         CCustomMessageBox::information(nullptr, problem);
-    MainWindow window;
-    window.show();
+    program.Show();
     if (!file.isEmpty())
-        QTimer::singleShot(0, &window, [&] { window.GetFiles().Open(file); });
+        QTimer::singleShot(0, &program, [&] { program.GetWindow().GetFiles().Open(file); });
     const int status = QApplication::exec();
     GetConfigData()->Save();
     return status;
@@ -34,6 +35,9 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("orvan-designer"));
     QApplication::setApplicationDisplayName(QStringLiteral("Orvan Designer"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("orvan-designer"));
+    QApplication::setWindowIcon(
+        QIcon::fromTheme(QStringLiteral("orvan-designer"), QIcon(QStringLiteral(":/orvan-designer.svg"))));
     QApplication::setApplicationVersion(QStringLiteral(ORVAN_VERSION));
 
     QCommandLineParser parser;
@@ -49,9 +53,6 @@ int main(int argc, char** argv)
         parser.showHelp(2);
 
     LedNimbraData_Init();
-    QTranslator translator;
-    if (translator.load(GetConfigData()->GetTranslationPath()))
-        QCoreApplication::installTranslator(&translator);
     const int status = Run(files.isEmpty() ? QString() : QFileInfo(files.first()).absoluteFilePath());
     LedNimbraData_Release();
     return status;

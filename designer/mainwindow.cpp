@@ -4,13 +4,16 @@
 #include "chainactions.h"
 #include "designview.h"
 #include "editactions.h"
+#include "exportactions.h"
 #include "faultsdock.h"
 #include "fileactions.h"
+#include "importactions.h"
 #include "makeaction.h"
 #include "numbertool.h"
 #include "pantool.h"
 #include "projecttree.h"
 #include "selecttool.h"
+#include "settingsactions.h"
 
 #include <QActionGroup>
 #include <QCloseEvent>
@@ -30,6 +33,8 @@
 namespace {
 
 constexpr int kMessageTime = 6000; ///< milliseconds
+const QString kGeometryKey = QStringLiteral("Designer/Geometry");
+const QString kDocksKey = QStringLiteral("Designer/Docks");
 
 /// The one file that is dragged, else empty.
 QString DraggedFile(const QMimeData* data)
@@ -39,9 +44,10 @@ QString DraggedFile(const QMimeData* data)
 
 } // namespace
 
-MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent), m_view(new DesignView(m_scene, this)), m_files(new FileActions(m_document, *this)),
-      m_edits(new EditActions(m_document, this)), m_bar(addToolBar(tr("Tools"))),
+MainWindow::MainWindow(DocumentController& document, QWidget* parent)
+    : QMainWindow(parent), m_document(document), m_view(new DesignView(m_scene, this)),
+      m_files(new FileActions(m_document, *this)), m_edits(new EditActions(m_document, this)),
+      m_settings(new SettingsActions(this)), m_bar(addToolBar(tr("Tools"))),
       m_tree(new ProjectTree(m_document, this))
 {
     setCentralWidget(m_view);
@@ -70,10 +76,12 @@ MainWindow::MainWindow(QWidget* parent)
     MakeTools();
     MakeProjectMenu();
     MakeWallMenu();
+    m_settings->AddTo(*menuBar()->addMenu(tr("&Settings")));
     m_view->SetHint(
         tr("There are no cabinets yet.\n\nPress Insert, or choose Wall, Add block, to place a block of "
            "them. Or drop a project here to open it."));
-    m_document.NewProject();
+    RestoreLayout();
+    m_document.TellAll();
     m_view->setFocus();
 }
 
@@ -114,6 +122,14 @@ void MainWindow::MakeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     m_files->AddTo(*menu);
+    menu->addSeparator();
+    const auto tell = [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); };
+    auto* exports = new ExportActions(m_document, *this);
+    auto* imports = new ImportActions(m_document, *this);
+    connect(exports, &ExportActions::Told, this, tell);
+    connect(imports, &ImportActions::Told, this, tell);
+    exports->AddTo(*menu->addMenu(tr("&Export")));
+    imports->AddTo(*menu->addMenu(tr("&Import")));
     menu->addSeparator();
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
 }
@@ -190,6 +206,19 @@ void MainWindow::MakeWallMenu()
     QToolBar* bar = addToolBar(tr("Chain"));
     bar->setObjectName(QStringLiteral("chain"));
     chain->AddTo(*bar);
+}
+
+void MainWindow::KeepLayout() const
+{
+    GetConfigData()->SetUIValue(kGeometryKey, saveGeometry());
+    GetConfigData()->SetUIValue(kDocksKey, saveState());
+}
+
+/// What cannot be understood leaves things as they are.
+void MainWindow::RestoreLayout()
+{
+    restoreGeometry(GetConfigData()->GetUIValue(kGeometryKey).toByteArray());
+    restoreState(GetConfigData()->GetUIValue(kDocksKey).toByteArray());
 }
 
 void MainWindow::AskForAngle()
@@ -293,6 +322,8 @@ void MainWindow::ShowCounts()
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(m_files->MayLeave());
+    if (event->isAccepted())
+        KeepLayout();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -10,6 +10,7 @@ class EditActions;
 class FaultsDock;
 class FileActions;
 class ProjectTree;
+class SettingsActions;
 class QLabel;
 class QTabWidget;
 class QToolBar;
@@ -20,13 +21,15 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget* parent = nullptr); ///< shows the open document
+    explicit MainWindow(DocumentController& document, QWidget* parent = nullptr); ///< [keep] the document
 
     DocumentController& GetDocument() { return m_document; }
     DesignView& GetView() { return *m_view; }
     FileActions& GetFiles() { return *m_files; }
     ProjectTree& GetTree() { return *m_tree; }
     FaultsDock& GetFaults() { return *m_faults; }
+    SettingsActions& GetSettings() { return *m_settings; }
+    void KeepLayout() const; ///< for the next window: place, size, docks
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -41,6 +44,7 @@ private:
     void MakeTools();
     void MakeProjectMenu();
     void MakeWallMenu();
+    void RestoreLayout();
     void Connect();
     void AskForBlock();
     void AskForAngle();
@@ -49,11 +53,12 @@ private:
     void ShowCounts();
     void Take(const SDocumentChange& change);
 
-    DocumentController m_document;
+    DocumentController& m_document;
     SceneModel m_scene;
     DesignView* m_view = nullptr;
     FileActions* m_files = nullptr;
     EditActions* m_edits = nullptr;
+    SettingsActions* m_settings = nullptr;
     QToolBar* m_bar = nullptr;
     ProjectTree* m_tree = nullptr;
     FaultsDock* m_faults = nullptr;

@@ -19,6 +19,8 @@ const char* SourceOf(int type)
         return QT_TRANSLATE_NOOP("StepText", "Number all");
     case CSenderRecordItem::OperationDisconnect:
         return QT_TRANSLATE_NOOP("StepText", "Clear numbers");
+    case CSenderRecordItem::OperationImportLayout:
+        return QT_TRANSLATE_NOOP("StepText", "Import layout");
     default:
         return QT_TRANSLATE_NOOP("StepText", "Edit");
     }

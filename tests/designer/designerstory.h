@@ -40,7 +40,7 @@ struct DesignerStory : testing::Test
     } library;
     TestFolder folder;
     MessageRecorder messages;
-    MainWindow window;
+    DocumentController document;
+    MainWindow window{document};
     DesignView& view = window.GetView();
-    DocumentController& document = window.GetDocument();
 };

@@ -1,0 +1,75 @@
+// Layouts that come from files of their own.
+#include "documentcontroller.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Whether steps fit both: undoing clears a port that is a backup before or after alone, and what lies on a
+/// port out of use is lost.
+bool HasSameFrame(const CSender& a, const CSender& b)
+{
+    const auto isSame = [](const CPort& one, const CPort& other) {
+        return one.IsBackupDest() == other.IsBackupDest()
+               && one.GetBackupSrcSenderId() == other.GetBackupSrcSenderId()
+               && one.GetBackupSrcPortIndex() == other.GetBackupSrcPortIndex()
+               && one.GetBackupSrcIP() == other.GetBackupSrcIP();
+    };
+    return a.GetPortCount() == b.GetPortCount()
+           && std::equal(a.GetPorts().begin(), a.GetPorts().end(), b.GetPorts().begin(), isSame);
+}
+
+bool Read(CProjectData& project, const LayoutImport& wanted)
+{
+    return wanted.ofPort ? project.ImportPort(wanted.path)
+                         : project.ImportSender(wanted.path, project.GetCurrentSender()->GetId(),
+                                                wanted.keepLockedPorts, wanted.attributes);
+}
+
+} // namespace
+
+bool DocumentController::MayImport(bool ofPort)
+{
+    const CPort* port = GetPort();
+    QString why;
+    if (!port)
+        why = tr("There is no sender yet. Add one first.");
+    else if (ofPort)
+        why = WhyClosed(*port);
+    if (!why.isEmpty())
+        emit Refused(why);
+    return why.isEmpty();
+}
+
+/// No step holds eyes and locks, which a file of a sender brings too.
+DocumentController::ImportOutcome DocumentController::ImportLayout(const LayoutImport& wanted,
+                                                                   bool historyMayEnd, QString* text)
+{
+    if (!MayImport(wanted.ofPort))
+        return ImportOutcome::Failed;
+    CSender* sender = GetSender();
+    CProjectData trial; // tells what comes before anything changes
+    auto* copy = new CSender;
+    copy->CopySender(*sender);
+    trial.AddSender(copy);
+    if (!Read(trial, wanted)) {
+        *text = trial.GetLastFileError();
+        return ImportOutcome::Failed;
+    }
+    const bool fits = HasSameFrame(*sender, *copy);
+    if (!fits && !historyMayEnd)
+        return ImportOutcome::HistoryWouldEnd;
+    const bool done = Read(GetProject(), wanted);
+    *text = GetProject().GetLastFileError();
+    if (!done)
+        return ImportOutcome::Failed;
+    Select({}, Choice::Replace);
+    if (fits)
+        Record(CSenderRecordItem::OperationImportLayout);
+    else
+        GetRuntimeData()->GetProjectUndoRedo()->SenderUndoRedoInit(sender);
+    if (!fits || !wanted.ofPort)
+        GetRuntimeData()->GetProjectUndoRedo()->PrjModify();
+    emit SenderChanged();
+    return ImportOutcome::Done;
+}

@@ -1,0 +1,840 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>BlockDialog</name>
+    <message>
+        <source>Add a block of cabinets</source>
+        <translation>添加箱体块</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列数</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>行数</translation>
+    </message>
+    <message>
+        <source>Width of a cabinet</source>
+        <translation>箱体宽度</translation>
+    </message>
+    <message>
+        <source>Height of a cabinet</source>
+        <translation>箱体高度</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>&amp;Columns and rows:</source>
+        <translation>列数和行数(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Cabinet &amp;size in pixels:</source>
+        <translation>箱体尺寸，像素(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Left and top in pixels:</source>
+        <translation>左上角位置，像素(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>输出口(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <translation>%1，%2 至 %3</translation>
+    </message>
+    <message>
+        <source>Port %1</source>
+        <translation>输出口%1</translation>
+    </message>
+    <message>
+        <source>Every port is hidden, locked or a backup. Open the one that the block is for.</source>
+        <translation>所有输出口都已隐藏、锁定或作为备份。请先打开要放置箱体的输出口。</translation>
+    </message>
+    <message>
+        <source>%1 cabinets, %2 × %3 pixels. Port %4 is then %5 full.</source>
+        <translation>%1个箱体，%2 × %3像素。此后输出口%4的负载为%5。</translation>
+    </message>
+    <message>
+        <source>Part of it lies beyond the canvas.</source>
+        <translation>有一部分超出画布。</translation>
+    </message>
+</context>
+<context>
+    <name>ChainActions</name>
+    <message>
+        <source>&amp;Clear numbers</source>
+        <translation>清除编号(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Take the numbers of all cabinets of the current port away</source>
+        <translation>清除当前输出口所有箱体的编号</translation>
+    </message>
+    <message>
+        <source>Rows from the top left</source>
+        <translation>按行，从左上开始</translation>
+    </message>
+    <message>
+        <source>Rows from the top right</source>
+        <translation>按行，从右上开始</translation>
+    </message>
+    <message>
+        <source>Rows from the bottom right</source>
+        <translation>按行，从右下开始</translation>
+    </message>
+    <message>
+        <source>Rows from the bottom left</source>
+        <translation>按行，从左下开始</translation>
+    </message>
+    <message>
+        <source>Columns from the top left</source>
+        <translation>按列，从左上开始</translation>
+    </message>
+    <message>
+        <source>Columns from the top right</source>
+        <translation>按列，从右上开始</translation>
+    </message>
+    <message>
+        <source>Columns from the bottom right</source>
+        <translation>按列，从右下开始</translation>
+    </message>
+    <message>
+        <source>Columns from the bottom left</source>
+        <translation>按列，从左下开始</translation>
+    </message>
+    <message>
+        <source>Number all cabinets of the current port: %1</source>
+        <translation>为当前输出口的所有箱体编号：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DesignView</name>
+    <message>
+        <source>Wall</source>
+        <translation>屏体</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentController</name>
+    <message>
+        <source>Port %1 is a backup: it shows what its source shows.</source>
+        <translation>输出口%1是备份，显示内容与其源输出口相同。</translation>
+    </message>
+    <message>
+        <source>Port %1 is locked. Unlock it in the tree first.</source>
+        <translation>输出口%1已锁定。请先在列表中解锁。</translation>
+    </message>
+    <message>
+        <source>Port %1 is hidden. Show it in the tree first.</source>
+        <translation>输出口%1已隐藏。请先在列表中显示。</translation>
+    </message>
+    <message>
+        <source>There is no sender yet. Add one first.</source>
+        <translation>还没有主控。请先添加一个。</translation>
+    </message>
+    <message>
+        <source>A port holds at most %1 cabinets.</source>
+        <translation>一个输出口最多有%1个箱体。</translation>
+    </message>
+    <message>
+        <source>It would reach beyond %1 × %2 pixels, the largest canvas there is.</source>
+        <translation>将超出最大画布%1 × %2像素。</translation>
+    </message>
+    <message>
+        <source>Port %1 has no cabinets to number.</source>
+        <translation>输出口%1没有可编号的箱体。</translation>
+    </message>
+</context>
+<context>
+    <name>EditActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Take back the last edit</source>
+        <translation>撤销上一步操作</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Bring back what was undone</source>
+        <translation>恢复已撤销的操作</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete the selected cabinets; their chains close up</source>
+        <translation>删除所选箱体，编号自动接续</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Select the cabinets of all ports that are shown and not locked</source>
+        <translation>选择所有已显示且未锁定的输出口的箱体</translation>
+    </message>
+    <message>
+        <source>Select &amp;none</source>
+        <translation>取消选择(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Select no cabinet</source>
+        <translation>不选择任何箱体</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>撤销(&amp;U)：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>重做(&amp;R)：%1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+</context>
+<context>
+    <name>ExportActions</name>
+    <message>
+        <source>&amp;Drawing…</source>
+        <translation>图纸(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>Draw the current sender as it is seen from the front</source>
+        <translation>绘制当前主控的正视图</translation>
+    </message>
+    <message>
+        <source>Drawing from &amp;behind…</source>
+        <translation>背视图纸(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Draw the current sender as it is seen from behind</source>
+        <translation>绘制当前主控的背视图</translation>
+    </message>
+    <message>
+        <source>Sheets for the crew: a cover, and pages for each sender and port, on %1</source>
+        <translation>施工图册：封面以及每个主控和输出口的页面，纸张%1</translation>
+    </message>
+    <message>
+        <source>Sheets on A&amp;4…</source>
+        <translation>A4施工图册(&amp;4)…</translation>
+    </message>
+    <message>
+        <source>Sheets on A&amp;3…</source>
+        <translation>A3施工图册(&amp;3)…</translation>
+    </message>
+    <message>
+        <source>Sheets on &amp;Letter…</source>
+        <translation>Letter施工图册(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>&amp;Cabinet list…</source>
+        <translation>箱体清单(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>List all cabinets of the project, for a spreadsheet</source>
+        <translation>列出项目的所有箱体，供电子表格使用</translation>
+    </message>
+    <message>
+        <source>Cable &amp;schedule…</source>
+        <translation>线缆清单(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>List all cables of the project in chain order</source>
+        <translation>按连接顺序列出项目的所有线缆</translation>
+    </message>
+    <message>
+        <source>There is no sender yet. Add one first.</source>
+        <translation>还没有主控。请先添加一个。</translation>
+    </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>已导出：%1</translation>
+    </message>
+    <message>
+        <source>Layout of the s&amp;ender…</source>
+        <translation>主控布局(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Write the current sender&apos;s layout to a file of its own, for other projects</source>
+        <translation>把当前主控的布局写入单独的文件，供其他项目使用</translation>
+    </message>
+    <message>
+        <source>Layout of the &amp;port…</source>
+        <translation>输出口布局(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Write the current port&apos;s layout to a file of its own, for other projects</source>
+        <translation>把当前输出口的布局写入单独的文件，供其他项目使用</translation>
+    </message>
+    <message>
+        <source>wall</source>
+        <translation>屏体</translation>
+    </message>
+    <message>
+        <source>Drawing the sheets</source>
+        <translation>正在绘制施工图册</translation>
+    </message>
+    <message>
+        <source>Its name has to end in .%1.</source>
+        <translation>文件名必须以 .%1 结尾。</translation>
+    </message>
+    <message>
+        <source>Try another name or folder. %1</source>
+        <translation>请换一个名称或文件夹。%1</translation>
+    </message>
+    <message>
+        <source>%1 was not written.
+
+%2</source>
+        <translation>%1没有写入。
+
+%2</translation>
+    </message>
+</context>
+<context>
+    <name>FaultsDock</name>
+    <message>
+        <source>Faults</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Faults of the project</source>
+        <translation>项目的故障</translation>
+    </message>
+    <message>
+        <source>… and %1 more</source>
+        <translation>…还有%1个</translation>
+    </message>
+    <message>
+        <source>No faults</source>
+        <translation>没有故障</translation>
+    </message>
+    <message>
+        <source>Faults: %1</source>
+        <translation>故障：%1</translation>
+    </message>
+</context>
+<context>
+    <name>FileActions</name>
+    <message>
+        <source>&amp;New</source>
+        <translation>新建(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Start an empty project with one sender</source>
+        <translation>新建一个带有一个主控的空项目</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>打开(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Open a project: an archive (.prj) or a bare document (.xml)</source>
+        <translation>打开项目：压缩包(.prj)或单独的文档(.xml)</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>最近的项目(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save the project to its file</source>
+        <translation>把项目保存到其文件</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>另存为(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Save the project under another name</source>
+        <translation>用另一个名称保存项目</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>暂无</translation>
+    </message>
+    <message>
+        <source>This project</source>
+        <translation>此项目</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved. Save them now?</source>
+        <translation>%1有未保存的更改。现在保存吗？</translation>
+    </message>
+    <message>
+        <source>Open a project</source>
+        <translation>打开项目</translation>
+    </message>
+    <message>
+        <source>Projects (*.prj *.xml);;All files (*)</source>
+        <translation>项目 (*.prj *.xml);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>正在打开%1</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read. Saving it under its own name would lose the rest.
+
+%2</source>
+        <translation>%1只读取了一部分。用原名保存会丢失其余部分。
+
+%2</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened; what was open before still is.
+
+%2</source>
+        <translation>无法打开%1；原来打开的项目保持不变。
+
+%2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened for editing.
+
+%2
+
+Open it to look at? It can then be saved under another name.</source>
+        <translation>无法打开%1进行编辑。
+
+%2
+
+要以只读方式打开吗？之后可以用另一个名称保存。</translation>
+    </message>
+    <message>
+        <source>%1 was read only in part. Saving replaces the file, and what was not read is lost. Save all the same?</source>
+        <translation>%1只读取了一部分。保存会替换该文件，未读取的内容将丢失。仍然保存吗？</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>保存项目</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>正在保存%1</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>已保存：%1</translation>
+    </message>
+    <message>
+        <source>%1 was not saved. Try another name or folder.
+
+%2</source>
+        <translation>%1没有保存。请换一个名称或文件夹。
+
+%2</translation>
+    </message>
+    <message>
+        <source>wall</source>
+        <translation>屏体</translation>
+    </message>
+    <message>
+        <source>Projects (*.prj)</source>
+        <translation>项目 (*.prj)</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Replace it?</source>
+        <translation>%1已经存在。要替换吗？</translation>
+    </message>
+</context>
+<context>
+    <name>ImportActions</name>
+    <message>
+        <source>Layout of the s&amp;ender…</source>
+        <translation>主控布局(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Replace the layout of the current sender by that of a file</source>
+        <translation>用文件中的布局替换当前主控的布局</translation>
+    </message>
+    <message>
+        <source>Layout of the &amp;port…</source>
+        <translation>输出口布局(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Replace the layout of the current port by that of a file</source>
+        <translation>用文件中的布局替换当前输出口的布局</translation>
+    </message>
+    <message>
+        <source>Layouts (*.xml);;All files (*)</source>
+        <translation>布局 (*.xml);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Keep the ports that are locked as they are?</source>
+        <translation>锁定的输出口是否保持不变？</translation>
+    </message>
+    <message>
+        <source>Take names, canvas and background from the file too? No undo takes these back.</source>
+        <translation>是否同时采用文件中的名称、画布和背景？此项无法撤销。</translation>
+    </message>
+    <message>
+        <source>The file has other backups or another number of ports than this sender. So neither the import nor what was done to the sender before can be undone afterwards. Import it all the same?</source>
+        <translation>该文件的输出口数量或备份与此主控不同。因此导入之后，导入本身以及之前对此主控的操作都无法撤销。仍然导入吗？</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read.
+
+%2</source>
+        <translation>%1只读取了一部分。
+
+%2</translation>
+    </message>
+    <message>
+        <source>%1 was not imported, and nothing was changed. Choose a file that was exported as the layout of a sender, or of a port, as the menu says.
+
+%2</source>
+        <translation>%1没有导入，项目没有任何更改。请按菜单所示，选择作为主控布局或输出口布局导出的文件。
+
+%2</translation>
+    </message>
+    <message>
+        <source>Imported: %1</source>
+        <translation>已导入：%1</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Tools</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>项目</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>There are no cabinets yet.
+
+Press Insert, or choose Wall, Add block, to place a block of them. Or drop a project here to open it.</source>
+        <translation>还没有箱体。
+
+按Insert键，或选择“屏体”菜单中的“添加箱体块”来放置一块箱体。也可以把项目文件拖到这里打开。</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>导出(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>工具(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>选择(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Select and move cabinets</source>
+        <translation>选择和移动箱体</translation>
+    </message>
+    <message>
+        <source>&amp;Number</source>
+        <translation>编号(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Number the current port&apos;s cabinets one by one</source>
+        <translation>为当前输出口的箱体逐个编号</translation>
+    </message>
+    <message>
+        <source>&amp;Pan</source>
+        <translation>平移(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Move the view; also with the middle button, or with the space bar held</source>
+        <translation>移动视图；也可以用鼠标中键，或按住空格键拖动</translation>
+    </message>
+    <message>
+        <source>&amp;Project</source>
+        <translation>项目(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Add sender</source>
+        <translation>添加主控(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Add a sending unit or processor, with ports of its own</source>
+        <translation>添加一个带有输出口的发送器或处理器</translation>
+    </message>
+    <message>
+        <source>&amp;Rename sender</source>
+        <translation>重命名主控(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Give the sender in the tree a name</source>
+        <translation>为列表中的主控命名</translation>
+    </message>
+    <message>
+        <source>&amp;Delete sender…</source>
+        <translation>删除主控(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>Delete the sender in the tree with all its cabinets</source>
+        <translation>删除列表中的主控及其所有箱体</translation>
+    </message>
+    <message>
+        <source>&amp;Wall</source>
+        <translation>屏体(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Add &amp;block…</source>
+        <translation>添加箱体块(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Place a block of equal cabinets on a port</source>
+        <translation>在一个输出口上放置一块相同的箱体</translation>
+    </message>
+    <message>
+        <source>&amp;Turn…</source>
+        <translation>旋转(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Turn the selected cabinets about their middle</source>
+        <translation>绕中心旋转所选箱体</translation>
+    </message>
+    <message>
+        <source>Show turned cabinets as &amp;turned</source>
+        <translation>显示箱体的旋转(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Off: they are shown and found where they lay before they were turned</source>
+        <translation>关闭时，箱体按旋转前的位置显示和选取</translation>
+    </message>
+    <message>
+        <source>Chain</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>设置(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Degrees, clockwise:</source>
+        <translation>角度，顺时针：</translation>
+    </message>
+    <message>
+        <source>There is no sender yet. Add one first.</source>
+        <translation>还没有主控。请先添加一个。</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Fit the wall</source>
+        <translation>适合窗口(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Actual size</source>
+        <translation>实际大小(&amp;A)</translation>
+    </message>
+    <message>
+        <source>View pixels for 100 pixels of the wall</source>
+        <translation>屏体每100像素在视图中所占的像素</translation>
+    </message>
+    <message>
+        <source>New project</source>
+        <translation>新建项目</translation>
+    </message>
+    <message>
+        <source>%1[*] (to look at)</source>
+        <translation>%1[*]（只读）</translation>
+    </message>
+    <message>
+        <source>Saved, stays marked as modified</source>
+        <translation>已保存，仍标记为已修改</translation>
+    </message>
+    <message>
+        <source>Senders, names and the like changed, which no undo takes back. A project that changed so counts as modified until it is opened again, though all is saved.</source>
+        <translation>主控、名称等的更改无法撤销。这样更改过的项目虽已全部保存，在重新打开之前仍视为已修改。</translation>
+    </message>
+    <message>
+        <source>%1 cabinets, %2 numbered, %3 selected</source>
+        <translation>%1个箱体，%2个已编号，%3个已选择</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTool</name>
+    <message>
+        <source>Number from %1 on: click cabinets, drag over them, or use the arrow keys.</source>
+        <translation>从%1开始编号：单击箱体、拖过箱体，或使用方向键。</translation>
+    </message>
+</context>
+<context>
+    <name>PanTool</name>
+    <message>
+        <source>Drag to move the view.</source>
+        <translation>拖动以移动视图。</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectTree</name>
+    <message>
+        <source>Sender, port</source>
+        <translation>主控、输出口</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>锁定</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>负载</translation>
+    </message>
+    <message>
+        <source>Senders and ports</source>
+        <translation>主控和输出口</translation>
+    </message>
+    <message>
+        <source>F2 renames the sender</source>
+        <translation>按F2重命名主控</translation>
+    </message>
+    <message>
+        <source>Port %1, backup</source>
+        <translation>输出口%1，备份</translation>
+    </message>
+    <message>
+        <source>Port %1</source>
+        <translation>输出口%1</translation>
+    </message>
+    <message>
+        <source>%1 cabinets with %2 pixels, of %3 that a port carries at %4 Hz and %5 bit</source>
+        <translation>%1个箱体，共%2像素；在%4 Hz、%5位时一个输出口可带%3像素</translation>
+    </message>
+</context>
+<context>
+    <name>SelectTool</name>
+    <message>
+        <source>Release to place; Alt moves freely, Esc leaves all as it was.</source>
+        <translation>松开以放置；按住Alt可自由移动，Esc取消。</translation>
+    </message>
+    <message>
+        <source>Selects the cabinets that lie wholly inside.</source>
+        <translation>选择完全在框内的箱体。</translation>
+    </message>
+    <message>
+        <source>Selects all cabinets that are touched.</source>
+        <translation>选择框碰到的所有箱体。</translation>
+    </message>
+    <message>
+        <source>Click, double click or drag a band to select. Arrow keys move by a cabinet, with Shift by a pixel.</source>
+        <translation>单击、双击或拖框来选择。方向键移动一个箱体的距离，加Shift移动一个像素。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsActions</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Show the program in this language from now on</source>
+        <translation>今后以此语言显示本程序</translation>
+    </message>
+    <message>
+        <source>&amp;Snap to neighbours and canvas</source>
+        <translation>吸附到相邻箱体和画布(&amp;S)</translation>
+    </message>
+    <message>
+        <source>What is dragged keeps to edges that are near; not while Alt is held</source>
+        <translation>拖动时吸附到附近的边缘；按住Alt时不吸附</translation>
+    </message>
+</context>
+<context>
+    <name>StepText</name>
+    <message>
+        <source>Add cabinets</source>
+        <translation>添加箱体</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Number all</source>
+        <translation>全部编号</translation>
+    </message>
+    <message>
+        <source>Clear numbers</source>
+        <translation>清除编号</translation>
+    </message>
+    <message>
+        <source>Import layout</source>
+        <translation>导入布局</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+</context>
+</TS>
