@@ -1,5 +1,5 @@
-# What an installation holds beside the libraries, their headers and the command: its manual page, what
-# completes it in a shell, and how other projects find the library (CMake package, pkg-config file).
+# What an installation holds beside the libraries, their headers and the programs: their manual pages, what
+# completes the command in a shell, and how other projects find the library (CMake package, pkg-config file).
 include(CMakePackageConfigHelpers)
 
 # orvan_compressed(FILE RESULT): makes FILE.gz, with the same bytes each time; RESULT is set to its path.
@@ -38,6 +38,10 @@ if(TARGET orvan)
             DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools)
     install(FILES tools/orvan/completions/_orvan
             DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT tools)
+endif()
+if(TARGET orvan-designer)
+    orvan_compressed(${PROJECT_SOURCE_DIR}/docs/orvan-designer.1 manual)
+    install(FILES ${manual} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT designer)
 endif()
 
 # The installation is tried as another project would use it, in a folder of the build tree. A library built with

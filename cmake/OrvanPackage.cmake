@@ -1,4 +1,4 @@
-# Debian packages: the libraries, what a project needs to build against them, and the command.
+# Debian packages: the libraries, what a project needs to build against them, the command, and the desktop program.
 set(ORVANDATA_MAINTAINER "OrvanData developers <orvandata@example.org>" CACHE STRING "Maintainer of the packages")
 
 set(CPACK_GENERATOR DEB)
@@ -9,6 +9,9 @@ set(CPACK_STRIP_FILES YES)
 set(CPACK_COMPONENTS_ALL runtime development)
 if(TARGET orvan)
     list(APPEND CPACK_COMPONENTS_ALL tools)
+endif()
+if(TARGET orvan-designer)
+    list(APPEND CPACK_COMPONENTS_ALL designer)
 endif()
 
 set(CPACK_DEB_COMPONENT_INSTALL YES)
@@ -31,6 +34,10 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME orvan)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 # Drawings show Chinese names only where some font has them.
 set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS fonts-wqy-microhei)
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME orvan-designer)
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION graphics)
+# Qt's own texts in Chinese are a package of their own.
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qttranslations5-l10n")
 
 # The first line is what a list of packages shows, in place of one summary for all.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
@@ -47,6 +54,10 @@ which CMake and pkg-config find both.")
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "look at, check, draw and make LED wall projects\n${about}
 .
 The command orvan works on project files without the application.")
+set(CPACK_DEBIAN_DESIGNER_DESCRIPTION "lay out, number and check LED walls in a window\n${about}
+.
+The desktop program orvan-designer works on project files, and exports
+drawings, sheets for the crew, and lists of cabinets and cables.")
 
 # What Debian wants beside the files themselves, for each package. Only an installation below /usr is a package's.
 function(orvan_package_papers)
@@ -75,3 +86,4 @@ include(CPack)
 cpack_add_component(runtime)
 cpack_add_component(development DEPENDS runtime)
 cpack_add_component(tools DEPENDS runtime)
+cpack_add_component(designer DEPENDS runtime)

@@ -10,7 +10,8 @@ constexpr int kPiece = 1 << 18;
 
 } // namespace
 
-OutputDevice::OutputDevice(QFileDevice& file, Stop isStopped) : m_file(file), m_isStopped(std::move(isStopped))
+OutputDevice::OutputDevice(QFileDevice& file, Stop isStopped)
+    : m_file(file), m_isStopped(std::move(isStopped))
 {
     m_waiting.reserve(2 * kPiece);
     open(QIODevice::WriteOnly);
