@@ -8,6 +8,8 @@
 #include <QFileDialog>
 #include <QMenu>
 
+#include <algorithm>
+
 using Outcome = DocumentController::ImportOutcome;
 
 ImportActions::ImportActions(DocumentController& document, QWidget& window)
@@ -47,7 +49,10 @@ bool ImportActions::AskHow(LayoutImport* wanted)
         *yes = answer == QMessageBox::Yes;
         return *yes || answer == QMessageBox::No;
     };
-    return ask(tr("Keep the ports that are locked as they are?"), &wanted->keepLockedPorts)
+    const auto& ports = m_document.GetSender()->GetPorts();
+    const bool anyLocked =
+        std::any_of(ports.begin(), ports.end(), [](const CPort& port) { return port.IsFlagLock(); });
+    return (!anyLocked || ask(tr("Keep the ports that are locked as they are?"), &wanted->keepLockedPorts))
            && ask(tr("Take names, canvas and background from the file too? No undo takes these back."),
                   &wanted->attributes);
 }
