@@ -42,6 +42,7 @@ bool CProjectUndoRedo::Init()
     Release();
     m_unheld = false;
     m_marked = false;
+    m_unsaved = false;
     for (CSender* sender : GetLayoutLookup()->Senders())
         SenderUndoRedoInit(sender);
     return true;
@@ -84,7 +85,7 @@ void CProjectUndoRedo::Drop(CSenderUndoRedo* history)
     DocumentOperation operation(this);
     operation.Changed(&SDocumentChange::steps);
     if (history->IsModified())
-        m_unheld = true;
+        NoteUnheld();
     history->Clear();
 }
 
@@ -157,7 +158,7 @@ bool CProjectUndoRedo::AddFirstStep(CSender* sender, DocumentOperation& operatio
     std::iota(ports.begin(), ports.end(), 0);
     operation.ChangedPorts(PlaceOf(sender), ports);
     if (!SenderUndoRedoInit(sender)) {
-        m_unheld = true;
+        NoteUnheld();
         return false;
     }
     GetSenderUndoRedoFromID(sender->GetId())->SetNeverSaved(); // the edit is part of its base
@@ -199,7 +200,7 @@ bool CProjectUndoRedo::Move(int steps, bool back, int* ports, int* count)
     }
     QVector<int> changed;
     if (!history->Restore(sender, shown, operation.IsListenedTo() ? &changed : nullptr))
-        m_unheld = true;
+        NoteUnheld();
     if (steps > 0)
         operation.Changed(&SDocumentChange::steps);
     operation.ChangedPorts(PlaceOf(sender), changed);
@@ -291,9 +292,20 @@ int CProjectUndoRedo::GetCurSenderCurStep()
     return std::as_const(*this).GetCurSenderCurStep();
 }
 
+void CProjectUndoRedo::NoteUnheld()
+{
+    m_unheld = true;
+    m_unsaved = true;
+}
+
 bool CProjectUndoRedo::IsModidfied() const
 {
-    return m_unheld || m_marked
+    return m_unheld || m_marked || NeedsSaving();
+}
+
+bool CProjectUndoRedo::NeedsSaving() const
+{
+    return m_unsaved
            || std::any_of(m_histories.begin(), m_histories.end(),
                           [](const CSenderUndoRedo& history) { return history.IsModified(); });
 }
@@ -302,6 +314,7 @@ void CProjectUndoRedo::SetAsSaveStep()
 {
     DocumentOperation operation(this);
     operation.Changed(&SDocumentChange::saved);
+    m_unsaved = false;
     bool all = true;
     for (const CSender* sender : GetLayoutLookup()->Senders()) {
         if (CSenderUndoRedo* history = GetSenderUndoRedoFromID(sender->GetId()))
@@ -318,6 +331,7 @@ void CProjectUndoRedo::PrjModify()
     DocumentOperation operation(this);
     operation.Changed(&SDocumentChange::properties);
     m_marked = true;
+    m_unsaved = true;
 }
 
 void CProjectUndoRedo::SetChangeHandler(const DocumentChangeHandler& handler)

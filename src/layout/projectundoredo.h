@@ -75,6 +75,9 @@ public:
 
     // does the project differ from what was saved?
     bool IsModidfied() const;
+    /// Whether a save would keep something that the last one did not: unlike the above, a mark of PrjModify
+    /// counts until SetAsSaveStep.
+    bool NeedsSaving() const;
     void SetAsSaveStep(); ///< after a save: what the histories hold now is what was saved
     void PrjModify();     ///< marks a change outside the histories; it stays until Init
 
@@ -96,9 +99,11 @@ private:
     bool Move(int steps, bool back, int* ports, int* count);
     const CSenderRecordItem* StepAhead(int n, bool back) const;
     void Drop(CSenderUndoRedo* history);
+    void NoteUnheld();
 
     std::array<CSenderUndoRedo, kSlotCount> m_histories;
-    bool m_unheld = false; ///< a change that no history holds, until the next save
-    bool m_marked = false; ///< a change of the project itself, until Init
+    bool m_unheld = false;  ///< a change that no history holds, until the next save
+    bool m_marked = false;  ///< a change of the project itself, until Init
+    bool m_unsaved = false; ///< either of these, since the last save
     std::unique_ptr<ChangeTeller> m_teller;
 };

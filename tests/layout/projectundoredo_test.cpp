@@ -392,11 +392,17 @@ TEST_F(ProjectUndoRedoTest, AHistoryThatAnEditStartedIsModified)
         history.SetAsSaveStep();
         EXPECT_FALSE(history.IsModidfied());
     }
+    EXPECT_TRUE(Edit() && history.NeedsSaving() && Undo(1) && !history.NeedsSaving());
     history.PrjModify();
+    EXPECT_TRUE(history.NeedsSaving());
     history.SetAsSaveStep();
     EXPECT_TRUE(history.IsModidfied()) << "a marked change stays until Init";
+    EXPECT_FALSE(history.NeedsSaving()) << "though it was saved";
+    EXPECT_TRUE(Edit() && history.NeedsSaving());
+    history.SenderUndoRedoRelease(Sender().GetId());
+    EXPECT_TRUE(history.NeedsSaving()) << "the change went with its history";
     history.Init();
-    EXPECT_FALSE(history.IsModidfied());
+    EXPECT_FALSE(history.IsModidfied() || history.NeedsSaving());
 }
 
 TEST_F(ProjectUndoRedoTest, SendersBeyondTheSlotsOrWithoutIdHaveNoHistory)
