@@ -1,7 +1,6 @@
 #include "faultsdock.h"
 
 #include "documentcontroller.h"
-#include "loadofport.h"
 
 #include <orvantools/layoutcheck.h>
 
@@ -32,7 +31,6 @@ FaultsDock::FaultsDock(DocumentController& document, QWidget* parent)
     connect(m_list, &QListWidget::itemActivated, this, &FaultsDock::Choose);
 }
 
-/// The check takes one capacity for all senders: that of the current one.
 void FaultsDock::Check()
 {
     if (QApplication::activeModalWidget()) { // perhaps a document is being replaced
@@ -40,8 +38,7 @@ void FaultsDock::Check()
         return;
     }
     OrvanTools::CheckOptions options;
-    if (const CSender* sender = m_document.GetSender())
-        options.capacity = CapacityOf(*sender);
+    options.atOwnRate = true;
     m_list->clear();
     m_count = 0;
     OrvanTools::CheckProject(m_document.GetProject(), options, [this](const OrvanTools::Fault& fault) {

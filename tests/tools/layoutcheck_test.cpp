@@ -170,6 +170,23 @@ TEST_F(LayoutCheckTest, BackupPortsAreJudgedByTheirSourceAndNotByWhatTheyStore)
     EXPECT_EQ(Faults(), Args({"backup-loop 1 3 0", "backup-loop 1 4 0"}));
 }
 
+TEST_F(LayoutCheckTest, APortIsFullAtTheRateOfItsSenderWhenThatIsWanted)
+{
+    Build(QSize(6, 6), 1); // 90 % at 60 Hz and 8 bit
+    for (const auto& [frames, bits] : {std::pair(60, 8), std::pair(0, 10), std::pair(120, 0)}) {
+        CSender* sender = Project().NewSender();
+        sender->LayoutCopy(*Project().GetSender(0));
+        sender->SetSignalFreq(frames);
+        sender->SetColorDepth(bits);
+    }
+    CheckOptions options;
+    EXPECT_EQ(Faults(options).filter(Arg("overload")), QStringList());
+    options.atOwnRate = true;
+    EXPECT_EQ(Faults(options).filter(Arg("overload")), Args({"port-overload 3 1 0", "port-overload 4 1 0"}));
+    options.capacity.framesPerSecond = 30; // of senders that tell none
+    EXPECT_EQ(Faults(options).filter(Arg("overload")), Args({"port-overload 4 1 0"}));
+}
+
 TEST_F(LayoutCheckTest, FaultsAreListedByKindAndThenByPlace)
 {
     Build(QSize(4, 1), 2);

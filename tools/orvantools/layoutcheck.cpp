@@ -273,7 +273,9 @@ void Checker::CheckBackup()
 void Checker::CheckLoad()
 {
     const qint64 pixels = PixelsOf(Tiles());
-    const PortCapacity& capacity = m_options.capacity;
+    const PortCapacity capacity = m_options.atOwnRate
+                                      ? CapacityOf(*m_project.GetSender(m_sender), m_options.capacity)
+                                      : m_options.capacity;
     if (pixels > capacity.Carried())
         Add(FaultKind::PortOverload, kNoCabinet,
             QStringLiteral("port-overload: %1 pixels, the port carries %2 (%3)")

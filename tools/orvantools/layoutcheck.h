@@ -45,6 +45,7 @@ struct Fault : PlacedText
 struct CheckOptions
 {
     PortCapacity capacity;
+    bool atOwnRate = false; ///< at the frames and bits that each sender is set to, where it is
     const StoredReceivers* stored = nullptr; ///< [ref] of the file read; null: no receiver-mismatch
 };
 

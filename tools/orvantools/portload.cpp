@@ -1,5 +1,7 @@
 #include "orvantools/portload.h"
 
+#include <OrvanData/orvandata.h>
+
 #include <cmath>
 #include <limits>
 
@@ -32,6 +34,16 @@ QString PortCapacity::PercentText(qint64 wanted) const
     if (std::isinf(percent))
         return QStringLiteral("∞ %");
     return QString::number(std::ceil(percent - 1e-9), 'f', 0) + QStringLiteral(" %");
+}
+
+PortCapacity CapacityOf(const CSender& sender, const PortCapacity& capacity)
+{
+    PortCapacity own = capacity;
+    if (sender.GetSignalFreq() > 0)
+        own.framesPerSecond = sender.GetSignalFreq();
+    if (sender.GetColorDepth() > 0)
+        own.colorBits = sender.GetColorDepth();
+    return own;
 }
 
 } // namespace OrvanTools

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class CSender;
+
 namespace OrvanTools {
 
 /// What one output port carries. More frames a second or more bits a colour leave room for proportionally
@@ -17,5 +19,8 @@ struct PortCapacity
     /// The load in per cent, "62 %". Rounded up, so that more than fits is never told as 100 %.
     QString PercentText(qint64 wanted) const;
 };
+
+/// The same at the frames and bits that the sender is set to, where it is.
+PortCapacity CapacityOf(const CSender& sender, const PortCapacity& capacity = PortCapacity());
 
 } // namespace OrvanTools
