@@ -2,8 +2,6 @@
 
 #include "steptexts.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr QSize kNewCanvas(1920, 1080);
@@ -41,22 +39,13 @@ private:
 DocumentController::DocumentController(QObject* parent) : QObject(parent)
 {
     GetRuntimeData()->SetCurInterfaceDlg(InterfaceDesign);
-    History().SetChangeHandler([this](const SDocumentChange& change) { Note(change); });
+    History().SetChangeHandler([this](const SDocumentChange& change) { emit Changed(change); });
     NewProject();
 }
 
 DocumentController::~DocumentController()
 {
     History().SetChangeHandler({});
-}
-
-void DocumentController::Note(const SDocumentChange& change)
-{
-    if (change.saved || change.documentReplaced)
-        m_unsaved = false;
-    else if (change.senders || change.properties || (!change.ports.isEmpty() && !change.steps))
-        m_unsaved = true;
-    emit Changed(change);
 }
 
 void DocumentController::TellAll()
@@ -87,12 +76,7 @@ bool DocumentController::IsModified() const
 
 bool DocumentController::IsSaveNeeded() const
 {
-    const QList<CSender*> senders = GetProject().GetSenders();
-    return IsModified()
-           && (m_unsaved || std::any_of(senders.begin(), senders.end(), [](const CSender* sender) {
-                   const CSenderUndoRedo* history = History().GetSenderUndoRedoFromID(sender->GetId());
-                   return !history || history->IsModified();
-               }));
+    return History().NeedsSaving();
 }
 
 void DocumentController::NewProject()
@@ -109,6 +93,7 @@ DocumentFile::Outcome DocumentController::Open(const QString& path, bool readOnl
                                                CCustomProgressbar* progress, QString* text)
 {
     const DocumentFile::Outcome outcome = m_file.Open(path, readOnly, progress, text);
+    KeepCurrentPort();
     emit FileChanged();
     return outcome;
 }
@@ -147,15 +132,6 @@ bool DocumentController::DeleteSender(int index, QWidget* parent)
     return done;
 }
 
-void DocumentController::RenameSender(int index, const QString& name)
-{
-    CSender* sender = GetProject().GetSender(index);
-    if (!sender || sender->GetSenderName() == name)
-        return;
-    sender->SetSenderName(name);
-    History().PrjModify();
-}
-
 void DocumentController::SetCurrentPort(int sender, int port)
 {
     CProjectData& project = GetProject();
@@ -170,11 +146,35 @@ void DocumentController::SetCurrentPort(int sender, int port)
         emit PortStatesChanged();
 }
 
-QString DocumentController::WhyClosed(const CPort& port)
+/// Files and steps may name a port that is not in use.
+void DocumentController::KeepCurrentPort()
+{
+    CSender* sender = GetSender();
+    if (!sender || sender->GetRecentPortIndex() < sender->GetPortCount())
+        return;
+    sender->SetRecentPortIndex(0);
+    emit PortStatesChanged();
+}
+
+void DocumentController::SelectGroup(const SPortPlace& place, const QUuid& id)
+{
+    SetCurrentPort(place.sender, place.port);
+    CPort* port = GetPort();
+    const QString why = port ? WhyClosed(*port) : QString();
+    if (!why.isEmpty())
+        emit Refused(why);
+    CTileSet tiles;
+    if (!port || !why.isEmpty() || !port->GetPortProject()->GetTileSetInGroupRecursive(tiles, id))
+        return;
+    QList<CTile*> list;
+    for (CTile* tile : tiles)
+        list.append(tile);
+    Select(list, Choice::Replace);
+}
+
+QString DocumentController::WhyShut(const CPort& port)
 {
     const QString number = QString::number(port.GetPortIndex() + 1);
-    if (port.IsBackupDest())
-        return tr("Port %1 is a backup: it shows what its source shows.").arg(number);
     if (port.IsFlagLock())
         return tr("Port %1 is locked. Unlock it in the tree first.").arg(number);
     if (!port.IsVisible())
@@ -182,33 +182,11 @@ QString DocumentController::WhyClosed(const CPort& port)
     return {};
 }
 
-CPort* DocumentController::FindPort(const SPortPlace& place) const
+QString DocumentController::WhyClosed(const CPort& port)
 {
-    CSender* sender = GetProject().GetSender(place.sender);
-    return sender ? sender->GetPort(place.port) : nullptr;
-}
-
-/// What cannot be seen or changed is not selected either.
-void DocumentController::SetPortShown(const SPortPlace& place, bool shown)
-{
-    CPort* port = FindPort(place);
-    if (!port || !port->SetVisible(shown))
-        return;
-    if (!shown)
-        port->GetPortProject()->CancelAllSelected();
-    History().PrjModify();
-    emit PortStatesChanged();
-}
-
-void DocumentController::SetPortLocked(const SPortPlace& place, bool locked)
-{
-    CPort* port = FindPort(place);
-    if (!port || !port->SetFlagLock(locked))
-        return;
-    if (locked)
-        port->GetPortProject()->CancelAllSelected();
-    History().PrjModify();
-    emit PortStatesChanged();
+    if (port.IsBackupDest())
+        return tr("Port %1 is a backup: it shows what its source shows.").arg(port.GetPortIndex() + 1);
+    return WhyShut(port);
 }
 
 // history
@@ -238,6 +216,7 @@ bool DocumentController::Go(int steps, bool back)
         const AllPortsShown shown(*sender);
         done = back ? History().Undo(steps, nullptr, nullptr) : History().Redo(steps, nullptr, nullptr);
     }
+    KeepCurrentPort();
     emit PortStatesChanged();
     return done;
 }

@@ -33,10 +33,8 @@ public:
     CSender* GetSender() const; ///< [ref] the current one, null without senders
     CPort* GetPort() const;     ///< [ref] the current one of that sender
     const DocumentFile& GetFile() const { return m_file; }
-    bool IsModified() const; ///< as the library has it
-    /// Whether there is a change since the last save that a save would keep. A project may stay modified
-    /// after it.
-    bool IsSaveNeeded() const;
+    bool IsModified() const;   ///< as the library has it: a project may stay modified after a save
+    bool IsSaveNeeded() const; ///< there is a change since the last save
 
     void TellAll(); ///< as if everything were new, for a window that was made since
 
@@ -65,9 +63,10 @@ public:
         Toggle,
     };
     void Select(const QList<CTile*>& tiles, Choice choice);
-    void SelectBlock(const CTile& tile); ///< its outermost group
-    void SelectAll();                    ///< of ports that are shown and not locked
-    QList<CTile*> GetSelection() const;  ///< [ref] by port, in list order
+    void SelectBlock(const CTile& tile);                        ///< its outermost group
+    void SelectGroup(const SPortPlace& place, const QUuid& id); ///< and makes its port current
+    void SelectAll();                                           ///< of ports that are shown and not locked
+    QList<CTile*> GetSelection() const;                         ///< [ref] by port, in list order
     QRect GetSelectionBound() const;
     /// The current port's nearest cabinet in the direction of an arrow key, from the last selected one.
     CTile* FindNeighbour(int key) const;
@@ -98,13 +97,13 @@ public:
     /// Whether turned cabinets are shown and found as turned: a setting of the user's.
     void SetRotationOn(bool on);
 
-    // senders and ports: no step holds these, and the project is marked as modified
+    // senders and ports. No step holds those that come and go; for what they are see SenderEdits
     void AddSender();                              ///< and makes it current
     bool DeleteSender(int index, QWidget* parent); ///< asks first
-    void RenameSender(int index, const QString& name);
-    void SetPortShown(const SPortPlace& place, bool shown);
-    void SetPortLocked(const SPortPlace& place, bool locked);
-    void SetCurrentPort(int sender, int port); ///< no change of the project
+    void SetCurrentPort(int sender, int port);     ///< no change of the project
+    void KeepCurrentPort();                        ///< among those in use
+    static QString WhyShut(const CPort& port);     ///< hidden or locked; empty: it is neither
+    static QString WhyClosed(const CPort& port); ///< why its cabinets stay as they are; empty: they need not
 
     // history
     bool Undo(int steps = 1);
@@ -123,15 +122,11 @@ signals:
     void Refused(const QString& why); ///< for the user
 
 private:
-    void Note(const SDocumentChange& change);
     bool Record(CProjectUndoRedo::Type type);
     void SelectionDone();
-    CPort* FindPort(const SPortPlace& place) const;
-    static QString WhyClosed(const CPort& port); ///< why its cabinets stay as they are; empty: they need not
-    CSender* Append(const QSize& canvas);        ///< [ref]
+    CSender* Append(const QSize& canvas); ///< [ref]
     bool Go(int steps, bool back);
 
     DocumentFile m_file;
     bool m_numbered = false; ///< some cabinet, since the last step
-    bool m_unsaved = false;  ///< a change that no history holds, since the last save
 };

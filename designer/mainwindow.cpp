@@ -11,8 +11,12 @@
 #include "makeaction.h"
 #include "numbertool.h"
 #include "pantool.h"
+#include "portactions.h"
+#include "portpage.h"
+#include "projectpage.h"
 #include "projecttree.h"
 #include "selecttool.h"
+#include "senderpage.h"
 #include "settingsactions.h"
 
 #include <QActionGroup>
@@ -47,8 +51,8 @@ QString DraggedFile(const QMimeData* data)
 MainWindow::MainWindow(DocumentController& document, QWidget* parent)
     : QMainWindow(parent), m_document(document), m_view(new DesignView(m_scene, this)),
       m_files(new FileActions(m_document, *this)), m_edits(new EditActions(m_document, this)),
-      m_settings(new SettingsActions(this)), m_bar(addToolBar(tr("Tools"))),
-      m_tree(new ProjectTree(m_document, this))
+      m_ports(new PortActions(m_document, m_senderEdits, *this)), m_settings(new SettingsActions(this)),
+      m_bar(addToolBar(tr("Tools"))), m_tree(new ProjectTree(m_document, m_senderEdits, this))
 {
     setCentralWidget(m_view);
     auto* dock = new QDockWidget(tr("Project"), this);
@@ -59,6 +63,9 @@ MainWindow::MainWindow(DocumentController& document, QWidget* parent)
     properties->setObjectName(QStringLiteral("properties"));
     m_properties = new QTabWidget(properties);
     properties->setWidget(m_properties);
+    m_properties->addTab(new PortPage(m_document, m_senderEdits, *m_ports, this), tr("Port"));
+    m_properties->addTab(new SenderPage(m_document, m_senderEdits, this), tr("Sender"));
+    m_properties->addTab(new ProjectPage(m_document, m_senderEdits, this), tr("Project"));
     addDockWidget(Qt::RightDockWidgetArea, properties);
     m_faults = new FaultsDock(m_document, this);
     addDockWidget(Qt::BottomDockWidgetArea, m_faults);
@@ -178,6 +185,9 @@ void MainWindow::MakeProjectMenu()
         [this] { m_tree->RenameCurrent(); });
     add(tr("&Delete sender…"), tr("Delete the sender in the tree with all its cabinets"), QKeySequence(),
         [this] { m_document.DeleteSender(m_tree->GetSelectedSender(), this); });
+    menu->addSeparator();
+    menu->addActions(m_ports->GetActions());
+    m_tree->addActions(menu->actions());
 }
 
 void MainWindow::MakeWallMenu()

@@ -2,6 +2,7 @@
 
 #include "documentcontroller.h"
 #include "scenemodel.h"
+#include "senderedits.h"
 
 #include <QMainWindow>
 
@@ -9,6 +10,7 @@ class DesignView;
 class EditActions;
 class FaultsDock;
 class FileActions;
+class PortActions;
 class ProjectTree;
 class SettingsActions;
 class QLabel;
@@ -54,10 +56,12 @@ private:
     void Take(const SDocumentChange& change);
 
     DocumentController& m_document;
+    SenderEdits m_senderEdits{m_document};
     SceneModel m_scene;
     DesignView* m_view = nullptr;
     FileActions* m_files = nullptr;
     EditActions* m_edits = nullptr;
+    PortActions* m_ports = nullptr;
     SettingsActions* m_settings = nullptr;
     QToolBar* m_bar = nullptr;
     ProjectTree* m_tree = nullptr;

@@ -1,13 +1,21 @@
 #include "projecttree.h"
 
 #include "documentcontroller.h"
+#include "grouprows.h"
 #include "loaddelegate.h"
 #include "loadofport.h"
+#include "senderedits.h"
 
+#include <QDropEvent>
 #include <QHeaderView>
+#include <QMimeData>
 #include <QScopedValueRollback>
+#include <QTimer>
+#include <QToolTip>
 
 namespace {
+
+const QString kDraggedPort = QStringLiteral("application/x-orvan-port");
 
 QIcon ColorIcon(int port)
 {
@@ -18,8 +26,8 @@ QIcon ColorIcon(int port)
 
 } // namespace
 
-ProjectTree::ProjectTree(DocumentController& document, QWidget* parent)
-    : QTreeWidget(parent), m_document(document)
+ProjectTree::ProjectTree(DocumentController& document, SenderEdits& edits, QWidget* parent)
+    : QTreeWidget(parent), m_document(document), m_edits(edits)
 {
     setHeaderLabels({tr("Sender, port"), tr("Show"), tr("Lock"), tr("Load")});
     setEditTriggers(NoEditTriggers);
@@ -27,7 +35,9 @@ ProjectTree::ProjectTree(DocumentController& document, QWidget* parent)
     setUniformRowHeights(true);
     setAllColumnsShowFocus(false);
     setSelectionBehavior(SelectRows);
-    setAccessibleName(tr("Senders and ports"));
+    setAccessibleName(tr("Senders, ports and groups"));
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    setDragDropMode(DragDrop);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(Name, QHeaderView::Stretch);
     for (const int column : {int(Shown), int(Locked)})
@@ -37,6 +47,8 @@ ProjectTree::ProjectTree(DocumentController& document, QWidget* parent)
     setIndentation(fontMetrics().averageCharWidth() * 2);
     connect(this, &QTreeWidget::currentItemChanged, this, &ProjectTree::TakeCurrent);
     connect(this, &QTreeWidget::itemChanged, this, &ProjectTree::TakeEdit);
+    connect(this, &QTreeWidget::itemClicked, this, &ProjectTree::ChooseGroup);
+    connect(this, &QTreeWidget::itemActivated, this, &ProjectTree::ChooseGroup);
     connect(&document, &DocumentController::PortStatesChanged, this, &ProjectTree::ShowStates);
     connect(&document, &DocumentController::SenderChanged, this, &ProjectTree::ShowStates);
 }
@@ -47,10 +59,19 @@ QTreeWidgetItem* ProjectTree::ItemOf(int sender, int port) const
     return parent ? parent->child(port) : nullptr;
 }
 
+SPortPlace ProjectTree::PlaceOf(QTreeWidgetItem* item) const
+{
+    while (item && item->parent() && item->parent()->parent())
+        item = item->parent();
+    if (!item || !item->parent())
+        return {};
+    return {indexOfTopLevelItem(item->parent()), item->parent()->indexOfChild(item)};
+}
+
 int ProjectTree::GetSelectedSender() const
 {
     QTreeWidgetItem* item = currentItem();
-    return item ? indexOfTopLevelItem(item->parent() ? item->parent() : item) : -1;
+    return item && !item->parent() ? indexOfTopLevelItem(item) : PlaceOf(item).sender;
 }
 
 void ProjectTree::Take(const SDocumentChange& change)
@@ -86,7 +107,7 @@ void ProjectTree::FillSender(int index)
     QTreeWidgetItem* sender = topLevelItem(index);
     if (!sender) {
         sender = new QTreeWidgetItem(this);
-        sender->setFlags(sender->flags() | Qt::ItemIsEditable);
+        sender->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
         sender->setToolTip(Name, tr("F2 renames the sender"));
         sender->setExpanded(true);
     }
@@ -105,12 +126,18 @@ void ProjectTree::FillPort(int sender, int index)
     const CPort& port = *m_document.GetProject().GetSender(sender)->GetPort(index);
     QTreeWidgetItem& item = *ItemOf(sender, index);
     item.setIcon(Name, ColorIcon(index));
+    item.setFirstColumnSpanned(port.IsBackupDest()); // it is drawn nowhere and loads nothing
     if (port.IsBackupDest()) {
-        item.setText(Name, tr("Port %1, backup").arg(index + 1));
+        const QString number = QString::number(index + 1);
+        item.setText(Name, tr("Port %1, backup of %2").arg(number, m_edits.SourceText({sender, index})));
+        item.setToolTip(Name, tr("It feeds what the other port feeds, should that fail"));
         item.setText(Load, QString());
         item.setToolTip(Load, QString());
+        qDeleteAll(item.takeChildren());
         return;
     }
+    item.setToolTip(Name, tr("Drag it onto another port to make it the backup of that one"));
+    ShowGroups(port, item);
     const OrvanTools::PortCapacity capacity = CapacityOf(*m_document.GetProject().GetSender(sender));
     const qint64 pixels = PixelsOf(port);
     item.setText(Name, tr("Port %1").arg(index + 1));
@@ -139,37 +166,95 @@ void ProjectTree::ShowStates()
             QFont bold = font();
             bold.setBold(isCurrent);
             item.setFont(Name, bold);
-            if (isCurrent && currentItem() != &item)
+            if (isCurrent && PlaceOf(currentItem()) != SPortPlace{i, port})
                 setCurrentItem(&item, currentColumn() < 0 ? int(Name) : currentColumn());
         }
     }
 }
 
-void ProjectTree::TakeCurrent(const QTreeWidgetItem* item)
+void ProjectTree::TakeCurrent(QTreeWidgetItem* item)
 {
-    if (m_filling || !item)
-        return;
-    const QTreeWidgetItem* parent = item->parent();
-    if (parent)
-        m_document.SetCurrentPort(indexOfTopLevelItem(item->parent()),
-                                  parent->indexOfChild(const_cast<QTreeWidgetItem*>(item)));
+    const SPortPlace place = PlaceOf(item);
+    if (!m_filling && place.sender >= 0)
+        m_document.SetCurrentPort(place.sender, place.port);
 }
 
-void ProjectTree::TakeEdit(const QTreeWidgetItem* item, int column)
+void ProjectTree::TakeEdit(QTreeWidgetItem* item, int column)
 {
     if (m_filling)
         return;
-    auto* const changed = const_cast<QTreeWidgetItem*>(item);
-    if (!item->parent()) {
-        m_document.RenameSender(indexOfTopLevelItem(changed), item->text(Name));
-        return;
-    }
-    const SPortPlace place{indexOfTopLevelItem(item->parent()), item->parent()->indexOfChild(changed)};
     const bool on = item->checkState(column) == Qt::Checked;
-    if (column == Shown)
-        m_document.SetPortShown(place, on);
+    if (!item->parent())
+        m_edits.SetName(indexOfTopLevelItem(item), item->text(Name));
+    else if (column == Shown)
+        m_edits.SetShown(PlaceOf(item), on);
     else if (column == Locked)
-        m_document.SetPortLocked(place, on);
+        m_edits.SetLocked(PlaceOf(item), on);
+}
+
+void ProjectTree::ChooseGroup(QTreeWidgetItem* item)
+{
+    const QUuid id = item->data(Name, Qt::UserRole).toUuid();
+    if (!id.isNull())
+        m_document.SelectGroup(PlaceOf(item), id);
+}
+
+// dragging a port onto another
+
+QStringList ProjectTree::mimeTypes() const
+{
+    return {kDraggedPort};
+}
+
+QMimeData* ProjectTree::mimeData(const QList<QTreeWidgetItem*> items) const
+{
+    const SPortPlace place = PlaceOf(items.value(0));
+    auto* dragged = new QMimeData;
+    dragged->setData(kDraggedPort, QStringLiteral("%1 %2 %3")
+                                       .arg(QCoreApplication::applicationPid())
+                                       .arg(place.sender)
+                                       .arg(place.port)
+                                       .toLatin1());
+    return dragged;
+}
+
+SPortPlace ProjectTree::DraggedBy(const QDropEvent& event) const
+{
+    const QList<QByteArray> parts = event.mimeData()->data(kDraggedPort).split(' ');
+    if (parts.size() != 3 || parts[0].toLongLong() != QCoreApplication::applicationPid())
+        return {};
+    return {parts[1].toInt(), parts[2].toInt()};
+}
+
+void ProjectTree::dragEnterEvent(QDragEnterEvent* event)
+{
+    QTreeWidget::dragEnterEvent(event);
+    event->setAccepted(DraggedBy(*event).port >= 0);
+}
+
+void ProjectTree::dragMoveEvent(QDragMoveEvent* event)
+{
+    QTreeWidget::dragMoveEvent(event); // scrolls at the edges
+    const SPortPlace backup = DraggedBy(*event);
+    const SPortPlace source = PlaceOf(itemAt(event->pos()));
+    const bool isOnPort = source.port >= 0 && source != backup;
+    const QString why = isOnPort ? m_edits.WhyNotBackup(backup, source) : QString();
+    event->setAccepted(isOnPort && why.isEmpty());
+    const QString what =
+        isOnPort ? tr("Port %1 becomes the backup of %2")
+                       .arg(QString::number(backup.port + 1), m_edits.PortText(source, backup.sender))
+                 : QString();
+    QToolTip::showText(viewport()->mapToGlobal(event->pos()), why.isEmpty() ? what : why, this);
+}
+
+/// Something may be asked, which has to wait for the end of the drag.
+void ProjectTree::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    setState(NoState);
+    const SPortPlace backup = DraggedBy(*event);
+    const SPortPlace source = PlaceOf(itemAt(event->pos()));
+    QTimer::singleShot(0, this, [this, backup, source] { m_edits.MakeBackup(backup, source, window()); });
 }
 
 void ProjectTree::RenameCurrent()

@@ -5,9 +5,10 @@
 #include <QTreeWidget>
 
 class DocumentController;
+class SenderEdits;
 
-/// The senders of the project and their ports: which are shown and locked, how full each is, and which one
-/// new cabinets go to.
+/// The senders of the project, their ports and the groups on these: which ports are shown and locked, how
+/// full each is, which one new cabinets go to. A port that is dragged onto another becomes its backup.
 class ProjectTree : public QTreeWidget
 {
     Q_OBJECT
@@ -21,21 +22,33 @@ public:
         Load, ///< the fraction is the item's Qt::UserRole
     };
 
-    ProjectTree(DocumentController& document, QWidget* parent); ///< [keep] the document
+    /// [keep] the document and its edits
+    ProjectTree(DocumentController& document, SenderEdits& edits, QWidget* parent);
 
     void Take(const SDocumentChange& change);
     void RenameCurrent();          ///< the sender, in place
     int GetSelectedSender() const; ///< -1: none
+
+protected:
+    QStringList mimeTypes() const override;
+    QMimeData* mimeData(const QList<QTreeWidgetItem*> items) const override; ///< [new]
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void Fill();
     void FillSender(int index);
     void FillPort(int sender, int port);
     void ShowStates();
-    void TakeCurrent(const QTreeWidgetItem* item);
-    void TakeEdit(const QTreeWidgetItem* item, int column);
+    void TakeCurrent(QTreeWidgetItem* item);
+    void TakeEdit(QTreeWidgetItem* item, int column);
+    void ChooseGroup(QTreeWidgetItem* item);
     QTreeWidgetItem* ItemOf(int sender, int port) const;
+    SPortPlace PlaceOf(QTreeWidgetItem* item) const;     ///< of a port, or of what is below it; else none
+    SPortPlace DraggedBy(const QDropEvent& event) const; ///< the port, if it is one of this program
 
     DocumentController& m_document;
+    SenderEdits& m_edits;
     bool m_filling = false;
 };

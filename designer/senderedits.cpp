@@ -1,0 +1,289 @@
+#include "senderedits.h"
+
+#include "documentcontroller.h"
+
+#include "custommessagebox.h"
+
+namespace {
+
+CProjectUndoRedo& History()
+{
+    return *GetRuntimeData()->GetProjectUndoRedo();
+}
+
+template <class Get, class Set, class Value>
+void SetField(CSender* sender, Get get, Set set, const Value& value)
+{
+    if (!sender || (sender->*get)() == value)
+        return;
+    (sender->*set)(value);
+    History().PrjModify();
+}
+
+bool Ask(const QStringList& losses, QWidget* parent)
+{
+    if (losses.isEmpty())
+        return true;
+    const QStringList lines = losses + QStringList(SenderEdits::tr("Go on?"));
+    return CCustomMessageBox::question(parent, lines.join(QStringLiteral("\n\n"))) == QMessageBox::Yes;
+}
+
+} // namespace
+
+// senders
+
+CSender* SenderEdits::FindSender(int sender) const
+{
+    return m_document.GetProject().GetSender(sender);
+}
+
+void SenderEdits::SetName(int sender, const QString& name)
+{
+    SetField(FindSender(sender), &CSender::GetSenderName, &CSender::SetSenderName, name);
+}
+
+void SenderEdits::SetPrintName(int sender, const SPrintLine& name)
+{
+    SetField(FindSender(sender), &CSender::IsPrintNameEnable, &CSender::SetPrintNameEnable, name.enable);
+    SetField(FindSender(sender), &CSender::GetPrintName, &CSender::SetPrintName, name.text);
+}
+
+void SenderEdits::SetCanvas(int sender, const QSize& size)
+{
+    SetField(FindSender(sender), &CSender::GetCanvasSize, &CSender::SetCanvasSize,
+             size.boundedTo(QSize(kMaxCanvasWidth, kMaxCanvasHeight)));
+}
+
+/// The library raises the offset that a sender has.
+void SenderEdits::SetOffset(int sender, const QSize& offset)
+{
+    CSender* found = FindSender(sender);
+    if (!found)
+        return;
+    const QSize before = found->GetOffset();
+    found->SetOffset(offset);
+    found->OffsetValid();
+    if (found->GetOffset() != before)
+        History().PrjModify();
+}
+
+void SenderEdits::SetFrequency(int sender, int hertz)
+{
+    SetField(FindSender(sender), &CSender::GetSignalFreq, &CSender::SetSignalFreq, hertz);
+}
+
+void SenderEdits::SetDepth(int sender, int bits)
+{
+    SetField(FindSender(sender), &CSender::GetColorDepth, &CSender::SetColorDepth, bits);
+}
+
+QList<int> SenderEdits::GetPortCounts()
+{
+    QList<int> counts;
+    for (int count = 1; count <= kMaxPorts; ++count) {
+        if (CSender::IsPortCountAccepted(count))
+            counts.append(count);
+    }
+    return counts;
+}
+
+bool SenderEdits::HoldsNothing(const SPortPlace& place) const
+{
+    const CPort* port = FindPort(place);
+    return !port || (!port->IsBackupDest() && port->GetTileSet().GetCount() == 0 && !IsSource(place));
+}
+
+bool SenderEdits::SetPortCount(int sender, int count, QWidget* parent)
+{
+    CSender* found = FindSender(sender);
+    if (!found || !CSender::IsPortCountAccepted(count) || count == found->GetPortCount())
+        return false;
+    QStringList held;
+    for (int port = count; port < found->GetPortCount(); ++port) {
+        if (!HoldsNothing({sender, port}))
+            held.append(QString::number(port + 1));
+    }
+    if (!held.isEmpty())
+        held = QStringList(tr("Ports with cabinets or backups go: %1. They come back with a larger number of "
+                              "ports, but a save leaves them out.")
+                               .arg(held.join(QStringLiteral(", "))));
+    if (!Ask(held, parent))
+        return false;
+    found->SetPortCount(count);
+    m_document.KeepCurrentPort();
+    History().PrjModify();
+    return true;
+}
+
+// ports
+
+/// In use: of those beyond the number of ports nothing is seen.
+CPort* SenderEdits::FindPort(const SPortPlace& place) const
+{
+    CSender* sender = FindSender(place.sender);
+    return sender && place.port < sender->GetPortCount() ? sender->GetPort(place.port) : nullptr;
+}
+
+/// What cannot be seen or changed is not selected either.
+void SenderEdits::SetShown(const SPortPlace& place, bool shown)
+{
+    CPort* port = FindPort(place);
+    if (port && port->SetVisible(shown))
+        NoteState(*port, !shown);
+}
+
+void SenderEdits::SetLocked(const SPortPlace& place, bool locked)
+{
+    CPort* port = FindPort(place);
+    if (port && port->SetFlagLock(locked))
+        NoteState(*port, locked);
+}
+
+void SenderEdits::NoteState(CPort& port, bool closed)
+{
+    if (closed)
+        port.GetPortProject()->CancelAllSelected();
+    History().PrjModify();
+    emit m_document.PortStatesChanged();
+}
+
+// backups
+
+bool SenderEdits::IsSource(const SPortPlace& place) const
+{
+    const CProjectData& project = m_document.GetProject();
+    for (int sender = 0; sender < project.GetSenderCount(); ++sender) {
+        for (int port = 0; port < project.GetSender(sender)->GetPortCount(); ++port) {
+            if (SourceOf({sender, port}) == place)
+                return true;
+        }
+    }
+    return false;
+}
+
+SPortPlace SenderEdits::SourceOf(const SPortPlace& backup) const
+{
+    SPortPlace source;
+    bool isFound = false;
+    const CPort* port = FindPort(backup);
+    if (port && port->IsBackupDest())
+        m_document.GetProject().MatchSrcBackup(backup.sender, backup.port, source.sender, source.port,
+                                               isFound);
+    return source;
+}
+
+QString SenderEdits::WhyNotBackup(const SPortPlace& backup) const
+{
+    const CPort* port = FindPort(backup);
+    if (!port)
+        return tr("There is no such port.");
+    const QString number = QString::number(backup.port + 1);
+    if (port->IsBackupDest())
+        return tr("Port %1 is a backup already. End that first.").arg(number);
+    if (IsSource(backup))
+        return tr("Port %1 has a backup itself, and a backup has none.").arg(number);
+    return DocumentController::WhyClosed(*port);
+}
+
+QString SenderEdits::WhyNotBackup(const SPortPlace& backup, const SPortPlace& source) const
+{
+    const CPort* port = FindPort(source);
+    if (!port || backup == source)
+        return tr("A port is a backup of another port.");
+    if (port->IsBackupDest())
+        return tr("Port %1 is a backup itself, and a backup has none.").arg(source.port + 1);
+    return WhyNotBackup(backup);
+}
+
+QList<SPortPlace> SenderEdits::GetSourcesFor(const SPortPlace& backup) const
+{
+    QList<SPortPlace> sources;
+    const CProjectData& project = m_document.GetProject();
+    for (int sender = 0; sender < project.GetSenderCount(); ++sender) {
+        for (int port = 0; port < project.GetSender(sender)->GetPortCount(); ++port) {
+            const SPortPlace place{sender, port};
+            if (place != backup && !FindPort(place)->IsBackupDest())
+                sources.append(place);
+        }
+    }
+    return sources;
+}
+
+bool SenderEdits::MakeBackup(const SPortPlace& backup, const SPortPlace& source, QWidget* parent)
+{
+    const QString why = WhyNotBackup(backup, source);
+    if (!why.isEmpty()) {
+        emit m_document.Refused(why);
+        return false;
+    }
+    CPort& port = *FindPort(backup);
+    QStringList losses;
+    if (const int own = port.GetTileSet().GetCount())
+        losses.append(tr("Port %1 has cabinets of its own: %2. They stay in the project, but are neither "
+                         "shown nor checked until the backup ends.")
+                          .arg(backup.port + 1)
+                          .arg(own));
+    if (!MayRestartHistory(backup.sender, losses, parent))
+        return false;
+    port.GetPortProject()->CancelAllSelected();
+    port.SetBeBackupDest(FindSender(source.sender)->GetId(), source.port);
+    RestartHistory(backup.sender);
+    return true;
+}
+
+bool SenderEdits::EndBackup(const SPortPlace& backup, QWidget* parent)
+{
+    CPort* port = FindPort(backup);
+    if (!port || !port->IsBackupDest())
+        return false;
+    const QString why = DocumentController::WhyShut(*port);
+    if (!why.isEmpty()) {
+        emit m_document.Refused(why);
+        return false;
+    }
+    if (!MayRestartHistory(backup.sender, {}, parent))
+        return false;
+    port->CancelBackupDest();
+    RestartHistory(backup.sender);
+    return true;
+}
+
+bool SenderEdits::MayRestartHistory(int sender, QStringList losses, QWidget* parent) const
+{
+    const CSenderUndoRedo* history = History().GetSenderUndoRedoFromID(FindSender(sender)->GetId());
+    if (history && history->GetStepCount() > 1)
+        losses.append(tr("The edits of this sender can no longer be undone afterwards."));
+    return Ask(losses, parent);
+}
+
+void SenderEdits::RestartHistory(int sender)
+{
+    History().SenderUndoRedoInit(FindSender(sender));
+    History().PrjModify();
+    emit m_document.PortStatesChanged();
+}
+
+QString SenderEdits::PortText(const SPortPlace& place, int sender) const
+{
+    const QString number = QString::number(place.port + 1);
+    if (place.sender == sender)
+        return tr("port %1").arg(number);
+    return tr("%1, port %2").arg(m_document.GetProject().GetShowSenderName(place.sender, true), number);
+}
+
+QString SenderEdits::SourceText(const SPortPlace& backup) const
+{
+    const SPortPlace source = SourceOf(backup);
+    return source.sender < 0 ? tr("a port that is not there") : PortText(source, backup.sender);
+}
+
+// printed form
+
+void SenderEdits::SetPrintLine(SPrintLine SPrintFormData::*line, const SPrintLine& value)
+{
+    SPrintLine& present = m_document.GetProject().GetPrintSetData()->*line;
+    if (present.enable == value.enable && present.text == value.text)
+        return;
+    present = value;
+    History().PrjModify();
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <OrvanData/orvandata.h>
+
+#include <QCoreApplication>
+
+class DocumentController;
+class QWidget;
+
+/// Edits of senders, ports and the printed form that no step of the history holds. What changes something
+/// marks the project as modified. What would lose something asks first, in a box over `parent`; false: it
+/// stays as it is.
+class SenderEdits
+{
+    Q_DECLARE_TR_FUNCTIONS(SenderEdits)
+
+public:
+    explicit SenderEdits(DocumentController& document) : m_document(document) {} ///< [keep]
+
+    // senders
+    void SetName(int sender, const QString& name);
+    void SetPrintName(int sender, const SPrintLine& name);
+    void SetCanvas(int sender, const QSize& size);   ///< at most the largest one; empty: none
+    void SetOffset(int sender, const QSize& offset); ///< raised so that the layout starts on the canvas
+    void SetFrequency(int sender, int hertz);        ///< 0: not set
+    void SetDepth(int sender, int bits);             ///< of a colour; 0: not set
+    static QList<int> GetPortCounts();               ///< that there are
+    bool SetPortCount(int sender, int count, QWidget* parent);
+
+    // ports
+    void SetShown(const SPortPlace& place, bool shown);
+    void SetLocked(const SPortPlace& place, bool locked);
+
+    // backups. Making or ending one starts the history of its sender anew: undoing over it clears the port
+    QString WhyNotBackup(const SPortPlace& backup) const; ///< of whatever port; empty: it can be one
+    QString WhyNotBackup(const SPortPlace& backup, const SPortPlace& source) const;
+    QList<SPortPlace> GetSourcesFor(const SPortPlace& backup) const;
+    bool MakeBackup(const SPortPlace& backup, const SPortPlace& source, QWidget* parent);
+    bool EndBackup(const SPortPlace& backup, QWidget* parent);
+    /// "port 1", with the name of its sender when that is not `sender`.
+    QString PortText(const SPortPlace& place, int sender) const;
+    QString SourceText(const SPortPlace& backup) const; ///< the same of what it backs up
+
+    void SetPrintLine(SPrintLine SPrintFormData::*line, const SPrintLine& value);
+
+private:
+    CSender* FindSender(int sender) const;
+    CPort* FindPort(const SPortPlace& place) const;
+    void NoteState(CPort& port, bool closed);
+    SPortPlace SourceOf(const SPortPlace& backup) const; ///< sender -1: none
+    bool IsSource(const SPortPlace& place) const;
+    bool HoldsNothing(const SPortPlace& place) const;
+    bool MayRestartHistory(int sender, QStringList losses, QWidget* parent) const;
+    void RestartHistory(int sender);
+
+    DocumentController& m_document;
+};
