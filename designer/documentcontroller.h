@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cabinetcopies.h"
 #include "documentfile.h"
 
 #include <OrvanData/orvandata.h>
@@ -30,8 +31,9 @@ public:
 
     // what is open
     CProjectData& GetProject() const { return *GetProjectData(); }
-    CSender* GetSender() const; ///< [ref] the current one, null without senders
-    CPort* GetPort() const;     ///< [ref] the current one of that sender
+    CSender* GetSender() const;                  ///< [ref] the current one, null without senders
+    CPort* GetPort() const;                      ///< [ref] the current one of that sender
+    static QString WhyClosed(const CPort& port); ///< why its cabinets stay as they are; empty: they need not
     const DocumentFile& GetFile() const { return m_file; }
     bool IsModified() const;   ///< as the library has it: a project may stay modified after a save
     bool IsSaveNeeded() const; ///< there is a change since the last save
@@ -63,7 +65,7 @@ public:
         Toggle,
     };
     void Select(const QList<CTile*>& tiles, Choice choice);
-    void SelectBlock(const CTile& tile);                        ///< its outermost group
+    void SelectGroups(); ///< all of the outermost groups that have a selected cabinet
     void SelectGroup(const SPortPlace& place, const QUuid& id); ///< and makes its port current
     void SelectAll();                                           ///< of ports that are shown and not locked
     QList<CTile*> GetSelection() const;                         ///< [ref] by port, in list order
@@ -76,7 +78,18 @@ public:
     QPoint Limited(const QRect& bound, const QPoint& by) const; ///< so that it stays on the largest canvas
     bool MoveSelection(const QPoint& by);
     bool DeleteSelection();
-    bool TurnSelection(double angle); ///< degrees, clockwise, about its middle; rotation is on afterwards
+    bool TurnSelection(double angle);   ///< degrees, clockwise, about its middle; rotation is on afterwards
+    bool TurnSelectionTo(double angle); ///< each about its own middle, unless all are turned alike
+    bool ResizeSelection(int width, int height); ///< each of them; 0: stays. Rows and columns stay together
+    bool GroupSelection();
+    bool UngroupSelection();            ///< the outermost groups that have a selected cabinet
+    bool MoveSelectionToPort(int port); ///< of the sender; its chain does not take them up
+
+    // copies, which outlive their cabinets and the document
+    void CopySelection();
+    bool CutSelection();
+    bool Paste(); ///< onto the current port
+    bool HasCopies() const { return m_copies.GetCount() > 0; }
 
     // adding a block of cabinets
     static QRect BoundOf(const SAddTileInfo& block);        ///< wall pixels
@@ -123,10 +136,20 @@ signals:
 
 private:
     bool Record(CProjectUndoRedo::Type type);
+    bool Refuse(const QString& why);       ///< tells the user; always false
+    bool IsAllowed(const QString& whyNot); ///< with no reason against it
     void SelectionDone();
+    static QString WhyTooLarge();
+    QString WhyNoRoom(const CPort& port, qint64 cabinets) const; ///< for that many more; empty: there is
+    QList<CPort*> PortsWithCabinets() const;                     ///< [ref] of the current sender
+    void MarkGroups();                                           ///< as selected, or not, by their cabinets
+    void MoveSelected(const QPoint& by);
+    bool FinishTurn();
+    void DeleteSelected(CPort& port);
     CSender* Append(const QSize& canvas); ///< [ref]
     bool Go(int steps, bool back);
 
     DocumentFile m_file;
+    CabinetCopies m_copies;
     bool m_numbered = false; ///< some cabinet, since the last step
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 
 class DocumentController;
@@ -7,8 +8,8 @@ class QAction;
 class QMenu;
 class QToolBar;
 
-/// Undo, redo, delete and select, enabled where they would do something. Undo and redo name their step, and
-/// a list takes back several at once.
+/// Undo and redo, copies, groups and the rest of what a menu does to the selection, enabled where it would do
+/// something. Undo and redo name their step, and a list takes back several at once.
 class EditActions : public QObject
 {
     Q_OBJECT
@@ -23,11 +24,14 @@ private:
     void Show();
     void ShowSelection();
     void FillSteps(QMenu& menu, bool back);
+    void FillPorts(QMenu& menu);
 
     DocumentController& m_document;
     QAction* m_undo;
     QAction* m_redo;
-    QAction* m_delete;
+    QAction* m_paste;
     QAction* m_selectAll;
-    QAction* m_selectNone;
+    QAction* m_moveToPort;
+    QList<QAction*> m_ofSelection; ///< enabled while something is selected
+    QList<QAction*> m_menu;        ///< in its order, null: a separator
 };

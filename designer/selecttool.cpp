@@ -149,8 +149,11 @@ void SelectTool::FinishBand(Qt::KeyboardModifiers keys)
 
 void SelectTool::DoubleClick(const QMouseEvent& event)
 {
-    if (CTile* tile = TileAt(event.pos()))
-        m_document.SelectBlock(*tile);
+    CTile* tile = TileAt(event.pos());
+    if (!tile)
+        return;
+    m_document.Select({tile}, DocumentController::Choice::Replace);
+    m_document.SelectGroups();
 }
 
 void SelectTool::Cancel()

@@ -22,7 +22,7 @@ public:
     void Press(const QMouseEvent& event) override;
     void Move(const QMouseEvent& event) override;
     void Release(const QMouseEvent& event) override;
-    void DoubleClick(const QMouseEvent& event) override; ///< the cabinet's whole block
+    void DoubleClick(const QMouseEvent& event) override; ///< the cabinet's outermost group
     bool Key(const QKeyEvent& event) override;
     void Cancel() override;
     void Paint(QPainter& painter) const override;

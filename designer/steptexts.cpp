@@ -4,27 +4,28 @@
 
 namespace {
 
-const char* SourceOf(int type)
+struct Step
 {
-    switch (type) {
-    case CSenderRecordItem::OperationAddTiles:
-        return QT_TRANSLATE_NOOP("StepText", "Add cabinets");
-    case CSenderRecordItem::OperationDeleteTiles:
-        return QT_TRANSLATE_NOOP("StepText", "Delete");
-    case CSenderRecordItem::OperationMoveTiles:
-        return QT_TRANSLATE_NOOP("StepText", "Move");
-    case CSenderRecordItem::OperationConnect:
-        return QT_TRANSLATE_NOOP("StepText", "Number");
-    case CSenderRecordItem::OperationAutoConnect:
-        return QT_TRANSLATE_NOOP("StepText", "Number all");
-    case CSenderRecordItem::OperationDisconnect:
-        return QT_TRANSLATE_NOOP("StepText", "Clear numbers");
-    case CSenderRecordItem::OperationImportLayout:
-        return QT_TRANSLATE_NOOP("StepText", "Import layout");
-    default:
-        return QT_TRANSLATE_NOOP("StepText", "Edit");
-    }
-}
+    int type;
+    const char* text;
+};
+
+constexpr Step kSteps[] = {
+    {CSenderRecordItem::OperationAddTiles, QT_TRANSLATE_NOOP("StepText", "Add cabinets")},
+    {CSenderRecordItem::OperationDeleteTiles, QT_TRANSLATE_NOOP("StepText", "Delete")},
+    {CSenderRecordItem::OperationMoveTiles, QT_TRANSLATE_NOOP("StepText", "Move")},
+    {CSenderRecordItem::OperationResizeTiles, QT_TRANSLATE_NOOP("StepText", "Resize")},
+    {CSenderRecordItem::OperationPasteTiles, QT_TRANSLATE_NOOP("StepText", "Paste")},
+    {CSenderRecordItem::OperationCutTiles, QT_TRANSLATE_NOOP("StepText", "Cut")},
+    {CSenderRecordItem::OperationGroup, QT_TRANSLATE_NOOP("StepText", "Group")},
+    {CSenderRecordItem::OperationUngroup, QT_TRANSLATE_NOOP("StepText", "Ungroup")},
+    {CSenderRecordItem::OperationRotate, QT_TRANSLATE_NOOP("StepText", "Turn")},
+    {CSenderRecordItem::OperationConnect, QT_TRANSLATE_NOOP("StepText", "Number")},
+    {CSenderRecordItem::OperationAutoConnect, QT_TRANSLATE_NOOP("StepText", "Number all")},
+    {CSenderRecordItem::OperationDisconnect, QT_TRANSLATE_NOOP("StepText", "Clear numbers")},
+    {CSenderRecordItem::OperationImportLayout, QT_TRANSLATE_NOOP("StepText", "Import layout")},
+    {CSenderRecordItem::OperationMoveToPort, QT_TRANSLATE_NOOP("StepText", "Move to port")},
+};
 
 } // namespace
 
@@ -32,5 +33,9 @@ QString StepText(int type)
 {
     if (type < 0 || type == CSenderRecordItem::OperationBase)
         return {};
-    return QCoreApplication::translate("StepText", SourceOf(type));
+    for (const Step& step : kSteps) {
+        if (step.type == type)
+            return QCoreApplication::translate("StepText", step.text);
+    }
+    return QCoreApplication::translate("StepText", "Edit");
 }

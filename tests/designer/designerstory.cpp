@@ -56,6 +56,14 @@ QColor DesignerStory::ColorAt(const QPoint& wall)
     return view.viewport()->grab().toImage().pixelColor(view.GetMap().ToView(wall));
 }
 
+std::string DesignerStory::Chain(int port) const
+{
+    QStringList numbers;
+    for (const CTile* tile : Tiles(port))
+        numbers.append(QString::number(tile->GetConnectionIndex() + 1));
+    return numbers.join(QLatin1Char(' ')).toStdString();
+}
+
 void DesignerStory::Picture(const char* name)
 {
     const QString pictures = qEnvironmentVariable("ORVAN_PICTURES");

@@ -31,7 +31,8 @@ struct DesignerStory : testing::Test
     {
         return GetProjectData()->GetSender(0)->GetPort(port)->GetTileSet();
     }
-    void Picture(const char* name); ///< into the folder of ORVAN_PICTURES, for eyes
+    std::string Chain(int port = 0) const; ///< the cabinets' numbers in list order, 0: none
+    void Picture(const char* name);        ///< into the folder of ORVAN_PICTURES, for eyes
 
     struct Library
     {

@@ -33,13 +33,6 @@ struct WallStory : DesignerStory
         window.activateWindow();
         QTRY_VERIFY(QTest::qWaitForWindowActive(&window) && !window.findChild<BlockDialog*>());
     }
-    std::string Chain(int port) const ///< the cabinets' numbers, in list order
-    {
-        QStringList numbers;
-        for (const CTile* tile : Tiles(port))
-            numbers.append(QString::number(tile->GetConnectionIndex() + 1));
-        return numbers.join(QLatin1Char(' ')).toStdString();
-    }
     std::string Load(int port) ///< as the tree shows it
     {
         return window.GetTree().topLevelItem(0)->child(port)->text(ProjectTree::Load).toStdString();

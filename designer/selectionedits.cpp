@@ -1,0 +1,267 @@
+// The edits of the selected cabinets.
+#include "documentcontroller.h"
+#include "wallgroups.h"
+
+#include <algorithm>
+
+namespace {
+
+const QRect kLargestCanvas(0, 0, kMaxCanvasWidth, kMaxCanvasHeight);
+constexpr QPoint kAside(16, 16);
+
+/// Where copies go: where they were when nothing lies there, else beside that, else beside all cabinets,
+/// else on top of what is there.
+QPoint FreePlace(const QList<CPort*>& ports, const CSender& sender, const QRect& bound)
+{
+    const QRect all = sender.GetBound();
+    const QPoint places[] = {bound.topLeft(),
+                             {bound.right() + 1, bound.top()},
+                             {bound.left(), bound.bottom() + 1},
+                             {bound.left() - bound.width(), bound.top()},
+                             {bound.left(), bound.top() - bound.height()},
+                             {all.right() + 1, bound.top()},
+                             {bound.left(), all.bottom() + 1}};
+    const auto isFree = [&](const QRect& place) {
+        CTileSet found;
+        return std::none_of(ports.begin(), ports.end(), [&](const CPort* port) {
+            return port->GetTileSet().GetTileSetAtRect(found, place, false);
+        });
+    };
+    for (const QRect& canvas : {QRect(QPoint(), sender.GetCanvasSize()), kLargestCanvas}) {
+        for (const QPoint& place : places) {
+            const QRect covered(place, bound.size());
+            if (canvas.contains(covered) && isFree(covered))
+                return place;
+        }
+    }
+    return bound.topLeft() + kAside;
+}
+
+} // namespace
+
+bool DocumentController::MayEditSelection()
+{
+    for (const CPort* port : PortsWithCabinets()) {
+        CTileSet selected;
+        port->GetTileSet().GetSelTileSet(selected, InterfaceDesign);
+        if (selected.GetCount() > 0 && !IsAllowed(WhyClosed(*port)))
+            return false;
+    }
+    return true;
+}
+
+QPoint DocumentController::Limited(const QRect& bound, const QPoint& by) const
+{
+    const auto limit = [](int wanted, int first, int last, int size) {
+        return qMax(qMin(wanted, size - 1 - last), -first);
+    };
+    return QPoint(limit(by.x(), bound.left(), bound.right(), kMaxCanvasWidth),
+                  limit(by.y(), bound.top(), bound.bottom(), kMaxCanvasHeight));
+}
+
+void DocumentController::MoveSelected(const QPoint& by)
+{
+    for (const CPort* port : PortsWithCabinets()) {
+        for (CTileGroup* group : WallGroups::Whole(*port))
+            WallGroups::MoveRecord(*group, by);
+    }
+    for (CTile* tile : GetSelection())
+        tile->Offset(by.x(), by.y());
+}
+
+bool DocumentController::MoveSelection(const QPoint& by)
+{
+    if (by.isNull() || !MayEditSelection())
+        return false;
+    MoveSelected(by);
+    return Record(CSenderRecordItem::OperationMoveTiles);
+}
+
+/// The chain closes up over what is gone.
+void DocumentController::DeleteSelected(CPort& port)
+{
+    const int before = port.GetTileSet().GetCount();
+    port.GetPortProject()->DeleteSelectedTileAndGroup();
+    if (port.GetTileSet().GetCount() != before)
+        port.GetTileSet().TileSetNormalization();
+}
+
+bool DocumentController::DeleteSelection()
+{
+    if (GetSelection().isEmpty() || !MayEditSelection())
+        return false;
+    for (CPort* port : PortsWithCabinets())
+        DeleteSelected(*port);
+    return Record(CSenderRecordItem::OperationDeleteTiles);
+}
+
+/// What would then lie beyond the largest canvas, where no view shows it, comes back onto it.
+bool DocumentController::TurnSelection(double angle)
+{
+    const QRectF bound = GetSelectionBound();
+    if (bound.isEmpty() || qFuzzyIsNull(angle) || !MayEditSelection())
+        return false;
+    SRotateParam turn;
+    turn.angle = angle;
+    turn.centerX = bound.center().x();
+    turn.centerY = bound.center().y();
+    for (CPort* port : PortsWithCabinets())
+        WallGroups::Turn(*port, turn);
+    return FinishTurn();
+}
+
+bool DocumentController::TurnSelectionTo(double angle)
+{
+    const QList<CTile*> tiles = GetSelection();
+    if (tiles.isEmpty() || !MayEditSelection())
+        return false;
+    const double present = tiles.first()->GetRotateRecord().angle;
+    if (std::all_of(tiles.begin(), tiles.end(),
+                    [&](const CTile* tile) { return qFuzzyIsNull(tile->GetRotateRecord().angle - present); }))
+        return TurnSelection(angle - present);
+    for (CPort* port : PortsWithCabinets())
+        WallGroups::TurnEachTo(*port, angle);
+    return FinishTurn();
+}
+
+bool DocumentController::FinishTurn()
+{
+    SetRotationOn(true);
+    MoveSelected(Limited(GetSelectionBound(), {}));
+    return Record(CSenderRecordItem::OperationRotate);
+}
+
+void DocumentController::SetRotationOn(bool on)
+{
+    if (GetConfigData()->IsEnableRotate() == on)
+        return;
+    GetConfigData()->SetEnableRotate(on);
+    emit RotationChanged(on);
+}
+
+/// Turned cabinets stay where they are, as their rows do not go along the canvas.
+bool DocumentController::ResizeSelection(int width, int height)
+{
+    CTileSet tiles;
+    for (CTile* tile : GetSelection())
+        tiles.AddTile(tile);
+    if (tiles.GetCount() == 0 || !MayEditSelection())
+        return false;
+    width = qMin(width, kMaxCabinetSize);
+    height = qMin(height, kMaxCabinetSize);
+    const bool keepsGrid = std::none_of(tiles.begin(), tiles.end(),
+                                        [](const CTile* tile) { return tile->GetRotateRecord().rotated; });
+    const QRect bound = tiles.GetBound();
+    const auto end = [](int start, int at, int size, int wanted) {
+        return size > 0 ? start + (qint64(at - start) / size + 1) * wanted : 0;
+    };
+    if (keepsGrid && std::any_of(tiles.begin(), tiles.end(), [&](const CTile* tile) {
+            return end(bound.left(), tile->GetX(), tile->GetWidth(), width) > kMaxCanvasWidth
+                   || end(bound.top(), tile->GetY(), tile->GetHeight(), height) > kMaxCanvasHeight;
+        }))
+        return Refuse(WhyTooLarge());
+    tiles.SetWidthAuto(width, keepsGrid);
+    tiles.SetHeightAuto(height, keepsGrid);
+    for (CPort* port : PortsWithCabinets())
+        WallGroups::RenewRecords(*port);
+    return Record(CSenderRecordItem::OperationResizeTiles);
+}
+
+// groups
+
+bool DocumentController::GroupSelection()
+{
+    const QList<CTile*> tiles = GetSelection();
+    if (!MayEditSelection())
+        return false;
+    if (tiles.isEmpty() || GetSender()->IsSelectMultiPortTile(-1))
+        return Refuse(tr("A group holds cabinets of one port. Select some of one port alone."));
+    switch (WallGroups::Gather(*GetSender()->GetPort(tiles.first()->GetPortIndex()))) {
+    case WallGroups::Gathered::TooFew:
+        return Refuse(tr("Select two cabinets or groups at least."));
+    case WallGroups::Gathered::InPart:
+        return Refuse(tr("Only a part of some group is selected. Select all of it, or ungroup it first."));
+    default:
+        MarkGroups();
+        return Record(CSenderRecordItem::OperationGroup);
+    }
+}
+
+bool DocumentController::UngroupSelection()
+{
+    if (!MayEditSelection())
+        return false;
+    bool any = false;
+    for (CPort* port : PortsWithCabinets())
+        any = WallGroups::Dissolve(*port) || any;
+    if (!any)
+        return Refuse(tr("No selected cabinet is in a group."));
+    MarkGroups();
+    return Record(CSenderRecordItem::OperationUngroup);
+}
+
+// copies
+
+void DocumentController::CopySelection()
+{
+    if (!GetSelection().isEmpty())
+        m_copies.Take(PortsWithCabinets());
+}
+
+bool DocumentController::CutSelection()
+{
+    if (GetSelection().isEmpty() || !MayEditSelection())
+        return false;
+    CopySelection();
+    for (CPort* port : PortsWithCabinets())
+        DeleteSelected(*port);
+    return Record(CSenderRecordItem::OperationCutTiles);
+}
+
+QString DocumentController::WhyNoRoom(const CPort& port, qint64 cabinets) const
+{
+    const QString why = WhyClosed(port);
+    if (!why.isEmpty())
+        return why;
+    return cabinets > kMaxTilesOfPort - port.GetTileSet().GetCount()
+               ? tr("A port holds at most %1 cabinets.").arg(kMaxTilesOfPort)
+               : QString();
+}
+
+bool DocumentController::Paste()
+{
+    CPort* port = GetPort();
+    if (!port || !HasCopies() || !IsAllowed(WhyNoRoom(*port, m_copies.GetCount())))
+        return false;
+    const QRect bound = m_copies.GetBound();
+    const QPoint place = FreePlace(PortsWithCabinets(), *GetSender(), bound);
+    Select({}, Choice::Replace);
+    m_copies.PutOn(*port, Limited(bound, place - bound.topLeft()));
+    for (const SMD5& type : m_copies.GetTypes()) { // the copies may come from another project
+        if (const CProduct* product = GetRuntimeData()->GetProductDirectorySet()->FindProductFromGuid(type))
+            GetProject().AddParameterFileInfo(product->GetName(), type);
+    }
+    MarkGroups();
+    return Record(CSenderRecordItem::OperationPasteTiles);
+}
+
+/// Those that are on that port already stay as they are.
+bool DocumentController::MoveSelectionToPort(int index)
+{
+    CPort* port = GetSender() ? GetSender()->GetPort(index) : nullptr;
+    QList<CPort*> others = PortsWithCabinets();
+    others.removeAll(port);
+    CabinetCopies copies;
+    copies.Take(others);
+    if (!port || copies.GetCount() == 0 || !MayEditSelection()
+        || !IsAllowed(WhyNoRoom(*port, copies.GetCount())))
+        return false;
+    for (CPort* other : qAsConst(others))
+        DeleteSelected(*other);
+    copies.PutOn(*port, {});
+    MarkGroups();
+    GetSender()->SetRecentPortIndex(index);
+    const bool done = Record(CSenderRecordItem::OperationMoveToPort);
+    emit PortStatesChanged();
+    return done;
+}

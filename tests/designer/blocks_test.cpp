@@ -1,0 +1,158 @@
+#include "designerstory.h"
+
+#include <QDebug>
+#include <QMenu>
+#include <QStatusBar>
+
+namespace {
+
+constexpr auto kCtrl = Qt::ControlModifier;
+constexpr auto kCtrlShift = Qt::ControlModifier | Qt::ShiftModifier;
+
+/// Two ports with a block of two columns and three rows each, 128 pixels a cabinet, just opened. At the end
+/// all is undone and redone, step by step.
+struct BlocksStory : DesignerStory
+{
+    BlocksStory()
+    {
+        EXPECT_TRUE(window.GetFiles().Open(MakeProject("wall.prj"_s, QSize(4, 3), 2, 0)));
+        window.resize(1500, 900);
+        view.ActualSize();
+        view.ScrollTo({});
+        layouts.push_back(Layout());
+    }
+    ~BlocksStory() override
+    {
+        for (size_t i = layouts.size() - 1; i > 0; --i)
+            EXPECT_TRUE(document.Undo() && Layout() == layouts[i - 1]) << "step " << i << ": " << Layout();
+        EXPECT_FALSE(document.Undo());
+        EXPECT_TRUE(document.Redo(static_cast<int>(layouts.size()) - 1) && Layout() == layouts.back());
+        document.SetRotationOn(false);
+    }
+    std::string Layout() ///< all that an undo has to bring back
+    {
+        QString text;
+        QDebug out(&text);
+        for (const int port : {0, 1}) {
+            for (const CTile* tile : Tiles(port))
+                out << *tile << tile->GetGroupId() << tile->GetRotateRecord();
+            QList<CTileGroup*> groups;
+            Groups(port).GetGroupListRecursive(groups);
+            for (const CTileGroup* group : qAsConst(groups))
+                out << *group << group->GetParentGroupID() << *group->GetRotateParam();
+        }
+        return text.toStdString();
+    }
+    void Step(const char* name) ///< one more was made, and did something
+    {
+        EXPECT_EQ(document.GetUndoText().toStdString(), name);
+        EXPECT_NE(Layout(), layouts.back()) << name;
+        layouts.push_back(Layout());
+    }
+    void KeyStep(int key, Qt::KeyboardModifiers keys, const char* name)
+    {
+        Key(key, keys);
+        Step(name);
+    }
+    bool IsTold(const char* what)
+    {
+        return Layout() == layouts.back()
+               && window.statusBar()->currentMessage().contains(QLatin1String(what));
+    }
+    void SelectBlock(const QPoint& wall)
+    {
+        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.GetMap().ToView(wall));
+    }
+    void SelectTopRow()
+    {
+        Click({10, 10});
+        Click({140, 10}, Qt::ShiftModifier);
+    }
+    CTileGroupSet& Groups(int port) { return document.GetSender()->GetPort(port)->GetTileGroupSet(); }
+    const CTileGroup& Group(int index) { return *Groups(0).GetDirectGroupByDirIndex(index); }
+    double Angle(int tile) { return Tiles().GetTile(tile)->GetRotateRecord().angle; }
+
+    std::vector<std::string> layouts;
+};
+
+} // namespace
+
+TEST_F(BlocksStory, GroupsAreMadeTakenApartAndNested)
+{
+    Key(Qt::Key_A, kCtrl);
+    Key(Qt::Key_G, kCtrl);
+    EXPECT_TRUE(IsTold("one port"));
+    SelectTopRow();
+    Key(Qt::Key_G, kCtrl);
+    EXPECT_TRUE(IsTold("part of some group"));
+    KeyStep(Qt::Key_G, kCtrlShift, "Ungroup");
+    KeyStep(Qt::Key_G, kCtrl, "Group");
+    Key(Qt::Key_G, kCtrl);
+    EXPECT_TRUE(IsTold("two cabinets or groups")) << "it is one already";
+    Click({10, 10});
+    Click({10, 200}, Qt::ShiftModifier);
+    Key(Qt::Key_G);
+    EXPECT_EQ(document.GetSelection().size(), 3) << "all of its group";
+    KeyStep(Qt::Key_G, kCtrl, "Group");
+    EXPECT_EQ(Groups(0).GetDirectCount() * 10 + Group(0).GetSubGroupCount(), 11);
+    EXPECT_EQ(Group(0).GetRotateParam()->height, 256);
+    SelectTopRow();
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(Group(0).GetSubGroupCount(), 0) << "the inner one went with its cabinets";
+    document.Undo();
+    SelectBlock({10, 10});
+    EXPECT_EQ(document.GetSelection().size(), 3);
+    KeyStep(Qt::Key_G, kCtrlShift, "Ungroup");
+    EXPECT_TRUE(Groups(0).GetDirectCount() == 1 && Group(0).GetParentGroupID().isNull()) << "the inner one";
+}
+
+TEST_F(BlocksStory, CopiesOutliveTheirCabinets)
+{
+    SelectBlock({10, 10});
+    ASSERT_TRUE(document.TurnSelectionTo(180));
+    Step("Turn");
+    const QRect place = document.GetSelectionBound();
+    const QUuid group = Group(0).GetID();
+    KeyStep(Qt::Key_X, kCtrl, "Cut");
+    EXPECT_EQ(Groups(0).GetDirectCount() + Tiles().GetCount(), 0);
+    KeyStep(Qt::Key_V, kCtrl, "Paste");
+    EXPECT_EQ(document.GetSelectionBound(), place) << "nothing is there";
+    KeyStep(Qt::Key_V, kCtrl, "Paste");
+    Picture("pasted");
+    EXPECT_EQ(document.GetSelectionBound(), place.translated(512, 0))
+        << "the other port's block is beside it";
+    EXPECT_EQ(Chain(), "0 0 0 0 0 0 0 0 0 0 0 0");
+    EXPECT_EQ(Angle(9), 180);
+    ASSERT_EQ(Groups(0).GetDirectCount(), 2);
+    EXPECT_TRUE(Group(1).GetID() != group && Group(1).GetID() != Group(0).GetID());
+    EXPECT_EQ(Group(1).GetRotateParam()->centerX, 640);
+    document.GetPort()->SetFlagLock(true);
+    Key(Qt::Key_V, kCtrl);
+    EXPECT_TRUE(IsTold("locked"));
+    document.GetPort()->SetFlagLock(false);
+}
+
+TEST_F(BlocksStory, CabinetsMoveToAnotherPort)
+{
+    const auto moveToPort = [this](int port) {
+        const QList<QAction*> all = window.findChildren<QAction*>();
+        const auto found = std::find_if(all.begin(), all.end(),
+                                        [](QAction* action) { return action->text() == "&Move to port"_s; });
+        emit(*found)->menu()->aboutToShow();
+        (*found)->menu()->actions()[port]->trigger();
+    };
+    Click({10, 10});
+    moveToPort(1);
+    Step("Move to port");
+    EXPECT_EQ(Chain(0) + ", " + Chain(1), "1 3 2 4 5, 1 2 4 3 5 6 0") << "one chain closes up";
+    EXPECT_TRUE(Tiles(1).GetTile(6)->GetGroupId().isNull()) << "its group stayed";
+    EXPECT_EQ(document.GetPort()->GetPortIndex(), 1);
+    SelectBlock({200, 10});
+    moveToPort(1);
+    Step("Move to port");
+    EXPECT_EQ(Groups(0).GetDirectCount() * 10 + Groups(1).GetDirectCount(), 2) << "and now all of it goes";
+    EXPECT_EQ(document.GetSelection().size(), 5);
+    document.GetSender()->GetPort(0)->SetFlagLock(true);
+    moveToPort(0);
+    EXPECT_EQ(Layout(), layouts.back());
+}
