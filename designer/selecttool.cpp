@@ -43,12 +43,14 @@ QString SelectTool::GetHint() const
     switch (m_state) {
     case State::Moving:
         return tr("Release to place; Alt moves freely, Esc leaves all as it was.");
+    case State::Turning:
+        return tr("Release to turn; Shift keeps to 15 degrees, Esc leaves all as it was.");
     case State::Banding:
         return TakesWhole() ? tr("Selects the cabinets that lie wholly inside.")
                             : tr("Selects all cabinets that are touched.");
     default:
-        return tr("Click, double click or drag a band to select. Arrow keys move by a cabinet, with Shift by "
-                  "a pixel.");
+        return tr("Click, double click or drag a band to select; the knob above turns. Arrow keys move by a "
+                  "cabinet, with Shift by a pixel.");
     }
 }
 
@@ -63,6 +65,11 @@ void SelectTool::Press(const QMouseEvent& event)
     m_pressed = m_mouse = event.pos();
     m_grip = m_view.GetMap().ToWall(event.localPos());
     m_selectsOne = false;
+    if (m_handle.IsAt(event.pos())) {
+        m_state = m_document.MayEditSelection() ? State::Turning : State::Idle;
+        m_handle.Grip(event.pos());
+        return;
+    }
     CTile* tile = TileAt(event.pos());
     m_state = tile ? State::Pressed : State::Banding;
     if (tile)
@@ -88,6 +95,8 @@ void SelectTool::Move(const QMouseEvent& event)
         StartMoving();
     if (m_state == State::Moving)
         MoveTo(m_mouse, !(event.modifiers() & Qt::AltModifier));
+    if (m_state == State::Turning)
+        m_handle.TurnTo(m_mouse, event.modifiers() & Qt::ShiftModifier);
     m_view.ShowTool();
     m_view.Redraw();
 }
@@ -122,6 +131,8 @@ void SelectTool::Release(const QMouseEvent& event)
     m_mouse = event.pos();
     if (state == State::Moving)
         m_document.MoveSelection(m_snapped.moved);
+    else if (state == State::Turning)
+        m_document.TurnSelection(m_handle.GetAngle());
     else if (state == State::Banding)
         FinishBand(event.modifiers());
     else if (CTile* tile = std::exchange(m_selectsOne, false) ? TileAt(event.pos()) : nullptr)
@@ -201,6 +212,10 @@ void SelectTool::Paint(QPainter& painter) const
     const QColor color = m_view.palette().color(QPalette::Highlight);
     if (m_state == State::Moving)
         PaintMoved(painter);
+    if (m_state == State::Turning)
+        m_handle.PaintTurned(painter);
+    if (m_state == State::Idle)
+        m_handle.Paint(painter);
     if (m_state != State::Banding || m_mouse == m_pressed)
         return;
     QColor fill = color;

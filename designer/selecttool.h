@@ -1,6 +1,7 @@
 #pragma once
 
 #include "snaplines.h"
+#include "turnhandle.h"
 #include "viewtool.h"
 
 #include <QCoreApplication>
@@ -10,13 +11,15 @@ class CTile;
 class DesignView;
 class DocumentController;
 
-/// Selects by click and by rubber band, and moves what is selected.
+/// Selects by click and by rubber band, and moves and turns what is selected.
 class SelectTool : public ViewTool
 {
     Q_DECLARE_TR_FUNCTIONS(SelectTool)
 
 public:
-    SelectTool(DesignView& view, DocumentController& document) : m_view(view), m_document(document) {}
+    SelectTool(DesignView& view, DocumentController& document)
+        : m_view(view), m_document(document), m_handle(view)
+    {}
 
     QString GetHint() const override;
     void Press(const QMouseEvent& event) override;
@@ -34,6 +37,7 @@ private:
         Pressed, ///< on a cabinet; the mouse has not gone far enough to drag it
         Moving,
         Banding,
+        Turning,
     };
 
     CTile* TileAt(const QPoint& view) const;
@@ -57,4 +61,5 @@ private:
     QRect m_bound;             ///< of what is moved
     SnapLines m_lines;
     SnapLines::Snapped m_snapped;
+    TurnHandle m_handle;
 };

@@ -106,6 +106,32 @@ TEST_F(BlocksStory, GroupsAreMadeTakenApartAndNested)
     EXPECT_TRUE(Groups(0).GetDirectCount() == 1 && Group(0).GetParentGroupID().isNull()) << "the inner one";
 }
 
+TEST_F(BlocksStory, TheKnobTurnsTheSelection)
+{
+    SelectBlock({10, 10});
+    Drag({{100, 300}, {300, 350}, {400, 420}}, Qt::AltModifier);
+    Step("Move");
+    const QRect block = document.GetSelectionBound();
+    const QPoint knob(block.center().x(), block.top() - 24);
+    const QPoint right = block.center() + QPoint(220, 10);
+    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, view.GetMap().ToView(knob));
+    QMouseEvent move(QEvent::MouseMove, view.GetMap().ToView(right), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(view.viewport(), &move);
+    Picture("turning");
+    Key(Qt::Key_Escape);
+    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, view.GetMap().ToView(right));
+    EXPECT_EQ(Layout(), layouts.back());
+    Drag({knob, block.center() + QPoint(100, -100), right}, Qt::ShiftModifier);
+    Step("Turn");
+    EXPECT_EQ(Angle(0), 90) << "in steps of 15 degrees";
+    EXPECT_EQ(document.GetSelectionBound().size(), block.size().transposed());
+    Drag({{block.center()}, {200, 400}, {-300, 500}});
+    Step("Move");
+    ASSERT_TRUE(document.TurnSelection(45));
+    Step("Turn");
+    EXPECT_EQ(document.GetSelectionBound().left(), 0) << "never where no view shows it";
+}
+
 TEST_F(BlocksStory, CopiesOutliveTheirCabinets)
 {
     SelectBlock({10, 10});
