@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "blockdialog.h"
+#include "cabinetspage.h"
 #include "chainactions.h"
 #include "designview.h"
 #include "editactions.h"
@@ -63,6 +64,7 @@ MainWindow::MainWindow(DocumentController& document, QWidget* parent)
     properties->setObjectName(QStringLiteral("properties"));
     m_properties = new QTabWidget(properties);
     properties->setWidget(m_properties);
+    m_properties->addTab(new CabinetsPage(m_document, this), tr("Cabinets"));
     m_properties->addTab(new PortPage(m_document, m_senderEdits, *m_ports, this), tr("Port"));
     m_properties->addTab(new SenderPage(m_document, m_senderEdits, this), tr("Sender"));
     m_properties->addTab(new ProjectPage(m_document, m_senderEdits, this), tr("Project"));

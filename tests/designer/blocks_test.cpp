@@ -1,6 +1,8 @@
+#include "cabinetspage.h"
 #include "designerstory.h"
 
 #include <QDebug>
+#include <QLineEdit>
 #include <QMenu>
 #include <QStatusBar>
 
@@ -181,4 +183,57 @@ TEST_F(BlocksStory, CabinetsMoveToAnotherPort)
     document.GetSender()->GetPort(0)->SetFlagLock(true);
     moveToPort(0);
     EXPECT_EQ(Layout(), layouts.back());
+}
+
+TEST_F(BlocksStory, PropertiesAreShownAndTyped)
+{
+    enum
+    {
+        Count,
+        Left,
+        Top,
+        Width,
+        Height,
+        Angles,
+        Number,
+        Port
+    };
+    const QList<QLineEdit*> fields = window.findChild<CabinetsPage*>()->findChildren<QLineEdit*>();
+    const auto type = [&](int field, const char* text) {
+        QTRY_VERIFY(fields[field]->isEnabled());
+        fields[field]->setFocus();
+        fields[field]->selectAll();
+        QTest::keyClicks(fields[field], QLatin1String(text));
+        QTest::keyClick(fields[field], Qt::Key_Return);
+    };
+    Click({10, 10});
+    type(Width, "2000");
+    Step("Resize");
+    type(Width, "wide");
+    EXPECT_EQ(fields[Width]->text() + fields[Number]->text(), "10241"_s) << "as wide as they come";
+    Key(Qt::Key_A, kCtrl);
+    QTRY_COMPARE(fields[Count]->text(), "12"_s);
+    for (const int field : {Width, Number, Port})
+        EXPECT_TRUE(fields[field]->text().isEmpty() && fields[field]->placeholderText() == "mixed"_s)
+            << field;
+    Picture("properties");
+    type(Height, "64");
+    Step("Resize");
+    EXPECT_EQ(Tiles(1).GetBound(), QRect(256, 0, 256, 192)) << "the rows stay together";
+    EXPECT_EQ(Group(0).GetRotateParam()->centerY, 96);
+    type(Left, "32000");
+    Step("Move");
+    EXPECT_EQ(document.GetSelectionBound().right(), 32767) << "no farther than any canvas goes";
+    type(Width, "1024");
+    EXPECT_TRUE(IsTold("largest canvas"));
+    type(Left, "100");
+    Step("Move");
+    EXPECT_EQ(Tiles(1).GetBound(), QRect(356, 0, 256, 192));
+    Click({400, 10});
+    type(Angles, "20");
+    Step("Turn");
+    Click({120, 150}, Qt::ShiftModifier);
+    type(Angles, "30,5");
+    Step("Turn");
+    EXPECT_TRUE(Angle(0) == 30.5 && Angle(4) == 30.5);
 }
