@@ -105,6 +105,7 @@ public:
     /// Passes over those that have a number or are not of this port; false when none is left.
     bool NumberNext(const QList<CTile*>& tiles);
     bool FinishNumbering();
+    bool InsertIntoChain(CTile& tile);  ///< behind the selected cabinet; it is selected instead
     const CTile* GetEndOfChain() const; ///< null: nothing is numbered
 
     /// Whether turned cabinets are shown and found as turned: a setting of the user's.

@@ -198,6 +198,30 @@ bool DocumentController::FinishNumbering()
     return std::exchange(m_numbered, false) && Record(CSenderRecordItem::OperationConnect);
 }
 
+/// The later ones move up by one.
+bool DocumentController::InsertIntoChain(CTile& tile)
+{
+    if (!MayNumber() || tile.HasSetConnectIndex() || tile.GetPortIndex() != GetPort()->GetPortIndex())
+        return false;
+    CTileSet& tiles = GetPort()->GetTileSet();
+    CTileSet selected;
+    tiles.GetSelTileSet(selected, InterfaceDesign);
+    const CTile* before = selected.GetEndIndexTile();
+    if (!before)
+        return Refuse(tr("Click the numbered cabinet first that it is to come behind."));
+    tiles.TileSetNormalization();
+    const int place = before->GetConnectionIndex() + 1;
+    CTileSet nowhere; // spares the look for the neighbour among all
+    for (CTile* other : tiles) {
+        if (other->GetConnectionIndex() >= place)
+            other->SetConnectionIndex(other->GetConnectionIndex() + 1, &nowhere);
+    }
+    tile.SetConnectionIndex(place, &nowhere);
+    tiles.TileSetNormalization();
+    Select({&tile}, Choice::Replace);
+    return Record(CSenderRecordItem::OperationConnect);
+}
+
 bool DocumentController::NumberByKey(int key)
 {
     return MayNumber() && GetPort()->GetTileSet().DirectionKeyConnection(static_cast<unsigned long>(key))

@@ -17,15 +17,39 @@ constexpr double kStep = 3; ///< view pixels between the places that are looked 
 QString NumberTool::GetHint() const
 {
     const CTile* end = m_document.GetEndOfChain();
-    return tr("Number from %1 on: click cabinets, drag over them, or use the arrow keys.")
+    return tr("Number from %1 on: click cabinets, drag over them, or use the arrow keys. To insert, click a "
+              "numbered cabinet, then those behind it with Shift; also Shift and an arrow key.")
         .arg(end ? end->GetConnectionIndex() + 2 : 1);
 }
 
 void NumberTool::Press(const QMouseEvent& event)
 {
-    m_held = m_document.MayNumber();
+    if (!m_document.MayNumber())
+        return;
+    m_held = !(event.modifiers() & Qt::ShiftModifier);
     m_last = m_view.GetMap().ToWall(event.localPos());
+    CTile* tile = TileAt(m_last);
+    if (tile && (!m_held || tile->HasSetConnectIndex()))
+        Insert(*tile);
     NumberAlong(QLineF(m_last, m_last));
+}
+
+/// Behind the one selected; a numbered one is selected instead.
+void NumberTool::Insert(CTile& tile)
+{
+    if (tile.HasSetConnectIndex())
+        m_document.Select({&tile}, DocumentController::Choice::Replace);
+    else
+        m_document.InsertIntoChain(tile);
+}
+
+/// Of the current port.
+CTile* NumberTool::TileAt(const QPointF& wall) const
+{
+    CTileSet found;
+    m_document.GetPort()->GetTileSet().GetTileSetAtPosition(found, static_cast<int>(std::floor(wall.x())),
+                                                            static_cast<int>(std::floor(wall.y())));
+    return found.GetTile(0);
 }
 
 void NumberTool::Move(const QMouseEvent& event)
@@ -43,14 +67,10 @@ void NumberTool::NumberAlong(const QLineF& way)
     const int steps =
         qMax(1, static_cast<int>(std::ceil(way.length() * m_view.GetMap().GetScaling() / kStep)));
     QList<CTile*> passed;
-    CTileSet found;
     for (int i = 1; i <= steps; ++i) {
-        const QPointF at = way.pointAt(double(i) / steps);
-        const int x = static_cast<int>(std::floor(at.x()));
-        const int y = static_cast<int>(std::floor(at.y()));
-        if (m_document.GetPort()->GetTileSet().GetTileSetAtPosition(found, x, y)
-            && (passed.isEmpty() || passed.last() != found.GetTile(0)))
-            passed.append(found.GetTile(0));
+        CTile* tile = TileAt(way.pointAt(double(i) / steps));
+        if (tile && (passed.isEmpty() || passed.last() != tile))
+            passed.append(tile);
     }
     if (m_document.NumberNext(passed))
         m_view.ShowTool();
@@ -70,8 +90,13 @@ void NumberTool::Cancel()
 bool NumberTool::Key(const QKeyEvent& event)
 {
     const bool isArrow = event.key() >= Qt::Key_Left && event.key() <= Qt::Key_Down;
-    if (!isArrow || event.modifiers() & ~Qt::KeypadModifier)
+    if (!isArrow || event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier))
         return false;
+    if (event.modifiers() & Qt::ShiftModifier) {
+        if (CTile* tile = m_document.FindNeighbour(event.key()))
+            Insert(*tile);
+        return true;
+    }
     if (m_document.NumberByKey(event.key())) {
         m_view.Show(m_document.GetEndOfChain()->GetBound());
         m_view.ShowTool();

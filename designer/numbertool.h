@@ -5,12 +5,13 @@
 #include <QCoreApplication>
 #include <QPointF>
 
+class CTile;
 class DesignView;
 class DocumentController;
 class QLineF;
 
 /// Chains the cabinets of the current port one after the other: those that are clicked, or that the mouse is
-/// dragged over.
+/// dragged over. With Shift one is inserted behind the one selected.
 class NumberTool : public ViewTool
 {
     Q_DECLARE_TR_FUNCTIONS(NumberTool)
@@ -27,6 +28,8 @@ public:
     void Cancel() override; ///< what was numbered before stays, as one step
 
 private:
+    CTile* TileAt(const QPointF& wall) const;
+    void Insert(CTile& tile);
     void NumberAlong(const QLineF& way); ///< wall pixels
 
     DesignView& m_view;             ///< [keep]

@@ -237,3 +237,23 @@ TEST_F(BlocksStory, PropertiesAreShownAndTyped)
     Step("Turn");
     EXPECT_TRUE(Angle(0) == 30.5 && Angle(4) == 30.5);
 }
+
+TEST_F(BlocksStory, ACabinetIsInsertedIntoTheChain)
+{
+    ASSERT_TRUE(document.ClearNumbers());
+    Step("Clear numbers");
+    Key(Qt::Key_N);
+    for (const QPoint& place : {QPoint(10, 10), QPoint(140, 10), QPoint(140, 200)}) {
+        Click(place);
+        Step("Number");
+    }
+    Click({10, 300}, Qt::ShiftModifier);
+    EXPECT_TRUE(IsTold("Click the numbered cabinet first"));
+    Click({10, 10});
+    Click({10, 300}, Qt::ShiftModifier);
+    Step("Number");
+    KeyStep(Qt::Key_Up, Qt::ShiftModifier, "Number");
+    Picture("inserted");
+    EXPECT_EQ(Chain(), "1 4 3 5 2 0");
+    EXPECT_EQ(Tiles().GetTile(3)->GetBeginRcvCnnt(), 4);
+}
