@@ -26,7 +26,10 @@ EditActions::EditActions(DocumentController& document, QObject* parent)
 {
     connect(m_undo, &QAction::triggered, this, [this] { m_document.Undo(); });
     connect(m_redo, &QAction::triggered, this, [this] { m_document.Redo(); });
-    connect(m_paste, &QAction::triggered, this, [this] { m_document.Paste(); });
+    connect(m_paste, &QAction::triggered, this, [this] {
+        if (m_document.Paste())
+            emit Placed(m_document.GetSelectionBound());
+    });
     connect(m_selectAll, &QAction::triggered, this, [this] { m_document.SelectAll(); });
     const auto add = [this](const QString& text, const QString& tip, const QKeySequence& key, auto act) {
         QAction* action = MakeAction(this, text, tip, key);

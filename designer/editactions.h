@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QRect>
 
 class DocumentController;
 class QAction;
@@ -19,6 +20,9 @@ public:
 
     void AddTo(QMenu& menu);
     void AddTo(QToolBar& bar);
+
+signals:
+    void Placed(const QRect& cabinets); ///< perhaps out of sight; wall pixels
 
 private:
     void Show();

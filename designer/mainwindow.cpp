@@ -106,6 +106,7 @@ void MainWindow::Connect()
     connect(&m_document, &DocumentController::Refused, this,
             [this](const QString& why) { statusBar()->showMessage(why, kMessageTime); });
     connect(m_faults, &FaultsDock::CabinetChosen, m_view, &DesignView::Show);
+    connect(m_edits, &EditActions::Placed, m_view, &DesignView::Show);
     connect(&m_scene, &SceneModel::Renewed, this, &MainWindow::ShowCounts);
     connect(m_files, &FileActions::Told, this,
             [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });

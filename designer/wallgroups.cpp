@@ -101,19 +101,21 @@ void TurnCabinets(CPort& port, const CTileSet& tiles, const SRotateParam& turn)
 
 QList<CTileGroup*> WallGroups::Whole(const CPort& port)
 {
-    QHash<QUuid, bool> whole; // of groups with cabinets, in them or in a group inside
+    QSet<QUuid> chosen; // groups with selected cabinets, in them or in a group inside
+    QSet<QUuid> open;   // with others
     for (const CTile* tile : port.GetTileSet())
-        whole[tile->GetGroupId()] =
-            tile->IsSelected(InterfaceDesign) && whole.value(tile->GetGroupId(), true);
+        (tile->IsSelected(InterfaceDesign) ? chosen : open).insert(tile->GetGroupId());
     QList<CTileGroup*> groups = AllGroups(port);
     for (int i = groups.size() - 1; i >= 0; --i) {
-        const QUuid parent = groups[i]->GetParentGroupID();
-        if (whole.contains(groups[i]->GetID()))
-            whole[parent] = whole.value(groups[i]->GetID()) && whole.value(parent, true);
+        for (QSet<QUuid>* ids : {&chosen, &open}) {
+            if (ids->contains(groups[i]->GetID()))
+                ids->insert(groups[i]->GetParentGroupID());
+        }
     }
-    whole[QUuid()] = false;
+    open.insert(QUuid()); // outermost groups lie in none
+    const auto isWhole = [&](const QUuid& id) { return chosen.contains(id) && !open.contains(id); };
     const auto end = std::remove_if(groups.begin(), groups.end(), [&](const CTileGroup* group) {
-        return !whole.value(group->GetID()) || whole.value(group->GetParentGroupID());
+        return !isWhole(group->GetID()) || isWhole(group->GetParentGroupID());
     });
     groups.erase(end, groups.end());
     return groups;
