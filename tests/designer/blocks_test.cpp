@@ -199,12 +199,13 @@ TEST_F(BlocksStory, PropertiesAreShownAndTyped)
         Port
     };
     const QList<QLineEdit*> fields = window.findChild<CabinetsPage*>()->findChildren<QLineEdit*>();
-    const auto type = [&](int field, const char* text) {
+    const auto type = [&](int field, const char* text, bool enters = true) {
         QTRY_VERIFY(fields[field]->isEnabled());
         fields[field]->setFocus();
         fields[field]->selectAll();
         QTest::keyClicks(fields[field], QLatin1String(text));
-        QTest::keyClick(fields[field], Qt::Key_Return);
+        if (enters)
+            QTest::keyClick(fields[field], Qt::Key_Return);
     };
     Click({10, 10});
     type(Width, "2000");
@@ -230,9 +231,10 @@ TEST_F(BlocksStory, PropertiesAreShownAndTyped)
     Step("Move");
     EXPECT_EQ(Tiles(1).GetBound(), QRect(356, 0, 256, 192));
     Click({400, 10});
-    type(Angles, "20");
-    Step("Turn");
+    type(Angles, "20", false);
     Click({120, 150}, Qt::ShiftModifier);
+    Step("Turn");
+    EXPECT_TRUE(Angle(0) == 20 && Angle(4) == 0) << "what was selected when it was typed";
     type(Angles, "30,5");
     Step("Turn");
     EXPECT_TRUE(Angle(0) == 30.5 && Angle(4) == 30.5);
