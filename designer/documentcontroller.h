@@ -79,7 +79,7 @@ public:
     bool MoveSelection(const QPoint& by);
     bool DeleteSelection();
     bool TurnSelection(double angle);   ///< degrees, clockwise, about its middle; rotation is on afterwards
-    bool TurnSelectionTo(double angle); ///< each about its own middle, unless all are turned alike
+    bool TurnSelectionTo(double angle); ///< as one when all are turned alike, else each by itself
     bool ResizeSelection(int width, int height); ///< each of them; 0: stays. Rows and columns stay together
     bool GroupSelection();
     bool UngroupSelection();            ///< the outermost groups that have a selected cabinet

@@ -1,4 +1,4 @@
-// The selection of the open document, and the edits of its layout.
+// The selection of the open document, blocks that are added, and the chain.
 #include "documentcontroller.h"
 
 #include "wallgroups.h"
