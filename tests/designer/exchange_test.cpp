@@ -1,6 +1,7 @@
 #include "designerstory.h"
 #include "exportactions.h"
 #include "importactions.h"
+#include "senderedits.h"
 #include "tools/runorvan.h"
 
 #include <QStatusBar>
@@ -64,7 +65,7 @@ TEST_F(ExchangeStory, AnImportIsOneStepOrAsksFirst)
     EXPECT_TRUE(document.GetUndoText().isEmpty() && document.GetRedoText().isEmpty()
                 && document.IsModified());
 
-    document.SetPortLocked({0, 0}, true);
+    SenderEdits(document).SetLocked({0, 0}, true);
     EXPECT_FALSE(imports.Import({port, true}) || imports.Import({port}));
     EXPECT_TRUE(window.statusBar()->currentMessage().contains("Port 1 is locked"_s));
     EXPECT_TRUE(messages.texts.last().contains("port.xml was not imported"_s) && Tiles().GetCount() == 12);
