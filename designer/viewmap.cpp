@@ -3,7 +3,6 @@
 #include <OrvanData/orvandata.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -38,13 +37,16 @@ QRect ViewMap::ToView(const QRect& wall) const
 
 QPointF ViewMap::ToWall(const QPointF& view) const
 {
-    return QPointF(GetStart()) + (view - QPointF(kMargins)) / GetScaling();
+    QPointF wall;
+    Scaling().ViewPixelToWholePixel(view - QPointF(kMargins), &wall);
+    return wall;
 }
 
 QPoint ViewMap::ToWallPixel(const QPoint& view) const
 {
-    const QPointF wall = ToWall(view);
-    return QPoint(static_cast<int>(std::floor(wall.x())), static_cast<int>(std::floor(wall.y())));
+    QPoint wall;
+    Scaling().ViewPixelToWholePixel(view - kMargins, &wall);
+    return wall;
 }
 
 double ViewMap::GetScaling() const

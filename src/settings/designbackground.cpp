@@ -41,6 +41,13 @@ QPoint ToPoint(const QPointF& point)
     return QPoint(TruncatedInt(point.x()), TruncatedInt(point.y()));
 }
 
+/// The last distance from the view's start that is rounded to this view pixel or to one before it.
+double LastAt(int view, double scaling)
+{
+    const double next = (view + 0.5) / scaling; // a half is rounded away from zero
+    return view < 0 ? std::floor(next) : std::ceil(next) - 1;
+}
+
 /// In floating point: a host may set corners that are far apart.
 double Width(const QRect& rect)
 {
@@ -323,6 +330,23 @@ bool CDesignBackground::WholePixelToViewPixel(int whole, int* view) const
 {
     if (view)
         *view = TruncatedInt(std::round(whole * double(GetViewScaling())));
+    return true;
+}
+
+bool CDesignBackground::ViewPixelToWholePixel(const QPoint& view, QPoint* whole) const
+{
+    const double scaling = double(GetViewScaling());
+    const QPoint start = GetViewStartPt();
+    if (whole)
+        *whole = QPoint(TruncatedInt(start.x() + LastAt(view.x(), scaling)),
+                        TruncatedInt(start.y() + LastAt(view.y(), scaling)));
+    return true;
+}
+
+bool CDesignBackground::ViewPixelToWholePixel(const QPointF& view, QPointF* whole) const
+{
+    if (whole)
+        *whole = QPointF(GetViewStartPt()) + view / double(GetViewScaling());
     return true;
 }
 

@@ -171,3 +171,30 @@ TEST_F(DesignBackgroundTest, ConversionRoundsHalfAwayFromZeroAndSaturates)
     EXPECT_TRUE(background.WholePixelToViewPixel(2000000000, &length));
     EXPECT_EQ(length, 2147483647);
 }
+
+TEST_F(DesignBackgroundTest, AViewPixelLeadsBackToThePixelDrawnThere)
+{
+    const QPoint start(300, 70);
+    for (const float scaling : {0.1f, 0.37f, 0.5f, 1.0f, 1.4f, 3.5f, 10.0f}) {
+        background.ResetViewScaling();
+        background.SetViewScaling(scaling, noFix);
+        background.SetViewStartPt(start);
+        for (int at = -20; at < 100; ++at) {
+            QPoint whole;
+            QPoint first;
+            QPoint next;
+            background.ViewPixelToWholePixel(QPoint(at, 2 * at), &whole);
+            background.WholePixelToViewPixel(whole, &first);
+            background.WholePixelToViewPixel(whole + QPoint(1, 1), &next);
+            EXPECT_TRUE(first.x() <= at && at < next.x() && first.y() <= 2 * at && 2 * at < next.y())
+                << at << " at " << scaling;
+        }
+    }
+    background.SetViewScaling(0.5f, noFix);
+    QPoint far;
+    EXPECT_TRUE(background.ViewPixelToWholePixel(QPoint(2000000000, -2000000000), &far));
+    EXPECT_EQ(far, QPoint(2147483647, -2147483647 - 1));
+    QPointF between;
+    EXPECT_TRUE(background.ViewPixelToWholePixel(QPointF(3.25, -1), &between));
+    EXPECT_EQ(between, QPointF(start) + QPointF(6.5, -2));
+}
