@@ -1,5 +1,6 @@
 #include "blockdialog.h"
 
+#include "cardsbox.h"
 #include "documentcontroller.h"
 #include "loadofport.h"
 
@@ -8,6 +9,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMultiMap>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -20,7 +22,8 @@ constexpr int kRows = 3;
 } // namespace
 
 BlockDialog::BlockDialog(const DocumentController& document, QWidget* parent)
-    : QDialog(parent), m_document(document), m_port(new QComboBox(this)), m_about(new QLabel(this)),
+    : QDialog(parent), m_document(document), m_product(new QComboBox(this)), m_port(new QComboBox(this)),
+      m_about(new QLabel(this)),
       m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
 {
     setWindowTitle(tr("Add a block of cabinets"));
@@ -32,13 +35,17 @@ BlockDialog::BlockDialog(const DocumentController& document, QWidget* parent)
     m_height = AddNumber(tr("Height of a cabinet"), 1, kMaxCabinetSize, cabinet.height());
     m_left = AddNumber(tr("Left"), 0, kMaxCanvasWidth - 1, place.x());
     m_top = AddNumber(tr("Top"), 0, kMaxCanvasHeight - 1, place.y());
+    m_cards = new CardsBox(this);
     FillPorts();
+    FillProducts();
 
     auto* form = new QFormLayout(this);
+    form->addRow(tr("P&roduct:"), m_product);
     AddPair(*form, tr("&Columns and rows:"), m_columns, QStringLiteral("×"), m_rows);
     AddPair(*form, tr("Cabinet &size in pixels:"), m_width, QStringLiteral("×"), m_height);
     AddPair(*form, tr("&Left and top in pixels:"), m_left, QStringLiteral(","), m_top);
     form->addRow(tr("&Port:"), m_port);
+    form->addRow(tr("&Receiving cards:"), m_cards);
     m_about->setMinimumWidth(fontMetrics().averageCharWidth() * 46);
     m_about->setMinimumHeight(fontMetrics().lineSpacing() * 3);
     m_about->setWordWrap(true);
@@ -47,6 +54,8 @@ BlockDialog::BlockDialog(const DocumentController& document, QWidget* parent)
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("&Add"));
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_cards, &CardsBox::Changed, this, &BlockDialog::ShowBlock);
+    connect(m_product, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &BlockDialog::TakeProduct);
     connect(m_port, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &BlockDialog::ShowBlock);
     ShowBlock();
     m_columns->setFocus();
@@ -89,6 +98,41 @@ void BlockDialog::FillPorts()
     }
 }
 
+/// By name.
+void BlockDialog::FillProducts()
+{
+    QMultiMap<QString, SMD5> products;
+    GetRuntimeData()->GetProductDirectorySet()->FindProduct([&](CProduct& product) {
+        products.insert(product.GetName(), product.GetMd5());
+        return false;
+    });
+    m_product->addItem(tr("Plain size"));
+    for (auto product = products.cbegin(); product != products.cend(); ++product)
+        m_product->addItem(product.key(), QVariant::fromValue(product.value()));
+    m_product->setToolTip(tr("A product of the library, with its parameter file, or a size alone"));
+}
+
+/// By its digest, since a scan may have replaced it.
+const CProduct* BlockDialog::GetProduct() const
+{
+    return GetRuntimeData()->GetProductDirectorySet()->FindProductFromGuid(
+        m_product->currentData().value<SMD5>());
+}
+
+/// A product that was not asked for its size has none.
+void BlockDialog::TakeProduct()
+{
+    const CProduct* product = GetProduct();
+    if (product && product->GetPixelWidth() > 0 && product->GetPixelHeight() > 0) {
+        m_width->setValue(product->GetPixelWidth());
+        m_height->setValue(product->GetPixelHeight());
+        m_cards->SetSeveral(product->IsMulti());
+    } else {
+        m_cards->SetSeveral(true);
+    }
+    ShowBlock();
+}
+
 /// To the right of all cabinets while the canvas has room there for a block as proposed, else below them.
 QPoint BlockDialog::FreePlace(const CSender& sender, int width)
 {
@@ -113,6 +157,11 @@ SAddTileInfo BlockDialog::GetBlock() const
     block.rows = m_rows->value();
     block.width = m_width->value();
     block.height = m_height->value();
+    m_cards->GetWiring().SetTo(block);
+    if (const CProduct* product = GetProduct()) {
+        block.type = product->GetMd5();
+        block.fixedLine = block.multi && product->IsMultiFlagSet();
+    }
     return block;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+class CardsBox;
 class DocumentController;
 class QComboBox;
 class QDialogButtonBox;
@@ -29,6 +30,9 @@ private:
     void AddPair(QFormLayout& form, const QString& label, QSpinBox* first, const QString& between,
                  QSpinBox* second);
     void FillPorts();
+    void FillProducts();
+    const CProduct* GetProduct() const; ///< [ref] null: a plain size
+    void TakeProduct();
     void ShowBlock();
     static QPoint FreePlace(const CSender& sender, int width);
 
@@ -39,6 +43,8 @@ private:
     QSpinBox* m_height;
     QSpinBox* m_left;
     QSpinBox* m_top;
+    CardsBox* m_cards;
+    QComboBox* m_product;
     QComboBox* m_port;
     QLabel* m_about;
     QDialogButtonBox* m_buttons;

@@ -13,16 +13,12 @@ ChainActions::ChainActions(DocumentController& document, QObject* parent)
       m_clear(MakeAction(this, tr("&Clear numbers"),
                          tr("Take the numbers of all cabinets of the current port away")))
 {
-    const QString names[] = {tr("Rows from the top left"),        tr("Rows from the top right"),
-                             tr("Rows from the bottom right"),    tr("Rows from the bottom left"),
-                             tr("Columns from the top left"),     tr("Columns from the top right"),
-                             tr("Columns from the bottom right"), tr("Columns from the bottom left")};
-    int number = 0;
-    for (const QString& name : names) {
-        const auto pattern = static_cast<EnAutoNumberType>(number++);
+    for (int i = AutoNumberRowsTopLeft; i <= AutoNumberColumnsBottomLeft; ++i) {
+        const auto pattern = static_cast<EnAutoNumberType>(i);
+        const QString name = PatternName(pattern);
         QAction* action =
             MakeAction(this, name, tr("Number all cabinets of the current port: %1").arg(name.toLower()),
-                       QKeySequence(QStringLiteral("Alt+%1").arg(number)));
+                       QKeySequence(QStringLiteral("Alt+%1").arg(i + 1)));
         action->setIcon(PatternIcon(pattern, QGuiApplication::palette()));
         connect(action, &QAction::triggered, this, [this, pattern] { m_document.NumberAll(pattern); });
         m_patterns.append(action);

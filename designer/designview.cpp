@@ -165,6 +165,13 @@ void DesignView::ShowAs(double scaling, const QPoint& start)
     ViewChanged();
 }
 
+void DesignView::ShowGrid(bool shown)
+{
+    GetConfigData()->SetShowGrid(shown);
+    m_pictureRevision = 0;
+    Redraw();
+}
+
 /// Only now the size is known.
 void DesignView::showEvent(QShowEvent* event)
 {

@@ -33,6 +33,7 @@ public:
     void Fit(); ///< the canvas, and what lies beyond it
     void ActualSize();
     void ShowAs(double scaling, const QPoint& start); ///< as another view showed it
+    void ShowGrid(bool shown);                        ///< kept in the settings
     void Redraw();                                    ///< what lies over the wall
     void ShowTool();                                  ///< its cursor and hint, which change while it works
 

@@ -1,5 +1,7 @@
 #include "hittest.h"
 
+#include "scenemodel.h"
+
 namespace {
 
 /// From the top.
@@ -33,14 +35,22 @@ CTile* HitTest::TopAt(CSender& sender, const QPoint& place)
     return nullptr;
 }
 
+/// The library takes a turned cabinet as touched by its corners, the mouse by all that is drawn.
 QList<CTile*> HitTest::InRect(CSender& sender, const QRect& rect, bool whole)
 {
     QList<CTile*> tiles;
     CTileSet found;
+    const QPolygonF area = QRectF(rect);
     for (const CPort* port : OpenPorts(sender)) {
+        for (CTile* tile : port->GetTileSet()) {
+            if (!whole && tile->IsTileRotated() && SceneModel::CornersOf(*tile).intersects(area))
+                tiles.append(tile);
+        }
         port->GetTileSet().GetTileSetAtRect(found, rect, whole);
-        for (CTile* tile : found)
-            tiles.append(tile);
+        for (CTile* tile : found) {
+            if (whole || !tile->IsTileRotated())
+                tiles.append(tile);
+        }
     }
     return tiles;
 }

@@ -277,6 +277,12 @@ void MainWindow::MakeViewMenu()
     add(tr("&Fit the wall"), Keys("Ctrl+0"), &DesignView::Fit);
     add(tr("&Actual size"), Keys("Ctrl+1"), &DesignView::ActualSize);
     menu->addSeparator();
+    QAction* grid = menu->addAction(tr("&Grid"));
+    grid->setShortcut(Qt::Key_G);
+    grid->setCheckable(true);
+    grid->setChecked(GetConfigData()->IsShowGrid());
+    connect(grid, &QAction::toggled, m_view, &DesignView::ShowGrid);
+    menu->addSeparator();
     for (const QDockWidget* dock : findChildren<QDockWidget*>())
         menu->addAction(dock->toggleViewAction());
 }

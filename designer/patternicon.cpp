@@ -1,7 +1,11 @@
 #include "patternicon.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPolygonF>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -9,50 +13,80 @@ constexpr int kSize = 24; ///< pixels at 100 %
 constexpr int kSharp = 4; ///< times as many are drawn, for finer screens
 constexpr int kLines = 3;
 
-/// Left-top corner first: there and back, line after line.
-QPolygonF Way(EnAutoNumberType pattern)
+QPixmap Blank(const QSize& size)
 {
-    const bool byColumns = pattern >= AutoNumberColumnsTopLeft;
-    const int corner = pattern % 4;
-    const bool fromRight = corner == AutoNumberRowsTopRight || corner == AutoNumberRowsBottomRight;
-    const bool fromBottom = corner >= AutoNumberRowsBottomRight;
-    QPolygonF way;
-    for (int line = 0; line < kLines; ++line) {
-        for (const int end : {line % 2, 1 - line % 2}) {
-            const double across = byColumns ? double(line) / (kLines - 1) : end;
-            const double down = byColumns ? end : double(line) / (kLines - 1);
-            way.append(QPointF(fromRight ? 1 - across : across, fromBottom ? 1 - down : down));
-        }
-    }
-    return way;
+    QPixmap picture(size * kSharp);
+    picture.setDevicePixelRatio(kSharp);
+    picture.fill(Qt::transparent);
+    return picture;
+}
+
+/// From a dot to an arrow.
+void PaintWay(QPainter& painter, const QPolygonF& way, const QColor& color)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 1.6));
+    painter.setBrush(color);
+    painter.drawPolyline(way);
+    painter.drawEllipse(way.first(), 2.6, 2.6);
+    if (way.size() < 2)
+        return;
+    const QPointF last = way.last() - way[way.size() - 2];
+    const QPointF along = last / std::hypot(last.x(), last.y());
+    const QPointF across(-along.y(), along.x());
+    const QPointF tip = way.last() + along * 3;
+    painter.drawPolygon(QPolygonF({tip, tip - along * 6 + across * 3.5, tip - along * 6 - across * 3.5}));
 }
 
 QPixmap Draw(EnAutoNumberType pattern, const QColor& color)
 {
-    QPixmap picture(kSize * kSharp, kSize * kSharp);
-    picture.setDevicePixelRatio(kSharp);
-    picture.fill(Qt::transparent);
+    CardWiring lines;
+    lines.cards = pattern >= AutoNumberColumnsTopLeft ? QSize(kLines, 2) : QSize(2, kLines);
+    lines.pattern = pattern;
+    QPolygonF way;
+    for (const QPoint& end : lines.Way())
+        way.append(QPointF(5 + (kSize - 10.0) * end.x() / (lines.cards.width() - 1),
+                           5 + (kSize - 10.0) * end.y() / (lines.cards.height() - 1)));
+    QPixmap picture = Blank(QSize(kSize, kSize));
     QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, 1.6));
-    painter.setBrush(color);
-    QPolygonF way = Way(pattern);
-    for (QPointF& point : way)
-        point = QPointF(5, 5) + point * (kSize - 10);
-    painter.drawPolyline(way);
-    painter.drawEllipse(way.first(), 2.6, 2.6);
-    const QPointF along = (way.last() - way[way.size() - 2]) / (kSize - 10.0);
-    const QPointF across(-along.y(), along.x());
-    const QPointF tip = way.last() + along * 3;
-    painter.drawPolygon(QPolygonF({tip, tip - along * 6 + across * 3.5, tip - along * 6 - across * 3.5}));
+    PaintWay(painter, way, color);
     return picture;
 }
 
 } // namespace
+
+QString PatternName(EnAutoNumberType pattern)
+{
+    static const char* const kNames[] = {QT_TRANSLATE_NOOP("ChainActions", "Rows from the top left"),
+                                         QT_TRANSLATE_NOOP("ChainActions", "Rows from the top right"),
+                                         QT_TRANSLATE_NOOP("ChainActions", "Rows from the bottom right"),
+                                         QT_TRANSLATE_NOOP("ChainActions", "Rows from the bottom left"),
+                                         QT_TRANSLATE_NOOP("ChainActions", "Columns from the top left"),
+                                         QT_TRANSLATE_NOOP("ChainActions", "Columns from the top right"),
+                                         QT_TRANSLATE_NOOP("ChainActions", "Columns from the bottom right"),
+                                         QT_TRANSLATE_NOOP("ChainActions", "Columns from the bottom left")};
+    return QCoreApplication::translate("ChainActions", kNames[pattern]);
+}
 
 QIcon PatternIcon(EnAutoNumberType pattern, const QPalette& palette)
 {
     QIcon icon(Draw(pattern, palette.color(QPalette::ButtonText)));
     icon.addPixmap(Draw(pattern, palette.color(QPalette::Disabled, QPalette::ButtonText)), QIcon::Disabled);
     return icon;
+}
+
+QPixmap CardPicture(const CardWiring& wiring, const QPalette& palette)
+{
+    const int side = std::min(kCardPicture / std::max(wiring.cards.width(), wiring.cards.height()), 32);
+    QPixmap picture = Blank(wiring.cards * side + QSize(1, 1));
+    QPainter painter(&picture);
+    painter.setPen(QPen(palette.color(QPalette::Mid), 1));
+    painter.setBrush(palette.color(QPalette::Base));
+    QPolygonF way;
+    for (const QPoint& cell : wiring.Way()) {
+        painter.drawRect(QRect(cell * side, QSize(side, side)));
+        way.append(QPointF(cell * side) + QPointF(side, side) / 2);
+    }
+    PaintWay(painter, way, palette.color(QPalette::Text));
+    return picture;
 }

@@ -1,5 +1,7 @@
 #include "scenemodel.h"
 
+#include "groupoutlines.h"
+
 #include <algorithm>
 
 namespace {
@@ -17,13 +19,8 @@ SceneCabinet Read(const CTile& tile, std::vector<QPolygonF>& corners)
         cabinet.cardRows = static_cast<short>(cards.height());
     }
     if (tile.IsTileRotated()) {
-        CPointEx<double> points[4];
-        tile.GetRotateArea(points);
-        QPolygonF polygon;
-        for (const CPointEx<double>& point : points)
-            polygon.append(QPointF(point.x, point.y));
         cabinet.turned = static_cast<int>(corners.size());
-        corners.push_back(polygon);
+        corners.push_back(SceneModel::CornersOf(tile));
     }
     return cabinet;
 }
@@ -42,19 +39,32 @@ std::vector<int> ChainOf(const std::vector<SceneCabinet>& cabinets)
     return chain;
 }
 
-} // namespace
-
-const SceneCabinet* ScenePort::Neighbour(const SceneCabinet& cabinet, int step) const
+/// Around each kBlock links, also those over a gap.
+std::vector<QRect> LinksOf(const ScenePort& port)
 {
-    const int at = cabinet.chainPlace + step;
-    if (cabinet.chainPlace < 0 || at < 0 || at >= static_cast<int>(chain.size()))
-        return nullptr;
-    const SceneCabinet& other = cabinets[static_cast<size_t>(chain[static_cast<size_t>(at)])];
-    return qint64(other.number) == qint64(cabinet.number) + step ? &other : nullptr;
+    std::vector<QRect> links;
+    for (size_t i = 1; i < port.chain.size(); ++i) {
+        if ((i - 1) % ScenePort::kBlock == 0)
+            links.push_back(port.cabinets[static_cast<size_t>(port.chain[i - 1])].place);
+        links.back() |= port.cabinets[static_cast<size_t>(port.chain[i])].place;
+    }
+    return links;
 }
+
+} // namespace
 
 SceneModel::SceneModel(QObject* parent) : QObject(parent)
 {}
+
+QPolygonF SceneModel::CornersOf(const CTile& tile)
+{
+    CPointEx<double> points[4];
+    tile.GetRotateArea(points);
+    QPolygonF polygon;
+    for (const CPointEx<double>& point : points)
+        polygon.append(QPointF(point.x, point.y));
+    return polygon;
+}
 
 QRect SceneModel::GetBound() const
 {
@@ -125,15 +135,19 @@ void SceneModel::Read(int index)
     const CPort& port = *GetProjectData()->GetCurrentSender()->GetPort(index);
     ScenePort scene;
     if (!port.IsBackupDest()) {
+        GroupOutlines groups(port.GetTileGroupSet());
         scene.cabinets.reserve(static_cast<size_t>(port.GetTileSet().GetCount()));
         for (const CTile* tile : port.GetTileSet()) {
-            scene.cabinets.push_back(::Read(*tile, scene.corners));
+            const SceneCabinet cabinet = ::Read(*tile, scene.corners);
+            scene.cabinets.push_back(cabinet);
+            groups.Add(tile->GetGroupId(), cabinet.place,
+                       cabinet.turned < 0 ? nullptr : &scene.corners.back());
             scene.pixels += qint64(std::max(tile->GetWidth(), 0)) * std::max(tile->GetHeight(), 0);
         }
+        scene.groups = groups.GetPolygons();
     }
     scene.chain = ChainOf(scene.cabinets);
-    for (size_t i = 0; i < scene.chain.size(); ++i)
-        scene.cabinets[static_cast<size_t>(scene.chain[i])].chainPlace = static_cast<int>(i);
+    scene.links = LinksOf(scene);
     for (size_t i = 0; i < scene.cabinets.size(); ++i) {
         if (i % ScenePort::kBlock == 0)
             scene.blocks.emplace_back();

@@ -12,10 +12,9 @@
 /// What is drawn of a cabinet, apart from the cabinet itself: that may be gone while the picture stays.
 struct SceneCabinet
 {
-    QRect place;         ///< canvas pixels, the bound of a turned one
-    int number = -1;     ///< place in the chain as stored, negative: none
-    int chainPlace = -1; ///< in ScenePort::chain
-    int turned = -1;     ///< in ScenePort::corners, negative: not turned
+    QRect place;     ///< canvas pixels, the bound of a turned one
+    int number = -1; ///< place in the chain as stored, negative: none
+    int turned = -1; ///< in ScenePort::corners, negative: not turned
     short cardColumns = 1;
     short cardRows = 1;
     bool selected = false;
@@ -30,6 +29,8 @@ struct ScenePort
     std::vector<QPolygonF> corners;     ///< of turned cabinets
     std::vector<int> chain;             ///< the numbered cabinets by number
     std::vector<QRect> blocks;          ///< around each kBlock cabinets that follow each other
+    std::vector<QRect> links;           ///< around each kBlock links of the chain
+    std::vector<QPolygonF> groups;      ///< around the cabinets of each group, turned as they are
     QRect bound;
     qint64 pixels = 0; ///< of all cabinets
     bool visible = false;
@@ -49,8 +50,22 @@ struct ScenePort
             }
         }
     }
-    /// The cabinet before (-1) or behind (1) this one in the chain, null where the numbers leave a gap.
-    const SceneCabinet* Neighbour(const SceneCabinet& cabinet, int step) const;
+    /// Calls `found` with both ends of each link of the chain that may cross the area. Where the numbers
+    /// leave a gap there is none.
+    template <class Found> void WalkLinks(const QRect& area, const Found& found) const
+    {
+        for (size_t block = 0; block < links.size(); ++block) {
+            if (!links[block].intersects(area))
+                continue;
+            const size_t last = std::min((block + 1) * kBlock + 1, chain.size());
+            for (size_t i = block * kBlock + 1; i < last; ++i) {
+                const SceneCabinet& from = cabinets[static_cast<size_t>(chain[i - 1])];
+                const SceneCabinet& to = cabinets[static_cast<size_t>(chain[i])];
+                if (qint64(from.number) + 1 == to.number && (from.place | to.place).intersects(area))
+                    found(from, to);
+            }
+        }
+    }
 };
 
 /// Follows the current sender of the open document and keeps what the design view draws of it, by port. After
@@ -68,6 +83,7 @@ public:
     int GetCurrentPort() const { return m_currentPort; }
     quint64 GetRevision() const { return m_revision; } ///< another one whenever something looks different
 
+    static QPolygonF CornersOf(const CTile& tile); ///< canvas pixels, left top of the unturned one first
     static QColor ColorOf(int port) { return CConstantData::GetColorByPort(port); }
 
     void Take(const SDocumentChange& change);

@@ -14,6 +14,8 @@ constexpr double kLeastCell = 5;    ///< view pixels
 constexpr double kLeastNumber = 22; ///< the same
 constexpr double kLeastCard = 12;   ///< of a receiving card
 constexpr double kLeastArrow = 16;  ///< length of a chain's link
+constexpr int kLeastGrid = 16;      ///< between two lines
+constexpr int kStrongLine = 4;      ///< each fourth one
 
 QPointF Center(const QRect& rect)
 {
@@ -76,14 +78,34 @@ void ScenePainter::Paint(const QRect& view)
 void ScenePainter::PaintCanvas(const QRect& view)
 {
     const QRect canvas = m_map.ToView(m_scene.GetCanvas());
-    if (m_scene.GetCanvas().isNull()) {
-        m_painter.fillRect(view, m_palette.color(QPalette::Base));
+    const bool hasCanvas = !m_scene.GetCanvas().isNull();
+    const QRect ground = hasCanvas ? canvas.intersected(view) : view;
+    m_painter.fillRect(ground, m_palette.color(QPalette::Base));
+    if (GetConfigData()->IsShowGrid())
+        PaintGrid(ground);
+    if (!hasCanvas)
         return;
-    }
-    m_painter.fillRect(canvas.intersected(view), m_palette.color(QPalette::Base));
     m_painter.setPen(QPen(m_palette.color(QPalette::Dark), 1));
     m_painter.setBrush(Qt::NoBrush);
     m_painter.drawRect(canvas.adjusted(-1, -1, 0, 0).intersected(view.adjusted(-2, -2, 2, 2)));
+}
+
+/// As fine as can be seen, in steps that double, so that each line stays where it is while the view zooms.
+void ScenePainter::PaintGrid(const QRect& view)
+{
+    int step = 1;
+    while (step * m_map.GetScaling() < kLeastGrid)
+        step *= 2;
+    const QPoint first = m_map.ToWallPixel(view.topLeft());
+    const QPoint last = m_map.ToWallPixel(view.bottomRight());
+    const auto colorAt = [&](int at) { // rectangles, because lines take Qt ten times as long
+        const bool isStrong = at % (kStrongLine * step) == 0;
+        return Mixed(m_palette.color(QPalette::Base), m_palette.color(QPalette::Text), isStrong ? 0.25 : 0.1);
+    };
+    for (int x = std::max(0, first.x() / step * step); x <= last.x(); x += step)
+        m_painter.fillRect(m_map.ToView(QPoint(x, 0)).x(), view.top(), 1, view.height(), colorAt(x));
+    for (int y = std::max(0, first.y() / step * step); y <= last.y(); y += step)
+        m_painter.fillRect(view.left(), m_map.ToView(QPoint(0, y)).y(), view.width(), 1, colorAt(y));
 }
 
 void ScenePainter::PaintPort(const ScenePort& port, int index)
@@ -98,6 +120,7 @@ void ScenePainter::PaintPort(const ScenePort& port, int index)
         return;
     }
     PaintCells(port, color);
+    PaintGroups(port);
     PaintChain(port);
     if (m_detail == Detail::Numbers)
         PaintNumbers(port, color);
@@ -207,22 +230,27 @@ void ScenePainter::PaintCards(const ScenePort& port, const SceneCabinet& cabinet
     m_painter.drawLines(lines);
 }
 
+void ScenePainter::PaintGroups(const ScenePort& port)
+{
+    QColor color = m_palette.color(QPalette::Text);
+    color.setAlpha(170);
+    m_painter.setPen(QPen(color, 1, Qt::DashLine));
+    m_painter.setBrush(Qt::NoBrush);
+    for (QPolygonF polygon : port.groups) {
+        for (QPointF& point : polygon)
+            point = m_map.ToView(point);
+        m_painter.drawPolygon(polygon);
+    }
+}
+
 /// Light lines with a dark edge can be seen on every port and on what is selected.
 void ScenePainter::PaintChain(const ScenePort& port)
 {
     if (port.chain.empty())
         return;
     QVector<QLineF> links;
-    const auto add = [&](const SceneCabinet& from, const SceneCabinet& to) {
+    port.WalkLinks(m_shown, [&](const SceneCabinet& from, const SceneCabinet& to) {
         links.append(QLineF(m_map.ToView(Center(from.place)), m_map.ToView(Center(to.place))));
-    };
-    port.Walk(m_shown, [&](size_t i) {
-        const SceneCabinet& cabinet = port.cabinets[i];
-        if (const SceneCabinet* before = port.Neighbour(cabinet, -1))
-            add(*before, cabinet);
-        const SceneCabinet* next = port.Neighbour(cabinet, 1);
-        if (next && !next->place.intersects(m_shown)) // else the next one draws it
-            add(cabinet, *next);
     });
     if (m_detail != Detail::Numbers) {
         m_painter.setPen(QPen(QColor(0, 0, 0, 170), 1));

@@ -37,11 +37,13 @@ private:
     };
 
     void PaintCanvas(const QRect& view);
+    void PaintGrid(const QRect& view);
     void PaintPort(const ScenePort& port, int index);
     void PaintAreas(const ScenePort& port, const QColor& color);
     void PaintCells(const ScenePort& port, const QColor& color);
     void PaintTurned(const ScenePort& port, const SceneCabinet& cabinet, const QColor& color);
     void PaintCards(const ScenePort& port, const SceneCabinet& cabinet);
+    void PaintGroups(const ScenePort& port);
     void PaintChain(const ScenePort& port);
     void PaintStart(const ScenePort& port);
     void PaintNumbers(const ScenePort& port, const QColor& color);

@@ -111,6 +111,8 @@ TEST_F(EditingStory, ABlockIsTurnedAndFoundWhereItLies)
     EXPECT_EQ(Selected(), "1:3") << "its corner went elsewhere, and this one was below it";
     Click(block.center() + QPoint(5, 5));
     EXPECT_EQ(document.GetSelection().size(), 1);
+    Drag({block.center() + QPoint(128, 74), block.center() + QPoint(100, 58)});
+    EXPECT_EQ(Selected(), "0:3") << "touched, and no corner of it";
     ASSERT_TRUE(document.Undo() && document.Undo());
     EXPECT_EQ(Place(0), QPoint(0, 0));
     document.SetRotationOn(false);
@@ -134,6 +136,10 @@ TEST_F(EditingStory, ALargeWallIsSelectedMovedAndUndoneAtOnce)
     Drag({{1500, 500}, {1600, 600}, {1620, 700}});
     EXPECT_NE(Place(6), QPoint(1000, 0));
     Picture("large");
+    for (int i = 0; i < 12; ++i)
+        view.ZoomIn();
+    Click(Place(16512) + QPoint(4, 4));
+    EXPECT_EQ(Selected(), "0:16512");
     ASSERT_TRUE(document.Undo());
     EXPECT_EQ(Place(6), QPoint(1000, 0));
     EXPECT_LT(time.elapsed(), 20000) << "never a second's work, with room for slow builds";

@@ -1,11 +1,18 @@
 #include "blockdialog.h"
+#include "cardsbox.h"
 #include "designerstory.h"
 #include "faultsdock.h"
 #include "projecttree.h"
+#include "tools/runorvan.h"
 
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFile>
+#include <QJsonArray>
 #include <QListWidget>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <QTimer>
 
 namespace {
 
@@ -32,6 +39,31 @@ struct WallStory : DesignerStory
         QTest::keyClick(dialog, Qt::Key_Return);
         window.activateWindow();
         QTRY_VERIFY(QTest::qWaitForWindowActive(&window) && !window.findChild<BlockDialog*>());
+    }
+    /// What the command prints of a port in the file: "x,y width×height number angle", in list order.
+    static std::string Told(const QString& path, int port)
+    {
+        const OrvanRun run = RunOrvan({"info"_s, path, "--json"_s, "--tiles"_s});
+        const QJsonObject sender = run.Json()["senders"_s].toArray()[0].toObject();
+        QStringList tiles;
+        for (const QJsonValue& value : sender["ports"_s].toArray()[port].toObject()["tiles"_s].toArray()) {
+            const QJsonObject tile = value.toObject();
+            tiles.append(QStringLiteral("%1,%2 %3×%4 %5 %6")
+                             .arg(tile["x"_s].toInt())
+                             .arg(tile["y"_s].toInt())
+                             .arg(tile["width"_s].toInt())
+                             .arg(tile["height"_s].toInt())
+                             .arg(tile["index"_s].toInt())
+                             .arg(tile["rotation"_s].toObject()["angle"_s].toDouble()));
+        }
+        return tiles.join("; "_s).toStdString();
+    }
+    std::string Chain(int port) const ///< the cabinets' numbers, in list order
+    {
+        QStringList numbers;
+        for (const CTile* tile : Tiles(port))
+            numbers.append(QString::number(tile->GetConnectionIndex() + 1));
+        return numbers.join(QLatin1Char(' ')).toStdString();
     }
     std::string Load(int port) ///< as the tree shows it
     {
@@ -133,4 +165,108 @@ TEST_F(WallStory, APlantedFaultIsToldAndFound)
     Picture("fault");
     Key(Qt::Key_Delete);
     QTRY_COMPARE(faults.GetFaultCount(), 0);
+}
+
+TEST_F(WallStory, TheSampleWallIsBuiltFromNothing)
+{
+    AddBlock({2, 2, 100, 200});
+    ClickPort(1);
+    AddBlock({3, 1, 60, 80, 400, 300});
+    QTest::keyClick(&window, Qt::Key_2, Qt::AltModifier);
+    ClickPort(0);
+    Key(Qt::Key_N);
+    for (const int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left})
+        Key(key);
+    Key(Qt::Key_S);
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.GetMap().ToView(QPoint(410, 310)));
+    QTimer::singleShot(0, [] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        auto* angle = dialog->findChild<QDoubleSpinBox*>();
+        angle->selectAll();
+        QTest::keyClicks(angle, "30"_s);
+        QTest::keyClick(angle, Qt::Key_Return);
+    });
+    QTest::keyClick(&window, Qt::Key_R, Qt::ControlModifier);
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const int steps = 8; // two blocks, a pattern, four numbers, a turn
+    for (int i = 0; i < steps; ++i)
+        QTest::keySequence(&view, QKeySequence::Undo);
+    EXPECT_TRUE(view.GetScene().GetBound().isNull() && !window.isWindowModified());
+    for (int i = 0; i < steps; ++i)
+        QTest::keySequence(&view, QKeySequence::Redo);
+    const QString path = folder.Path("sample.prj"_s);
+    ASSERT_TRUE(window.GetFiles().SaveTo(path));
+    EXPECT_EQ(Told(path, 0), "0,0 100×200 0 0; 100,0 100×200 1 0; 0,200 100×200 3 0; 100,200 100×200 2 0");
+    EXPECT_EQ(Told(path, 1), "408,270 60×80 2 30; 460,300 60×80 1 30; 512,330 60×80 0 30");
+    document.NewProject();
+    ASSERT_TRUE(window.GetFiles().Open(path));
+    EXPECT_EQ(Chain(0) + Chain(1), "1 2 4 33 2 1");
+    document.SetRotationOn(false);
+}
+
+TEST_F(WallStory, ABlockOfAProductHasItsSizeAndItsCardsAreWired)
+{
+    const QString file = WriteFile(CProductDirectorySet::GetRootDir() + "Outdoor.rcvbp"_s, "a card's file");
+    CProductDirectorySet& products = *GetRuntimeData()->GetProductDirectorySet();
+    products.LoadProductInfo();
+    CProduct& product = *products.FindProductFromFileName("Outdoor.rcvbp"_s);
+    product.SetPixelWidth(60);
+    product.SetPixelHeight(80);
+    product.SetMulti(true);
+    Key(Qt::Key_Insert);
+    auto* dialog = window.findChild<BlockDialog*>();
+    QTest::keyClick(dialog->findChild<QComboBox*>(), Qt::Key_Down);
+    auto* cards = dialog->findChild<CardsBox*>();
+    for (QSpinBox* box : cards->findChildren<QSpinBox*>()) {
+        box->selectAll();
+        QTest::keyClicks(box, box == cards->findChild<QSpinBox*>() ? "3"_s : "2"_s);
+    }
+    for (int i = 0; i < AutoNumberColumnsTopRight; ++i)
+        QTest::keyClick(cards->findChild<QComboBox*>(), Qt::Key_Down);
+    Picture("cards");
+    QTest::keyClick(dialog, Qt::Key_Return);
+    QFile::remove(file);
+    ASSERT_EQ(Tiles().GetCount(), 12);
+    const CTile& tile = *Tiles().GetTile(0);
+    EXPECT_TRUE(tile.GetSize() == QSize(60, 80) && tile.GetType() == product.GetMd5());
+    EXPECT_TRUE(tile.IsMultiRcvTile() && tile.GetMultiRcvsSize() == QSize(3, 2));
+    EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(tile.GetMultiRcvsLine()), 6),
+              QByteArray("\4\5\3\2\0\1", 6));
+
+    const std::tuple<CardWiring, QByteArray> cases[] = {
+        {{{2, 2}, AutoNumberRowsTopLeft, true}, QByteArray("\0\2\3\1", 4)},
+        {{{2, 3}, AutoNumberRowsBottomRight, false}, QByteArray("\5\2\4\1\3\0", 6)},
+        {{{3, 2}, AutoNumberColumnsBottomLeft, true}, QByteArray("\1\0\2\3\5\4", 6)},
+        {{{3, 1}, AutoNumberRowsTopRight, true}, QByteArray("\2\1\0", 3)},
+        {{{1, 1}, AutoNumberRowsTopLeft, true}, QByteArray()}};
+    for (const auto& [wiring, line] : cases) {
+        SAddTileInfo block;
+        wiring.SetTo(block);
+        EXPECT_EQ(block.multi, !line.isEmpty());
+        EXPECT_EQ(QByteArray(reinterpret_cast<char*>(block.line), line.size()), line) << line.size();
+    }
+}
+
+TEST_F(WallStory, AGridLiesBelowTheCabinetsAndGroupsAreOutlined)
+{
+    AddBlock({2, 2, 100, 100});
+    view.ActualSize();
+    view.ScrollTo({});
+    const QColor ground = ColorAt({330, 330});
+    EXPECT_NE(ColorAt({336, 330}), ground);
+    EXPECT_NE(ColorAt({330, 384}), ColorAt({330, 368})) << "each fourth line is stronger";
+    Key(Qt::Key_G);
+    EXPECT_EQ(ColorAt({336, 330}), ground);
+    EXPECT_FALSE(GetConfigData()->IsShowGrid()) << "kept for the next start";
+    Key(Qt::Key_G);
+
+    const auto outline = [this] { return view.GetScene().GetPorts()[0].groups.at(0); };
+    EXPECT_EQ(outline(), QPolygonF(QRectF(0, 0, 200, 200)));
+    Key(Qt::Key_A, Qt::ControlModifier);
+    ASSERT_TRUE(document.TurnSelection(45));
+    const QPolygonF turned = outline();
+    EXPECT_NEAR(QLineF(turned[0], turned[1]).length(), 200, 1.5) << "turned as they are, and no larger";
+    EXPECT_NEAR(turned.boundingRect().width(), 283, 2);
+    document.SetRotationOn(false);
 }
