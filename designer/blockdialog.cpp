@@ -40,7 +40,7 @@ BlockDialog::BlockDialog(const DocumentController& document, QWidget* parent)
     FillProducts();
 
     auto* form = new QFormLayout(this);
-    form->addRow(tr("P&roduct:"), m_product);
+    form->addRow(tr("Pro&duct:"), m_product);
     AddPair(*form, tr("&Columns and rows:"), m_columns, QStringLiteral("×"), m_rows);
     AddPair(*form, tr("Cabinet &size in pixels:"), m_width, QStringLiteral("×"), m_height);
     AddPair(*form, tr("&Left and top in pixels:"), m_left, QStringLiteral(","), m_top);

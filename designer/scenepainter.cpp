@@ -14,6 +14,7 @@ constexpr double kLeastCell = 5;    ///< view pixels
 constexpr double kLeastNumber = 22; ///< the same
 constexpr double kLeastCard = 12;   ///< of a receiving card
 constexpr double kLeastArrow = 16;  ///< length of a chain's link
+constexpr double kGroupInset = 3;   ///< of its outline
 constexpr int kLeastGrid = 16;      ///< between two lines
 constexpr int kStrongLine = 4;      ///< each fourth one
 
@@ -230,16 +231,25 @@ void ScenePainter::PaintCards(const ScenePort& port, const SceneCabinet& cabinet
     m_painter.drawLines(lines);
 }
 
+/// A little inside, so that the edges of cabinets can be told from it.
 void ScenePainter::PaintGroups(const ScenePort& port)
 {
     QColor color = m_palette.color(QPalette::Text);
-    color.setAlpha(170);
+    color.setAlpha(150);
     m_painter.setPen(QPen(color, 1, Qt::DashLine));
     m_painter.setBrush(Qt::NoBrush);
-    for (QPolygonF polygon : port.groups) {
-        for (QPointF& point : polygon)
-            point = m_map.ToView(point);
-        m_painter.drawPolygon(polygon);
+    for (const QPolygonF& group : port.groups) {
+        if (!group.boundingRect().intersects(m_shown))
+            continue;
+        QLineF top(m_map.ToView(group[0]), m_map.ToView(group[1]));
+        QLineF left(m_map.ToView(group[0]), m_map.ToView(group[3]));
+        top.setLength(kGroupInset);
+        left.setLength(kGroupInset);
+        const QPointF across(top.dx(), top.dy());
+        const QPointF down(left.dx(), left.dy());
+        m_painter.drawPolygon(
+            QPolygonF({m_map.ToView(group[0]) + across + down, m_map.ToView(group[1]) - across + down,
+                       m_map.ToView(group[2]) - across - down, m_map.ToView(group[3]) + across - down}));
     }
 }
 

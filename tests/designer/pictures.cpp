@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QScreen>
+#include <QSpinBox>
 #include <QTest>
 #include <QTranslator>
 
@@ -36,20 +37,25 @@ public:
     {
         Take("empty");
         Trigger(Qt::Key_Insert);
+        auto* dialog = m_window.findChild<BlockDialog*>();
+        dialog->findChildren<QSpinBox*>().last()->setValue(3); // cards down
         Take("block");
-        m_window.findChild<BlockDialog*>()->reject();
+        dialog->reject();
         m_window.GetFiles().Open(QStringLiteral(ORVAN_SAMPLES "/small-wall.prj"));
         Take("sample");
+        View().ActualSize();
+        View().ScrollTo({});
         Trigger(Qt::Key_N);
-        for (const int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down})
+        Document().SetCurrentPort(0, 0);
+        Document().ClearNumbers();
+        for (const int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left})
             QTest::keyClick(&View(), Qt::Key(key));
         Take("numbering");
         Trigger(Qt::Key_S);
-        Document().SelectAll();
+        Document().SelectBlock(*Document().GetPort()->GetTileSet().GetTile(0));
+        Document().MoveSelection(QPoint(100, 100));
         Document().TurnSelection(15);
         Take("turned");
-        Document().Undo();
-        Document().MoveSelection(QPoint(2000, 1500));
         QTest::qWait(500); // the check waits a moment
         auto* faults = m_window.GetFaults().findChild<QListWidget*>();
         emit faults->itemClicked(faults->item(0));
