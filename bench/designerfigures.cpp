@@ -1,11 +1,9 @@
 // Frames of the desktop program's window, beside the same rectangles and numbers drawn by a plain painter.
 #include "figure.h"
-#include "tablereporter.h"
+#include "runfigures.h"
 
 #include "designview.h"
-#include "fileactions.h"
 #include "mainwindow.h"
-#include "support/privatehome.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -177,25 +175,15 @@ Pair Pan(double scaling)
 
 int main(int argc, char** argv)
 {
-    benchmark::Initialize(&argc, argv);
-    const PrivateHome home;
-    if (argc == 2 && qstrcmp(argv[1], "--cpu") == 0)
-        CountCpuTime();
-    else if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-    const QApplication application(argc, argv);
-    LedNimbraData_Init();
-    const auto frame = [](double scaling) { return [=] { return FrameBesidePlain(scaling); }; };
-    Once({"a frame of 131072 cabinets, the whole wall", "ms", 3, 2}, frame(0));
-    Once({"a frame of 131072 cabinets, half of them as cells", "ms", 3, 2}, frame(kCells));
-    Once({"a frame of 131072 cabinets, zoomed in to numbers", "ms", 3, 2}, frame(kReadable));
-    Once({"panning 131072 cabinets, half of them as cells", "ms", 50, 16, true}, [] { return Pan(kCells); });
-    Once({"panning 131072 cabinets, zoomed in to numbers", "ms", 50, 16, true},
-         [] { return Pan(kReadable); });
-    Once({"a click on one of 131072 cabinets", "ms", 50, 25, true}, Click);
-    Once({"dragging one of 32768 cabinets, beside a whole frame", "ms", 2, 1}, Drag);
-    TableReporter table;
-    benchmark::RunSpecifiedBenchmarks(&table);
-    benchmark::Shutdown();
-    LedNimbraData_Release();
+    return RunFigures(argc, argv, [](const QString& /*home*/) {
+        const auto frame = [](double scaling) { return [=] { return FrameBesidePlain(scaling); }; };
+        const auto pan = [](double scaling) { return [=] { return Pan(scaling); }; };
+        Once({"a frame of 131072 cabinets, the whole wall", "ms", 3, 2}, frame(0));
+        Once({"a frame of 131072 cabinets, half of them as cells", "ms", 3, 2}, frame(kCells));
+        Once({"a frame of 131072 cabinets, zoomed in to numbers", "ms", 3, 2}, frame(kReadable));
+        Once({"panning 131072 cabinets, half of them as cells", "ms", 50, 16, true}, pan(kCells));
+        Once({"panning 131072 cabinets, zoomed in to numbers", "ms", 50, 16, true}, pan(kReadable));
+        Once({"a click on one of 131072 cabinets", "ms", 50, 25, true}, Click);
+        Once({"dragging one of 32768 cabinets, beside a whole frame", "ms", 2, 1}, Drag);
+    });
 }
