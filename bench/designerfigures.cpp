@@ -139,36 +139,20 @@ Pair Drag()
     return pair;
 }
 
-Run NoFloor()
-{
-    return [] { return 0; };
-}
-
-/// To the finished frame, as below.
+/// To the finished frame.
 Pair Click()
 {
     Wall wall(QSize(512, 256));
     int column = 0;
-    return Interleaved(NoFloor(), [&] {
-        const QPoint place(100 + 20 * ++column, 200);
-        return Seconds([&] {
-            wall.Mouse(QEvent::MouseButtonPress, place);
-            wall.Mouse(QEvent::MouseButtonRelease, place);
-            QApplication::processEvents();
-        });
-    });
-}
-
-Pair Pan(double scaling)
-{
-    Wall wall(QSize(512, 256));
-    wall.ZoomTo(scaling);
-    return Interleaved(NoFloor(), [&] {
-        return Seconds([&] {
-            wall.view.ScrollTo(wall.view.GetMap().GetStart() + QPoint(8, 8));
-            QApplication::processEvents();
-        });
-    });
+    return Interleaved([] { return 0; },
+                       [&] {
+                           const QPoint place(100 + 20 * ++column, 200);
+                           return Seconds([&] {
+                               wall.Mouse(QEvent::MouseButtonPress, place);
+                               wall.Mouse(QEvent::MouseButtonRelease, place);
+                               QApplication::processEvents();
+                           });
+                       });
 }
 
 } // namespace
@@ -177,12 +161,9 @@ int main(int argc, char** argv)
 {
     return RunFigures(argc, argv, [](const QString& /*home*/) {
         const auto frame = [](double scaling) { return [=] { return FrameBesidePlain(scaling); }; };
-        const auto pan = [](double scaling) { return [=] { return Pan(scaling); }; };
         Once({"a frame of 131072 cabinets, the whole wall", "ms", 3, 2}, frame(0));
         Once({"a frame of 131072 cabinets, half of them as cells", "ms", 3, 2}, frame(kCells));
         Once({"a frame of 131072 cabinets, zoomed in to numbers", "ms", 3, 2}, frame(kReadable));
-        Once({"panning 131072 cabinets, half of them as cells", "ms", 50, 16, true}, pan(kCells));
-        Once({"panning 131072 cabinets, zoomed in to numbers", "ms", 50, 16, true}, pan(kReadable));
         Once({"a click on one of 131072 cabinets", "ms", 50, 25, true}, Click);
         Once({"dragging one of 32768 cabinets, beside a whole frame", "ms", 2, 1}, Drag);
     });

@@ -102,7 +102,7 @@ void BlockDialog::FillPorts()
 void BlockDialog::FillProducts()
 {
     QMultiMap<QString, SMD5> products;
-    GetRuntimeData()->GetProductDirectorySet()->FindProduct([&](CProduct& product) {
+    DocumentController::GetProducts().FindProduct([&](CProduct& product) {
         products.insert(product.GetName(), product.GetMd5());
         return false;
     });
@@ -115,21 +115,19 @@ void BlockDialog::FillProducts()
 /// By its digest, since a scan may have replaced it.
 const CProduct* BlockDialog::GetProduct() const
 {
-    return GetRuntimeData()->GetProductDirectorySet()->FindProductFromGuid(
-        m_product->currentData().value<SMD5>());
+    return DocumentController::GetProducts().FindProductFromGuid(m_product->currentData().value<SMD5>());
 }
 
 /// A product that was not asked for its size has none.
 void BlockDialog::TakeProduct()
 {
     const CProduct* product = GetProduct();
-    if (product && product->GetPixelWidth() > 0 && product->GetPixelHeight() > 0) {
+    const bool isKnown = product && product->GetPixelWidth() > 0 && product->GetPixelHeight() > 0;
+    if (isKnown) {
         m_width->setValue(product->GetPixelWidth());
         m_height->setValue(product->GetPixelHeight());
-        m_cards->SetSeveral(product->IsMulti());
-    } else {
-        m_cards->SetSeveral(true);
     }
+    m_cards->SetSeveral(!isKnown || product->IsMulti());
     ShowBlock();
 }
 

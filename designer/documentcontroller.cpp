@@ -106,6 +106,14 @@ DocumentFile::Outcome DocumentController::Save(const QString& path, CCustomProgr
     return outcome;
 }
 
+CProductDirectorySet& DocumentController::GetProducts()
+{
+    CProductDirectorySet& products = *GetRuntimeData()->GetProductDirectorySet();
+    if (products.GetScannedFolder().isEmpty())
+        products.LoadProductInfo();
+    return products;
+}
+
 // senders and ports: what no step holds
 
 void DocumentController::AddSender()

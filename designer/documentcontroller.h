@@ -92,6 +92,7 @@ public:
     bool HasCopies() const { return m_copies.GetCount() > 0; }
 
     // adding a block of cabinets
+    static CProductDirectorySet& GetProducts();             ///< scanned when nobody has done so yet
     static QRect BoundOf(const SAddTileInfo& block);        ///< wall pixels
     QString WhyNotAddable(const SAddTileInfo& block) const; ///< to the current sender; empty: it can be added
     bool AddBlock(const SAddTileInfo& block);

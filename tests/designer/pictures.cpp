@@ -4,6 +4,7 @@
 #include "faultsdock.h"
 #include "fileactions.h"
 #include "mainwindow.h"
+#include "support/text.h"
 
 #include <QAction>
 #include <QApplication>
@@ -15,75 +16,50 @@
 
 namespace {
 
-/// As many systems have it.
-QPalette DarkPalette()
+void TakePictures(const QString& prefix)
 {
-    QPalette dark(QColor(53, 53, 53));
-    dark.setColor(QPalette::Base, QColor(35, 35, 35));
-    dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    return dark;
-}
-
-class Pictures
-{
-public:
-    explicit Pictures(const QString& prefix) : m_prefix(prefix)
-    {
-        m_window.setGeometry(0, 0, 1200, 800);
-        m_window.show();
-    }
-
-    void TakeAll()
-    {
-        Take("empty");
-        Trigger(Qt::Key_Insert);
-        auto* dialog = m_window.findChild<BlockDialog*>();
-        dialog->findChildren<QSpinBox*>().last()->setValue(3); // cards down
-        Take("block");
-        dialog->reject();
-        m_window.GetFiles().Open(QStringLiteral(ORVAN_SAMPLES "/small-wall.prj"));
-        Take("sample");
-        View().ActualSize();
-        View().ScrollTo({});
-        Trigger(Qt::Key_N);
-        Document().SetCurrentPort(0, 0);
-        Document().ClearNumbers();
-        for (const int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left})
-            QTest::keyClick(&View(), Qt::Key(key));
-        Take("numbering");
-        Trigger(Qt::Key_S);
-        Document().SelectBlock(*Document().GetPort()->GetTileSet().GetTile(0));
-        Document().MoveSelection(QPoint(100, 100));
-        Document().TurnSelection(15);
-        Take("turned");
-        QTest::qWait(500); // the check waits a moment
-        auto* faults = m_window.GetFaults().findChild<QListWidget*>();
-        emit faults->itemClicked(faults->item(0));
-        Take("fault");
-        Document().NewProject(); // nothing to ask at the end
-    }
-
-private:
-    DocumentController& Document() { return m_window.GetDocument(); }
-    DesignView& View() { return m_window.GetView(); }
-    void Trigger(const QKeySequence& key) ///< whatever the language
-    {
-        for (QAction* action : m_window.findChildren<QAction*>()) {
+    MainWindow window;
+    DesignView& view = window.GetView();
+    DocumentController& document = window.GetDocument();
+    window.setGeometry(0, 0, 1200, 800);
+    window.show();
+    const auto trigger = [&](const QKeySequence& key) { // whatever the language
+        for (QAction* action : window.findChildren<QAction*>()) {
             if (action->shortcut() == key)
                 action->trigger();
         }
-    }
-    void Take(const char* name) ///< of the screen, with what lies over the window
-    {
-        QTest::qWait(300);
-        const QPixmap picture = QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 1200, 800);
-        if (!picture.save(m_prefix + QLatin1String(name) + QStringLiteral(".png")))
-            qFatal("%s is not written", name);
-    }
-
-    QString m_prefix;
-    MainWindow m_window;
-};
+    };
+    const auto take = [&](const QString& name) { // with what lies over the window
+        QTest::qWait(600);                       // what is laid out or checked later
+        if (!QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 1200, 800).save(prefix + name + ".png"_s))
+            qFatal("%s was not written", qPrintable(name));
+    };
+    take("empty"_s);
+    trigger(Qt::Key_Insert);
+    auto* dialog = window.findChild<BlockDialog*>();
+    dialog->findChildren<QSpinBox*>().last()->setValue(3); // cards down
+    take("block"_s);
+    dialog->reject();
+    window.GetFiles().Open(QStringLiteral(ORVAN_SAMPLES "/small-wall.prj"));
+    take("sample"_s);
+    view.ActualSize();
+    view.ScrollTo({});
+    trigger(Qt::Key_N);
+    document.SetCurrentPort(0, 0);
+    document.ClearNumbers();
+    for (const int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left})
+        QTest::keyClick(&view, Qt::Key(key));
+    take("numbering"_s);
+    trigger(Qt::Key_S);
+    document.SelectBlock(*document.GetPort()->GetTileSet().GetTile(0));
+    document.MoveSelection(QPoint(100, 100));
+    document.TurnSelection(15);
+    take("turned"_s);
+    auto* faults = window.GetFaults().findChild<QListWidget*>();
+    emit faults->itemClicked(faults->item(0));
+    take("fault"_s);
+    document.NewProject(); // nothing to ask at the end
+}
 
 } // namespace
 
@@ -93,12 +69,16 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.contains(QStringLiteral("dark")))
-        QApplication::setPalette(DarkPalette());
+    if (arguments.contains("dark"_s)) {
+        QPalette dark(QColor(53, 53, 53));
+        dark.setColor(QPalette::Base, QColor(35, 35, 35));
+        dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
+        QApplication::setPalette(dark);
+    }
     LedNimbraData_Init();
     QTranslator translator;
     if (translator.load(GetConfigData()->GetTranslationPath()))
         QCoreApplication::installTranslator(&translator);
-    Pictures(arguments.value(1)).TakeAll();
+    TakePictures(arguments.value(1));
     LedNimbraData_Release();
 }

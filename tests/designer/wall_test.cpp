@@ -82,7 +82,7 @@ struct WallStory : DesignerStory
 
 } // namespace
 
-TEST_F(WallStory, AWallIsBuiltNumberedAndSavedByMouseAndKeys)
+TEST_F(WallStory, AWallIsBuiltAndNumberedByMouseAndKeys)
 {
     Picture("empty");
     AddBlock({3, 4, 100, 200});
@@ -112,20 +112,6 @@ TEST_F(WallStory, AWallIsBuiltNumberedAndSavedByMouseAndKeys)
     ClickPort(1, ProjectTree::Shown);
     EXPECT_FALSE(GetProjectData()->GetSender(0)->GetPort(1)->IsVisible());
     Picture("hidden");
-
-    const QString path = folder.Path("built.prj"_s);
-    ASSERT_TRUE(window.GetFiles().SaveTo(path));
-    const std::string chains = Chain(0) + Chain(1);
-    while (document.Undo()) {
-    }
-    EXPECT_EQ(Tiles(0).GetCount() + Tiles(1).GetCount(), 0);
-    EXPECT_EQ(Load(1), "0 %");
-    while (document.Redo()) {
-    }
-    EXPECT_EQ(Chain(0) + Chain(1), chains);
-    ASSERT_TRUE(window.GetFiles().Open(path));
-    EXPECT_EQ(Chain(0) + Chain(1), chains);
-    EXPECT_FALSE(window.isWindowModified());
 }
 
 TEST_F(WallStory, EachSenderHasItsOwnWallAndHistory)
@@ -192,7 +178,7 @@ TEST_F(WallStory, TheSampleWallIsBuiltFromNothing)
     const int steps = 8; // two blocks, a pattern, four numbers, a turn
     for (int i = 0; i < steps; ++i)
         QTest::keySequence(&view, QKeySequence::Undo);
-    EXPECT_TRUE(view.GetScene().GetBound().isNull() && !window.isWindowModified());
+    EXPECT_TRUE(view.GetScene().GetBound().isNull() && !window.isWindowModified() && Load(1) == "0 %");
     for (int i = 0; i < steps; ++i)
         QTest::keySequence(&view, QKeySequence::Redo);
     const QString path = folder.Path("sample.prj"_s);
