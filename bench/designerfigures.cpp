@@ -100,7 +100,8 @@ struct Wall
     }
 
     QSize grid;
-    MainWindow window;
+    DocumentController document;
+    MainWindow window{document};
     DesignView& view = window.GetView();
 };
 

@@ -154,6 +154,13 @@ void DocumentController::SetCurrentPort(int sender, int port)
         emit PortStatesChanged();
 }
 
+void DocumentController::SetCurrentSender(int index)
+{
+    if (const CSender* sender = GetProject().GetSender(index))
+        SetCurrentPort(index, sender->GetRecentPortIndex());
+    KeepCurrentPort();
+}
+
 /// Files and steps may name a port that is not in use.
 void DocumentController::KeepCurrentPort()
 {
@@ -184,9 +191,9 @@ QString DocumentController::WhyShut(const CPort& port)
 {
     const QString number = QString::number(port.GetPortIndex() + 1);
     if (port.IsFlagLock())
-        return tr("Port %1 is locked. Unlock it in the tree first.").arg(number);
+        return tr("Port %1 is locked. Unlock it first.").arg(number);
     if (!port.IsVisible())
-        return tr("Port %1 is hidden. Show it in the tree first.").arg(number);
+        return tr("Port %1 is hidden. Show it first.").arg(number);
     return {};
 }
 

@@ -66,9 +66,10 @@ public:
     };
     void Select(const QList<CTile*>& tiles, Choice choice);
     void SelectGroups(); ///< all of the outermost groups that have a selected cabinet
-    void SelectGroup(const SPortPlace& place, const QUuid& id); ///< and makes its port current
-    void SelectAll();                                           ///< of ports that are shown and not locked
-    QList<CTile*> GetSelection() const;                         ///< [ref] by port, in list order
+    /// A group of whatever sender, whose port becomes the current one.
+    void SelectGroup(const SPortPlace& place, const QUuid& id);
+    void SelectAll();                   ///< of ports that are shown and not locked
+    QList<CTile*> GetSelection() const; ///< [ref] by port, in list order
     QRect GetSelectionBound() const;
     /// The current port's nearest cabinet in the direction of an arrow key, from the last selected one.
     CTile* FindNeighbour(int key) const;
@@ -116,9 +117,9 @@ public:
     void AddSender();                              ///< and makes it current
     bool DeleteSender(int index, QWidget* parent); ///< asks first
     void SetCurrentPort(int sender, int port);     ///< no change of the project
+    void SetCurrentSender(int index);              ///< likewise, with the port that it had last
     void KeepCurrentPort();                        ///< among those in use
     static QString WhyShut(const CPort& port);     ///< hidden or locked; empty: it is neither
-    static QString WhyClosed(const CPort& port); ///< why its cabinets stay as they are; empty: they need not
 
     // history
     bool Undo(int steps = 1);

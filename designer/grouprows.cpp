@@ -19,61 +19,58 @@ public:
     {
         for (const CTile* tile : port.GetTileSet())
             ++m_counts[tile->GetGroupId()];
-        for (const CTileGroup* group : Level(port.GetTileGroupSet()))
-            Sum(*group);
     }
 
-    void Show(const CPort& port, QTreeWidgetItem& row)
+    void Show(const CTileGroupSet& groups, QTreeWidgetItem& row)
     {
-        Fill(port.GetTileGroupSet(), row);
-        if (m_groups <= kMostListed)
-            return;
-        auto* more = new QTreeWidgetItem(&row, {tr("… and %1 more groups").arg(m_groups - kMostListed)});
-        more->setFlags(Qt::ItemIsEnabled);
-        more->setFirstColumnSpanned(true);
+        const int all = Sum(groups).second;
+        Fill(groups, row);
+        if (all > kMostListed)
+            Put(row, row.childCount(), tr("… and %1 more groups").arg(all - kMostListed), QUuid());
     }
 
 private:
-    static QList<const CTileGroup*> Level(const CTileGroupSet& groups)
+    /// The cabinets in all of these, and the number of groups. Counts those of a group with the ones below
+    /// it.
+    QPair<int, int> Sum(const CTileGroupSet& groups)
     {
-        QList<const CTileGroup*> level;
-        for (int i = 0; i < groups.GetDirectCount(); ++i)
-            level.append(groups.GetDirectGroupByDirIndex(i));
-        return level;
-    }
-
-    /// Adds what the groups below hold.
-    int Sum(const CTileGroup& group)
-    {
-        ++m_groups;
-        int count = m_counts.value(group.GetID());
-        for (const CTileGroup* below : Level(*group.GetSubGroupSet()))
-            count += Sum(*below);
-        return m_counts[group.GetID()] = count;
+        QPair<int, int> sum;
+        for (int i = 0; i < groups.GetDirectCount(); ++i) {
+            const CTileGroup& group = *groups.GetDirectGroupByDirIndex(i);
+            const QPair<int, int> below = Sum(*group.GetSubGroupSet());
+            m_counts[group.GetID()] += below.first;
+            sum.first += m_counts[group.GetID()];
+            sum.second += 1 + below.second;
+        }
+        return sum;
     }
 
     void Fill(const CTileGroupSet& groups, QTreeWidgetItem& row)
     {
         int place = 0;
-        for (const CTileGroup* group : Level(groups)) {
-            if (m_listed == kMostListed)
-                break;
+        for (; place < groups.GetDirectCount() && m_listed < kMostListed; ++place) {
+            const CTileGroup& group = *groups.GetDirectGroupByDirIndex(place);
             ++m_listed;
-            QTreeWidgetItem* item = place < row.childCount() ? row.child(place) : new QTreeWidgetItem(&row);
-            ++place;
-            item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-            item->setFirstColumnSpanned(true);
-            item->setText(0, tr("Group of %1 cabinets").arg(m_counts.value(group->GetID())));
-            item->setToolTip(0, tr("A click or Return selects its cabinets"));
-            item->setData(0, Qt::UserRole, group->GetID());
-            Fill(*group->GetSubGroupSet(), *item);
+            Fill(*group.GetSubGroupSet(),
+                 Put(row, place, tr("Group of %1 cabinets").arg(m_counts.value(group.GetID())),
+                     group.GetID()));
         }
         while (row.childCount() > place)
             delete row.takeChild(row.childCount() - 1);
     }
 
+    static QTreeWidgetItem& Put(QTreeWidgetItem& row, int place, const QString& text, const QUuid& id)
+    {
+        QTreeWidgetItem* item = place < row.childCount() ? row.child(place) : new QTreeWidgetItem(&row);
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        item->setFirstColumnSpanned(true);
+        item->setText(0, text);
+        item->setToolTip(0, id.isNull() ? QString() : tr("A click or Return selects its cabinets"));
+        item->setData(0, Qt::UserRole, id);
+        return *item;
+    }
+
     QHash<QUuid, int> m_counts; ///< cabinets
-    int m_groups = 0;
     int m_listed = 0;
 };
 
@@ -81,5 +78,5 @@ private:
 
 void ShowGroups(const CPort& port, QTreeWidgetItem& row)
 {
-    GroupRows(port).Show(port, row);
+    GroupRows(port).Show(port.GetTileGroupSet(), row);
 }

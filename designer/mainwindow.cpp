@@ -13,11 +13,9 @@
 #include "numbertool.h"
 #include "pantool.h"
 #include "portactions.h"
-#include "portpage.h"
-#include "projectpage.h"
 #include "projecttree.h"
+#include "propertypages.h"
 #include "selecttool.h"
-#include "senderpage.h"
 #include "settingsactions.h"
 
 #include <QActionGroup>
@@ -65,9 +63,7 @@ MainWindow::MainWindow(DocumentController& document, QWidget* parent)
     m_properties = new QTabWidget(properties);
     properties->setWidget(m_properties);
     m_properties->addTab(new CabinetsPage(m_document, this), tr("Cabinets"));
-    m_properties->addTab(new PortPage(m_document, m_senderEdits, *m_ports, this), tr("Port"));
-    m_properties->addTab(new SenderPage(m_document, m_senderEdits, this), tr("Sender"));
-    m_properties->addTab(new ProjectPage(m_document, m_senderEdits, this), tr("Project"));
+    new PropertyPages(m_document, m_senderEdits, *m_ports, *m_properties);
     addDockWidget(Qt::RightDockWidgetArea, properties);
     m_faults = new FaultsDock(m_document, this);
     addDockWidget(Qt::BottomDockWidgetArea, m_faults);

@@ -12,122 +12,92 @@
 #include <QSpinBox>
 #include <QToolButton>
 
-namespace {
-
-QString WithoutMarks(QString label)
-{
-    return label.remove(QLatin1Char('&')).remove(QLatin1Char(':'));
-}
-
-/// The cursor stays while the text does.
-void ShowText(QLineEdit* field, const QString& text)
-{
-    if (field->text() != text)
-        field->setText(text);
-}
-
-} // namespace
-
-PageForm::PageForm(DocumentController& document, SenderEdits& edits, QWidget* parent)
-    : QWidget(parent), m_document(document), m_edits(edits), m_form(new QFormLayout(this))
+PageForm::PageForm(const DocumentController& document, QWidget* parent)
+    : QWidget(parent), m_document(document), m_form(new QFormLayout(this))
 {
     connect(&document, &DocumentController::Changed, this, &PageForm::Renew);
     connect(&document, &DocumentController::SenderChanged, this, &PageForm::Renew);
     connect(&document, &DocumentController::PortStatesChanged, this, &PageForm::Renew);
 }
 
-void PageForm::Add(const QString& label, const QString& tip, QWidget* field,
-                   const std::function<void()>& show)
+void PageForm::Follow(QWidget* editor, const QString& label, const QString& tip,
+                      const std::function<void()>& show)
 {
-    field->setAccessibleName(WithoutMarks(label));
-    field->setToolTip(tip);
-    m_fields.append([field, show] {
-        const QSignalBlocker blocker(field);
+    editor->setAccessibleName(QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    editor->setToolTip(tip);
+    m_shows.append([editor, show] {
+        const QSignalBlocker blocker(editor);
         show();
     });
 }
 
-void PageForm::AddNumber(const QString& label, const QString& tip, int least, int most,
-                         const QString& leastText, const Read<int>& read, const Write<int>& write)
+void PageForm::AddNumber(const Field<int>& field, int least, int most, const QString& leastText)
 {
-    auto* field = new QSpinBox(this);
-    field->setRange(least, most);
-    field->setSpecialValueText(leastText);
-    field->setKeyboardTracking(false); // a number that is being typed is none yet
-    connect(field, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, write](int value) {
-        write(value);
+    auto* editor = new QSpinBox(this);
+    editor->setRange(least, most);
+    editor->setSpecialValueText(leastText);
+    editor->setKeyboardTracking(false); // a number that is being typed is none yet
+    connect(editor, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, field](int value) {
+        field.write(value);
         Renew();
     });
-    Add(label, tip, field, [field, read] { field->setValue(read()); });
-    m_form->addRow(label, field);
+    Follow(editor, field.label, field.tip, [editor, field] { editor->setValue(field.read()); });
+    m_form->addRow(field.label, editor);
 }
 
-void PageForm::AddChoice(const QString& label, const QString& tip, const QList<int>& values,
-                         const std::function<QString(int)>& text, const Read<int>& read,
-                         const Write<int>& write)
+void PageForm::AddChoice(const Field<int>& field, const QList<int>& values, const QString& zeroText)
 {
-    auto* field = new QComboBox(this);
-    for (const int value : values)
-        field->addItem(text(value), value);
-    connect(field, QOverload<int>::of(&QComboBox::activated), this, [this, field, write](int index) {
-        write(field->itemData(index).toInt());
-        Renew();
-    });
-    Add(label, tip, field, [field, text, read] {
-        if (field->findData(read()) < 0)
-            field->addItem(text(read()), read()); // as a file has it
-        field->setCurrentIndex(field->findData(read()));
-    });
-    m_form->addRow(label, field);
-}
-
-void PageForm::AddText(const QString& label, const QString& tip, const Read<QString>& read,
-                       const Write<QString>& write)
-{
-    auto* field = new QLineEdit(this);
-    connect(field, &QLineEdit::editingFinished, this, [this, field, write] {
-        write(field->text());
-        Renew();
-    });
-    Add(label, tip, field, [field, read] { ShowText(field, read()); });
-    m_form->addRow(label, field);
-}
-
-void PageForm::AddLine(const QString& label, const QString& tip, const Read<SPrintLine>& read,
-                       const Write<SPrintLine>& write)
-{
-    auto* on = new QCheckBox(label, this);
-    auto* field = new QLineEdit(this);
-    const auto take = [this, on, field, write] {
-        write({on->isChecked(), field->text()});
-        Renew();
+    auto* editor = new QComboBox(this);
+    const auto add = [editor, zeroText](int value) {
+        editor->addItem(value == 0 ? zeroText : QString::number(value), value);
     };
-    connect(on, &QCheckBox::toggled, this, take);
-    connect(field, &QLineEdit::editingFinished, this, take);
-    Add(label, tip, on, [on, read] { on->setChecked(read().enable); });
-    Add(label, tip, field, [field, read] { ShowText(field, read().text); });
-    m_form->addRow(on, field);
-}
-
-void PageForm::AddSwitch(const QString& label, const QString& tip, const Read<bool>& read,
-                         const Write<bool>& write)
-{
-    auto* field = new QCheckBox(label, this);
-    connect(field, &QCheckBox::toggled, this, [this, write](bool on) {
-        write(on);
+    std::for_each(values.begin(), values.end(), add);
+    connect(editor, QOverload<int>::of(&QComboBox::activated), this, [this, editor, field] {
+        field.write(editor->currentData().toInt());
         Renew();
     });
-    Add(label, tip, field, [field, read] { field->setChecked(read()); });
-    m_form->addRow(field);
+    Follow(editor, field.label, field.tip, [editor, field, add] {
+        if (editor->findData(field.read()) < 0)
+            add(field.read()); // as a file has it
+        editor->setCurrentIndex(editor->findData(field.read()));
+    });
+    m_form->addRow(field.label, editor);
 }
 
-void PageForm::AddInfo(const QString& label, const Read<QString>& read)
+void PageForm::AddText(const Field<QString>& field)
 {
-    auto* field = new QLabel(this);
-    field->setWordWrap(true);
-    field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    Add(label, QString(), field, [field, read] { field->setText(read()); });
-    m_form->addRow(label, field);
+    auto* editor = new QLineEdit(this);
+    connect(editor, &QLineEdit::editingFinished, this, [editor, field] { field.write(editor->text()); });
+    Follow(editor, field.label, field.tip, [editor, field] { editor->setText(field.read()); });
+    m_form->addRow(field.label, editor);
+}
+
+void PageForm::AddLine(const Field<SPrintLine>& field)
+{
+    auto* on = new QCheckBox(field.label, this);
+    auto* editor = new QLineEdit(this);
+    const auto take = [on, editor, field] { field.write({on->isChecked(), editor->text()}); };
+    connect(on, &QCheckBox::toggled, this, take);
+    connect(editor, &QLineEdit::editingFinished, this, take);
+    Follow(on, field.label, field.tip, [on, field] { on->setChecked(field.read().enable); });
+    Follow(editor, field.label, field.tip, [editor, field] { editor->setText(field.read().text); });
+    m_form->addRow(on, editor);
+}
+
+void PageForm::AddSwitch(const Field<bool>& field)
+{
+    auto* editor = new QCheckBox(field.label, this);
+    connect(editor, &QCheckBox::toggled, this, field.write);
+    Follow(editor, field.label, field.tip, [editor, field] { editor->setChecked(field.read()); });
+    m_form->addRow(editor);
+}
+
+void PageForm::AddInfo(const QString& label, const std::function<QString()>& read)
+{
+    auto* text = new QLabel(this);
+    text->setWordWrap(true);
+    Follow(text, label, QString(), [text, read] { text->setText(read()); });
+    m_form->addRow(label, text);
 }
 
 void PageForm::AddAction(QAction* action)
@@ -139,14 +109,14 @@ void PageForm::AddAction(QAction* action)
     m_form->addRow(button);
 }
 
-/// Pages tell of the current sender, but for one; without any sender none is of use.
 void PageForm::Renew()
 {
     if (!isVisible())
         return;
-    setEnabled(m_document.GetSender() != nullptr);
-    for (int i = 0; isEnabled() && i < m_fields.size(); ++i)
-        m_fields[i]();
+    const bool hasSender = m_document.GetSender() != nullptr;
+    setEnabled(hasSender);
+    for (int i = 0; hasSender && i < m_shows.size(); ++i)
+        m_shows[i]();
 }
 
 void PageForm::showEvent(QShowEvent* event)

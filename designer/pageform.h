@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
 #include <functional>
@@ -7,45 +8,41 @@
 class DocumentController;
 class QAction;
 class QFormLayout;
-class SenderEdits;
 struct SPrintLine;
 
-/// A page of labelled fields. Each shows a value of the document whenever that changes, and hands on what the
-/// user makes of it. Nothing is read while the page is not seen.
+/// A value of the document that a user may change. The label marks its key.
+template <class Value> struct Field
+{
+    QString label;
+    QString tip;
+    std::function<Value()> read;
+    std::function<void(const Value&)> write;
+};
+
+/// A page of fields of the current sender. It follows the document, and nothing is read while it is not seen.
 class PageForm : public QWidget
 {
     Q_OBJECT
 
 public:
-    PageForm(DocumentController& document, SenderEdits& edits, QWidget* parent); ///< [keep] both
+    PageForm(const DocumentController& document, QWidget* parent); ///< [keep]
 
-protected:
-    template <class Value> using Read = std::function<Value()>;
-    template <class Value> using Write = std::function<void(const Value&)>;
-
-    /// An empty `leastText` shows the least number as it is.
-    void AddNumber(const QString& label, const QString& tip, int least, int most, const QString& leastText,
-                   const Read<int>& read, const Write<int>& write);
-    void AddChoice(const QString& label, const QString& tip, const QList<int>& values,
-                   const std::function<QString(int)>& text, const Read<int>& read, const Write<int>& write);
-    void AddText(const QString& label, const QString& tip, const Read<QString>& read,
-                 const Write<QString>& write);
-    void AddLine(const QString& label, const QString& tip, const Read<SPrintLine>& read,
-                 const Write<SPrintLine>& write); ///< a text with its switch
-    void AddSwitch(const QString& label, const QString& tip, const Read<bool>& read,
-                   const Write<bool>& write);
-    void AddInfo(const QString& label, const Read<QString>& read);
+    void AddNumber(const Field<int>& field, int least, int most, const QString& leastText = QString());
+    void AddChoice(const Field<int>& field, const QList<int>& values, const QString& zeroText = QString());
+    void AddText(const Field<QString>& field);
+    void AddLine(const Field<SPrintLine>& field); ///< a text with its switch
+    void AddSwitch(const Field<bool>& field);
+    void AddInfo(const QString& label, const std::function<QString()>& read);
     void AddAction(QAction* action);
 
+protected:
     void showEvent(QShowEvent* event) override;
 
-    DocumentController& m_document;
-    SenderEdits& m_edits;
-
 private:
+    void Follow(QWidget* editor, const QString& label, const QString& tip, const std::function<void()>& show);
     void Renew();
-    void Add(const QString& label, const QString& tip, QWidget* field, const std::function<void()>& show);
 
+    const DocumentController& m_document;
     QFormLayout* m_form;
-    QList<std::function<void()>> m_fields;
+    QList<std::function<void()>> m_shows;
 };

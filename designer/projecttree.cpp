@@ -15,7 +15,17 @@
 
 namespace {
 
-const QString kDraggedPort = QStringLiteral("application/x-orvan-port");
+struct DraggedPort : QMimeData
+{
+    SPortPlace place;
+};
+
+/// None, when something else is dragged, or a port of another window.
+SPortPlace DraggedBy(const QDropEvent* event)
+{
+    const auto* dragged = dynamic_cast<const DraggedPort*>(event->mimeData());
+    return dragged ? dragged->place : SPortPlace();
+}
 
 QIcon ColorIcon(int port)
 {
@@ -151,7 +161,7 @@ void ProjectTree::FillPort(int sender, int index)
                               .arg(capacity.colorBits));
 }
 
-/// The current port is where the tree's cursor is, and in bold.
+/// The current port is in bold, and the tree's cursor is on it, on one of its groups or on its sender.
 void ProjectTree::ShowStates()
 {
     const QScopedValueRollback<bool> filling(m_filling, true);
@@ -166,7 +176,8 @@ void ProjectTree::ShowStates()
             QFont bold = font();
             bold.setBold(isCurrent);
             item.setFont(Name, bold);
-            if (isCurrent && PlaceOf(currentItem()) != SPortPlace{i, port})
+            if (isCurrent && currentItem() != topLevelItem(i)
+                && PlaceOf(currentItem()) != SPortPlace{i, port})
                 setCurrentItem(&item, currentColumn() < 0 ? int(Name) : currentColumn());
         }
     }
@@ -174,9 +185,13 @@ void ProjectTree::ShowStates()
 
 void ProjectTree::TakeCurrent(QTreeWidgetItem* item)
 {
+    if (m_filling || !item)
+        return;
     const SPortPlace place = PlaceOf(item);
-    if (!m_filling && place.sender >= 0)
+    if (place.port >= 0)
         m_document.SetCurrentPort(place.sender, place.port);
+    else
+        m_document.SetCurrentSender(indexOfTopLevelItem(item));
 }
 
 void ProjectTree::TakeEdit(QTreeWidgetItem* item, int column)
@@ -185,7 +200,8 @@ void ProjectTree::TakeEdit(QTreeWidgetItem* item, int column)
         return;
     const bool on = item->checkState(column) == Qt::Checked;
     if (!item->parent())
-        m_edits.SetName(indexOfTopLevelItem(item), item->text(Name));
+        m_edits.SetValue(indexOfTopLevelItem(item), &CSender::GetSenderName, &CSender::SetSenderName,
+                         item->text(Name));
     else if (column == Shown)
         m_edits.SetShown(PlaceOf(item), on);
     else if (column == Locked)
@@ -201,50 +217,38 @@ void ProjectTree::ChooseGroup(QTreeWidgetItem* item)
 
 // dragging a port onto another
 
-QStringList ProjectTree::mimeTypes() const
-{
-    return {kDraggedPort};
-}
-
 QMimeData* ProjectTree::mimeData(const QList<QTreeWidgetItem*> items) const
 {
-    const SPortPlace place = PlaceOf(items.value(0));
-    auto* dragged = new QMimeData;
-    dragged->setData(kDraggedPort, QStringLiteral("%1 %2 %3")
-                                       .arg(QCoreApplication::applicationPid())
-                                       .arg(place.sender)
-                                       .arg(place.port)
-                                       .toLatin1());
+    auto* dragged = new DraggedPort;
+    dragged->place = PlaceOf(items.value(0));
+    dragged->setData(mimeTypes().first(), {}); // what the base class looks for
     return dragged;
-}
-
-SPortPlace ProjectTree::DraggedBy(const QDropEvent& event) const
-{
-    const QList<QByteArray> parts = event.mimeData()->data(kDraggedPort).split(' ');
-    if (parts.size() != 3 || parts[0].toLongLong() != QCoreApplication::applicationPid())
-        return {};
-    return {parts[1].toInt(), parts[2].toInt()};
 }
 
 void ProjectTree::dragEnterEvent(QDragEnterEvent* event)
 {
     QTreeWidget::dragEnterEvent(event);
-    event->setAccepted(DraggedBy(*event).port >= 0);
+    event->setAccepted(DraggedBy(event).port >= 0);
 }
 
 void ProjectTree::dragMoveEvent(QDragMoveEvent* event)
 {
     QTreeWidget::dragMoveEvent(event); // scrolls at the edges
-    const SPortPlace backup = DraggedBy(*event);
+    const SPortPlace backup = DraggedBy(event);
     const SPortPlace source = PlaceOf(itemAt(event->pos()));
-    const bool isOnPort = source.port >= 0 && source != backup;
-    const QString why = isOnPort ? m_edits.WhyNotBackup(backup, source) : QString();
-    event->setAccepted(isOnPort && why.isEmpty());
-    const QString what =
-        isOnPort ? tr("Port %1 becomes the backup of %2")
-                       .arg(QString::number(backup.port + 1), m_edits.PortText(source, backup.sender))
-                 : QString();
-    QToolTip::showText(viewport()->mapToGlobal(event->pos()), why.isEmpty() ? what : why, this);
+    QString text;
+    event->setAccepted(source.port >= 0 && source != backup && MayDrop(backup, source, &text));
+    QToolTip::showText(viewport()->mapToGlobal(event->pos()), text, this);
+}
+
+bool ProjectTree::MayDrop(const SPortPlace& backup, const SPortPlace& source, QString* text) const
+{
+    const QString why = m_edits.WhyNotBackup(backup, source);
+    *text = why.isEmpty()
+                ? tr("Port %1 becomes the backup of %2")
+                      .arg(QString::number(backup.port + 1), m_edits.PortText(source, backup.sender))
+                : why;
+    return why.isEmpty();
 }
 
 /// Something may be asked, which has to wait for the end of the drag.
@@ -252,7 +256,7 @@ void ProjectTree::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
     setState(NoState);
-    const SPortPlace backup = DraggedBy(*event);
+    const SPortPlace backup = DraggedBy(event);
     const SPortPlace source = PlaceOf(itemAt(event->pos()));
     QTimer::singleShot(0, this, [this, backup, source] { m_edits.MakeBackup(backup, source, window()); });
 }

@@ -30,7 +30,6 @@ public:
     int GetSelectedSender() const; ///< -1: none
 
 protected:
-    QStringList mimeTypes() const override;
     QMimeData* mimeData(const QList<QTreeWidgetItem*> items) const override; ///< [new]
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
@@ -45,8 +44,8 @@ private:
     void TakeEdit(QTreeWidgetItem* item, int column);
     void ChooseGroup(QTreeWidgetItem* item);
     QTreeWidgetItem* ItemOf(int sender, int port) const;
-    SPortPlace PlaceOf(QTreeWidgetItem* item) const;     ///< of a port, or of what is below it; else none
-    SPortPlace DraggedBy(const QDropEvent& event) const; ///< the port, if it is one of this program
+    SPortPlace PlaceOf(QTreeWidgetItem* item) const; ///< of a port, or of what is below it; else none
+    bool MayDrop(const SPortPlace& backup, const SPortPlace& source, QString* text) const;
 
     DocumentController& m_document;
     SenderEdits& m_edits;

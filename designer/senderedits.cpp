@@ -1,7 +1,5 @@
 #include "senderedits.h"
 
-#include "documentcontroller.h"
-
 #include "custommessagebox.h"
 
 namespace {
@@ -9,15 +7,6 @@ namespace {
 CProjectUndoRedo& History()
 {
     return *GetRuntimeData()->GetProjectUndoRedo();
-}
-
-template <class Get, class Set, class Value>
-void SetField(CSender* sender, Get get, Set set, const Value& value)
-{
-    if (!sender || (sender->*get)() == value)
-        return;
-    (sender->*set)(value);
-    History().PrjModify();
 }
 
 bool Ask(const QStringList& losses, QWidget* parent)
@@ -30,6 +19,11 @@ bool Ask(const QStringList& losses, QWidget* parent)
 
 } // namespace
 
+void SenderEdits::MarkModified()
+{
+    History().PrjModify();
+}
+
 // senders
 
 CSender* SenderEdits::FindSender(int sender) const
@@ -37,21 +31,10 @@ CSender* SenderEdits::FindSender(int sender) const
     return m_document.GetProject().GetSender(sender);
 }
 
-void SenderEdits::SetName(int sender, const QString& name)
-{
-    SetField(FindSender(sender), &CSender::GetSenderName, &CSender::SetSenderName, name);
-}
-
 void SenderEdits::SetPrintName(int sender, const SPrintLine& name)
 {
-    SetField(FindSender(sender), &CSender::IsPrintNameEnable, &CSender::SetPrintNameEnable, name.enable);
-    SetField(FindSender(sender), &CSender::GetPrintName, &CSender::SetPrintName, name.text);
-}
-
-void SenderEdits::SetCanvas(int sender, const QSize& size)
-{
-    SetField(FindSender(sender), &CSender::GetCanvasSize, &CSender::SetCanvasSize,
-             size.boundedTo(QSize(kMaxCanvasWidth, kMaxCanvasHeight)));
+    SetValue(sender, &CSender::IsPrintNameEnable, &CSender::SetPrintNameEnable, name.enable);
+    SetValue(sender, &CSender::GetPrintName, &CSender::SetPrintName, name.text);
 }
 
 /// The library raises the offset that a sender has.
@@ -64,17 +47,7 @@ void SenderEdits::SetOffset(int sender, const QSize& offset)
     found->SetOffset(offset);
     found->OffsetValid();
     if (found->GetOffset() != before)
-        History().PrjModify();
-}
-
-void SenderEdits::SetFrequency(int sender, int hertz)
-{
-    SetField(FindSender(sender), &CSender::GetSignalFreq, &CSender::SetSignalFreq, hertz);
-}
-
-void SenderEdits::SetDepth(int sender, int bits)
-{
-    SetField(FindSender(sender), &CSender::GetColorDepth, &CSender::SetColorDepth, bits);
+        MarkModified();
 }
 
 QList<int> SenderEdits::GetPortCounts()
@@ -87,31 +60,23 @@ QList<int> SenderEdits::GetPortCounts()
     return counts;
 }
 
-bool SenderEdits::HoldsNothing(const SPortPlace& place) const
-{
-    const CPort* port = FindPort(place);
-    return !port || (!port->IsBackupDest() && port->GetTileSet().GetCount() == 0 && !IsSource(place));
-}
-
 bool SenderEdits::SetPortCount(int sender, int count, QWidget* parent)
 {
     CSender* found = FindSender(sender);
     if (!found || !CSender::IsPortCountAccepted(count) || count == found->GetPortCount())
         return false;
-    QStringList held;
-    for (int port = count; port < found->GetPortCount(); ++port) {
-        if (!HoldsNothing({sender, port}))
-            held.append(QString::number(port + 1));
+    QStringList used;
+    for (int i = count; i < found->GetPortCount(); ++i) {
+        if (found->GetPort(i)->IsBackupDest() || found->GetPort(i)->GetTileSet().GetCount() > 0)
+            used.append(QString::number(i + 1));
     }
-    if (!held.isEmpty())
-        held = QStringList(tr("Ports with cabinets or backups go: %1. They come back with a larger number of "
-                              "ports, but a save leaves them out.")
-                               .arg(held.join(QStringLiteral(", "))));
-    if (!Ask(held, parent))
+    const QString losses = tr("Ports with cabinets or backups go: %1. They come back with a larger number of "
+                              "ports, but a save leaves them out.");
+    if (!used.isEmpty() && !Ask({losses.arg(used.join(QStringLiteral(", ")))}, parent))
         return false;
     found->SetPortCount(count);
     m_document.KeepCurrentPort();
-    History().PrjModify();
+    MarkModified();
     return true;
 }
 
@@ -143,7 +108,7 @@ void SenderEdits::NoteState(CPort& port, bool closed)
 {
     if (closed)
         port.GetPortProject()->CancelAllSelected();
-    History().PrjModify();
+    MarkModified();
     emit m_document.PortStatesChanged();
 }
 
@@ -259,7 +224,7 @@ bool SenderEdits::MayRestartHistory(int sender, QStringList losses, QWidget* par
 void SenderEdits::RestartHistory(int sender)
 {
     History().SenderUndoRedoInit(FindSender(sender));
-    History().PrjModify();
+    MarkModified();
     emit m_document.PortStatesChanged();
 }
 
@@ -285,5 +250,5 @@ void SenderEdits::SetPrintLine(SPrintLine SPrintFormData::*line, const SPrintLin
     if (present.enable == value.enable && present.text == value.text)
         return;
     present = value;
-    History().PrjModify();
+    MarkModified();
 }

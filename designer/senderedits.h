@@ -1,11 +1,8 @@
 #pragma once
 
-#include <OrvanData/orvandata.h>
+#include "documentcontroller.h"
 
 #include <QCoreApplication>
-
-class DocumentController;
-class QWidget;
 
 /// Edits of senders, ports and the printed form that no step of the history holds. What changes something
 /// marks the project as modified. What would lose something asks first, in a box over `parent`; false: it
@@ -18,12 +15,18 @@ public:
     explicit SenderEdits(DocumentController& document) : m_document(document) {} ///< [keep]
 
     // senders
-    void SetName(int sender, const QString& name);
+    /// One of the values that a sender holds, say by &CSender::GetSenderName and &CSender::SetSenderName.
+    template <class Get, class Set, class Value>
+    void SetValue(int sender, Get get, Set set, const Value& value)
+    {
+        CSender* found = m_document.GetProject().GetSender(sender);
+        if (!found || (found->*get)() == value)
+            return;
+        (found->*set)(value);
+        MarkModified();
+    }
     void SetPrintName(int sender, const SPrintLine& name);
-    void SetCanvas(int sender, const QSize& size);   ///< at most the largest one; empty: none
     void SetOffset(int sender, const QSize& offset); ///< raised so that the layout starts on the canvas
-    void SetFrequency(int sender, int hertz);        ///< 0: not set
-    void SetDepth(int sender, int bits);             ///< of a colour; 0: not set
     static QList<int> GetPortCounts();               ///< that there are
     bool SetPortCount(int sender, int count, QWidget* parent);
 
@@ -44,12 +47,12 @@ public:
     void SetPrintLine(SPrintLine SPrintFormData::*line, const SPrintLine& value);
 
 private:
+    static void MarkModified();
     CSender* FindSender(int sender) const;
     CPort* FindPort(const SPortPlace& place) const;
     void NoteState(CPort& port, bool closed);
     SPortPlace SourceOf(const SPortPlace& backup) const; ///< sender -1: none
     bool IsSource(const SPortPlace& place) const;
-    bool HoldsNothing(const SPortPlace& place) const;
     bool MayRestartHistory(int sender, QStringList losses, QWidget* parent) const;
     void RestartHistory(int sender);
 

@@ -4,6 +4,7 @@
 #include "faultsdock.h"
 #include "fileactions.h"
 #include "mainwindow.h"
+#include "program.h"
 #include "support/text.h"
 
 #include <QAction>
@@ -12,17 +13,17 @@
 #include <QScreen>
 #include <QSpinBox>
 #include <QTest>
-#include <QTranslator>
 
 namespace {
 
 void TakePictures(const QString& prefix)
 {
-    MainWindow window;
+    Program program;
+    program.Show();
+    MainWindow& window = program.GetWindow();
     DesignView& view = window.GetView();
-    DocumentController& document = window.GetDocument();
+    DocumentController& document = program.GetDocument();
     window.setGeometry(0, 0, 1200, 800);
-    window.show();
     const auto trigger = [&](const QKeySequence& key) { // whatever the language
         for (QAction* action : window.findChildren<QAction*>()) {
             if (action->shortcut() == key)
@@ -51,7 +52,8 @@ void TakePictures(const QString& prefix)
         QTest::keyClick(&view, Qt::Key(key));
     take("numbering"_s);
     trigger(Qt::Key_S);
-    document.SelectBlock(*document.GetPort()->GetTileSet().GetTile(0));
+    document.Select({document.GetPort()->GetTileSet().GetTile(0)}, DocumentController::Choice::Replace);
+    document.SelectGroups();
     document.MoveSelection(QPoint(100, 100));
     document.TurnSelection(15);
     take("turned"_s);
@@ -76,9 +78,6 @@ int main(int argc, char** argv)
         QApplication::setPalette(dark);
     }
     LedNimbraData_Init();
-    QTranslator translator;
-    if (translator.load(GetConfigData()->GetTranslationPath()))
-        QCoreApplication::installTranslator(&translator);
     TakePictures(arguments.value(1));
     LedNimbraData_Release();
 }

@@ -130,7 +130,7 @@ TEST_F(WallStory, EachSenderHasItsOwnWallAndHistory)
     EXPECT_EQ(view.GetScene().GetPorts()[0].cabinets.size(), 4u);
     messages.answer = QMessageBox::Yes;
     EXPECT_TRUE(document.DeleteSender(1, &window) && window.GetTree().topLevelItemCount() == 1);
-    SenderEdits(document).SetName(0, "Stage"_s);
+    SenderEdits(document).SetValue(0, &CSender::GetSenderName, &CSender::SetSenderName, "Stage"_s);
     EXPECT_EQ(window.GetTree().topLevelItem(0)->text(0).toStdString(), "Stage");
 }
 

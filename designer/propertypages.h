@@ -1,0 +1,39 @@
+#pragma once
+
+#include <OrvanData/orvandata.h>
+
+#include <QObject>
+
+class DocumentController;
+class PageForm;
+class PortActions;
+class QTabWidget;
+class SenderEdits;
+template <class Value> struct Field;
+
+/// Pages of properties: of the current port, of its sender, and of the printed form.
+class PropertyPages : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// [keep] all; the pages are added to the tabs.
+    PropertyPages(DocumentController& document, SenderEdits& edits, const PortActions& actions,
+                  QTabWidget& tabs);
+
+private:
+    void MakePort(const PortActions& actions, QTabWidget& tabs);
+    void MakeSender(QTabWidget& tabs);
+    void MakePrintedForm(QTabWidget& tabs);
+    void AddPlaces(PageForm& page);
+    template <class Value, class Get, class Set>
+    Field<Value> SenderField(const QString& label, const QString& tip, Get get, Set set);
+
+    CSender& Sender() const;
+    int Index() const; ///< of the sender
+    const CPort& Port() const;
+    SPortPlace Place() const; ///< of the port
+
+    DocumentController& m_document;
+    SenderEdits& m_edits;
+};
