@@ -68,8 +68,8 @@ MainWindow::MainWindow(DocumentController& document, QWidget* parent)
     m_faults = new FaultsDock(m_document, this);
     addDockWidget(Qt::BottomDockWidgetArea, m_faults);
     setAcceptDrops(true);
-    resize(1200, 800);
-    resizeDocks({dock}, {340}, Qt::Horizontal);
+    resize(1280, 800);
+    resizeDocks({dock, properties}, {280, 240}, Qt::Horizontal);
     resizeDocks({m_faults}, {110}, Qt::Vertical);
     m_bar->setObjectName(QStringLiteral("tools"));
     m_bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -274,7 +274,7 @@ void MainWindow::MakeViewMenu()
     add(tr("&Actual size"), Keys("Ctrl+1"), &DesignView::ActualSize);
     menu->addSeparator();
     QAction* grid = menu->addAction(tr("&Grid"));
-    grid->setShortcut(Qt::Key_G);
+    grid->setShortcut(Qt::Key_NumberSign);
     grid->setCheckable(true);
     grid->setChecked(GetConfigData()->IsShowGrid());
     connect(grid, &QAction::toggled, m_view, &DesignView::ShowGrid);

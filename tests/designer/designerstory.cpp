@@ -4,7 +4,7 @@
 
 DesignerStory::DesignerStory()
 {
-    window.resize(1000, 700);
+    window.resize(1280, 800);
     window.show();
     window.activateWindow();
     QTest::qWait(1);

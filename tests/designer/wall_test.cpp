@@ -242,10 +242,10 @@ TEST_F(WallStory, AGridLiesBelowTheCabinetsAndGroupsAreOutlined)
     const QColor ground = ColorAt({330, 330});
     EXPECT_NE(ColorAt({336, 330}), ground);
     EXPECT_NE(ColorAt({330, 384}), ColorAt({330, 368})) << "each fourth line is stronger";
-    Key(Qt::Key_G);
+    Key(Qt::Key_NumberSign);
     EXPECT_EQ(ColorAt({336, 330}), ground);
     EXPECT_FALSE(GetConfigData()->IsShowGrid()) << "kept for the next start";
-    Key(Qt::Key_G);
+    Key(Qt::Key_NumberSign);
 
     const auto outline = [this] { return view.GetScene().GetPorts()[0].groups.at(0); };
     EXPECT_EQ(outline(), QPolygonF(QRectF(0, 0, 200, 200)));
