@@ -1,6 +1,5 @@
 #pragma once
 
-#include "cabinetcopies.h"
 #include "documentfile.h"
 
 #include <OrvanData/orvandata.h>
@@ -90,7 +89,7 @@ public:
     void CopySelection();
     bool CutSelection();
     bool Paste(); ///< onto the current port
-    bool HasCopies() const { return m_copies.GetCount() > 0; }
+    bool HasCopies() const { return m_copies.GetTileSet()->GetCount() > 0; }
 
     // adding a block of cabinets
     static CProductDirectorySet& GetProducts();             ///< scanned when nobody has done so yet
@@ -153,6 +152,6 @@ private:
     bool Go(int steps, bool back);
 
     DocumentFile m_file;
-    CabinetCopies m_copies;
+    CPortProject m_copies;   ///< good when their cabinets are gone, and for another document
     bool m_numbered = false; ///< some cabinet, since the last step
 };

@@ -1,8 +1,6 @@
 // The selection of the open document, blocks that are added, and the chain.
 #include "documentcontroller.h"
 
-#include "wallgroups.h"
-
 /// Those of ports in use that have cabinets of their own.
 QList<CPort*> DocumentController::PortsWithCabinets() const
 {
@@ -44,7 +42,7 @@ void DocumentController::SelectGroups()
 {
     QList<CTile*> tiles;
     for (CPort* port : PortsWithCabinets())
-        tiles += WallGroups::TilesAround(*port);
+        tiles += CPortSelection(*port).GetTilesAround();
     Select(tiles, Choice::Add);
 }
 
@@ -66,7 +64,7 @@ void DocumentController::SelectionDone()
 void DocumentController::MarkGroups()
 {
     for (CPort* port : PortsWithCabinets())
-        WallGroups::MarkWhole(*port);
+        CPortSelection(*port).MarkWholeGroups();
 }
 
 QList<CTile*> DocumentController::GetSelection() const

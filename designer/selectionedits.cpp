@@ -1,6 +1,5 @@
 // The edits of the selected cabinets.
 #include "documentcontroller.h"
-#include "wallgroups.h"
 
 #include <algorithm>
 
@@ -41,10 +40,8 @@ QPoint FreePlace(const QList<CPort*>& ports, const CSender& sender, const QRect&
 
 bool DocumentController::MayEditSelection()
 {
-    for (const CPort* port : PortsWithCabinets()) {
-        CTileSet selected;
-        port->GetTileSet().GetSelTileSet(selected, InterfaceDesign);
-        if (selected.GetCount() > 0 && !IsAllowed(WhyClosed(*port)))
+    for (CPort* port : PortsWithCabinets()) {
+        if (CPortSelection(*port).GetTiles().GetCount() > 0 && !IsAllowed(WhyClosed(*port)))
             return false;
     }
     return true;
@@ -61,12 +58,8 @@ QPoint DocumentController::Limited(const QRect& bound, const QPoint& by) const
 
 void DocumentController::MoveSelected(const QPoint& by)
 {
-    for (const CPort* port : PortsWithCabinets()) {
-        for (CTileGroup* group : WallGroups::Whole(*port))
-            WallGroups::MoveRecord(*group, by);
-    }
-    for (CTile* tile : GetSelection())
-        tile->Offset(by.x(), by.y());
+    for (CPort* port : PortsWithCabinets())
+        CPortSelection(*port).Offset(by.x(), by.y());
 }
 
 bool DocumentController::MoveSelection(const QPoint& by)
@@ -106,7 +99,7 @@ bool DocumentController::TurnSelection(double angle)
     turn.centerX = bound.center().x();
     turn.centerY = bound.center().y();
     for (CPort* port : PortsWithCabinets())
-        WallGroups::Turn(*port, turn);
+        CPortSelection(*port).Turn(turn);
     return FinishTurn();
 }
 
@@ -120,7 +113,7 @@ bool DocumentController::TurnSelectionTo(double angle)
                     [&](const CTile* tile) { return qFuzzyIsNull(tile->GetRotateRecord().angle - present); }))
         return TurnSelection(angle - present);
     for (CPort* port : PortsWithCabinets())
-        WallGroups::TurnEachTo(*port, angle);
+        CPortSelection(*port).TurnEachTo(angle);
     return FinishTurn();
 }
 
@@ -163,7 +156,7 @@ bool DocumentController::ResizeSelection(int width, int height)
     tiles.SetWidthAuto(width, keepsGrid);
     tiles.SetHeightAuto(height, keepsGrid);
     for (CPort* port : PortsWithCabinets())
-        WallGroups::RenewRecords(*port);
+        CPortSelection(*port).TakeSizes();
     return Record(CSenderRecordItem::OperationResizeTiles);
 }
 
@@ -176,10 +169,10 @@ bool DocumentController::GroupSelection()
         return false;
     if (tiles.isEmpty() || GetSender()->IsSelectMultiPortTile(-1))
         return Refuse(tr("A group holds cabinets of one port. Select some of one port alone."));
-    switch (WallGroups::Gather(*GetSender()->GetPort(tiles.first()->GetPortIndex()))) {
-    case WallGroups::Gathered::TooFew:
+    switch (CPortSelection(*GetSender()->GetPort(tiles.first()->GetPortIndex())).Group()) {
+    case CPortSelection::Grouped::TooFew:
         return Refuse(tr("Select two cabinets or groups at least."));
-    case WallGroups::Gathered::InPart:
+    case CPortSelection::Grouped::InPart:
         return Refuse(tr("Only a part of some group is selected. Select all of it, or ungroup it first."));
     default:
         MarkGroups();
@@ -193,7 +186,7 @@ bool DocumentController::UngroupSelection()
         return false;
     bool any = false;
     for (CPort* port : PortsWithCabinets())
-        any = WallGroups::Dissolve(*port) || any;
+        any = CPortSelection(*port).Ungroup() || any;
     if (!any)
         return Refuse(tr("No selected cabinet is in a group."));
     MarkGroups();
@@ -204,8 +197,11 @@ bool DocumentController::UngroupSelection()
 
 void DocumentController::CopySelection()
 {
-    if (!GetSelection().isEmpty())
-        m_copies.Take(PortsWithCabinets());
+    if (GetSelection().isEmpty())
+        return;
+    m_copies.ClearAllTiles();
+    for (CPort* port : PortsWithCabinets())
+        CPortSelection(*port).CopyTo(m_copies);
 }
 
 bool DocumentController::CutSelection()
@@ -231,13 +227,16 @@ QString DocumentController::WhyNoRoom(const CPort& port, qint64 cabinets) const
 bool DocumentController::Paste()
 {
     CPort* port = GetPort();
-    if (!port || !HasCopies() || !IsAllowed(WhyNoRoom(*port, m_copies.GetCount())))
+    if (!port || !HasCopies() || !IsAllowed(WhyNoRoom(*port, m_copies.GetTileSet()->GetCount())))
         return false;
-    const QRect bound = m_copies.GetBound();
+    const QRect bound = m_copies.GetTileSet()->GetBound();
     const QPoint place = FreePlace(PortsWithCabinets(), *GetSender(), bound);
     Select({}, Choice::Replace);
-    m_copies.PutOn(*port, Limited(bound, place - bound.topLeft()));
-    for (const SMD5& type : m_copies.GetTypes()) { // the copies may come from another project
+    const QPoint by = Limited(bound, place - bound.topLeft());
+    CPortSelection(*port).Paste(m_copies, by.x(), by.y());
+    QList<SMD5> types;
+    m_copies.GetTileSet()->GetProductTypeArray(&types);
+    for (const SMD5& type : qAsConst(types)) { // the copies may come from another project
         if (const CProduct* product = GetRuntimeData()->GetProductDirectorySet()->FindProductFromGuid(type))
             GetProject().AddParameterFileInfo(product->GetName(), type);
     }
@@ -251,14 +250,15 @@ bool DocumentController::MoveSelectionToPort(int index)
     CPort* port = GetSender() ? GetSender()->GetPort(index) : nullptr;
     QList<CPort*> others = PortsWithCabinets();
     others.removeAll(port);
-    CabinetCopies copies;
-    copies.Take(others);
-    if (!port || copies.GetCount() == 0 || !MayEditSelection()
-        || !IsAllowed(WhyNoRoom(*port, copies.GetCount())))
+    CPortProject moved;
+    for (CPort* other : qAsConst(others))
+        CPortSelection(*other).CopyTo(moved);
+    if (!port || moved.GetTileSet()->GetCount() == 0 || !MayEditSelection()
+        || !IsAllowed(WhyNoRoom(*port, moved.GetTileSet()->GetCount())))
         return false;
     for (CPort* other : qAsConst(others))
         DeleteSelected(*other);
-    copies.PutOn(*port, {});
+    CPortSelection(*port).Paste(moved, 0, 0);
     MarkGroups();
     GetSender()->SetRecentPortIndex(index);
     const bool done = Record(CSenderRecordItem::OperationMoveToPort);

@@ -12,6 +12,7 @@
 #include "layout/documentchange.h"
 #include "layout/port.h"
 #include "layout/portproject.h"
+#include "layout/portselection.h"
 #include "layout/projectundoredo.h"
 #include "layout/rotation.h"
 #include "layout/sender.h"

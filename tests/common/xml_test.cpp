@@ -50,9 +50,10 @@ QByteArray Nested(int depth)
 
 TEST(XmlReaderTest, StreamAndTreeGiveTheSameToAHandler)
 {
-    const QByteArray content = "<r a='1'><x a='2&lt;'/><skip><x/></skip><y b='3'><x a='屏'/></y></r>";
+    const QByteArray content = "<r a='1'><x a='2&lt;'/><skip><x/></skip><y b='3'><x a='屏'/></y>"
+                               "<p:x xmlns:p='u' a='4'/></r>";
     const std::string log = Parsed(content, true);
-    EXPECT_EQ(log, "r(1x(2<)skipy(x(屏)))");
+    EXPECT_EQ(log, "r(1x(2<)skipy(x(屏))p:x(4))");
 
     QDomDocument document;
     ASSERT_TRUE(ParseXmlDom(content, document, nullptr));

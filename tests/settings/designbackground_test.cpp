@@ -89,6 +89,10 @@ TEST_F(DesignBackgroundTest, ZoomingInAgainReturnsToThePlaceThatTheEdgeTook)
     EXPECT_EQ(background.GetViewStartPt(), QPoint(0, 0));
     ASSERT_TRUE(background.SetViewScaling(1.0f, QPoint(10, 10)));
     EXPECT_EQ(background.GetViewStartPt(), QPoint(100, 50));
+    ASSERT_TRUE(background.SetViewScaling(0.5f, QPoint(1900, 1000)));
+    background.ResetViewScaling();
+    ASSERT_TRUE(background.SetViewScaling(0.5f, noFix) && background.SetViewScaling(1.0f, QPoint(10, 10)));
+    EXPECT_NE(background.GetViewStartPt(), QPoint(100, 50)) << "what was before the reset is forgotten";
 }
 
 TEST_F(DesignBackgroundTest, RefusedScalingLeavesTheViewUntouched)

@@ -1,4 +1,11 @@
-#include "wallgroups.h"
+#include "layout/portselection.h"
+
+#include "common/interfacedlg.h"
+#include "common/rotateparam.h"
+#include "layout/port.h"
+#include "layout/rotation.h"
+#include "layout/tile.h"
+#include "layout/tilegroup.h"
 
 #include <QHash>
 #include <QSet>
@@ -34,19 +41,12 @@ QHash<QUuid, CTileGroup*> OutermostGroups(const CPort& port)
     return outermost;
 }
 
-CTileSet Selected(const CPort& port)
-{
-    CTileSet selected;
-    port.GetTileSet().GetSelTileSet(selected, InterfaceDesign);
-    return selected;
-}
-
-/// The outermost groups that have selected cabinets.
-QSet<CTileGroup*> Touched(const CPort& port)
+/// The outermost groups that have some of the cabinets.
+QSet<CTileGroup*> Touched(const CPort& port, const CTileSet& tiles)
 {
     const QHash<QUuid, CTileGroup*> outermost = OutermostGroups(port);
     QSet<CTileGroup*> touched;
-    for (const CTile* tile : Selected(port))
+    for (const CTile* tile : tiles)
         touched.insert(outermost.value(tile->GetGroupId()));
     touched.remove(nullptr);
     return touched;
@@ -65,7 +65,7 @@ SRotateParam RecordOf(const QRect& bound)
     return record;
 }
 
-void MoveOne(CTileGroup& group, double dx, double dy)
+void MoveRecord(CTileGroup& group, double dx, double dy)
 {
     SRotateParam record = *group.GetRotateParam();
     record.centerX += dx;
@@ -80,14 +80,14 @@ void TurnRecord(CTileGroup& group, const SRotateParam& turn)
 {
     const SRotateParam before = *group.GetRotateParam();
     const CPointEx<double> center = GetRotatePoint(&turn, before.centerX, before.centerY);
-    MoveOne(group, center.x - before.centerX, center.y - before.centerY);
+    MoveRecord(group, center.x - before.centerX, center.y - before.centerY);
     SRotateParam record = *group.GetRotateParam();
     record.angle = std::remainder(record.angle + turn.angle, 360);
     record.rotated = record.angle != 0;
     group.SetRotateParam(&record);
 }
 
-/// The library gives the record of the turn to a port's only group, whether that was turned or not.
+/// A port's only group takes the record of the turn itself there; a whole group turns from where it was.
 void TurnCabinets(CPort& port, const CTileSet& tiles, const SRotateParam& turn)
 {
     CTileGroup* first = port.GetTileGroupSet().GetDirectGroupByDirIndex(0);
@@ -97,15 +97,44 @@ void TurnCabinets(CPort& port, const CTileSet& tiles, const SRotateParam& turn)
         first->SetRotateParam(&record);
 }
 
+/// Groups get ids of their own. A cabinet of another group than these is in none afterwards.
+void Append(CPortProject& to, const QList<CTileGroup*>& groups, const CTileSet& tiles)
+{
+    QList<SGuidCompare> renamed;
+    for (const CTileGroup* group : groups) {
+        auto* copy = new CTileGroup(*group);
+        copy->SetParentGroupID({});
+        copy->ModifyIDAndRecord(renamed);
+        to.GetTileGroupSet()->AddGroup(copy, true);
+    }
+    QHash<QUuid, QUuid> ids;
+    for (const SGuidCompare& id : qAsConst(renamed))
+        ids.insert(id.oldId, id.newId);
+    for (const CTile* tile : tiles) {
+        auto* copy = new CTile(*tile);
+        copy->SetGroupId(ids.value(tile->GetGroupId()));
+        copy->SetConnectionIndex(-1, nullptr);
+        copy->SetBeginRcvCnnt(-1);
+        to.GetTileSet()->AddTile(copy);
+    }
+}
+
 } // namespace
 
-QList<CTileGroup*> WallGroups::Whole(const CPort& port)
+CTileSet CPortSelection::GetTiles() const
+{
+    CTileSet selected;
+    m_port.GetTileSet().GetSelTileSet(selected, InterfaceDesign);
+    return selected;
+}
+
+QList<CTileGroup*> CPortSelection::GetWholeGroups() const
 {
     QSet<QUuid> chosen; // groups with selected cabinets, in them or in a group inside
     QSet<QUuid> open;   // with others
-    for (const CTile* tile : port.GetTileSet())
+    for (const CTile* tile : m_port.GetTileSet())
         (tile->IsSelected(InterfaceDesign) ? chosen : open).insert(tile->GetGroupId());
-    QList<CTileGroup*> groups = AllGroups(port);
+    QList<CTileGroup*> groups = AllGroups(m_port);
     for (int i = groups.size() - 1; i >= 0; --i) {
         for (QSet<QUuid>* ids : {&chosen, &open}) {
             if (ids->contains(groups[i]->GetID()))
@@ -121,46 +150,46 @@ QList<CTileGroup*> WallGroups::Whole(const CPort& port)
     return groups;
 }
 
-void WallGroups::MarkWhole(CPort& port)
+void CPortSelection::MarkWholeGroups()
 {
-    port.GetTileGroupSet().CancelAllSelect(InterfaceDesign);
-    for (CTileGroup* group : Whole(port))
+    m_port.GetTileGroupSet().CancelAllSelect(InterfaceDesign);
+    for (CTileGroup* group : GetWholeGroups())
         group->SetSelected(InterfaceDesign, true);
 }
 
-QList<CTile*> WallGroups::TilesAround(const CPort& port)
+QList<CTile*> CPortSelection::GetTilesAround() const
 {
-    const QHash<QUuid, CTileGroup*> outermost = OutermostGroups(port);
-    const QSet<CTileGroup*> touched = Touched(port);
+    const QHash<QUuid, CTileGroup*> outermost = OutermostGroups(m_port);
+    const QSet<CTileGroup*> touched = Touched(m_port, GetTiles());
     QList<CTile*> tiles;
-    for (CTile* tile : port.GetTileSet()) {
+    for (CTile* tile : m_port.GetTileSet()) {
         if (touched.contains(outermost.value(tile->GetGroupId())))
             tiles.append(tile);
     }
     return tiles;
 }
 
-WallGroups::Gathered WallGroups::Gather(CPort& port)
+CPortSelection::Grouped CPortSelection::Group()
 {
-    const QHash<QUuid, CTileGroup*> outermost = OutermostGroups(port);
-    const QList<CTileGroup*> wholeList = Whole(port);
+    const QHash<QUuid, CTileGroup*> outermost = OutermostGroups(m_port);
+    const QList<CTileGroup*> wholeList = GetWholeGroups();
     const QSet<CTileGroup*> whole(wholeList.begin(), wholeList.end());
-    const CTileSet selected = Selected(port);
+    const CTileSet selected = GetTiles();
     QList<CTile*> loose;
     for (CTile* tile : selected) {
         CTileGroup* around = outermost.value(tile->GetGroupId());
         if (!around)
             loose.append(tile);
         else if (!whole.contains(around))
-            return Gathered::InPart;
+            return Grouped::InPart;
     }
     if (loose.size() + whole.size() < 2)
-        return Gathered::TooFew;
+        return Grouped::TooFew;
 
     auto* group = new CTileGroup;
     const SRotateParam record = RecordOf(selected.GetBound());
     group->SetRotateParam(&record);
-    CTileGroupSet& level = port.GetTileGroupSet();
+    CTileGroupSet& level = m_port.GetTileGroupSet();
     CTileGroupSet staying;
     for (int i = 0; i < level.GetDirectCount(); ++i) {
         CTileGroup* each = level.GetDirectGroupByDirIndex(i);
@@ -173,14 +202,14 @@ WallGroups::Gathered WallGroups::Gather(CPort& port)
     level.AddGroup(group, true);
     for (CTile* tile : qAsConst(loose))
         tile->SetGroupId(group->GetID());
-    return Gathered::Done;
+    return Grouped::Done;
 }
 
 /// The groups inside take the place of theirs.
-bool WallGroups::Dissolve(CPort& port)
+bool CPortSelection::Ungroup()
 {
-    const QSet<CTileGroup*> touched = Touched(port);
-    CTileGroupSet& level = port.GetTileGroupSet();
+    const QSet<CTileGroup*> touched = Touched(m_port, GetTiles());
+    CTileGroupSet& level = m_port.GetTileGroupSet();
     CTileGroupSet staying;
     QSet<QUuid> gone;
     for (int i = 0; i < level.GetDirectCount(); ++i) {
@@ -196,22 +225,24 @@ bool WallGroups::Dissolve(CPort& port)
     }
     level.RemoveAll();
     level.AddFromOther(staying);
-    for (CTile* tile : port.GetTileSet()) {
+    for (CTile* tile : m_port.GetTileSet()) {
         if (gone.contains(tile->GetGroupId()))
             tile->SetGroupId({});
     }
     return !gone.isEmpty();
 }
 
-void WallGroups::MoveRecord(CTileGroup& group, const QPoint& by)
+void CPortSelection::Offset(int dx, int dy)
 {
-    for (CTileGroup* each : WithInner({&group}))
-        MoveOne(*each, by.x(), by.y());
+    for (CTileGroup* group : WithInner(GetWholeGroups()))
+        MoveRecord(*group, dx, dy);
+    for (CTile* tile : GetTiles())
+        tile->Offset(dx, dy);
 }
 
-void WallGroups::RenewRecords(CPort& port)
+void CPortSelection::TakeSizes()
 {
-    for (CTile* tile : Selected(port)) {
+    for (CTile* tile : GetTiles()) {
         const bool isTurned = tile->GetRotateRecord().rotated;
         SRotateParam record = isTurned ? tile->GetRotateRecord() : RecordOf(tile->GetBound());
         record.width = tile->GetWidth();
@@ -219,28 +250,28 @@ void WallGroups::RenewRecords(CPort& port)
         tile->SetTileRotateParam(&record);
     }
     QHash<QUuid, QRect> bounds;
-    for (const CTile* tile : port.GetTileSet())
+    for (const CTile* tile : m_port.GetTileSet())
         bounds[tile->GetGroupId()] |= tile->GetBound();
-    const QList<CTileGroup*> groups = AllGroups(port);
+    const QList<CTileGroup*> groups = AllGroups(m_port);
     for (int i = groups.size() - 1; i >= 0; --i)
         bounds[groups[i]->GetParentGroupID()] |= bounds.value(groups[i]->GetID());
-    for (CTileGroup* group : WithInner(Whole(port))) {
+    for (CTileGroup* group : WithInner(GetWholeGroups())) {
         const SRotateParam record = RecordOf(bounds.value(group->GetID()));
         if (!group->IsRotated())
             group->SetRotateParam(&record);
     }
 }
 
-void WallGroups::Turn(CPort& port, const SRotateParam& turn)
+void CPortSelection::Turn(const SRotateParam& turn)
 {
-    TurnCabinets(port, Selected(port), turn);
-    for (CTileGroup* group : WithInner(Whole(port)))
+    TurnCabinets(m_port, GetTiles(), turn);
+    for (CTileGroup* group : WithInner(GetWholeGroups()))
         TurnRecord(*group, turn);
 }
 
-void WallGroups::TurnEachTo(CPort& port, double angle)
+void CPortSelection::TurnEachTo(double angle)
 {
-    for (CTile* tile : Selected(port)) {
+    for (CTile* tile : GetTiles()) {
         SRotateParam turn = tile->GetRotateRecord();
         if (!turn.rotated) {
             turn.centerX = tile->GetX() + tile->GetWidth() / 2.0;
@@ -249,6 +280,33 @@ void WallGroups::TurnEachTo(CPort& port, double angle)
         turn.angle = angle - turn.angle;
         CTileSet one;
         one.AddTile(tile);
-        TurnCabinets(port, one, turn);
+        TurnCabinets(m_port, one, turn);
+    }
+}
+
+void CPortSelection::CopyTo(CPortProject& layout) const
+{
+    Append(layout, GetWholeGroups(), GetTiles());
+}
+
+void CPortSelection::Paste(const CPortProject& copies, int dx, int dy)
+{
+    const int firstGroup = m_port.GetTileGroupSet().GetDirectCount();
+    const int firstTile = m_port.GetTileSet().GetCount();
+    QList<CTileGroup*> groups;
+    for (int i = 0; i < copies.GetTileGroupSet()->GetDirectCount(); ++i)
+        groups.append(copies.GetTileGroupSet()->GetDirectGroupByDirIndex(i));
+    Append(*m_port.GetPortProject(), groups, *copies.GetTileSet());
+    groups.clear();
+    for (int i = firstGroup; i < m_port.GetTileGroupSet().GetDirectCount(); ++i)
+        groups.append(m_port.GetTileGroupSet().GetDirectGroupByDirIndex(i));
+    for (CTileGroup* group : WithInner(groups))
+        MoveRecord(*group, dx, dy);
+    for (int i = firstTile; i < m_port.GetTileSet().GetCount(); ++i) {
+        CTile& tile = *m_port.GetTileSet().GetTile(i);
+        tile.SetSenderId(m_port.GetSenderId());
+        tile.SetPortIndex(m_port.GetPortIndex());
+        tile.SetSelected(true, InterfaceDesign, -1);
+        tile.Offset(dx, dy);
     }
 }
