@@ -299,7 +299,11 @@ TEST_F(PortProjectTest, OnlyAWholeRegularBlockMayBeChanged)
         [&] { Tile(2)->Offset(1, 0); },                  // off the grid
         [&] { Tile(2)->Offset(-128, 0); },               // two in one cell
         [&] { Tile(2)->SetWidth(64); },                  // another size
-        [&] {                                            // a group below
+        [&] {                                            // a narrower column at the end
+            Tile(2)->SetWidth(64);
+            Tile(5)->SetWidth(64);
+        },
+        [&] { // a group below
             groups.GetDirectGroupByDirID(group)->GetSubGroupSet()->AddGroup(new CTileGroup, true);
         },
     };

@@ -80,6 +80,32 @@ TEST_F(LayoutElementsTest, EachTypeTakesTheFlagsOfItsOwnProduct)
         EXPECT_EQ(tiles.GetTile(i)->IsMultiRcvTile(), i == 0 || i == 3) << i;
 }
 
+TEST_F(LayoutElementsTest, PartsOfALayoutReadBackAlone)
+{
+    CPort port;
+    MakeWall(port, 2, 2);
+    GroupsOf(port).GetDirectGroupByDirIndex(0)->GetSubGroupSet()->AddGroup(new CTileGroup, true);
+    QDomElement root = Parsed("<root/>");
+    const QDomDocument document = root.ownerDocument();
+    project.WritePort(document, "Port"_s, &port, &root);
+    project.WriteTileSet(document, "Tiles"_s, &TilesOf(port), &root);
+    project.WriteSubTileGroup(document, "Group"_s, &GroupsOf(port), &root);
+
+    CPort read;
+    EXPECT_TRUE(project.ReadPort(document, "Port"_s, &read, &root, sender, 3, false));
+    EXPECT_TRUE(read.GetPortIndex() == 3 && read.GetSenderId() == sender);
+    project.ReadTileSet(document, "Tiles"_s, &tiles, &root, sender, 3);
+    EXPECT_EQ(tiles, TilesOf(read));
+    EXPECT_EQ(tiles.GetTile(3)->GetPosition(), TilesOf(port).GetTile(3)->GetPosition());
+    CTileGroupSet groups;
+    const QUuid parent = QUuid::createUuid();
+    project.ReadSubTileGroup(document, "Group"_s, nullptr, &groups, &root, parent);
+    ASSERT_EQ(groups.GetDirectCount(), 1);
+    EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetParentGroupID(), parent);
+    EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetSubGroupCount(), 1);
+    groups.DeleteAll();
+}
+
 TEST_F(LayoutElementsTest, NodesOfOnesOwnAreWrittenAsAFileCanHoldThem)
 {
     QDomElement root = Parsed("<root/>");

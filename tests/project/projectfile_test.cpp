@@ -38,6 +38,7 @@ TEST_F(ProjectFileTest, TreesHoldWhatTheFileHolds)
         return &found;
     };
     EXPECT_TRUE(project.ReadVersionSupport(tree, child("VersionSupport"), version));
+    EXPECT_EQ(found.attribute("MinimumVersion"_s), project.GetMinVersionSupport());
     project.ReadDemoModeInfo(tree, child("DemoModeInfo"));
     project.ReadSenderGroup(tree, child("SenderTreeGroup"));
     project.ReadTileGamma(tree, child("TileTypeGamma"));
