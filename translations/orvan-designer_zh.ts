@@ -71,6 +71,128 @@
         <source>Part of it lies beyond the canvas.</source>
         <translation>有一部分超出画布。</translation>
     </message>
+    <message>
+        <source>Pro&amp;duct:</source>
+        <translation>产品(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>&amp;Receiving cards:</source>
+        <translation>接收卡(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Plain size</source>
+        <translation>仅尺寸</translation>
+    </message>
+    <message>
+        <source>A product of the library, with its parameter file, or a size alone</source>
+        <translation>产品库中的产品（带参数文件），或只有尺寸</translation>
+    </message>
+</context>
+<context>
+    <name>CabinetsPage</name>
+    <message>
+        <source>Selected:</source>
+        <translation>已选择：</translation>
+    </message>
+    <message>
+        <source>Cabinets</source>
+        <translation>箱体</translation>
+    </message>
+    <message>
+        <source>Of all that is selected, in pixels of the canvas: all move together</source>
+        <translation>所选全部箱体的位置，单位为画布像素；全部一起移动</translation>
+    </message>
+    <message>
+        <source>&amp;Left:</source>
+        <translation>左(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>&amp;Top:</source>
+        <translation>上(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Of each cabinet, 1 to %1 pixels; rows and columns stay together</source>
+        <translation>每个箱体的尺寸，1至%1像素；行和列保持相接</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>宽度(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>高度(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>&amp;Angle:</source>
+        <translation>角度(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Degrees, clockwise. What is turned alike turns as one about its middle, else each cabinet about its own.</source>
+        <translation>度，顺时针。角度相同的箱体整体绕共同中心旋转，否则每个箱体绕各自的中心旋转。</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>编号：</translation>
+    </message>
+    <message>
+        <source>Place in the chain of the port</source>
+        <translation>在输出口连线中的序号</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>输出口：</translation>
+    </message>
+    <message>
+        <source>Edit, Move to port puts them on another</source>
+        <translation>用“编辑”菜单中的“移至输出口”可换到另一个输出口</translation>
+    </message>
+    <message>
+        <source>Receiving cards:</source>
+        <translation>接收卡：</translation>
+    </message>
+    <message>
+        <source>Across and down, in each cabinet</source>
+        <translation>每个箱体内横向和纵向的数量</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>多个值</translation>
+    </message>
+</context>
+<context>
+    <name>CardsBox</name>
+    <message>
+        <source>Receiving cards across</source>
+        <translation>横向接收卡数</translation>
+    </message>
+    <message>
+        <source>Receiving cards down</source>
+        <translation>纵向接收卡数</translation>
+    </message>
+    <message>
+        <source>&amp;There and back</source>
+        <translation>蛇形往返(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Wiring of the receiving cards</source>
+        <translation>接收卡的走线</translation>
+    </message>
+    <message>
+        <source>The way of the chain through the cards of a cabinet</source>
+        <translation>连线经过箱体内各接收卡的顺序</translation>
+    </message>
+    <message>
+        <source>Off: each line of cards begins at the same side</source>
+        <translation>关闭时，每行或每列接收卡都从同一侧开始</translation>
+    </message>
+    <message>
+        <source>%1; at most %2 in a cabinet</source>
+        <translation>%1；一个箱体最多%2张</translation>
+    </message>
 </context>
 <context>
     <name>ChainActions</name>
@@ -133,14 +255,6 @@
         <translation>输出口%1是备份，显示内容与其源输出口相同。</translation>
     </message>
     <message>
-        <source>Port %1 is locked. Unlock it in the tree first.</source>
-        <translation>输出口%1已锁定。请先在列表中解锁。</translation>
-    </message>
-    <message>
-        <source>Port %1 is hidden. Show it in the tree first.</source>
-        <translation>输出口%1已隐藏。请先在列表中显示。</translation>
-    </message>
-    <message>
         <source>There is no sender yet. Add one first.</source>
         <translation>还没有主控。请先添加一个。</translation>
     </message>
@@ -155,6 +269,34 @@
     <message>
         <source>Port %1 has no cabinets to number.</source>
         <translation>输出口%1没有可编号的箱体。</translation>
+    </message>
+    <message>
+        <source>Port %1 is locked. Unlock it first.</source>
+        <translation>输出口%1已锁定。请先解锁。</translation>
+    </message>
+    <message>
+        <source>Port %1 is hidden. Show it first.</source>
+        <translation>输出口%1已隐藏。请先显示。</translation>
+    </message>
+    <message>
+        <source>Click the numbered cabinet first that it is to come behind.</source>
+        <translation>请先单击一个已编号的箱体，再插入到它之后。</translation>
+    </message>
+    <message>
+        <source>A group holds cabinets of one port. Select some of one port alone.</source>
+        <translation>一个分组只能包含同一输出口的箱体。请只选择一个输出口的箱体。</translation>
+    </message>
+    <message>
+        <source>Select two cabinets or groups at least.</source>
+        <translation>请至少选择两个箱体或分组。</translation>
+    </message>
+    <message>
+        <source>Only a part of some group is selected. Select all of it, or ungroup it first.</source>
+        <translation>有分组只选择了一部分。请选择整个分组，或先取消分组。</translation>
+    </message>
+    <message>
+        <source>No selected cabinet is in a group.</source>
+        <translation>所选箱体都不在分组中。</translation>
     </message>
 </context>
 <context>
@@ -192,12 +334,8 @@
         <translation>选择所有已显示且未锁定的输出口的箱体</translation>
     </message>
     <message>
-        <source>Select &amp;none</source>
-        <translation>取消选择(&amp;N)</translation>
-    </message>
-    <message>
         <source>Select no cabinet</source>
-        <translation>不选择任何箱体</translation>
+        <translation>取消选择所有箱体</translation>
     </message>
     <message>
         <source>&amp;Undo: %1</source>
@@ -214,6 +352,66 @@
     <message>
         <source>Redo</source>
         <translation>重做</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Place what was copied on the current port</source>
+        <translation>把复制的内容放到当前输出口</translation>
+    </message>
+    <message>
+        <source>&amp;Move to port</source>
+        <translation>移至输出口(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Copy the selected cabinets and delete them</source>
+        <translation>复制所选箱体并将其删除</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy the selected cabinets, with groups that are wholly selected</source>
+        <translation>复制所选箱体，以及完整选择的分组</translation>
+    </message>
+    <message>
+        <source>&amp;Group</source>
+        <translation>建立分组(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Make one group of the selected cabinets and groups of a port</source>
+        <translation>把一个输出口上所选的箱体和分组合成一个分组</translation>
+    </message>
+    <message>
+        <source>U&amp;ngroup</source>
+        <translation>取消分组(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Take the outermost groups of the selected cabinets apart</source>
+        <translation>拆开所选箱体的最外层分组</translation>
+    </message>
+    <message>
+        <source>Select gr&amp;oup</source>
+        <translation>选择分组(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Select all of the groups that the selected cabinets are in</source>
+        <translation>选择所选箱体所在分组的全部箱体</translation>
+    </message>
+    <message>
+        <source>&amp;Select none</source>
+        <translation>取消选择(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Port %1</source>
+        <translation>输出口%1</translation>
     </message>
 </context>
 <context>
@@ -466,6 +664,21 @@ Open it to look at? It can then be saved under another name.</source>
     </message>
 </context>
 <context>
+    <name>GroupRows</name>
+    <message>
+        <source>… and %1 more groups</source>
+        <translation>…还有%1个分组</translation>
+    </message>
+    <message>
+        <source>Group of %1 cabinets</source>
+        <translation>分组，%1个箱体</translation>
+    </message>
+    <message>
+        <source>A click or Return selects its cabinets</source>
+        <translation>单击或按回车键可选择其中的箱体</translation>
+    </message>
+</context>
+<context>
     <name>ImportActions</name>
     <message>
         <source>Layout of the s&amp;ender…</source>
@@ -600,7 +813,7 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     </message>
     <message>
         <source>Add a sending unit or processor, with ports of its own</source>
-        <translation>添加一个带有输出口的发送器或处理器</translation>
+        <translation>添加一个带有输出口的发送卡或处理器</translation>
     </message>
     <message>
         <source>&amp;Rename sender</source>
@@ -680,7 +893,7 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     </message>
     <message>
         <source>&amp;Fit the wall</source>
-        <translation>适合窗口(&amp;F)</translation>
+        <translation>适应窗口(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Actual size</source>
@@ -710,12 +923,20 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <source>%1 cabinets, %2 numbered, %3 selected</source>
         <translation>%1个箱体，%2个已编号，%3个已选择</translation>
     </message>
+    <message>
+        <source>Cabinets</source>
+        <translation>箱体</translation>
+    </message>
+    <message>
+        <source>&amp;Grid</source>
+        <translation>显示网格(&amp;G)</translation>
+    </message>
 </context>
 <context>
     <name>NumberTool</name>
     <message>
-        <source>Number from %1 on: click cabinets, drag over them, or use the arrow keys.</source>
-        <translation>从%1开始编号：单击箱体、拖过箱体，或使用方向键。</translation>
+        <source>Number from %1 on: click cabinets, drag over them, or use the arrow keys. To insert, click a numbered cabinet, then those behind it with Shift; also Shift and an arrow key.</source>
+        <translation>从%1开始编号：单击箱体、拖过箱体或用方向键。要插入编号，先单击一个已编号的箱体，再按住Shift单击其后的箱体，或按Shift和方向键。</translation>
     </message>
 </context>
 <context>
@@ -723,6 +944,25 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>Drag to move the view.</source>
         <translation>拖动以移动视图。</translation>
+    </message>
+</context>
+<context>
+    <name>PortActions</name>
+    <message>
+        <source>Make it the &amp;backup of</source>
+        <translation>设为备份，备份对象(&amp;B)</translation>
+    </message>
+    <message>
+        <source>The current port feeds what another one feeds, should that fail</source>
+        <translation>另一个输出口发生故障时，由当前输出口代为输出</translation>
+    </message>
+    <message>
+        <source>&amp;End the backup</source>
+        <translation>取消备份(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Make the current port one of its own again</source>
+        <translation>使当前输出口恢复为独立的输出口</translation>
     </message>
 </context>
 <context>
@@ -744,16 +984,8 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <translation>负载</translation>
     </message>
     <message>
-        <source>Senders and ports</source>
-        <translation>主控和输出口</translation>
-    </message>
-    <message>
         <source>F2 renames the sender</source>
         <translation>按F2重命名主控</translation>
-    </message>
-    <message>
-        <source>Port %1, backup</source>
-        <translation>输出口%1，备份</translation>
     </message>
     <message>
         <source>Port %1</source>
@@ -762,6 +994,189 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>%1 cabinets with %2 pixels, of %3 that a port carries at %4 Hz and %5 bit</source>
         <translation>%1个箱体，共%2像素；在%4 Hz、%5位时一个输出口可带%3像素</translation>
+    </message>
+    <message>
+        <source>Senders, ports and groups</source>
+        <translation>主控、输出口和分组</translation>
+    </message>
+    <message>
+        <source>Port %1, backup of %2</source>
+        <translation>输出口%1，%2的备份</translation>
+    </message>
+    <message>
+        <source>It feeds what the other port feeds, should that fail</source>
+        <translation>另一个输出口发生故障时，由它代为输出</translation>
+    </message>
+    <message>
+        <source>Drag it onto another port to make it the backup of that one</source>
+        <translation>拖到另一个输出口上，可设为其备份</translation>
+    </message>
+    <message>
+        <source>Port %1 becomes the backup of %2</source>
+        <translation>输出口%1将成为%2的备份</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyPages</name>
+    <message>
+        <source>Port</source>
+        <translation>输出口</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>输出口：</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1，共%2个</translation>
+    </message>
+    <message>
+        <source>&amp;Shown</source>
+        <translation>显示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Hidden ports are neither drawn nor edited</source>
+        <translation>隐藏的输出口不绘制，也不能编辑</translation>
+    </message>
+    <message>
+        <source>Loc&amp;ked</source>
+        <translation>锁定(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Cabinets of a locked port stay as they are</source>
+        <translation>锁定的输出口的箱体保持不变</translation>
+    </message>
+    <message>
+        <source>Cabinets:</source>
+        <translation>箱体：</translation>
+    </message>
+    <message>
+        <source>Pixels:</source>
+        <translation>像素：</translation>
+    </message>
+    <message>
+        <source>Load:</source>
+        <translation>负载：</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pixels at %3 Hz and %4 bit</source>
+        <translation>%1，可带%2像素（%3 Hz、%4位）</translation>
+    </message>
+    <message>
+        <source>Backup of:</source>
+        <translation>源输出口：</translation>
+    </message>
+    <message>
+        <source>%1; cabinets of its own are kept until that ends</source>
+        <translation>%1；自身的箱体保留，取消备份后恢复</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Sender</source>
+        <translation>主控</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>What the sender is called in the tree and on the sheets</source>
+        <translation>主控在列表和施工图册中的名称</translation>
+    </message>
+    <message>
+        <source>P&amp;rint as:</source>
+        <translation>打印名称(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Its name on the printed form, printed when ticked</source>
+        <translation>打印表单上的名称，勾选后打印</translation>
+    </message>
+    <message>
+        <source>P&amp;orts:</source>
+        <translation>输出口数(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>How many ports the sender has</source>
+        <translation>主控的输出口数量</translation>
+    </message>
+    <message>
+        <source>Fre&amp;quency in Hz:</source>
+        <translation>帧频，Hz(&amp;Q)：</translation>
+    </message>
+    <message>
+        <source>Frames a second; twice as many halve what a port carries</source>
+        <translation>每秒帧数；帧数加倍，输出口的带载减半</translation>
+    </message>
+    <message>
+        <source>not set (60)</source>
+        <translation>未设置(60)</translation>
+    </message>
+    <message>
+        <source>&amp;Bits a colour:</source>
+        <translation>色深，位(&amp;B)：</translation>
+    </message>
+    <message>
+        <source>The more of them, the fewer pixels a port carries</source>
+        <translation>位数越多，一个输出口可带的像素越少</translation>
+    </message>
+    <message>
+        <source>not set (8)</source>
+        <translation>未设置(8)</translation>
+    </message>
+    <message>
+        <source>Pixels of the picture that the sender shows</source>
+        <translation>主控所显示画面的像素数</translation>
+    </message>
+    <message>
+        <source>&amp;Canvas width:</source>
+        <translation>画布宽度(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Canvas &amp;height:</source>
+        <translation>画布高度(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>Pixels by which the whole layout is moved on the canvas</source>
+        <translation>整个布局在画布上移动的像素数</translation>
+    </message>
+    <message>
+        <source>Moved right b&amp;y:</source>
+        <translation>右移(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>Moved &amp;down by:</source>
+        <translation>下移(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>Pro&amp;ject:</source>
+        <translation>项目(&amp;J)：</translation>
+    </message>
+    <message>
+        <source>&amp;Designer:</source>
+        <translation>设计人(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>D&amp;ate of design:</source>
+        <translation>设计日期(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Appr&amp;over:</source>
+        <translation>审核人(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>Date of approva&amp;l:</source>
+        <translation>审核日期(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>项目</translation>
+    </message>
+    <message>
+        <source>A line of the printed form, printed when ticked</source>
+        <translation>打印表单的一行，勾选后打印</translation>
     </message>
 </context>
 <context>
@@ -779,8 +1194,63 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <translation>选择框碰到的所有箱体。</translation>
     </message>
     <message>
-        <source>Click, double click or drag a band to select. Arrow keys move by a cabinet, with Shift by a pixel.</source>
-        <translation>单击、双击或拖框来选择。方向键移动一个箱体的距离，加Shift移动一个像素。</translation>
+        <source>Release to turn; Shift keeps to 15 degrees, Esc leaves all as it was.</source>
+        <translation>松开以旋转；按住Shift以15度为步长，Esc取消。</translation>
+    </message>
+    <message>
+        <source>Click, double click or drag a band to select; the knob above turns. Arrow keys move by a cabinet, with Shift by a pixel.</source>
+        <translation>单击、双击或拖框选择；上方圆钮用于旋转。方向键移动一个箱体，加Shift移动一个像素。</translation>
+    </message>
+</context>
+<context>
+    <name>SenderEdits</name>
+    <message>
+        <source>Go on?</source>
+        <translation>要继续吗？</translation>
+    </message>
+    <message>
+        <source>Ports with cabinets or backups go: %1. They come back with a larger number of ports, but a save leaves them out.</source>
+        <translation>以下有箱体或作为备份的输出口将被去掉：%1。增加输出口数后它们会恢复，但保存时不会写入。</translation>
+    </message>
+    <message>
+        <source>There is no such port.</source>
+        <translation>没有这个输出口。</translation>
+    </message>
+    <message>
+        <source>Port %1 is a backup already. End that first.</source>
+        <translation>输出口%1已是备份。请先取消备份。</translation>
+    </message>
+    <message>
+        <source>Port %1 has a backup itself, and a backup has none.</source>
+        <translation>输出口%1自身有备份，而备份不能再有备份。</translation>
+    </message>
+    <message>
+        <source>A port is a backup of another port.</source>
+        <translation>输出口只能作为另一个输出口的备份。</translation>
+    </message>
+    <message>
+        <source>Port %1 is a backup itself, and a backup has none.</source>
+        <translation>输出口%1本身是备份，而备份不能再有备份。</translation>
+    </message>
+    <message>
+        <source>Port %1 has cabinets of its own: %2. They stay in the project, but are neither shown nor checked until the backup ends.</source>
+        <translation>输出口%1自身有%2个箱体。它们保留在项目中，但在取消备份之前不显示，也不检查。</translation>
+    </message>
+    <message>
+        <source>The edits of this sender can no longer be undone afterwards.</source>
+        <translation>此后，此主控之前的操作无法再撤销。</translation>
+    </message>
+    <message>
+        <source>port %1</source>
+        <translation>输出口%1</translation>
+    </message>
+    <message>
+        <source>%1, port %2</source>
+        <translation>%1，输出口%2</translation>
+    </message>
+    <message>
+        <source>a port that is not there</source>
+        <translation>不存在的输出口</translation>
     </message>
 </context>
 <context>
@@ -835,6 +1305,34 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>Edit</source>
         <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>调整尺寸</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>建立分组</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>取消分组</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Move to port</source>
+        <translation>移至输出口</translation>
     </message>
 </context>
 </TS>
