@@ -853,7 +853,7 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     </message>
     <message>
         <source>Show turned cabinets as &amp;turned</source>
-        <translation>显示箱体的旋转(&amp;T)</translation>
+        <translation>显示箱体的旋转(&amp;S)</translation>
     </message>
     <message>
         <source>Off: they are shown and found where they lay before they were turned</source>
@@ -950,7 +950,7 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <name>PortActions</name>
     <message>
         <source>Make it the &amp;backup of</source>
-        <translation>设为备份，备份对象(&amp;B)</translation>
+        <translation>设为以下输出口的备份(&amp;B)</translation>
     </message>
     <message>
         <source>The current port feeds what another one feeds, should that fail</source>
