@@ -1001,7 +1001,7 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     </message>
     <message>
         <source>Port %1, backup of %2</source>
-        <translation>输出口%1，%2的备份</translation>
+        <translation>输出口%1，备份%2</translation>
     </message>
     <message>
         <source>It feeds what the other port feeds, should that fail</source>
@@ -1246,7 +1246,7 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     </message>
     <message>
         <source>%1, port %2</source>
-        <translation>%1，输出口%2</translation>
+        <translation>%1的输出口%2</translation>
     </message>
     <message>
         <source>a port that is not there</source>
