@@ -46,7 +46,7 @@ BlockDialog::BlockDialog(const DocumentController& document, QWidget* parent)
     AddPair(*form, tr("&Left and top in pixels:"), m_left, QStringLiteral(","), m_top);
     form->addRow(tr("&Port:"), m_port);
     form->addRow(tr("&Receiving cards:"), m_cards);
-    m_about->setMinimumWidth(fontMetrics().averageCharWidth() * 46);
+    m_about->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 46);
     m_about->setMinimumHeight(fontMetrics().lineSpacing() * 3);
     m_about->setWordWrap(true);
     form->addRow(m_about);

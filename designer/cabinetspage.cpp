@@ -90,7 +90,7 @@ void CabinetsPage::AddRow(const QString& label, const QString& tip, const Read& 
     auto* field = new QLineEdit(this);
     field->setToolTip(tip);
     field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // the wall wants the room
-    field->setMinimumWidth(fontMetrics().averageCharWidth() * 9);
+    field->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 9);
     static_cast<QFormLayout*>(layout())->addRow(label, field);
     connect(field, &QLineEdit::editingFinished, this, [this, field, apply] { Finish(*field, apply); });
     m_rows.append({field, read});

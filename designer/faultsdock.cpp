@@ -4,6 +4,7 @@
 
 #include <orvantools/layoutcheck.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QListWidget>
 
@@ -13,6 +14,22 @@ constexpr int kWait = 300; ///< milliseconds
 constexpr int kMostListed = 500;
 constexpr int kPlaceRole = Qt::UserRole;       ///< an SPortPlace
 constexpr int kCabinetRole = Qt::UserRole + 1; ///< from 0, negative: none
+
+/// In the order of OrvanTools::FaultKind.
+constexpr const char* kKinds[] = {
+    QT_TRANSLATE_NOOP("FaultsDock", "lies over another cabinet"),
+    QT_TRANSLATE_NOOP("FaultsDock", "lies outside the canvas"),
+    QT_TRANSLATE_NOOP("FaultsDock", "is not in the chain"),
+    QT_TRANSLATE_NOOP("FaultsDock", "has the number of another cabinet"),
+    QT_TRANSLATE_NOOP("FaultsDock", "leaves a gap before it in the chain"),
+    QT_TRANSLATE_NOOP("FaultsDock", "has other receiving cards before it than the file says"),
+    QT_TRANSLATE_NOOP("FaultsDock", "is of a product that is not known here"),
+    QT_TRANSLATE_NOOP("FaultsDock", "a parameter file is missing"),
+    QT_TRANSLATE_NOOP("FaultsDock", "is in a group that there is not"),
+    QT_TRANSLATE_NOOP("FaultsDock", "backs up a port that there is not"),
+    QT_TRANSLATE_NOOP("FaultsDock", "backs itself up in the end"),
+    QT_TRANSLATE_NOOP("FaultsDock", "has more pixels than it can carry"),
+};
 
 } // namespace
 
@@ -44,13 +61,28 @@ void FaultsDock::Check()
     OrvanTools::CheckProject(m_document.GetProject(), options, [this](const OrvanTools::Fault& fault) {
         if (++m_count > kMostListed)
             return;
-        auto* item = new QListWidgetItem(fault.Line(), m_list);
+        auto* item = new QListWidgetItem(TextOf(fault), m_list);
+        item->setToolTip(fault.Line());
         item->setData(kPlaceRole, QVariant::fromValue(SPortPlace{fault.sender - 1, fault.port - 1}));
         item->setData(kCabinetRole, fault.cabinet - 1);
     });
     if (m_count > kMostListed)
         new QListWidgetItem(tr("… and %1 more").arg(m_count - kMostListed), m_list);
     setWindowTitle(m_count == 0 ? tr("No faults") : tr("Faults: %1").arg(m_count));
+    toggleViewAction()->setText(tr("Faults")); // which would follow the title
+}
+
+QString FaultsDock::TextOf(const OrvanTools::Fault& fault)
+{
+    const QString what = tr(kKinds[static_cast<int>(fault.kind)]);
+    if (fault.cabinet > 0)
+        return tr("Sender %1, port %2, cabinet %3: %4")
+            .arg(QString::number(fault.sender), QString::number(fault.port), QString::number(fault.cabinet),
+                 what);
+    return fault.port > 0
+               ? tr("Sender %1, port %2: %3")
+                     .arg(QString::number(fault.sender), QString::number(fault.port), what)
+               : what;
 }
 
 /// The list may be older than the document, for as long as the check waits.

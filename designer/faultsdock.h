@@ -4,6 +4,9 @@
 #include <QTimer>
 
 class DocumentController;
+namespace OrvanTools {
+struct Fault;
+}
 class QListWidget;
 class QListWidgetItem;
 
@@ -23,6 +26,7 @@ signals:
 
 private:
     void Check();
+    static QString TextOf(const OrvanTools::Fault& fault);
     void Choose(const QListWidgetItem* item);
 
     DocumentController& m_document;

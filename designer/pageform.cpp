@@ -1,6 +1,7 @@
 #include "pageform.h"
 
 #include "documentcontroller.h"
+#include "makeaction.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -23,7 +24,7 @@ PageForm::PageForm(const DocumentController& document, QWidget* parent)
 void PageForm::Follow(QWidget* editor, const QString& label, const QString& tip,
                       const std::function<void()>& show)
 {
-    editor->setAccessibleName(QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    editor->setAccessibleName(PlainLabel(label));
     editor->setToolTip(tip);
     m_shows.append([editor, show] {
         const QSignalBlocker blocker(editor);

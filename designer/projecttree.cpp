@@ -52,9 +52,9 @@ ProjectTree::ProjectTree(DocumentController& document, SenderEdits& edits, QWidg
     header()->setSectionResizeMode(Name, QHeaderView::Stretch);
     for (const int column : {int(Shown), int(Locked)})
         header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
-    header()->setMinimumSectionSize(fontMetrics().averageCharWidth() * 5);
-    header()->resizeSection(Load, fontMetrics().averageCharWidth() * 8);
-    setIndentation(fontMetrics().averageCharWidth() * 2);
+    header()->setMinimumSectionSize(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 5);
+    header()->resizeSection(Load, fontMetrics().horizontalAdvance(QLatin1Char('0')) * 8);
+    setIndentation(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 2);
     connect(this, &QTreeWidget::currentItemChanged, this, &ProjectTree::TakeCurrent);
     connect(this, &QTreeWidget::itemChanged, this, &ProjectTree::TakeEdit);
     connect(this, &QTreeWidget::itemClicked, this, &ProjectTree::ChooseGroup);
