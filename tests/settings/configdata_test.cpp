@@ -9,6 +9,7 @@
 #include <QSettings>
 
 #include <functional>
+#include <limits>
 
 namespace {
 
@@ -124,6 +125,20 @@ TEST_F(ConfigDataTest, SettersKeepValuesThatAFileCanHold)
     EXPECT_EQ(config.GetCustomerTileSize(), QSize(1, 1024));
     config.SetUiStyles({{"A"_s, QString()}});
     EXPECT_EQ(config.GetCurrentUiStyle(), 0);
+}
+
+TEST_F(ConfigDataTest, GainsAreOneAtFirstAndNeverOtherThanNumbers)
+{
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    for (int i = 0; i < kCurrentGains; ++i) {
+        for (const SCurrentGain& gain : {SCurrentGain{nan, 2, 2, {}}, {2, nan, 2, {}}, {2, 2, nan, {}}})
+            config.SetCurrentGain(i, gain);
+        const SCurrentGain held = config.GetCurrentGain(i);
+        EXPECT_TRUE(held.red == 1 && held.green == 1 && held.blue == 1) << i;
+        EXPECT_EQ(held.tip, QString::number(i + 1));
+    }
+    config.SetCurrentGain(3, {0.5F, 2, 3, {}});
+    EXPECT_EQ(config.GetCurrentGain(3).blue, 3);
 }
 
 TEST_F(ConfigDataTest, HotkeyIsRefusedWhenItsKeyIsUnknownOrTaken)
