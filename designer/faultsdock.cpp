@@ -79,10 +79,9 @@ QString FaultsDock::TextOf(const OrvanTools::Fault& fault)
         return tr("Sender %1, port %2, cabinet %3: %4")
             .arg(QString::number(fault.sender), QString::number(fault.port), QString::number(fault.cabinet),
                  what);
-    return fault.port > 0
-               ? tr("Sender %1, port %2: %3")
-                     .arg(QString::number(fault.sender), QString::number(fault.port), what)
-               : what;
+    return fault.port > 0 ? tr("Sender %1, port %2: %3")
+                                .arg(QString::number(fault.sender), QString::number(fault.port), what)
+                          : what;
 }
 
 /// The list may be older than the document, for as long as the check waits.

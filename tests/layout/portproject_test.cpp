@@ -191,6 +191,8 @@ TEST_F(PortProjectGroupTest, GroupsOfTilesAreListedOnceInOrder)
     EXPECT_TRUE(layout.GetAllTileGroupIDInTileSet(&some, ids));
     EXPECT_EQ(ids, QList<QUuid>({single, unknown, left, above}));
 
+    EXPECT_TRUE(layout.GetAllGroupsFromTileSet(ids, Tiles({0})));
+    EXPECT_EQ(ids, QList<QUuid>({left, above})) << "those around it too";
     EXPECT_FALSE(layout.GetDirectGroupsInTileSet(ids, Tiles({8})));
     EXPECT_FALSE(layout.GetAllGroupsFromTileSet(ids, Tiles({8})));
     EXPECT_TRUE(ids.isEmpty());

@@ -17,6 +17,12 @@ TEST(SenderTest, PortsKnowTheirOwnerAndColourAndComeInCountsThatDevicesHave)
     EXPECT_FALSE(sender.GetPort(-1) || sender.GetPort(kMaxPorts));
 
     sender.SetPortCount(160);
+    StoredSender stored;
+    stored.portCount = 3;
+    for (const SenderParts parts : {SenderParts::LayoutOnly, SenderParts::LayoutAndView}) {
+        sender.TakeStored(stored, parts);
+        EXPECT_EQ(sender.GetPortCount(), 160) << "no device has three";
+    }
     for (const int refused : {-4, 3, 100, 161}) {
         sender.SetPortCount(refused);
         EXPECT_EQ(sender.GetPortCount(), 160) << refused;

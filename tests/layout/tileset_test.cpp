@@ -127,6 +127,7 @@ TEST_F(TileSetTest, UnselectingResetsCardsAndMarksOfOneView)
     m_tiles[0]->SetMultiRcvsSize(QSize(2, 2));
     m_set.SelectAll(kView);
     m_set.SelectAll(InterfaceSoftEdge);
+    EXPECT_TRUE(m_tiles[0]->IsRcvSelected(0) && m_tiles[0]->IsRcvSelected(3));
     m_tiles[0]->SetMultiRcvDemarcateIndex(3);
     m_set.UnSelectAll(kView);
     EXPECT_FALSE(m_tiles[0]->IsSelected(kView) || m_tiles[0]->IsRcvSelected(3));
@@ -193,9 +194,11 @@ TEST_F(TileSetTest, TurnedTilesAreHitByTheirCorners)
 TEST_F(TileSetTest, OverlapIsStrictOnOneAxis)
 {
     const QRect a(0, 0, 10, 10);
-    for (int shift : {8, 9, 10}) // one shared column is none
-        EXPECT_EQ(CTileSet::IsRectIntersect(a, QRect(shift, 90, 10, 10), false), shift == 8) << shift;
-    EXPECT_TRUE(CTileSet::IsRectIntersect(a, QRect(10, 0, 10, 10), true));
+    for (int shift : {-10, -9, -8, 8, 9, 10}) { // one shared column or row is none
+        const bool expected = qAbs(shift) == 8;
+        EXPECT_EQ(CTileSet::IsRectIntersect(a, QRect(shift, 90, 10, 10), false), expected) << shift;
+        EXPECT_EQ(CTileSet::IsRectIntersect(a, QRect(90, shift, 10, 10), true), expected) << shift;
+    }
 }
 
 TEST_F(TileSetTest, BoundFollowsTheDraggedSelection)

@@ -84,6 +84,16 @@ TEST_F(ProjectDataTest, ImagesFollowTheirSendersNumbers)
     EXPECT_EQ(Image(2), "3");
 }
 
+TEST_F(ProjectDataTest, TheLastSenderLeftBeginsAtTheCanvas)
+{
+    AddSenders(3);
+    project.GetSender(2)->SetOffset(QSize(5, 6));
+    for (const QSize& offset : {QSize(5, 6), QSize(0, 0)}) {
+        ASSERT_TRUE(project.DeleteSender(0, false, true, false, nullptr));
+        EXPECT_EQ(project.GetSenders().last()->GetOffset(), offset);
+    }
+}
+
 TEST_F(ProjectDataTest, RemovalKeepsTheCurrentSenderAndReleasesTheHistory)
 {
     AddSenders(3);
