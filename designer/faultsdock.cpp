@@ -72,16 +72,21 @@ void FaultsDock::Check()
     toggleViewAction()->setText(tr("Faults")); // which would follow the title
 }
 
-QString FaultsDock::TextOf(const OrvanTools::Fault& fault)
+/// A cabinet goes by what the wall shows: its number, or without one its place.
+QString FaultsDock::TextOf(const OrvanTools::Fault& fault) const
 {
     const QString what = tr(kKinds[static_cast<int>(fault.kind)]);
-    if (fault.cabinet > 0)
-        return tr("Sender %1, port %2, cabinet %3: %4")
-            .arg(QString::number(fault.sender), QString::number(fault.port), QString::number(fault.cabinet),
-                 what);
-    return fault.port > 0 ? tr("Sender %1, port %2: %3")
-                                .arg(QString::number(fault.sender), QString::number(fault.port), what)
-                          : what;
+    const CSender* sender = m_document.GetProject().GetSender(fault.sender - 1);
+    const CPort* port = sender ? sender->GetPort(fault.port - 1) : nullptr;
+    if (!port)
+        return what;
+    const QString place = tr("Sender %1, port %2").arg(fault.sender).arg(fault.port);
+    const CTile* tile = port->GetTileSet().GetTile(fault.cabinet - 1);
+    if (!tile)
+        return tr("%1: %2").arg(place, what);
+    return tile->HasSetConnectIndex()
+               ? tr("%1, cabinet number %2: %3").arg(place).arg(tile->GetConnectionIndex() + 1).arg(what)
+               : tr("%1, cabinet at %2, %3: %4").arg(place).arg(tile->GetX()).arg(tile->GetY()).arg(what);
 }
 
 /// The list may be older than the document, for as long as the check waits.

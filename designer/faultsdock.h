@@ -26,7 +26,7 @@ signals:
 
 private:
     void Check();
-    static QString TextOf(const OrvanTools::Fault& fault);
+    QString TextOf(const OrvanTools::Fault& fault) const;
     void Choose(const QListWidgetItem* item);
 
     DocumentController& m_document;

@@ -103,6 +103,7 @@ TEST(SenderTest, ASelectionOnSeveralPortsIsNoticed)
     TilesOf(*sender->GetPort(2)).UnSelectAll(3);
     EXPECT_FALSE(sender->IsSelectMultiPortTile(-1) || sender->IsSelectMultiPortTile(0));
     EXPECT_TRUE(sender->IsSelectMultiPortTile(1));
+    EXPECT_FALSE(CSender().IsSelectMultiPortTile(0)) << "nothing is selected";
 }
 
 TEST(SenderTest, GroupOperationsWorkOnAllPortsInUse)
