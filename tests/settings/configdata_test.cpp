@@ -141,6 +141,17 @@ TEST_F(ConfigDataTest, GainsAreOneAtFirstAndNeverOtherThanNumbers)
     EXPECT_EQ(config.GetCurrentGain(3).blue, 3);
 }
 
+TEST_F(ConfigDataTest, AddressesInNoNetworkOfOursAreToldAsSoonAsTheyAreListed)
+{
+    const QString far = "203.0.113.7"_s; // kept free for examples
+    EXPECT_TRUE(config.AddSpecifiedIP(far));
+    EXPECT_EQ(config.GetErrorIPList(), QStringList(far));
+    EXPECT_TRUE(config.DeleteSpecifiedIP(far) && config.GetErrorIPList().isEmpty());
+    config.AddSpecifiedIP(far);
+    config.ClearSpecifiedIP();
+    EXPECT_TRUE(config.GetErrorIPList().isEmpty());
+}
+
 TEST_F(ConfigDataTest, HotkeyIsRefusedWhenItsKeyIsUnknownOrTaken)
 {
     const SHotkey undo = config.GetHotkey(1, 4);

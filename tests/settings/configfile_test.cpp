@@ -53,6 +53,13 @@ TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)
     ASSERT_TRUE(WriteConfigFile(folder.Path("c.xml"_s), styles));
     EXPECT_FALSE(ReadFile(folder.Path("c.xml"_s)).contains("Name="));
     EXPECT_EQ(styles.currentUiStyle, 0);
+    for (const auto& [current, taken] :
+         {std::pair(0, 0), std::pair(1, 1), std::pair(2, 1), std::pair(-1, 1)}) {
+        const SConfigItems two =
+            Read("<UiStyleEx><UiCount>2</UiCount><UiCurrent>" + QByteArray::number(current)
+                 + "</UiCurrent><UiStyle1 Path='A'/><UiStyle2 Path='B'/></UiStyleEx>");
+        EXPECT_EQ(two.currentUiStyle, taken) << current;
+    }
 
     const SConfigItems hotkeys = Read("<HotkeyQT><Item1 Enable='true' HotKeyValue='ctrl+shift+q'/>"
                                       "<Item2 Enable='no' HotKeyValue='no key'/></HotkeyQT>");
