@@ -369,7 +369,8 @@ TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)
 
     for (const int steps : {-1, 3, std::numeric_limits<int>::max()}) {
         EXPECT_FALSE(Undo(steps) || Redo(steps));
-        EXPECT_TRUE(history.GetUndoStepType(steps) == -1 && history.GetRedoStepPort(steps) == -1);
+        EXPECT_TRUE(history.GetUndoStepType(steps) == -1 && history.GetRedoStepType(steps) == -1);
+        EXPECT_TRUE(history.GetUndoStepPort(steps) == -1 && history.GetRedoStepPort(steps) == -1);
     }
     EXPECT_EQ(history.GetCurSenderCurStep(), 2);
 }

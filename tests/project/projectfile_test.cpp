@@ -165,6 +165,8 @@ TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
     ASSERT_EQ(tiles.GetCount(), 2);
     EXPECT_EQ(tiles.GetTile(0)->GetWidth(), 32) << "by number, and the first of equal ones";
     EXPECT_EQ(tiles.GetTile(1)->GetX(), 5);
+    ASSERT_TRUE(LoadText("<SenderLayout SenderCount='1'><Other/><Sender_1/><Sender_2/></SenderLayout>"));
+    EXPECT_TRUE(Error().contains("Other"_s) && Error().contains("Sender_2"_s)) << qPrintable(Error());
 }
 
 TEST_F(ProjectFileTest, OfRepeatedElementsTheLastOfTheRootAndTheFirstOfAPortCounts)

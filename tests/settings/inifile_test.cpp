@@ -22,6 +22,17 @@ QVariantMap Read(const QString& path)
 
 } // namespace
 
+TEST(IniFileTest, BlanksAtTheEndOfATextStayWhereTheyAreEscaped)
+{
+    const TestFolder folder;
+    const QString path = folder.Write("a.ini"_s, "a=x\\x20 \t\nb= x \nc=\"x \" \nd=x , y\\x20 \n");
+    const QVariantMap read = Read(path);
+    EXPECT_EQ(read["a"_s].toString(), "x "_s);
+    EXPECT_EQ(read["b"_s].toString(), "x"_s);
+    EXPECT_EQ(read["c"_s].toString(), "x "_s);
+    EXPECT_EQ(read["d"_s].toStringList(), QStringList({"x"_s, "y "_s}));
+}
+
 TEST(IniFileTest, QSettingsAndWeReadWhatTheOtherWrote)
 {
     const QVariantMap values = {
