@@ -25,7 +25,7 @@ QPoint ViewMap::ToView(const QPoint& wall) const
 /// Between whole pixels of the view too, for what is turned.
 QPointF ViewMap::ToView(const QPointF& wall) const
 {
-    return (wall - QPointF(GetStart())) * GetScaling() + QPointF(kMargins);
+    return Scaling().GetViewPoint(wall) + QPointF(kMargins);
 }
 
 QRect ViewMap::ToView(const QRect& wall) const

@@ -333,6 +333,12 @@ bool CDesignBackground::WholePixelToViewPixel(int whole, int* view) const
     return true;
 }
 
+QPointF CDesignBackground::GetViewPoint(const QPointF& whole) const
+{
+    const View& view = Current();
+    return (whole - QPointF(view.start)) * double(view.scaling);
+}
+
 bool CDesignBackground::ViewPixelToWholePixel(const QPoint& view, QPoint* whole) const
 {
     const double scaling = double(GetViewScaling());
@@ -352,9 +358,8 @@ bool CDesignBackground::ViewPixelToWholePixel(const QPointF& view, QPointF* whol
 
 QPointF CDesignBackground::ToView(const QPointF& whole) const
 {
-    const View& view = Current();
-    const QPointF scaled = (whole - QPointF(view.start)) * double(view.scaling);
-    return QPointF(std::round(scaled.x()), std::round(scaled.y()));
+    const QPointF point = GetViewPoint(whole);
+    return QPointF(std::round(point.x()), std::round(point.y()));
 }
 
 const CDesignBackground::Zoom* CDesignBackground::FindZoom(float scaling) const

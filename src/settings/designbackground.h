@@ -50,6 +50,7 @@ public:
     bool WholePixelToViewPixel(const QPointF& whole, QPointF* view) const;
     bool WholePixelToViewPixel(const QRect& whole, QRect* view) const; ///< left, top, right and bottom
     bool WholePixelToViewPixel(int whole, int* view) const;            ///< a length
+    QPointF GetViewPoint(const QPointF& whole) const;                  ///< not rounded
     /// The pixel that is drawn there: the last one whose view pixel does not lie behind it.
     bool ViewPixelToWholePixel(const QPoint& view, QPoint* whole) const;
     bool ViewPixelToWholePixel(const QPointF& view, QPointF* whole) const; ///< not rounded

@@ -167,6 +167,7 @@ TEST_F(DesignBackgroundTest, ConversionRoundsHalfAwayFromZeroAndSaturates)
     QPoint point;
     EXPECT_TRUE(background.WholePixelToViewPixel(QPoint(13, 15), &point));
     EXPECT_EQ(point, QPoint(2, -3));
+    EXPECT_EQ(background.GetViewPoint(QPointF(13.25, 15)), QPointF(1.625, -2.5)) << "not rounded";
     QRect rect;
     EXPECT_TRUE(background.WholePixelToViewPixel(QRect(10, 20, 101, 51), &rect));
     EXPECT_EQ(rect, QRect(QPoint(0, 0), QPoint(50, 25)));
