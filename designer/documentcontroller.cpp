@@ -11,34 +11,12 @@ CProjectUndoRedo& History()
     return *GetRuntimeData()->GetProjectUndoRedo();
 }
 
-/// Undo and redo leave hidden ports alone. Hiding is for looking here, so all are shown meanwhile.
-class AllPortsShown
-{
-public:
-    explicit AllPortsShown(CSender& sender)
-    {
-        for (CPort& port : sender.GetPorts()) {
-            if (port.SetVisible(true))
-                m_hidden.append(&port);
-        }
-    }
-    ~AllPortsShown()
-    {
-        for (CPort* port : qAsConst(m_hidden))
-            port->SetVisible(false);
-    }
-    AllPortsShown(const AllPortsShown&) = delete;
-    AllPortsShown& operator=(const AllPortsShown&) = delete;
-
-private:
-    QList<CPort*> m_hidden;
-};
-
 } // namespace
 
 DocumentController::DocumentController(QObject* parent) : QObject(parent)
 {
     GetRuntimeData()->SetCurInterfaceDlg(InterfaceDesign);
+    History().SetHiddenPortsIncluded(true);
     History().SetChangeHandler([this](const SDocumentChange& change) { emit Changed(change); });
     NewProject();
 }
@@ -213,24 +191,16 @@ bool DocumentController::Record(CProjectUndoRedo::Type type)
 
 bool DocumentController::Undo(int steps)
 {
-    return Go(steps, true);
+    return Went(History().Undo(steps, nullptr, nullptr));
 }
 
 bool DocumentController::Redo(int steps)
 {
-    return Go(steps, false);
+    return Went(History().Redo(steps, nullptr, nullptr));
 }
 
-bool DocumentController::Go(int steps, bool back)
+bool DocumentController::Went(bool done)
 {
-    CSender* sender = GetSender();
-    if (!sender)
-        return false;
-    bool done = false;
-    {
-        const AllPortsShown shown(*sender);
-        done = back ? History().Undo(steps, nullptr, nullptr) : History().Redo(steps, nullptr, nullptr);
-    }
     KeepCurrentPort();
     emit PortStatesChanged();
     return done;

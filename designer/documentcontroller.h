@@ -149,7 +149,7 @@ private:
     bool FinishTurn();
     void DeleteSelected(CPort& port);
     CSender* Append(const QSize& canvas); ///< [ref]
-    bool Go(int steps, bool back);
+    bool Went(bool done);
 
     DocumentFile m_file;
     CPortProject m_copies;   ///< good when their cabinets are gone, and for another document

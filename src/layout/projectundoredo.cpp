@@ -199,7 +199,8 @@ bool CProjectUndoRedo::Move(int steps, bool back, int* ports, int* count)
             shown = ports[1];
     }
     QVector<int> changed;
-    if (!history->Restore(sender, shown, operation.IsListenedTo() ? &changed : nullptr))
+    if (!history->Restore(sender, shown, operation.IsListenedTo() ? &changed : nullptr,
+                          m_hiddenPortsIncluded))
         NoteUnheld();
     if (steps > 0)
         operation.Changed(&SDocumentChange::steps);

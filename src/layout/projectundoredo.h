@@ -55,6 +55,9 @@ public:
     /// is.
     bool Undo(int steps, int* ports, int* count);
     bool Redo(int steps, int* ports, int* count);
+    /// Whether undoing and redoing act on hidden ports too, for a host in which hiding is for looking alone.
+    /// Not so at first; stays through all documents.
+    void SetHiddenPortsIncluded(bool included) { m_hiddenPortsIncluded = included; }
 
     // what the current sender's history holds. Of a step: 0 is the one that Undo(1) takes back, 1 the one
     // before it; with redo 1 is the one that Redo(1) brings back. Out of range: -1
@@ -105,5 +108,6 @@ private:
     bool m_unheld = false;  ///< a change that no history holds, until the next save
     bool m_marked = false;  ///< a change of the project itself, until Init
     bool m_unsaved = false; ///< either of these, since the last save
+    bool m_hiddenPortsIncluded = false;
     std::unique_ptr<ChangeTeller> m_teller;
 };

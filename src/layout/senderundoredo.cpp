@@ -21,13 +21,13 @@ struct CSenderUndoRedo::State
 namespace {
 
 /// False when the port is not as wanted afterwards.
-bool RestorePort(CPort& port, LayoutTracker& tracker, const LayoutSnapshot::Pointer& wanted)
+bool RestorePort(CPort& port, LayoutTracker& tracker, const LayoutSnapshot::Pointer& wanted, bool mayChange)
 {
-    if (port.IsVisible() && port.IsBackupDest() == wanted->IsBackup()) {
+    if (mayChange && port.IsBackupDest() == wanted->IsBackup()) {
         tracker.Restore(&port, wanted);
         return true;
     }
-    if (port.IsVisible())
+    if (mayChange)
         port.GetPortProject()->ClearAllTiles();
     return tracker.Take(port)->IsEqual(*wanted);
 }
@@ -147,6 +147,11 @@ bool CSenderUndoRedo::Restore(CSender* sender, int shownPort)
 
 bool CSenderUndoRedo::Restore(CSender* sender, int shownPort, QVector<int>* changed)
 {
+    return Restore(sender, shownPort, changed, false);
+}
+
+bool CSenderUndoRedo::Restore(CSender* sender, int shownPort, QVector<int>* changed, bool hiddenPortsToo)
+{
     if (m_current < 0)
         return false;
     const CSenderRecordItem::Ports& ports = GetStep(m_current)->GetPorts();
@@ -156,8 +161,9 @@ bool CSenderUndoRedo::Restore(CSender* sender, int shownPort, QVector<int>* chan
         LayoutTracker& tracker = m_state->trackers[static_cast<size_t>(i)];
         CPort& port = *sender->GetPort(i);
         const LayoutSnapshot::Pointer before = changed ? tracker.Take(port) : LayoutSnapshot::Pointer();
-        whole = RestorePort(port, tracker, wanted) && whole;
-        if (port.IsVisible() && i == shownPort)
+        const bool mayChange = hiddenPortsToo || port.IsVisible();
+        whole = RestorePort(port, tracker, wanted, mayChange) && whole;
+        if (mayChange && i == shownPort)
             sender->SetRecentPortIndex(i);
         if (changed && tracker.Take(port) != before)
             changed->append(i);

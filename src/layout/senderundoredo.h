@@ -95,6 +95,7 @@ public:
     /// where nothing changed. False when the sender is not as the step says afterwards.
     bool Restore(CSender* sender, int shownPort);
     bool Restore(CSender* sender, int shownPort, QVector<int>* changed); ///< the same, unless that is null
+    bool Restore(CSender* sender, int shownPort, QVector<int>* changed, bool hiddenPortsToo); ///< likewise
 
     // saved state
     bool IsModified() const { return m_current != m_saved; }

@@ -337,6 +337,22 @@ TEST_F(ProjectUndoRedoTest, HiddenPortsAndPortsThatBecameBackupsAreLeftOut)
     EXPECT_TRUE(history.IsModidfied()) << "the step's layout could not come back";
 }
 
+TEST_F(ProjectUndoRedoTest, HiddenPortsTakePartWhereTheHostWantsThat)
+{
+    history.SetHiddenPortsIncluded(true);
+    Sender().SetRecentPortIndex(0);
+    const CPortProject& layout = *Port(1).GetPortProject();
+    const CPortProject before = layout;
+    Edit(1);
+    const CPortProject after = layout;
+    Port(1).SetVisible(false);
+    EXPECT_TRUE(Undo() && layout == before && !history.IsModidfied());
+    EXPECT_TRUE(Redo() && layout == after);
+    EXPECT_FALSE(Port(1).IsVisible());
+    Port(1).SetBeBackupDest(QUuid::createUuid(), 1);
+    EXPECT_TRUE(Undo() && TilesOf(Port(1)).GetCount() == 0) << "as a visible one";
+}
+
 TEST_F(ProjectUndoRedoTest, AStepHoldsWhosePortItIs)
 {
     const QUuid owner = Port(3).GetSenderId();
