@@ -155,7 +155,7 @@ SAddTileInfo BlockDialog::GetBlock() const
     block.rows = m_rows->value();
     block.width = m_width->value();
     block.height = m_height->value();
-    m_cards->GetWiring().SetTo(block);
+    m_cards->SetCardsOf(block);
     if (const CProduct* product = GetProduct()) {
         block.type = product->GetMd5();
         block.fixedLine = block.multi && product->IsMultiFlagSet();

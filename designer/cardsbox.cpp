@@ -51,13 +51,10 @@ QSpinBox* CardsBox::AddNumber(const QString& name)
     return box;
 }
 
-CardWiring CardsBox::GetWiring() const
+void CardsBox::SetCardsOf(SAddTileInfo& block) const
 {
-    CardWiring wiring;
-    wiring.cards = QSize(m_across->value(), m_down->value());
-    wiring.pattern = static_cast<EnAutoNumberType>(m_pattern->currentIndex());
-    wiring.thereAndBack = m_thereAndBack->isChecked();
-    return wiring;
+    block.SetCards(QSize(m_across->value(), m_down->value()),
+                   static_cast<EnAutoNumberType>(m_pattern->currentIndex()), m_thereAndBack->isChecked());
 }
 
 void CardsBox::SetSeveral(bool several)
@@ -74,9 +71,10 @@ void CardsBox::Show()
 {
     m_across->setMaximum(kMaxReceiversInTile / m_down->value());
     m_down->setMaximum(kMaxReceiversInTile / m_across->value());
-    const CardWiring wiring = GetWiring();
-    m_pattern->setEnabled(wiring.IsSeveral());
-    m_thereAndBack->setEnabled(wiring.cards.width() > 1 && wiring.cards.height() > 1);
-    m_picture->setPixmap(CardPicture(wiring, palette()));
+    SAddTileInfo block;
+    SetCardsOf(block);
+    m_pattern->setEnabled(block.multi);
+    m_thereAndBack->setEnabled(m_across->value() > 1 && m_down->value() > 1);
+    m_picture->setPixmap(CardPicture(block, palette()));
     emit Changed();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cardwiring.h"
+#include <OrvanData/orvandata.h>
 
 #include <QWidget>
 
@@ -17,8 +17,8 @@ class CardsBox : public QWidget
 public:
     explicit CardsBox(QWidget* parent = nullptr);
 
-    CardWiring GetWiring() const;
-    void SetSeveral(bool several); ///< whether there can be several at all
+    void SetCardsOf(SAddTileInfo& block) const; ///< as asked
+    void SetSeveral(bool several);              ///< whether there can be several at all
 
 signals:
     void Changed();

@@ -40,13 +40,13 @@ void PaintWay(QPainter& painter, const QPolygonF& way, const QColor& color)
 
 QPixmap Draw(EnAutoNumberType pattern, const QColor& color)
 {
-    CardWiring lines;
-    lines.cards = pattern >= AutoNumberColumnsTopLeft ? QSize(kLines, 2) : QSize(2, kLines);
-    lines.pattern = pattern;
+    const QSize ends = pattern >= AutoNumberColumnsTopLeft ? QSize(kLines, 2) : QSize(2, kLines);
+    SAddTileInfo lines; // a chain through cards looks the same
+    lines.SetCards(ends, pattern);
     QPolygonF way;
-    for (const QPoint& end : lines.Way())
-        way.append(QPointF(5 + (kSize - 10.0) * end.x() / (lines.cards.width() - 1),
-                           5 + (kSize - 10.0) * end.y() / (lines.cards.height() - 1)));
+    for (const QPoint& end : lines.GetCards())
+        way.append(QPointF(5 + (kSize - 10.0) * end.x() / (ends.width() - 1),
+                           5 + (kSize - 10.0) * end.y() / (ends.height() - 1)));
     QPixmap picture = Blank(QSize(kSize, kSize));
     QPainter painter(&picture);
     PaintWay(painter, way, color);
@@ -75,15 +75,16 @@ QIcon PatternIcon(EnAutoNumberType pattern, const QPalette& palette)
     return icon;
 }
 
-QPixmap CardPicture(const CardWiring& wiring, const QPalette& palette)
+QPixmap CardPicture(const SAddTileInfo& block, const QPalette& palette)
 {
-    const int side = std::min(kCardPicture / std::max(wiring.cards.width(), wiring.cards.height()), 32);
-    QPixmap picture = Blank(wiring.cards * side + QSize(1, 1));
+    const QSize& cards = block.multiSize;
+    const int side = std::min(kCardPicture / std::max(cards.width(), cards.height()), 32);
+    QPixmap picture = Blank(cards * side + QSize(1, 1));
     QPainter painter(&picture);
     painter.setPen(QPen(palette.color(QPalette::Mid), 1));
     painter.setBrush(palette.color(QPalette::Base));
     QPolygonF way;
-    for (const QPoint& cell : wiring.Way()) {
+    for (const QPoint& cell : block.GetCards()) {
         painter.drawRect(QRect(cell * side, QSize(side, side)));
         way.append(QPointF(cell * side) + QPointF(side, side) / 2);
     }

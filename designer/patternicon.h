@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cardwiring.h"
+#include <OrvanData/orvandata.h>
 
 #include <QIcon>
 #include <QPalette>
@@ -12,5 +12,5 @@ QString PatternName(EnAutoNumberType pattern);
 /// The way of an automatic numbering: a chain from its start to its arrow.
 QIcon PatternIcon(EnAutoNumberType pattern, const QPalette& palette);
 
-/// The cards of a cabinet and the way of the chain through them.
-QPixmap CardPicture(const CardWiring& wiring, const QPalette& palette);
+/// The cards of each cabinet of a block and the way of the chain through them.
+QPixmap CardPicture(const SAddTileInfo& block, const QPalette& palette);

@@ -12,7 +12,9 @@
 #include <QSet>
 #include <QVector>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -156,6 +158,46 @@ void TurnTile(CTile& tile, const SRotateParam& turn)
 }
 
 } // namespace
+
+bool SAddTileInfo::SetCards(const QSize& cards, EnAutoNumberType pattern, bool thereAndBack)
+{
+    const qint64 count = cards.isEmpty() ? 0 : qint64(cards.width()) * cards.height();
+    if (count < 1 || count > kMaxReceiversInTile || pattern < AutoNumberRowsTopLeft
+        || pattern > AutoNumberColumnsBottomLeft)
+        return false;
+    const bool byColumns = pattern >= AutoNumberColumnsTopLeft;
+    const int corner = pattern % AutoNumberColumnsTopLeft;
+    const bool fromRight = corner == AutoNumberRowsTopRight || corner == AutoNumberRowsBottomRight;
+    const bool fromBottom = corner >= AutoNumberRowsBottomRight;
+    const int length = byColumns ? cards.height() : cards.width(); // of a row or column
+    multi = count > 1;
+    fixedLine = fixedLine && multi;
+    ordered = true;
+    multiSize = cards;
+    std::fill(std::begin(line), std::end(line), static_cast<unsigned char>(0));
+    for (int i = 0; i < static_cast<int>(count); ++i) {
+        const int strip = i / length;
+        const int along = thereAndBack && strip % 2 == 1 ? length - 1 - i % length : i % length;
+        const QPoint cell = byColumns ? QPoint(strip, along) : QPoint(along, strip);
+        const int column = fromRight ? cards.width() - 1 - cell.x() : cell.x();
+        const int row = fromBottom ? cards.height() - 1 - cell.y() : cell.y();
+        line[i] = static_cast<unsigned char>(column * cards.height() + row);
+    }
+    return true;
+}
+
+QVector<QPoint> SAddTileInfo::GetCards() const
+{
+    if (!multi || multiSize.isEmpty())
+        return {QPoint(0, 0)};
+    const qint64 count = qint64(multiSize.width()) * multiSize.height();
+    QVector<QPoint> cards;
+    for (int i = 0; i < kMaxReceiversInTile && i < count; ++i)
+        cards.append(QPoint(line[i] / multiSize.height(), line[i] % multiSize.height()));
+    if (!ordered)
+        std::reverse(cards.begin(), cards.end());
+    return cards;
+}
 
 CPortProject::CPortProject()
 {

@@ -8,8 +8,11 @@
 
 #include <QList>
 #include <QMetaType>
+#include <QPoint>
 #include <QPointF>
+#include <QSize>
 #include <QUuid>
+#include <QVector>
 
 class QDebug;
 struct SRotateParam;
@@ -33,8 +36,15 @@ struct SAddTileInfo
     bool ordered = true;    ///< false: the chain passes through `line` from its end
     QSize multiSize{1, 1};  ///< across and down, at most kMaxReceiversInTile in all
     /// The cell of each card along the chain: column * rows + row. The default puts all cards into the top
-    /// left cell, so with several cards name a cell for each.
+    /// left cell, so with several cards name a cell for each, or call SetCards.
     unsigned char line[kMaxReceiversInTile] = {};
+
+    /// Sets all of the above; `fixedLine` stays while there are several. The chain begins at the corner of
+    /// the pattern and goes along its rows or columns: every other one backwards, as cabinets are numbered,
+    /// or each from the same side where not `thereAndBack`. False, and nothing changed: no card, too many,
+    /// or no such pattern.
+    ORVANDATA_EXPORT bool SetCards(const QSize& cards, EnAutoNumberType pattern, bool thereAndBack = true);
+    ORVANDATA_EXPORT QVector<QPoint> GetCards() const; ///< column and row of each card along the chain
 };
 
 /// The layout content of one port. Owns its tiles and its group tree and clears both when it dies.

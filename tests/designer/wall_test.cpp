@@ -219,19 +219,6 @@ TEST_F(WallStory, ABlockOfAProductHasItsSizeAndItsCardsAreWired)
     EXPECT_TRUE(tile.IsMultiRcvTile() && tile.GetMultiRcvsSize() == QSize(3, 2));
     EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(tile.GetMultiRcvsLine()), 6),
               QByteArray("\4\5\3\2\0\1", 6));
-
-    const std::tuple<CardWiring, QByteArray> cases[] = {
-        {{{2, 2}, AutoNumberRowsTopLeft, true}, QByteArray("\0\2\3\1", 4)},
-        {{{2, 3}, AutoNumberRowsBottomRight, false}, QByteArray("\5\2\4\1\3\0", 6)},
-        {{{3, 2}, AutoNumberColumnsBottomLeft, true}, QByteArray("\1\0\2\3\5\4", 6)},
-        {{{3, 1}, AutoNumberRowsTopRight, true}, QByteArray("\2\1\0", 3)},
-        {{{1, 1}, AutoNumberRowsTopLeft, true}, QByteArray()}};
-    for (const auto& [wiring, line] : cases) {
-        SAddTileInfo block;
-        wiring.SetTo(block);
-        EXPECT_EQ(block.multi, !line.isEmpty());
-        EXPECT_EQ(QByteArray(reinterpret_cast<char*>(block.line), line.size()), line) << line.size();
-    }
 }
 
 TEST_F(WallStory, AGridLiesBelowTheCabinetsAndGroupsAreOutlined)

@@ -102,6 +102,38 @@ TEST_F(PortProjectTest, AddTileLetsTheBlockOverruleTheProductAndRegistersIt)
     EXPECT_EQ(lookup.parameterFiles, QList<QString>{"cabinet"_s});
 }
 
+TEST_F(PortProjectTest, CardsAreWiredAsAPatternNumbersCabinets)
+{
+    SAddTileInfo info;
+    for (const QSize& cards : {QSize(3, 2), QSize(2, 5), QSize(1, 3)}) {
+        for (int i = AutoNumberRowsTopLeft; i <= AutoNumberColumnsBottomLeft; ++i) {
+            layout.ClearAllTiles();
+            layout.AddTile(Block(cards.width(), cards.height()));
+            const auto pattern = static_cast<EnAutoNumberType>(i);
+            tiles.AutoConnection(pattern, 0);
+            ASSERT_TRUE(info.SetCards(cards, pattern) && info.multi);
+            const QVector<QPoint> way = info.GetCards();
+            for (const CTile* tile : tiles)
+                EXPECT_EQ(way.value(tile->GetConnectionIndex()),
+                          QPoint(tile->GetX() / 100, tile->GetY() / 50))
+                    << i;
+        }
+    }
+    ASSERT_TRUE(info.SetCards(QSize(2, 3), AutoNumberRowsBottomRight, false));
+    const auto line = [&info] { return QByteArray(reinterpret_cast<char*>(info.line), 7); };
+    EXPECT_EQ(line(), QByteArray("\5\2\4\1\3\0\0", 7));
+    for (const QSize& cards : {QSize(0, 2), QSize(-1, -1), QSize(4, 3), QSize(65536, 65536)})
+        EXPECT_FALSE(info.SetCards(cards, AutoNumberRowsTopLeft));
+    EXPECT_FALSE(info.SetCards(QSize(2, 2), static_cast<EnAutoNumberType>(8)));
+    EXPECT_TRUE(info.multiSize == QSize(2, 3) && info.line[0] == 5) << "refused, so it stays";
+    info.ordered = false;
+    EXPECT_EQ(info.GetCards().first(), QPoint(0, 0)) << "the end of the line";
+    info.fixedLine = true;
+    EXPECT_TRUE(info.SetCards(QSize(1, 1), AutoNumberRowsTopLeft));
+    EXPECT_TRUE(!info.multi && !info.fixedLine && line() == QByteArray(7, '\0'));
+    EXPECT_EQ(info.GetCards(), QVector<QPoint>{QPoint()});
+}
+
 TEST_F(PortProjectTest, CopiesAreEqualAndStandAlone)
 {
     const QUuid group = MakeWall(port, 2, 1);

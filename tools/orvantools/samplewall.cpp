@@ -121,13 +121,9 @@ bool SampleWall::Place(int port, const SMD5& type, const QRect& grid, const QSiz
     block.rows = grid.height();
     block.width = cabinet.width();
     block.height = cabinet.height();
-    block.multi = receivers != QSize(1, 1);
-    block.multiSize = receivers;
-    const int count = receivers.width() * receivers.height();
-    for (int i = 0; i < count; ++i)
-        block.line[i] = static_cast<unsigned char>(i);
     m_sender->SetRecentPortIndex(port);
-    return m_sender->GetPort(port)->GetPortProject()->AddTile(block)
+    return block.SetCards(receivers, AutoNumberColumnsTopLeft, false)
+           && m_sender->GetPort(port)->GetPortProject()->AddTile(block)
            && Record(CSenderRecordItem::OperationAddTiles);
 }
 
