@@ -2,7 +2,8 @@
 
 #include "cardsbox.h"
 #include "documentcontroller.h"
-#include "loadofport.h"
+
+#include <orvantools/portload.h>
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -172,17 +173,17 @@ void BlockDialog::ShowBlock()
     }
     const SAddTileInfo block = GetBlock();
     const CSender& sender = *m_document.GetSender();
-    const CPort& port = *sender.GetPort(block.portIndex);
+    const CTileSet& tiles = sender.GetPort(block.portIndex)->GetTileSet();
     const qint64 count = qint64(block.columns) * block.rows;
     const QString why = m_document.WhyNotAddable(block);
-    const qint64 pixels = PixelsOf(port) + count * block.width * block.height;
-    QStringList lines{
-        tr("%1 cabinets, %2 × %3 pixels. Port %4 is then %5 full.")
-            .arg(count)
-            .arg(qint64(block.columns) * block.width)
-            .arg(qint64(block.rows) * block.height)
-            .arg(block.portIndex + 1)
-            .arg(CapacityOf(sender).PercentText(pixels).replace(QLatin1Char(' '), QChar(QChar::Nbsp)))};
+    const qint64 pixels = OrvanTools::PixelsOf(tiles) + count * block.width * block.height;
+    QString load = OrvanTools::CapacityOf(sender).PercentText(pixels);
+    QStringList lines{tr("%1 cabinets, %2 × %3 pixels. Port %4 is then %5 full.")
+                          .arg(count)
+                          .arg(qint64(block.columns) * block.width)
+                          .arg(qint64(block.rows) * block.height)
+                          .arg(block.portIndex + 1)
+                          .arg(load.replace(QLatin1Char(' '), QChar(QChar::Nbsp)))};
     const QRect canvas(QPoint(), sender.GetCanvasSize());
     if (!why.isEmpty())
         lines.append(why);

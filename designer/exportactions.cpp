@@ -1,13 +1,13 @@
 #include "exportactions.h"
 
 #include "documentcontroller.h"
-#include "loadofport.h"
 #include "makeaction.h"
 
 #include "custommessagebox.h"
 #include "customprogressbar.h"
 
 #include <orvantools/layoutdrawing.h>
+#include <orvantools/portload.h>
 #include <orvantools/projectlist.h>
 #include <orvantools/sheetset.h>
 #include <orvantools/wholefile.h>

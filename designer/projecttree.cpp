@@ -3,8 +3,9 @@
 #include "documentcontroller.h"
 #include "grouprows.h"
 #include "loaddelegate.h"
-#include "loadofport.h"
 #include "senderedits.h"
+
+#include <orvantools/portload.h>
 
 #include <QDropEvent>
 #include <QHeaderView>
@@ -148,8 +149,9 @@ void ProjectTree::FillPort(int sender, int index)
     }
     item.setToolTip(Name, tr("Drag it onto another port to make it the backup of that one"));
     ShowGroups(port, item);
-    const OrvanTools::PortCapacity capacity = CapacityOf(*m_document.GetProject().GetSender(sender));
-    const qint64 pixels = PixelsOf(port);
+    const OrvanTools::PortCapacity capacity =
+        OrvanTools::CapacityOf(*m_document.GetProject().GetSender(sender));
+    const qint64 pixels = OrvanTools::PixelsOf(port.GetTileSet());
     item.setText(Name, tr("Port %1").arg(index + 1));
     item.setText(Load, capacity.PercentText(pixels));
     item.setData(Load, Qt::UserRole, capacity.LoadOf(pixels));

@@ -1,10 +1,11 @@
 #include "propertypages.h"
 
 #include "documentcontroller.h"
-#include "loadofport.h"
 #include "pageform.h"
 #include "portactions.h"
 #include "senderedits.h"
+
+#include <orvantools/portload.h>
 
 #include <QLocale>
 #include <QTabWidget>
@@ -82,11 +83,12 @@ void PropertyPages::MakePort(const PortActions& actions, QTabWidget& tabs)
                      [this] { return Port().IsFlagLock(); },
                      [this](bool on) { m_edits.SetLocked(Place(), on); }});
     page->AddInfo(tr("Cabinets:"), [this] { return QLocale().toString(Port().GetTileSet().GetCount()); });
-    page->AddInfo(tr("Pixels:"), [this] { return QLocale().toString(PixelsOf(Port())); });
-    page->AddInfo(tr("Load:"), [this] {
-        const OrvanTools::PortCapacity capacity = CapacityOf(Sender());
+    const auto pixels = [this] { return OrvanTools::PixelsOf(Port().GetTileSet()); };
+    page->AddInfo(tr("Pixels:"), [pixels] { return QLocale().toString(pixels()); });
+    page->AddInfo(tr("Load:"), [this, pixels] {
+        const OrvanTools::PortCapacity capacity = OrvanTools::CapacityOf(Sender());
         return tr("%1 of %2 pixels at %3 Hz and %4 bit")
-            .arg(capacity.PercentText(Port().IsBackupDest() ? 0 : PixelsOf(Port())),
+            .arg(capacity.PercentText(Port().IsBackupDest() ? 0 : pixels()),
                  QLocale().toString(capacity.Carried()), QString::number(capacity.framesPerSecond),
                  QString::number(capacity.colorBits));
     });

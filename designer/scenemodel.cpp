@@ -1,8 +1,8 @@
 #include "scenemodel.h"
 
-#include "groupoutlines.h"
+#include "groupbounds.h"
 
-#include <algorithm>
+#include <orvantools/portload.h>
 
 namespace {
 
@@ -25,28 +25,14 @@ SceneCabinet Read(const CTile& tile, std::vector<QPolygonF>& corners)
     return cabinet;
 }
 
-/// Equal numbers stay as listed.
-std::vector<int> ChainOf(const std::vector<SceneCabinet>& cabinets)
-{
-    std::vector<int> chain;
-    for (size_t i = 0; i < cabinets.size(); ++i) {
-        if (cabinets[i].number >= 0)
-            chain.push_back(static_cast<int>(i));
-    }
-    std::stable_sort(chain.begin(), chain.end(), [&](int a, int b) {
-        return cabinets[static_cast<size_t>(a)].number < cabinets[static_cast<size_t>(b)].number;
-    });
-    return chain;
-}
-
 /// Around each kBlock links, also those over a gap.
 std::vector<QRect> LinksOf(const ScenePort& port)
 {
     std::vector<QRect> links;
     for (size_t i = 1; i < port.chain.size(); ++i) {
         if ((i - 1) % ScenePort::kBlock == 0)
-            links.push_back(port.cabinets[static_cast<size_t>(port.chain[i - 1])].place);
-        links.back() |= port.cabinets[static_cast<size_t>(port.chain[i])].place;
+            links.push_back(port.cabinets[static_cast<size_t>(port.chain[i - 1].cabinet)].place);
+        links.back() |= port.cabinets[static_cast<size_t>(port.chain[i].cabinet)].place;
     }
     return links;
 }
@@ -135,18 +121,18 @@ void SceneModel::Read(int index)
     const CPort& port = *GetProjectData()->GetCurrentSender()->GetPort(index);
     ScenePort scene;
     if (!port.IsBackupDest()) {
-        GroupOutlines groups(port.GetTileGroupSet());
+        GroupBounds groups(port.GetTileGroupSet());
         scene.cabinets.reserve(static_cast<size_t>(port.GetTileSet().GetCount()));
         for (const CTile* tile : port.GetTileSet()) {
             const SceneCabinet cabinet = ::Read(*tile, scene.corners);
             scene.cabinets.push_back(cabinet);
             groups.Add(tile->GetGroupId(), cabinet.place,
                        cabinet.turned < 0 ? nullptr : &scene.corners.back());
-            scene.pixels += qint64(std::max(tile->GetWidth(), 0)) * std::max(tile->GetHeight(), 0);
+            scene.pixels += OrvanTools::PixelsOf(*tile);
         }
         scene.groups = groups.GetPolygons();
+        scene.chain = OrvanTools::ChainOf(port.GetTileSet());
     }
-    scene.chain = ChainOf(scene.cabinets);
     scene.links = LinksOf(scene);
     for (size_t i = 0; i < scene.cabinets.size(); ++i) {
         if (i % ScenePort::kBlock == 0)

@@ -2,11 +2,14 @@
 
 #include <OrvanData/orvandata.h>
 
+#include <orvantools/cabinetchain.h>
+
 #include <QColor>
 #include <QObject>
 #include <QPolygonF>
 #include <QRect>
 
+#include <algorithm>
 #include <vector>
 
 /// What is drawn of a cabinet, apart from the cabinet itself: that may be gone while the picture stays.
@@ -27,10 +30,10 @@ struct ScenePort
 
     std::vector<SceneCabinet> cabinets; ///< the last lies on top
     std::vector<QPolygonF> corners;     ///< of turned cabinets
-    std::vector<int> chain;             ///< the numbered cabinets by number
-    std::vector<QRect> blocks;          ///< around each kBlock cabinets that follow each other
-    std::vector<QRect> links;           ///< around each kBlock links of the chain
-    std::vector<QPolygonF> groups;      ///< around the cabinets of each group, turned as they are
+    std::vector<OrvanTools::ChainLink> chain;
+    std::vector<QRect> blocks;     ///< around each kBlock cabinets that follow each other
+    std::vector<QRect> links;      ///< around each kBlock links of the chain
+    std::vector<QPolygonF> groups; ///< around the cabinets of each group, turned as they are
     QRect bound;
     qint64 pixels = 0; ///< of all cabinets
     bool visible = false;
@@ -59,8 +62,8 @@ struct ScenePort
                 continue;
             const size_t last = std::min((block + 1) * kBlock + 1, chain.size());
             for (size_t i = block * kBlock + 1; i < last; ++i) {
-                const SceneCabinet& from = cabinets[static_cast<size_t>(chain[i - 1])];
-                const SceneCabinet& to = cabinets[static_cast<size_t>(chain[i])];
+                const SceneCabinet& from = cabinets[static_cast<size_t>(chain[i - 1].cabinet)];
+                const SceneCabinet& to = cabinets[static_cast<size_t>(chain[i].cabinet)];
                 if (qint64(from.number) + 1 == to.number && (from.place | to.place).intersects(area))
                     found(from, to);
             }

@@ -285,7 +285,7 @@ void ScenePainter::PaintChain(const ScenePort& port)
 
 void ScenePainter::PaintStart(const ScenePort& port)
 {
-    const SceneCabinet& first = port.cabinets[static_cast<size_t>(port.chain.front())];
+    const SceneCabinet& first = port.cabinets[static_cast<size_t>(port.chain.front().cabinet)];
     if (first.number != 0 || !first.place.intersects(m_shown))
         return;
     const double side = std::min(first.place.width(), first.place.height()) * m_map.GetScaling();
@@ -318,10 +318,7 @@ void ScenePainter::PaintNumbers(const ScenePort& port, const QColor& color)
 {
     if (port.chain.empty())
         return;
-    const auto textOf = [](const SceneCabinet& cabinet) {
-        return QString::number(qint64(cabinet.number) + 1);
-    };
-    const int digits = textOf(port.cabinets[static_cast<size_t>(port.chain.back())]).size();
+    const int digits = QString::number(qint64(port.chain.back().number) + 1).size();
     const QColor onSelected = TextOn(Selected(color));
     QFont font = m_painter.font();
     int height = 0;
@@ -341,6 +338,6 @@ void ScenePainter::PaintNumbers(const ScenePort& port, const QColor& color)
         }
         m_painter.setPen(cabinet.selected ? onSelected : TextOn(color));
         m_painter.drawText(place, cabinet.turned < 0 ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter,
-                           textOf(cabinet));
+                           QString::number(qint64(cabinet.number) + 1));
     });
 }

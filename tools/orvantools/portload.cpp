@@ -36,6 +36,19 @@ QString PortCapacity::PercentText(qint64 wanted) const
     return QString::number(std::ceil(percent - 1e-9), 'f', 0) + QStringLiteral(" %");
 }
 
+qint64 PixelsOf(const CTile& tile)
+{
+    return tile.GetSize().isEmpty() ? 0 : qint64(tile.GetWidth()) * tile.GetHeight();
+}
+
+qint64 PixelsOf(const CTileSet& tiles)
+{
+    qint64 pixels = 0;
+    for (int i = 0; i < tiles.GetCount(); ++i)
+        pixels += PixelsOf(*tiles.GetTile(i));
+    return pixels;
+}
+
 PortCapacity CapacityOf(const CSender& sender, const PortCapacity& capacity)
 {
     PortCapacity own = capacity;

@@ -3,6 +3,8 @@
 #include <QString>
 
 class CSender;
+class CTile;
+class CTileSet;
 
 namespace OrvanTools {
 
@@ -22,5 +24,9 @@ struct PortCapacity
 
 /// The same at the frames and bits that the sender is set to, where it is.
 PortCapacity CapacityOf(const CSender& sender, const PortCapacity& capacity = PortCapacity());
+
+/// What a cabinet takes of it, turned or not.
+qint64 PixelsOf(const CTile& tile);
+qint64 PixelsOf(const CTileSet& tiles); ///< of all of them, covered twice or not
 
 } // namespace OrvanTools

@@ -2,7 +2,6 @@
 
 #include "orvantools/cabinetchain.h"
 #include "orvantools/jsonwriter.h"
-#include "orvantools/tileshape.h"
 
 #include <OrvanData/orvandata.h>
 

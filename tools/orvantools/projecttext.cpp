@@ -3,7 +3,6 @@
 #include "orvantools/cabinetchain.h"
 #include "orvantools/printable.h"
 #include "orvantools/projectrows.h"
-#include "orvantools/tileshape.h"
 
 #include <OrvanData/orvandata.h>
 

@@ -139,19 +139,6 @@ QPointF OffsetOf(const CSender& sender)
     return offset == QSize(-1, -1) ? QPointF() : QPointF(offset.width(), offset.height());
 }
 
-qint64 PixelsOf(const CTile& tile)
-{
-    return tile.GetSize().isEmpty() ? 0 : qint64(tile.GetWidth()) * tile.GetHeight();
-}
-
-qint64 PixelsOf(const CTileSet& tiles)
-{
-    qint64 pixels = 0;
-    for (int i = 0; i < tiles.GetCount(); ++i)
-        pixels += PixelsOf(*tiles.GetTile(i));
-    return pixels;
-}
-
 bool IsOverlap(const TileShape& a, const TileShape& b)
 {
     const double rounding = a.IsTurned() || b.IsTurned() ? kRounding : 0;

@@ -9,7 +9,6 @@
 
 class CSender;
 class CTile;
-class CTileSet;
 
 namespace OrvanTools {
 
@@ -38,9 +37,6 @@ TileShape ShapeOf(const CTile& tile);
 /// From the canvas to the cabinets' coordinates; (-1, -1) in a file is that of a sender nobody has placed
 /// yet.
 QPointF OffsetOf(const CSender& sender);
-
-qint64 PixelsOf(const CTile& tile);
-qint64 PixelsOf(const CTileSet& tiles); ///< of all of them, covered twice or not
 
 /// Whether two shapes share more than rounding. Turned cabinets that stand side by side have positions in
 /// whole pixels, so they overlap a little.

@@ -1,8 +1,8 @@
-#include "groupoutlines.h"
+#include "groupbounds.h"
 
 #include <QLineF>
 
-GroupOutlines::GroupOutlines(const CTileGroupSet& groups)
+GroupBounds::GroupBounds(const CTileGroupSet& groups)
 {
     QList<CTileGroup*> all;
     groups.GetGroupListRecursive(all);
@@ -14,7 +14,7 @@ GroupOutlines::GroupOutlines(const CTileGroupSet& groups)
     }
 }
 
-int GroupOutlines::Find(const QUuid& group)
+int GroupBounds::Find(const QUuid& group)
 {
     if (m_lastId != group) {
         m_lastId = group;
@@ -23,7 +23,7 @@ int GroupOutlines::Find(const QUuid& group)
     return m_last;
 }
 
-void GroupOutlines::Add(const QUuid& group, const QRect& place, const QPolygonF* corners)
+void GroupBounds::Add(const QUuid& group, const QRect& place, const QPolygonF* corners)
 {
     for (int i = Find(group); i >= 0; i = m_outlines[static_cast<size_t>(i)].parent) {
         Outline& outline = m_outlines[static_cast<size_t>(i)];
@@ -34,7 +34,7 @@ void GroupOutlines::Add(const QUuid& group, const QRect& place, const QPolygonF*
     }
 }
 
-std::vector<QPolygonF> GroupOutlines::GetPolygons() const
+std::vector<QPolygonF> GroupBounds::GetPolygons() const
 {
     std::vector<QPolygonF> polygons;
     for (const Outline& outline : m_outlines) {

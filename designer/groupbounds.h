@@ -8,11 +8,12 @@
 
 #include <vector>
 
-/// Gathers the rectangle around the cabinets of each group of a port, turned as its first cabinet is.
-class GroupOutlines
+/// Gathers the rectangle around the cabinets of each group of a port, turned as its first cabinet is. The
+/// edge of their area would take much longer, and each edit asks anew.
+class GroupBounds
 {
 public:
-    explicit GroupOutlines(const CTileGroupSet& groups);
+    explicit GroupBounds(const CTileGroupSet& groups);
 
     /// To the group and those around it; `corners` of a turned cabinet, else null.
     void Add(const QUuid& group, const QRect& place, const QPolygonF* corners);
