@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kWheelStep = 120;  ///< of an ordinary wheel's notch
 constexpr int kShownAround = 40; ///< view pixels
+constexpr int kHintMargin = 12;  ///< the same
 
 } // namespace
 
@@ -76,7 +77,7 @@ QPoint DesignView::Middle() const
     return viewport()->rect().center();
 }
 
-/// The canvas and all cabinets, from the left top corner that a view can show.
+/// The canvas and all cabinets, as far as a view can show them.
 QRect DesignView::Content() const
 {
     return (m_scene.GetCanvas() | m_scene.GetBound() | QRect(0, 0, 1, 1))
@@ -222,13 +223,22 @@ void DesignView::paintEvent(QPaintEvent* /*event*/)
     RenewPicture();
     QPainter painter(viewport());
     painter.drawPixmap(0, 0, m_picture);
-    if (m_scene.GetBound().isNull() && !m_hint.isEmpty()) {
-        painter.setPen(palette().color(QPalette::Text));
-        painter.drawText(viewport()->rect().adjusted(20, 20, -20, -20), Qt::AlignCenter | Qt::TextWordWrap,
-                         m_hint);
-    }
+    if (m_scene.GetBound().isNull() && !m_hint.isEmpty())
+        PaintHint(painter);
     PaintPreview(painter);
     Tool().Paint(painter);
+}
+
+/// In a box, which keeps grid and canvas from running through the text.
+void DesignView::PaintHint(QPainter& painter) const
+{
+    const auto grown = [](const QRect& rect, int by) { return rect.adjusted(-by, -by, by, by); };
+    const QRect room = grown(viewport()->rect(), -2 * kHintMargin);
+    const int flags = Qt::AlignCenter | Qt::TextWordWrap;
+    painter.setPen(palette().color(QPalette::Text));
+    painter.setBrush(palette().color(QPalette::Base));
+    painter.drawRect(grown(painter.boundingRect(room, flags, m_hint), kHintMargin));
+    painter.drawText(room, flags, m_hint);
 }
 
 /// With the lines between cabinets where these can be told apart.

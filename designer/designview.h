@@ -65,6 +65,7 @@ private:
     void ViewChanged();
     void SetScrollBars();
     void RenewPicture();
+    void PaintHint(QPainter& painter) const;
     void PaintPreview(QPainter& painter) const;
 
     const SceneModel& m_scene;

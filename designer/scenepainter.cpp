@@ -17,6 +17,7 @@ constexpr double kLeastArrow = 16;  ///< length of a chain's link
 constexpr double kGroupInset = 3;   ///< of its outline
 constexpr int kLeastGrid = 16;      ///< between two lines
 constexpr int kStrongLine = 4;      ///< each fourth one
+constexpr int kMostMoved = 2000;    ///< cabinets drawn one by one while they are dragged
 
 QPointF Center(const QRect& rect)
 {
@@ -74,6 +75,36 @@ void ScenePainter::Paint(const QRect& view)
     }
     if (current >= 0 && current < static_cast<int>(ports.size())) // where edits go: on top
         PaintPort(ports[static_cast<size_t>(current)], current);
+}
+
+void ScenePainter::PaintMoved(const QTransform& moved)
+{
+    const QRect area = moved.inverted().mapRect(QRectF(m_map.GetShown())).toAlignedRect();
+    QVector<QPolygonF> outlines;
+    QRect bound;
+    for (const ScenePort& port : m_scene.GetPorts()) {
+        for (const SceneCabinet& cabinet : port.cabinets) {
+            if (!cabinet.selected)
+                continue;
+            bound |= cabinet.place;
+            if (outlines.size() <= kMostMoved && cabinet.place.intersects(area))
+                outlines.append(CornersOf(port, cabinet));
+        }
+    }
+    if (outlines.size() > kMostMoved)
+        outlines = {QPolygonF(QRectF(bound))};
+    QColor color = m_palette.color(QPalette::Highlight);
+    m_painter.save();
+    m_painter.setRenderHint(QPainter::Antialiasing, moved.isRotating());
+    m_painter.setPen(QPen(color, 0)); // of one view pixel
+    color.setAlpha(90);
+    m_painter.setBrush(color);
+    m_painter.translate(m_map.ToView(QPointF()));
+    m_painter.scale(m_map.GetScaling(), m_map.GetScaling());
+    m_painter.setTransform(moved, true);
+    for (const QPolygonF& outline : qAsConst(outlines))
+        m_painter.drawConvexPolygon(outline);
+    m_painter.restore();
 }
 
 void ScenePainter::PaintCanvas(const QRect& view)
@@ -204,14 +235,19 @@ void ScenePainter::PaintTurned(const ScenePort& port, const SceneCabinet& cabine
     m_painter.restore();
 }
 
+/// Left top of the unturned one first.
+QPolygonF ScenePainter::CornersOf(const ScenePort& port, const SceneCabinet& cabinet)
+{
+    if (cabinet.turned >= 0)
+        return port.corners[static_cast<size_t>(cabinet.turned)];
+    const QRectF place = cabinet.place;
+    return QPolygonF({place.topLeft(), place.topRight(), place.bottomRight(), place.bottomLeft()});
+}
+
 /// The receiving cards inside a cabinet, also inside a turned one.
 void ScenePainter::PaintCards(const ScenePort& port, const SceneCabinet& cabinet)
 {
-    QPolygonF corners = QPolygonF() << QRectF(cabinet.place).topLeft() << QRectF(cabinet.place).topRight()
-                                    << QRectF(cabinet.place).bottomRight()
-                                    << QRectF(cabinet.place).bottomLeft();
-    if (cabinet.turned >= 0)
-        corners = port.corners[static_cast<size_t>(cabinet.turned)];
+    const QPolygonF corners = CornersOf(port, cabinet);
     const QPointF across = corners[1] - corners[0];
     const QPointF down = corners[3] - corners[0];
     const double scaling = m_map.GetScaling();

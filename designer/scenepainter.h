@@ -3,6 +3,7 @@
 #include "viewmap.h"
 
 #include <QPalette>
+#include <QTransform>
 #include <QVector>
 
 class QPainter;
@@ -24,6 +25,8 @@ public:
     ScenePainter(QPainter& painter, const SceneModel& scene, const ViewMap& map, const QPalette& palette);
 
     void Paint(const QRect& view);
+    /// The selected cabinets where that would bring them; of too many to be drawn at once, the bound alone.
+    void PaintMoved(const QTransform& moved);
 
     /// By the mean shorter side of cabinets, view pixels.
     static Detail DetailFor(double side);
@@ -47,6 +50,7 @@ private:
     void PaintChain(const ScenePort& port);
     void PaintStart(const ScenePort& port);
     void PaintNumbers(const ScenePort& port, const QColor& color);
+    static QPolygonF CornersOf(const ScenePort& port, const SceneCabinet& cabinet);
     QRectF NumberCell(const ScenePort& port, const SceneCabinet& cabinet) const; ///< view pixels
     QColor Selected(const QColor& color) const;
 

@@ -2,6 +2,7 @@
 
 #include "designview.h"
 #include "scenemodel.h"
+#include "scenepainter.h"
 
 #include <QLineF>
 #include <QPainter>
@@ -15,18 +16,7 @@ constexpr int kAbove = 24;
 constexpr int kRadius = 6;
 constexpr int kReach = 9;
 
-constexpr int kMostOutlined = 2000; ///< of more cabinets the bound alone turns
-constexpr double kStep = 15;        ///< degrees
-
-template <class Found> void WalkSelected(const SceneModel& scene, const Found& found)
-{
-    for (const ScenePort& port : scene.GetPorts()) {
-        for (const SceneCabinet& cabinet : port.cabinets) {
-            if (cabinet.selected)
-                found(port, cabinet);
-        }
-    }
-}
+constexpr double kStep = 15; ///< degrees
 
 } // namespace
 
@@ -35,8 +25,10 @@ const QRect& TurnHandle::Bound() const
     const SceneModel& scene = m_view.GetScene();
     if (m_read != scene.GetRevision()) {
         m_bound = QRect();
-        WalkSelected(scene,
-                     [this](const ScenePort&, const SceneCabinet& cabinet) { m_bound |= cabinet.place; });
+        for (const ScenePort& port : scene.GetPorts()) {
+            for (const SceneCabinet& cabinet : port.cabinets)
+                m_bound |= cabinet.selected ? cabinet.place : QRect();
+        }
         m_read = scene.GetRevision();
     }
     return m_bound;
@@ -63,19 +55,11 @@ bool TurnHandle::IsAt(const QPoint& view) const
 
 double TurnHandle::AngleOf(const QPoint& view) const
 {
-    return -QLineF(m_view.GetMap().ToView(QRectF(m_bound).center()), view).angle();
+    return -QLineF(m_view.GetMap().ToView(QRectF(Bound()).center()), view).angle();
 }
 
 void TurnHandle::Grip(const QPoint& view)
 {
-    m_outlines.clear();
-    WalkSelected(m_view.GetScene(), [this](const ScenePort& port, const SceneCabinet& cabinet) {
-        if (m_outlines.size() <= kMostOutlined)
-            m_outlines.append(cabinet.turned < 0 ? QPolygonF(QRectF(cabinet.place))
-                                                 : port.corners[static_cast<size_t>(cabinet.turned)]);
-    });
-    if (m_outlines.size() > kMostOutlined)
-        m_outlines = {QPolygonF(QRectF(Bound()))};
     m_gripped = AngleOf(view);
     m_mouse = view;
     m_angle = 0;
@@ -105,22 +89,11 @@ void TurnHandle::Paint(QPainter& painter) const
 
 void TurnHandle::PaintTurned(QPainter& painter) const
 {
-    const ViewMap& map = m_view.GetMap();
     const QPalette palette = m_view.palette();
-    const QPointF center = QRectF(m_bound).center();
-    QColor color = palette.color(QPalette::Highlight);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, 0)); // of one view pixel
-    color.setAlpha(90);
-    painter.setBrush(color);
-    painter.translate(map.ToView(center));
-    painter.rotate(m_angle);
-    painter.scale(map.GetScaling(), map.GetScaling());
-    painter.translate(-center);
-    for (const QPolygonF& outline : m_outlines)
-        painter.drawPolygon(outline);
-    painter.restore();
+    const QPointF center = QRectF(Bound()).center();
+    QTransform turned = QTransform::fromTranslate(center.x(), center.y());
+    turned.rotate(m_angle).translate(-center.x(), -center.y());
+    ScenePainter(painter, m_view.GetScene(), m_view.GetMap(), palette).PaintMoved(turned);
 
     const QString text = QStringLiteral(" %1° ").arg(m_angle);
     const QRect place(m_mouse + QPoint(2 * kReach, 0), painter.fontMetrics().size(Qt::TextSingleLine, text));

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <QPoint>
-#include <QPolygonF>
 #include <QRect>
-#include <QVector>
 
 class DesignView;
 class QPainter;
@@ -29,7 +27,6 @@ private:
     double AngleOf(const QPoint& view) const; ///< seen from the middle of what is turned
 
     const DesignView& m_view;
-    QVector<QPolygonF> m_outlines; ///< of what is turned, before it is; wall pixels
     double m_gripped = 0;
     double m_angle = 0;
     QPoint m_mouse;             ///< view pixels
