@@ -47,6 +47,8 @@ EditActions::EditActions(DocumentController& document, QObject* parent)
                         });
     QAction* remove = add(tr("&Delete"), tr("Delete the selected cabinets; their chains close up"),
                           QKeySequence::Delete, [](Document& wall) { wall.DeleteSelection(); });
+    for (QAction* action : {cut, remove}) // in a list or a field it would delete what nobody looks at
+        action->setShortcutContext(Qt::WidgetShortcut);
     QAction* group = add(tr("&Group"), tr("Make one group of the selected cabinets and groups of a port"),
                          Keys("Ctrl+G"), [](Document& wall) { wall.GroupSelection(); });
     QAction* ungroup = add(tr("U&ngroup"), tr("Take the outermost groups of the selected cabinets apart"),

@@ -142,7 +142,9 @@ void MainWindow::MakeFileMenu()
 
 void MainWindow::MakeEditMenu()
 {
-    m_edits->AddTo(*menuBar()->addMenu(tr("&Edit")));
+    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    m_edits->AddTo(*menu);
+    m_view->addActions(menu->actions()); // some have their key in the view alone
     m_edits->AddTo(*m_bar);
     m_bar->addSeparator();
 }
@@ -202,7 +204,7 @@ void MainWindow::MakeWallMenu()
         MakeAction(this, tr("&Turn…"), tr("Turn the selected cabinets about their middle"), Keys("Ctrl+R"));
     connect(turn, &QAction::triggered, this, &MainWindow::AskForAngle);
     QAction* turned = MakeAction(this, tr("Show turned cabinets as &turned"),
-                                 tr("Off: they are shown and found where they lay before they were turned"));
+                                 tr("Off: they are shown and found upright, each about its middle"));
     turned->setCheckable(true);
     turned->setChecked(GetConfigData()->IsEnableRotate());
     connect(turned, &QAction::toggled, &m_document, &DocumentController::SetRotationOn);

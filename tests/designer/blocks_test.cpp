@@ -214,6 +214,12 @@ TEST_F(BlocksStory, PropertiesAreShownAndTyped)
     EXPECT_EQ(fields[Width]->text() + fields[Number]->text(), "10241"_s) << "as wide as they come";
     Key(Qt::Key_A, kCtrl);
     QTRY_COMPARE(fields[Count]->text(), "12"_s);
+    for (const int field : {Count, Left}) {
+        fields[field]->setFocus();
+        QTest::keyClick(fields[field], Qt::Key_X, kCtrl);
+        QTest::keyClick(fields[field], Qt::Key_Delete);
+    }
+    EXPECT_TRUE(Tiles().GetCount() == 6 && Layout() == layouts.back()) << "keys that are the field's";
     for (const int field : {Width, Number, Port})
         EXPECT_TRUE(fields[field]->text().isEmpty() && fields[field]->placeholderText() == "mixed"_s)
             << field;

@@ -22,8 +22,9 @@ struct DesignerStory : testing::Test
     void Click(const QPoint& wall, Qt::KeyboardModifiers keys = Qt::NoModifier);
     void Drag(const QList<QPoint>& wall, Qt::KeyboardModifiers keys = Qt::NoModifier,
               Qt::MouseButton button = Qt::LeftButton); ///< down at the first place, up at the last
-    void Key(int key, Qt::KeyboardModifiers keys = Qt::NoModifier)
+    void Key(int key, Qt::KeyboardModifiers keys = Qt::NoModifier) ///< in the view
     {
+        view.setFocus();
         QTest::keyClick(&view, Qt::Key(key), keys);
     }
     QColor ColorAt(const QPoint& wall); ///< as it is on the screen

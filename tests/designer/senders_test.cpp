@@ -121,6 +121,9 @@ TEST_F(SendersStory, AGroupInTheTreeSelectsItsCabinets)
     ClickRow(Row(1)->child(0));
     EXPECT_EQ(document.GetSelection().size(), 6);
     EXPECT_TRUE(document.GetPort()->GetPortIndex() == 1 && tree.currentItem() == Row(1)->child(0));
+    tree.setFocus();
+    QTest::keyClick(&tree, Qt::Key_Delete);
+    EXPECT_EQ(Row(1)->childCount(), 1) << "in the tree it deletes no cabinets";
     Key(Qt::Key_Delete);
     EXPECT_EQ(Row(1)->childCount(), 0);
     ASSERT_TRUE(document.Undo());
