@@ -88,11 +88,9 @@ void BlockDialog::AddPair(QFormLayout& form, const QString& label, QSpinBox* fir
 
 void BlockDialog::FillPorts()
 {
-    const CSender& sender = *m_document.GetSender();
-    for (int i = 0; i < sender.GetPortCount(); ++i) {
-        const CPort& port = *sender.GetPort(i);
-        if (!port.IsVisible() || port.IsFlagLock() || port.IsBackupDest())
-            continue;
+    CSender& sender = *m_document.GetSender();
+    for (const CPort* port : DocumentController::OpenPorts(sender)) {
+        const int i = port->GetPortIndex();
         m_port->addItem(tr("Port %1").arg(i + 1), i);
         if (i == sender.GetRecentPortIndex())
             m_port->setCurrentIndex(m_port->count() - 1);
@@ -139,7 +137,7 @@ QPoint BlockDialog::FreePlace(const CSender& sender, int width)
     if (!sender.GetTileSet(tiles))
         return {};
     const QRect bound = tiles.GetBound();
-    const bool hasRoom = bound.right() + width < sender.GetCanvasSize().width();
+    const bool hasRoom = bound.right() + width <= DocumentController::CanvasOf(sender).right();
     const QPoint place =
         hasRoom ? QPoint(bound.right() + 1, bound.top()) : QPoint(bound.left(), bound.bottom() + 1);
     return QPoint(qBound(0, place.x(), kMaxCanvasWidth - 1), qBound(0, place.y(), kMaxCanvasHeight - 1));
@@ -184,10 +182,11 @@ void BlockDialog::ShowBlock()
                           .arg(qint64(block.rows) * block.height)
                           .arg(block.portIndex + 1)
                           .arg(load.replace(QLatin1Char(' '), QChar(QChar::Nbsp)))};
-    const QRect canvas(QPoint(), sender.GetCanvasSize());
+    const QRect canvas = DocumentController::CanvasOf(sender);
+    const QRect area = canvas.isNull() ? DocumentController::LimitsOf(sender) : canvas;
     if (!why.isEmpty())
         lines.append(why);
-    else if (!canvas.isEmpty() && !canvas.contains(m_document.BoundOf(block)))
+    else if (!area.contains(m_document.BoundOf(block)))
         lines.append(tr("Part of it lies beyond the canvas."));
     m_about->setText(lines.join(QLatin1Char('\n')));
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(why.isEmpty());

@@ -54,11 +54,12 @@ bool DocumentController::IsModified() const
 
 bool DocumentController::IsSaveNeeded() const
 {
-    return History().NeedsSaving();
+    return m_numbered || History().NeedsSaving();
 }
 
 void DocumentController::NewProject()
 {
+    FinishNumbering();
     GetProject().SetToDefault();
     Append(kNewCanvas);
     History().Init(); // an empty project is nothing to save
@@ -70,8 +71,10 @@ void DocumentController::NewProject()
 DocumentFile::Outcome DocumentController::Open(const QString& path, bool readOnly,
                                                CCustomProgressbar* progress, QString* text)
 {
+    FinishNumbering();
     const DocumentFile::Outcome outcome = m_file.Open(path, readOnly, progress, text);
     KeepCurrentPort();
+    ShowTurned();
     emit FileChanged();
     return outcome;
 }
@@ -79,6 +82,7 @@ DocumentFile::Outcome DocumentController::Open(const QString& path, bool readOnl
 DocumentFile::Outcome DocumentController::Save(const QString& path, CCustomProgressbar* progress,
                                                QString* text)
 {
+    FinishNumbering();
     const DocumentFile::Outcome outcome = m_file.Save(path, progress, text);
     emit FileChanged();
     return outcome;
@@ -112,9 +116,12 @@ CSender* DocumentController::Append(const QSize& canvas)
 
 bool DocumentController::DeleteSender(int index, QWidget* parent)
 {
+    FinishNumbering();
     const bool done = GetProject().DeleteSender(index, true, false, true, parent);
-    if (done)
+    if (done) {
+        KeepCurrentPort();
         emit SenderChanged();
+    }
     return done;
 }
 
@@ -123,9 +130,11 @@ void DocumentController::SetCurrentPort(int sender, int port)
     CProjectData& project = GetProject();
     if (!project.GetSender(sender))
         return;
+    FinishNumbering();
     const bool isOther = sender != project.GetCurSenderIndex();
     project.SetCurrentSender(sender);
     project.GetSender(sender)->SetRecentPortIndex(port);
+    KeepCurrentPort();
     if (isOther)
         emit SenderChanged();
     else
@@ -136,10 +145,9 @@ void DocumentController::SetCurrentSender(int index)
 {
     if (const CSender* sender = GetProject().GetSender(index))
         SetCurrentPort(index, sender->GetRecentPortIndex());
-    KeepCurrentPort();
 }
 
-/// Files and steps may name a port that is not in use.
+/// Files, steps and lists of faults may name a port that is not in use.
 void DocumentController::KeepCurrentPort()
 {
     CSender* sender = GetSender();
@@ -152,12 +160,8 @@ void DocumentController::KeepCurrentPort()
 void DocumentController::SelectGroup(const SPortPlace& place, const QUuid& id)
 {
     SetCurrentPort(place.sender, place.port);
-    CPort* port = GetPort();
-    const QString why = port ? WhyClosed(*port) : QString();
-    if (!why.isEmpty())
-        emit Refused(why);
     CTileSet tiles;
-    if (!port || !why.isEmpty() || !port->GetPortProject()->GetTileSetInGroupRecursive(tiles, id))
+    if (!MayEditPort() || !GetPort()->GetPortProject()->GetTileSetInGroupRecursive(tiles, id))
         return;
     QList<CTile*> list;
     for (CTile* tile : tiles)
@@ -182,6 +186,16 @@ QString DocumentController::WhyClosed(const CPort& port)
     return WhyShut(port);
 }
 
+QList<CPort*> DocumentController::OpenPorts(CSender& sender)
+{
+    QList<CPort*> ports;
+    for (int i = 0; i < sender.GetPortCount(); ++i) {
+        if (WhyClosed(*sender.GetPort(i)).isEmpty())
+            ports.append(sender.GetPort(i));
+    }
+    return ports;
+}
+
 // history
 
 bool DocumentController::Record(CProjectUndoRedo::Type type)
@@ -191,11 +205,13 @@ bool DocumentController::Record(CProjectUndoRedo::Type type)
 
 bool DocumentController::Undo(int steps)
 {
+    FinishNumbering();
     return Went(History().Undo(steps, nullptr, nullptr));
 }
 
 bool DocumentController::Redo(int steps)
 {
+    FinishNumbering();
     return Went(History().Redo(steps, nullptr, nullptr));
 }
 

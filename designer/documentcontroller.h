@@ -17,8 +17,9 @@ struct LayoutImport
     bool attributes = false;     ///< how the sender is named and shown, too
 };
 
-/// The open document as the windows see it, at first a new one. Nothing else in the program writes to the
-/// library: each edit is one call here, and one step of the history. Lives between LedNimbraData_Init and
+/// The open document as the windows see it, at first a new one. Each edit of a port's layout is one call
+/// here, and one step of the history. What no step holds of senders, ports and the printed form is for
+/// SenderEdits, and settings are written where they are chosen. Lives between LedNimbraData_Init and
 /// LedNimbraData_Release.
 class DocumentController : public QObject
 {
@@ -33,6 +34,10 @@ public:
     CSender* GetSender() const;                  ///< [ref] the current one, null without senders
     CPort* GetPort() const;                      ///< [ref] the current one of that sender
     static QString WhyClosed(const CPort& port); ///< why its cabinets stay as they are; empty: they need not
+    static QList<CPort*> OpenPorts(CSender& sender); ///< [ref] in use and not closed
+    // where the check and the drawings take the sender's canvas to lie among its cabinets
+    static QRect CanvasOf(const CSender& sender); ///< null: it has none
+    static QRect LimitsOf(const CSender& sender); ///< of the largest canvas that there can be
     const DocumentFile& GetFile() const { return m_file; }
     bool IsModified() const;   ///< as the library has it: a project may stay modified after a save
     bool IsSaveNeeded() const; ///< there is a change since the last save
@@ -52,7 +57,7 @@ public:
         HistoryWouldEnd, ///< no step can hold this; nothing was done
         Failed,          ///< nothing was done
     };
-    bool MayImport(bool ofPort); ///< false, and told why, for a port that is hidden, locked or a backup
+    bool MayImport(bool ofPort); ///< false, and told why, without a sender, or for a closed port
     /// `text` receives what to tell the user, unless all went well or MayImport told it.
     ImportOutcome ImportLayout(const LayoutImport& wanted, bool historyMayEnd, QString* text);
 
@@ -70,13 +75,15 @@ public:
     void SelectAll();                   ///< of ports that are shown and not locked
     QList<CTile*> GetSelection() const; ///< [ref] by port, in list order
     QRect GetSelectionBound() const;
-    /// The current port's nearest cabinet in the direction of an arrow key, from the last selected one.
-    CTile* FindNeighbour(int key) const;
+    /// The current port's nearest cabinet in the direction of an arrow key, from the last selected one. On a
+    /// closed port none, and told why.
+    CTile* FindNeighbour(int key);
 
     // edits of the selection: one step each. False: refused, and told why, or nothing to do
-    bool MayEditSelection(); ///< false, and told why, when some of it is on a closed port
-    QPoint Limited(const QRect& bound, const QPoint& by) const; ///< so that it stays on the largest canvas
-    bool MoveSelection(const QPoint& by);
+    bool MayEditSelection(); ///< there is one; false, and told why, when some of it is on a closed port
+    /// So that it comes to lie within LimitsOf, along the axes that it moves on.
+    QPoint Limited(const QRect& bound, const QPoint& by) const;
+    bool MoveSelection(const QPoint& by); ///< limited
     bool DeleteSelection();
     bool TurnSelection(double angle);   ///< degrees, clockwise, about its middle; rotation is on afterwards
     bool TurnSelectionTo(double angle); ///< as one when all are turned alike, else each by itself
@@ -98,12 +105,13 @@ public:
     bool AddBlock(const SAddTileInfo& block);
 
     // chain of the current port: one step each
+    bool MayEditPort(); ///< false, and told why, when it is hidden, locked or a backup
     bool NumberAll(EnAutoNumberType pattern);
     bool ClearNumbers();
     bool NumberByKey(int key); ///< the next cabinet in the direction of an arrow key
-    bool MayNumber();          ///< false, and told why, for a port that is hidden, locked or a backup
-    /// Numbers cabinets one after the other without a step, until FinishNumbering makes one of all of them.
-    /// Passes over those that have a number or are not of this port; false when none is left.
+    /// Numbers cabinets one after the other without a step, until FinishNumbering makes one of all of them,
+    /// or another edit begins. Passes over those that have a number or are not of this port; false when none
+    /// is left.
     bool NumberNext(const QList<CTile*>& tiles);
     bool FinishNumbering();
     bool InsertIntoChain(CTile& tile);  ///< behind the selected cabinet; it is selected instead
@@ -140,6 +148,7 @@ private:
     bool Record(CProjectUndoRedo::Type type);
     bool Refuse(const QString& why);       ///< tells the user; always false
     bool IsAllowed(const QString& whyNot); ///< with no reason against it
+    void ShowTurned();                     ///< when some cabinet is
     void SelectionDone();
     static QString WhyTooLarge();
     QString WhyNoRoom(const CPort& port, qint64 cabinets) const; ///< for that many more; empty: there is
@@ -148,6 +157,7 @@ private:
     void MoveSelected(const QPoint& by);
     bool FinishTurn();
     void DeleteSelected(CPort& port);
+    bool RemoveSelection(CProjectUndoRedo::Type type);
     CSender* Append(const QSize& canvas); ///< [ref]
     bool Went(bool done);
 

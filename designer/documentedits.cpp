@@ -1,6 +1,34 @@
 // The selection of the open document, blocks that are added, and the chain.
 #include "documentcontroller.h"
 
+#include <orvantools/tileshape.h>
+
+namespace {
+
+constexpr double kFarthest = 1000000; ///< of an offset, which a file may set to anything
+
+QPoint CanvasPlace(const CSender& sender)
+{
+    const QPointF offset = OrvanTools::OffsetOf(sender);
+    return QPoint(-qRound(qBound(-kFarthest, offset.x(), kFarthest)),
+                  -qRound(qBound(-kFarthest, offset.y(), kFarthest)));
+}
+
+} // namespace
+
+QRect DocumentController::CanvasOf(const CSender& sender)
+{
+    const QSize size = sender.GetCanvasSize();
+    return size.isEmpty() ? QRect() : QRect(CanvasPlace(sender), size);
+}
+
+QRect DocumentController::LimitsOf(const CSender& sender)
+{
+    const QSize largest(kMaxCanvasWidth, kMaxCanvasHeight);
+    return QRect(CanvasPlace(sender), largest)
+           & QRect(-kMaxCanvasWidth, -kMaxCanvasHeight, 2 * kMaxCanvasWidth, 2 * kMaxCanvasHeight);
+}
+
 /// Those of ports in use that have cabinets of their own.
 QList<CPort*> DocumentController::PortsWithCabinets() const
 {
@@ -48,8 +76,8 @@ void DocumentController::SelectGroups()
 
 void DocumentController::SelectAll()
 {
-    for (CPort* port : PortsWithCabinets()) {
-        if (port->IsVisible() && !port->IsFlagLock())
+    if (CSender* sender = GetSender()) {
+        for (CPort* port : OpenPorts(*sender))
             port->GetTileSet().SelectAll(InterfaceDesign);
     }
     SelectionDone();
@@ -87,16 +115,16 @@ QRect DocumentController::GetSelectionBound() const
     return bound;
 }
 
-CTile* DocumentController::FindNeighbour(int key) const
+CTile* DocumentController::FindNeighbour(int key)
 {
-    CPort* port = GetPort();
-    if (!port)
+    if (!MayEditPort())
         return nullptr;
+    CTileSet& tiles = GetPort()->GetTileSet();
     CTileSet selected;
-    port->GetTileSet().GetSelTileSet(selected, InterfaceDesign);
+    tiles.GetSelTileSet(selected, InterfaceDesign);
     const CTile* last = selected.GetTile(selected.GetCount() - 1);
-    return port->GetTileSet().GetDirectionTile(last ? last->GetBound() : QRect(),
-                                               static_cast<unsigned long>(key), false, false);
+    return tiles.GetDirectionTile(last ? last->GetBound() : QRect(), static_cast<unsigned long>(key), false,
+                                  false);
 }
 
 // adding
@@ -134,25 +162,29 @@ QString DocumentController::WhyNotAddable(const SAddTileInfo& block) const
 
 bool DocumentController::AddBlock(const SAddTileInfo& block)
 {
+    FinishNumbering();
     if (!IsAllowed(WhyNotAddable(block)))
         return false;
     Select({}, Choice::Replace);
     GetSender()->SetRecentPortIndex(block.portIndex);
     GetPort()->GetPortProject()->AddTile(block);
-    return Record(CSenderRecordItem::OperationAddTiles);
+    const bool done = Record(CSenderRecordItem::OperationAddTiles);
+    emit PortStatesChanged();
+    return done;
 }
 
 // chain
 
-bool DocumentController::MayNumber()
+bool DocumentController::MayEditPort()
 {
+    FinishNumbering();
     const CPort* port = GetPort();
     return port && IsAllowed(WhyClosed(*port));
 }
 
 bool DocumentController::NumberAll(EnAutoNumberType pattern)
 {
-    if (!MayNumber())
+    if (!MayEditPort())
         return false;
     if (GetPort()->GetTileSet().GetCount() == 0)
         return Refuse(tr("Port %1 has no cabinets to number.").arg(GetPort()->GetPortIndex() + 1));
@@ -164,7 +196,7 @@ bool DocumentController::NumberAll(EnAutoNumberType pattern)
 
 bool DocumentController::ClearNumbers()
 {
-    if (!MayNumber() || !GetPort()->GetTileSet().HasNumberedTiles())
+    if (!MayEditPort() || !GetPort()->GetTileSet().HasNumberedTiles())
         return false;
     GetPort()->GetTileSet().ClearConnectIndex();
     GetPort()->GetTileSet().TileSetNormalization();
@@ -173,8 +205,11 @@ bool DocumentController::ClearNumbers()
 
 bool DocumentController::NumberNext(const QList<CTile*>& tiles)
 {
-    const int port = GetPort()->GetPortIndex();
-    CTile* last = GetPort()->GetTileSet().GetEndIndexTile();
+    CPort* current = GetPort();
+    if (!current || !WhyClosed(*current).isEmpty())
+        return false;
+    const int port = current->GetPortIndex();
+    CTile* last = current->GetTileSet().GetEndIndexTile();
     bool any = false;
     for (CTile* tile : tiles) {
         if (tile->HasSetConnectIndex() || tile->GetPortIndex() != port)
@@ -199,7 +234,7 @@ bool DocumentController::FinishNumbering()
 /// The later ones move up by one.
 bool DocumentController::InsertIntoChain(CTile& tile)
 {
-    if (!MayNumber() || tile.HasSetConnectIndex() || tile.GetPortIndex() != GetPort()->GetPortIndex())
+    if (!MayEditPort() || tile.HasSetConnectIndex() || tile.GetPortIndex() != GetPort()->GetPortIndex())
         return false;
     CTileSet& tiles = GetPort()->GetTileSet();
     CTileSet selected;
@@ -222,7 +257,7 @@ bool DocumentController::InsertIntoChain(CTile& tile)
 
 bool DocumentController::NumberByKey(int key)
 {
-    return MayNumber() && GetPort()->GetTileSet().DirectionKeyConnection(static_cast<unsigned long>(key))
+    return MayEditPort() && GetPort()->GetTileSet().DirectionKeyConnection(static_cast<unsigned long>(key))
            && Record(CSenderRecordItem::OperationConnect);
 }
 

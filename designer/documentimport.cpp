@@ -30,21 +30,16 @@ bool Read(CProjectData& project, const LayoutImport& wanted)
 
 bool DocumentController::MayImport(bool ofPort)
 {
-    const CPort* port = GetPort();
-    QString why;
-    if (!port)
-        why = tr("There is no sender yet. Add one first.");
-    else if (ofPort)
-        why = WhyClosed(*port);
-    if (!why.isEmpty())
-        emit Refused(why);
-    return why.isEmpty();
+    if (!GetPort())
+        return Refuse(tr("There is no sender yet. Add one first."));
+    return !ofPort || MayEditPort();
 }
 
 /// No step holds eyes and locks, which a file of a sender brings too.
 DocumentController::ImportOutcome DocumentController::ImportLayout(const LayoutImport& wanted,
                                                                    bool historyMayEnd, QString* text)
 {
+    FinishNumbering();
     if (!MayImport(wanted.ofPort))
         return ImportOutcome::Failed;
     CSender* sender = GetSender();
@@ -63,6 +58,8 @@ DocumentController::ImportOutcome DocumentController::ImportLayout(const LayoutI
     *text = GetProject().GetLastFileError();
     if (!done)
         return ImportOutcome::Failed;
+    KeepCurrentPort();
+    ShowTurned();
     Select({}, Choice::Replace);
     if (fits)
         Record(CSenderRecordItem::OperationImportLayout);

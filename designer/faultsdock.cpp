@@ -95,10 +95,11 @@ void FaultsDock::Choose(const QListWidgetItem* item)
     const auto place = item->data(kPlaceRole).value<SPortPlace>();
     const CSender* sender = m_document.GetProject().GetSender(place.sender);
     const CPort* port = sender ? sender->GetPort(place.port) : nullptr;
-    if (!port)
+    if (!port || place.port >= sender->GetPortCount())
         return;
     m_document.SetCurrentPort(place.sender, place.port);
-    if (CTile* tile = port->GetTileSet().GetTile(item->data(kCabinetRole).toInt())) {
+    CTile* tile = port->GetTileSet().GetTile(item->data(kCabinetRole).toInt());
+    if (tile && m_document.MayEditPort()) {
         m_document.Select({tile}, DocumentController::Choice::Replace);
         emit CabinetChosen(tile->GetBound());
     }

@@ -1,26 +1,28 @@
 #include "hittest.h"
 
+#include "documentcontroller.h"
 #include "scenemodel.h"
+
+#include <algorithm>
 
 namespace {
 
-/// From the top.
-QList<CPort*> OpenPorts(CSender& sender)
+/// As they are drawn, the current one before others.
+QList<CPort*> FromTop(CSender& sender)
 {
-    QList<CPort*> ports;
-    const auto add = [&](int index) {
-        CPort* port = sender.GetPort(index);
-        if (port && index < sender.GetPortCount() && port->IsVisible() && !port->IsFlagLock()
-            && !port->IsBackupDest())
-            ports.append(port);
-    };
-    const int current = sender.GetRecentPortIndex();
-    add(current);
-    for (int i = sender.GetPortCount() - 1; i >= 0; --i) {
-        if (i != current)
-            add(i);
-    }
+    QList<CPort*> ports = DocumentController::OpenPorts(sender);
+    std::reverse(ports.begin(), ports.end());
+    const int current = ports.indexOf(sender.GetPort(sender.GetRecentPortIndex()));
+    if (current > 0)
+        ports.move(current, 0);
     return ports;
+}
+
+bool IsTouched(const CTile& turned, const QRect& rect)
+{
+    const QRect bound = turned.GetBound();
+    return rect.contains(bound)
+           || (rect.intersects(bound) && SceneModel::CornersOf(turned).intersects(QPolygonF(QRectF(rect))));
 }
 
 } // namespace
@@ -28,7 +30,7 @@ QList<CPort*> OpenPorts(CSender& sender)
 CTile* HitTest::TopAt(CSender& sender, const QPoint& place)
 {
     CTileSet found;
-    for (const CPort* port : OpenPorts(sender)) {
+    for (const CPort* port : FromTop(sender)) {
         if (port->GetTileSet().GetTileSetAtPosition(found, place.x(), place.y()))
             return found.GetTile(0);
     }
@@ -40,10 +42,9 @@ QList<CTile*> HitTest::InRect(CSender& sender, const QRect& rect, bool whole)
 {
     QList<CTile*> tiles;
     CTileSet found;
-    const QPolygonF area = QRectF(rect);
-    for (const CPort* port : OpenPorts(sender)) {
+    for (const CPort* port : FromTop(sender)) {
         for (CTile* tile : port->GetTileSet()) {
-            if (!whole && tile->IsTileRotated() && SceneModel::CornersOf(*tile).intersects(area))
+            if (!whole && tile->IsTileRotated() && IsTouched(*tile, rect))
                 tiles.append(tile);
         }
         port->GetTileSet().GetTileSetAtRect(found, rect, whole);

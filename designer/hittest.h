@@ -4,7 +4,7 @@
 
 #include <QList>
 
-/// Which cabinets of a sender the mouse means: those of ports that are shown and not locked.
+/// Which cabinets of a sender the mouse means: those of open ports.
 namespace HitTest {
 
 /// The one on top as it is drawn, the current port's before others; null where there is none.

@@ -24,7 +24,7 @@ QString NumberTool::GetHint() const
 
 void NumberTool::Press(const QMouseEvent& event)
 {
-    if (!m_document.MayNumber())
+    if (!m_document.MayEditPort())
         return;
     m_held = !(event.modifiers() & Qt::ShiftModifier);
     m_last = m_view.GetMap().ToWall(event.localPos());
@@ -43,12 +43,13 @@ void NumberTool::Insert(CTile& tile)
         m_document.InsertIntoChain(tile);
 }
 
-/// Of the current port.
+/// Of the current port, which may go while the mouse is dragged.
 CTile* NumberTool::TileAt(const QPointF& wall) const
 {
     CTileSet found;
-    m_document.GetPort()->GetTileSet().GetTileSetAtPosition(found, static_cast<int>(std::floor(wall.x())),
-                                                            static_cast<int>(std::floor(wall.y())));
+    if (const CPort* port = m_document.GetPort())
+        port->GetTileSet().GetTileSetAtPosition(found, static_cast<int>(std::floor(wall.x())),
+                                                static_cast<int>(std::floor(wall.y())));
     return found.GetTile(0);
 }
 

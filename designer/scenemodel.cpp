@@ -1,5 +1,6 @@
 #include "scenemodel.h"
 
+#include "documentcontroller.h"
 #include "groupbounds.h"
 
 #include <orvantools/portload.h>
@@ -92,6 +93,8 @@ void SceneModel::Renew()
 
 void SceneModel::RenewPort(int port)
 {
+    if (port < 0 || port >= static_cast<int>(m_ports.size()))
+        return;
     Read(port);
     Tell();
 }
@@ -106,11 +109,13 @@ void SceneModel::RenewSelection()
 {
     const CSender* sender = GetProjectData()->GetCurrentSender();
     for (size_t i = 0; i < m_ports.size(); ++i) {
-        size_t place = 0;
-        if (!sender || m_ports[i].cabinets.empty())
-            continue;
-        for (const CTile* tile : sender->GetPort(static_cast<int>(i))->GetTileSet())
-            m_ports[i].cabinets[place++].selected = tile->IsSelected(InterfaceDesign);
+        std::vector<SceneCabinet>& cabinets = m_ports[i].cabinets;
+        const CTileSet* tiles = sender ? &sender->GetPort(static_cast<int>(i))->GetTileSet() : nullptr;
+        if (!tiles || tiles->GetCount() != static_cast<int>(cabinets.size()))
+            continue; // a backup port, or cabinets that came or went and are not told yet
+        auto cabinet = cabinets.begin();
+        for (const CTile* tile : *tiles)
+            (cabinet++)->selected = tile->IsSelected(InterfaceDesign);
     }
     Tell();
 }
@@ -147,10 +152,8 @@ void SceneModel::Read(int index)
 void SceneModel::ReadStates()
 {
     const CSender* sender = GetProjectData()->GetCurrentSender();
-    m_canvas = QRect();
+    m_canvas = sender ? DocumentController::CanvasOf(*sender) : QRect();
     m_currentPort = sender ? sender->GetRecentPortIndex() : 0;
-    if (sender && !sender->GetCanvasSize().isEmpty())
-        m_canvas = QRect(QPoint(), sender->GetCanvasSize());
     for (size_t i = 0; sender && i < m_ports.size(); ++i) {
         const CPort& port = *sender->GetPort(static_cast<int>(i));
         m_ports[i].visible = port.IsVisible();

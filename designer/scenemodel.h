@@ -82,7 +82,7 @@ public:
 
     const std::vector<ScenePort>& GetPorts() const { return m_ports; } ///< those in use
     QRect GetBound() const;                                            ///< of the cabinets shown
-    QRect GetCanvas() const { return m_canvas; }                       ///< null when the sender has none
+    QRect GetCanvas() const { return m_canvas; }                       ///< null: the sender has none
     int GetCurrentPort() const { return m_currentPort; }
     quint64 GetRevision() const { return m_revision; } ///< another one whenever something looks different
 

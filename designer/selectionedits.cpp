@@ -5,7 +5,7 @@
 
 namespace {
 
-const QRect kLargestCanvas(0, 0, kMaxCanvasWidth, kMaxCanvasHeight);
+const QRect kSeen(0, 0, kMaxCanvasWidth, kMaxCanvasHeight); ///< by the design view
 constexpr QPoint kAside(16, 16);
 
 /// Where copies go: where they were when nothing lies there, else beside that, else beside all cabinets,
@@ -26,7 +26,7 @@ QPoint FreePlace(const QList<CPort*>& ports, const CSender& sender, const QRect&
             return port->GetTileSet().GetTileSetAtRect(found, place, false);
         });
     };
-    for (const QRect& canvas : {QRect(QPoint(), sender.GetCanvasSize()), kLargestCanvas}) {
+    for (const QRect& canvas : {DocumentController::CanvasOf(sender) & kSeen, kSeen}) {
         for (const QPoint& place : places) {
             const QRect covered(place, bound.size());
             if (canvas.contains(covered) && isFree(covered))
@@ -36,24 +36,36 @@ QPoint FreePlace(const QList<CPort*>& ports, const CSender& sender, const QRect&
     return bound.topLeft() + kAside;
 }
 
+/// How far to move instead, so that it comes to lie inside the area.
+QPoint Kept(const QPoint& by, const QRect& bound, const QRect& area)
+{
+    return QPoint(qMax(qMin(by.x(), area.right() - bound.right()), area.left() - bound.left()),
+                  qMax(qMin(by.y(), area.bottom() - bound.bottom()), area.top() - bound.top()));
+}
+
 } // namespace
 
 bool DocumentController::MayEditSelection()
 {
+    FinishNumbering();
+    bool any = false;
     for (CPort* port : PortsWithCabinets()) {
-        if (CPortSelection(*port).GetTiles().GetCount() > 0 && !IsAllowed(WhyClosed(*port)))
+        if (CPortSelection(*port).GetTiles().GetCount() == 0)
+            continue;
+        if (!IsAllowed(WhyClosed(*port)))
             return false;
+        any = true;
     }
-    return true;
+    return any;
 }
 
+/// What lies outside already is not drawn in along the other axis.
 QPoint DocumentController::Limited(const QRect& bound, const QPoint& by) const
 {
-    const auto limit = [](int wanted, int first, int last, int size) {
-        return qMax(qMin(wanted, size - 1 - last), -first);
-    };
-    return QPoint(limit(by.x(), bound.left(), bound.right(), kMaxCanvasWidth),
-                  limit(by.y(), bound.top(), bound.bottom(), kMaxCanvasHeight));
+    if (!GetSender())
+        return {};
+    const QPoint kept = Kept(by, bound, LimitsOf(*GetSender()));
+    return QPoint(by.x() == 0 ? 0 : kept.x(), by.y() == 0 ? 0 : kept.y());
 }
 
 void DocumentController::MoveSelected(const QPoint& by)
@@ -64,9 +76,10 @@ void DocumentController::MoveSelected(const QPoint& by)
 
 bool DocumentController::MoveSelection(const QPoint& by)
 {
-    if (by.isNull() || !MayEditSelection())
+    const QPoint limited = Limited(GetSelectionBound(), by);
+    if (limited.isNull() || !MayEditSelection())
         return false;
-    MoveSelected(by);
+    MoveSelected(limited);
     return Record(CSenderRecordItem::OperationMoveTiles);
 }
 
@@ -79,21 +92,26 @@ void DocumentController::DeleteSelected(CPort& port)
         port.GetTileSet().TileSetNormalization();
 }
 
-bool DocumentController::DeleteSelection()
+bool DocumentController::RemoveSelection(CProjectUndoRedo::Type type)
 {
-    if (GetSelection().isEmpty() || !MayEditSelection())
+    if (!MayEditSelection())
         return false;
     for (CPort* port : PortsWithCabinets())
         DeleteSelected(*port);
-    return Record(CSenderRecordItem::OperationDeleteTiles);
+    return Record(type);
 }
 
-/// What would then lie beyond the largest canvas, where no view shows it, comes back onto it.
+bool DocumentController::DeleteSelection()
+{
+    return RemoveSelection(CSenderRecordItem::OperationDeleteTiles);
+}
+
 bool DocumentController::TurnSelection(double angle)
 {
-    const QRectF bound = GetSelectionBound();
-    if (bound.isEmpty() || qFuzzyIsNull(angle) || !MayEditSelection())
+    if (qFuzzyIsNull(angle) || !MayEditSelection())
         return false;
+    SetRotationOn(true); // upright, the selection may have its middle elsewhere
+    const QRectF bound = GetSelectionBound();
     SRotateParam turn;
     turn.angle = angle;
     turn.centerX = bound.center().x();
@@ -105,9 +123,10 @@ bool DocumentController::TurnSelection(double angle)
 
 bool DocumentController::TurnSelectionTo(double angle)
 {
-    const QList<CTile*> tiles = GetSelection();
-    if (tiles.isEmpty() || !MayEditSelection())
+    if (!MayEditSelection())
         return false;
+    SetRotationOn(true);
+    const QList<CTile*> tiles = GetSelection();
     const double present = tiles.first()->GetRotateRecord().angle;
     if (std::all_of(tiles.begin(), tiles.end(),
                     [&](const CTile* tile) { return qFuzzyIsNull(tile->GetRotateRecord().angle - present); }))
@@ -117,10 +136,10 @@ bool DocumentController::TurnSelectionTo(double angle)
     return FinishTurn();
 }
 
+/// What would then lie beyond the largest canvas comes back onto it.
 bool DocumentController::FinishTurn()
 {
-    SetRotationOn(true);
-    MoveSelected(Limited(GetSelectionBound(), {}));
+    MoveSelected(Kept({}, GetSelectionBound(), LimitsOf(*GetSender())));
     return Record(CSenderRecordItem::OperationRotate);
 }
 
@@ -132,25 +151,41 @@ void DocumentController::SetRotationOn(bool on)
     emit RotationChanged(on);
 }
 
+/// Files are drawn and checked as turned whatever the setting is, so whoever opens one expects to see it so.
+void DocumentController::ShowTurned()
+{
+    for (int i = 0; i < GetProject().GetSenderCount(); ++i) {
+        for (const CPort& port : GetProject().GetSender(i)->GetPorts()) {
+            const CTileSet& tiles = port.GetTileSet();
+            if (std::any_of(tiles.begin(), tiles.end(),
+                            [](const CTile* tile) { return tile->GetRotateRecord().rotated; })) {
+                SetRotationOn(true);
+                return;
+            }
+        }
+    }
+}
+
 /// Turned cabinets stay where they are, as their rows do not go along the canvas.
 bool DocumentController::ResizeSelection(int width, int height)
 {
+    if (!MayEditSelection())
+        return false;
     CTileSet tiles;
     for (CTile* tile : GetSelection())
         tiles.AddTile(tile);
-    if (tiles.GetCount() == 0 || !MayEditSelection())
-        return false;
     width = qMin(width, kMaxCabinetSize);
     height = qMin(height, kMaxCabinetSize);
     const bool keepsGrid = std::none_of(tiles.begin(), tiles.end(),
                                         [](const CTile* tile) { return tile->GetRotateRecord().rotated; });
     const QRect bound = tiles.GetBound();
+    const QRect limits = LimitsOf(*GetSender());
     const auto end = [](int start, int at, int size, int wanted) {
         return size > 0 ? start + (qint64(at - start) / size + 1) * wanted : 0;
     };
     if (keepsGrid && std::any_of(tiles.begin(), tiles.end(), [&](const CTile* tile) {
-            return end(bound.left(), tile->GetX(), tile->GetWidth(), width) > kMaxCanvasWidth
-                   || end(bound.top(), tile->GetY(), tile->GetHeight(), height) > kMaxCanvasHeight;
+            return end(bound.left(), tile->GetX(), tile->GetWidth(), width) > limits.right() + 1
+                   || end(bound.top(), tile->GetY(), tile->GetHeight(), height) > limits.bottom() + 1;
         }))
         return Refuse(WhyTooLarge());
     tiles.SetWidthAuto(width, keepsGrid);
@@ -164,12 +199,11 @@ bool DocumentController::ResizeSelection(int width, int height)
 
 bool DocumentController::GroupSelection()
 {
-    const QList<CTile*> tiles = GetSelection();
     if (!MayEditSelection())
         return false;
-    if (tiles.isEmpty() || GetSender()->IsSelectMultiPortTile(-1))
+    if (GetSender()->IsSelectMultiPortTile(-1))
         return Refuse(tr("A group holds cabinets of one port. Select some of one port alone."));
-    switch (CPortSelection(*GetSender()->GetPort(tiles.first()->GetPortIndex())).Group()) {
+    switch (CPortSelection(*GetSender()->GetPort(GetSelection().first()->GetPortIndex())).Group()) {
     case CPortSelection::Grouped::TooFew:
         return Refuse(tr("Select two cabinets or groups at least."));
     case CPortSelection::Grouped::InPart:
@@ -206,12 +240,10 @@ void DocumentController::CopySelection()
 
 bool DocumentController::CutSelection()
 {
-    if (GetSelection().isEmpty() || !MayEditSelection())
+    if (!MayEditSelection())
         return false;
     CopySelection();
-    for (CPort* port : PortsWithCabinets())
-        DeleteSelected(*port);
-    return Record(CSenderRecordItem::OperationCutTiles);
+    return RemoveSelection(CSenderRecordItem::OperationCutTiles);
 }
 
 QString DocumentController::WhyNoRoom(const CPort& port, qint64 cabinets) const
@@ -226,6 +258,7 @@ QString DocumentController::WhyNoRoom(const CPort& port, qint64 cabinets) const
 
 bool DocumentController::Paste()
 {
+    FinishNumbering();
     CPort* port = GetPort();
     if (!port || !HasCopies() || !IsAllowed(WhyNoRoom(*port, m_copies.GetTileSet()->GetCount())))
         return false;
@@ -247,13 +280,15 @@ bool DocumentController::Paste()
 /// Those that are on that port already stay as they are.
 bool DocumentController::MoveSelectionToPort(int index)
 {
-    CPort* port = GetSender() ? GetSender()->GetPort(index) : nullptr;
+    if (!MayEditSelection())
+        return false;
+    CPort* port = GetSender()->GetPort(index);
     QList<CPort*> others = PortsWithCabinets();
     others.removeAll(port);
     CPortProject moved;
     for (CPort* other : qAsConst(others))
         CPortSelection(*other).CopyTo(moved);
-    if (!port || moved.GetTileSet()->GetCount() == 0 || !MayEditSelection()
+    if (!port || moved.GetTileSet()->GetCount() == 0
         || !IsAllowed(WhyNoRoom(*port, moved.GetTileSet()->GetCount())))
         return false;
     for (CPort* other : qAsConst(others))

@@ -4,6 +4,7 @@
 #include "documentcontroller.h"
 #include "hittest.h"
 #include "scenemodel.h"
+#include "scenepainter.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -66,7 +67,10 @@ void SelectTool::Press(const QMouseEvent& event)
     m_grip = m_view.GetMap().ToWall(event.localPos());
     m_selectsOne = false;
     if (m_handle.IsAt(event.pos())) {
-        m_state = m_document.MayEditSelection() ? State::Turning : State::Idle;
+        const bool may = m_document.MayEditSelection();
+        m_state = may ? State::Turning : State::Idle;
+        if (may)
+            m_document.SetRotationOn(true); // upright, the selection may have its middle elsewhere
         m_handle.Grip(event.pos());
         return;
     }
@@ -190,8 +194,7 @@ bool SelectTool::MoveByKey(const QPoint& direction, bool onePixel)
     if (selected.isEmpty())
         return false;
     const QSize step = onePixel ? QSize(1, 1) : selected.first()->GetSize();
-    const QPoint by(direction.x() * step.width(), direction.y() * step.height());
-    m_document.MoveSelection(m_document.Limited(m_document.GetSelectionBound(), by));
+    m_document.MoveSelection(QPoint(direction.x() * step.width(), direction.y() * step.height()));
     return true;
 }
 
@@ -229,21 +232,8 @@ void SelectTool::Paint(QPainter& painter) const
 void SelectTool::PaintMoved(QPainter& painter) const
 {
     const ViewMap& map = m_view.GetMap();
-    const QColor color = m_view.palette().color(QPalette::Highlight);
-    const QRect shown = map.GetShown();
-    QVector<QRect> places;
-    for (const ScenePort& port : m_view.GetScene().GetPorts()) {
-        port.Walk(shown.translated(-m_snapped.moved), [&](size_t i) {
-            if (port.cabinets[i].selected)
-                places.append(
-                    map.ToView(port.cabinets[i].place.translated(m_snapped.moved)).adjusted(0, 0, -1, -1));
-        });
-    }
-    QColor fill = color;
-    fill.setAlpha(90);
-    painter.setPen(QPen(color, 1));
-    painter.setBrush(fill);
-    painter.drawRects(places);
+    ScenePainter(painter, m_view.GetScene(), map, m_view.palette())
+        .PaintMoved(QTransform::fromTranslate(m_snapped.moved.x(), m_snapped.moved.y()));
     painter.setPen(QPen(QColor(220, 0, 120), 1, Qt::DashLine));
     for (const int x : m_snapped.uprightAt) {
         const int at = map.ToView(QPoint(x, 0)).x();

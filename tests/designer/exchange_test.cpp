@@ -48,11 +48,14 @@ TEST_F(ExchangeStory, AnImportIsOneStepOrAsksFirst)
     ASSERT_TRUE(window.GetFiles().Open(MakeProject("small.prj"_s, QSize(2, 2), 1, 0)));
     ASSERT_TRUE(exports.Export(ExportActions::PortLayout, port));
     ASSERT_TRUE(window.GetFiles().Open(MakeProject("wall.prj"_s, QSize(6, 4), 2, 0)));
+    document.GetSender()->SetRecentPortIndex(kMaxPorts - 1);
     ASSERT_TRUE(exports.Export(ExportActions::SenderLayout, sender));
+    document.KeepCurrentPort();
     ASSERT_TRUE(document.NumberAll(AutoNumberColumnsTopLeft));
     const CPortProject numbered = *document.GetPort()->GetPortProject();
     EXPECT_TRUE(imports.Import({port, true}) && Tiles().GetCount() == 4);
     EXPECT_TRUE(imports.Import({sender}) && view.GetScene().GetPorts()[0].cabinets.size() == 12);
+    EXPECT_EQ(document.GetPort()->GetPortIndex(), 0) << "one that is in use";
     EXPECT_EQ(document.GetUndoText(1).toStdString(), "Import layout");
     ASSERT_TRUE(document.Undo(2) && messages.Take().isEmpty());
     EXPECT_EQ(*document.GetPort()->GetPortProject(), numbered);

@@ -142,10 +142,18 @@ TEST_F(WallStory, APlantedFaultIsToldAndFound)
     QTRY_COMPARE(faults.windowTitle(), "No faults"_s);
     AddBlock({1, 1, 100, 100, 1850, 50});
     QTRY_COMPARE(faults.windowTitle(), "Faults: 2"_s);
-    document.Select({}, DocumentController::Choice::Replace);
     auto* list = faults.findChild<QListWidget*>();
+    const auto clickFault = [list] {
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    };
+    document.Select({}, DocumentController::Choice::Replace);
     view.ActualSize();
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    document.GetPort()->SetFlagLock(true);
+    clickFault();
+    EXPECT_TRUE(document.GetSelection().isEmpty()
+                && window.statusBar()->currentMessage().contains("locked"_s));
+    document.GetPort()->SetFlagLock(false);
+    clickFault();
     EXPECT_EQ(document.GetSelection(), QList<CTile*>{Tiles().GetTile(4)});
     EXPECT_TRUE(view.GetMap().GetShown().contains(QRect(1850, 50, 100, 100)));
     Picture("fault");
@@ -186,8 +194,10 @@ TEST_F(WallStory, TheSampleWallIsBuiltFromNothing)
     EXPECT_EQ(Told(path, 0), "0,0 100×200 0 0; 100,0 100×200 1 0; 0,200 100×200 3 0; 100,200 100×200 2 0");
     EXPECT_EQ(Told(path, 1), "408,270 60×80 2 30; 460,300 60×80 1 30; 512,330 60×80 0 30");
     document.NewProject();
+    document.SetRotationOn(false);
     ASSERT_TRUE(window.GetFiles().Open(path));
     EXPECT_EQ(Chain(0) + Chain(1), "1 2 4 33 2 1");
+    EXPECT_TRUE(Tiles(1).GetTile(0)->IsTileRotated()) << "though that was not shown before";
     document.SetRotationOn(false);
 }
 
