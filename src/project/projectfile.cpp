@@ -96,6 +96,7 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
 {
     DocumentOperation operation(History()); // ends when the lock has gone
     m_lastFileError.clear();
+    m_archiveWritten = false;
     const auto write = [&](XmlWriter& writer) { WriteDocument(writer, *this, m_state, progress); };
     QLockFile lock(parameterwork::LockPath());
     if (!IsWithinLimits(m_senders, m_state, &m_lastFileError) || !TakeWorkFolder(lock, path, &m_lastFileError)
@@ -107,9 +108,9 @@ bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* pr
     const bool complete =
         parameterwork::CollectForSaving(m_state.parameterFiles, GetProjectLookup()->Products(), report);
     QString error;
-    const bool saved = complete && parameterwork::Pack(path, &error);
+    m_archiveWritten = complete && parameterwork::Pack(path, &error);
     m_lastFileError = report.Text();
-    if (saved)
+    if (m_archiveWritten)
         operation.Changed(&SDocumentChange::saved);
     else
         m_lastFileError = Texts::tr("项目文件没有保存：%1").arg(complete ? error : report.GetRefusal());

@@ -133,8 +133,8 @@ bool WritePdf(QIODevice& device, const CProjectData& project, const DrawingOptio
 void PaintLayout(QPainter& painter, const CProjectData& project, const DrawingOptions& options,
                  const QSizeF& page, double leastText)
 {
-    const WallPicture picture =
-        MakeWallPicture(project, options.sender, {options.port, options.rear, options.capacity});
+    const WallPicture picture = MakeWallPicture(
+        project, options.sender, {options.port, options.rear, options.capacity, options.atOwnRate});
     const double growth = std::sqrt(page.width() / kPageWidth);
     const double margin = kMargin * growth;
     const QRectF inside(margin, margin * 0.6, page.width() - 2 * margin, page.height() - margin * 1.3);

@@ -30,6 +30,7 @@ struct DrawingOptions
     int port = -1;     ///< the only one to draw, counted from 0; -1: all
     bool rear = false; ///< the wall as seen from behind
     PortCapacity capacity;
+    bool atOwnRate = false; ///< at the frames and bits that the sender is set to, where it is
 };
 
 /// Draws one sender of a project for a technician: cabinets, chains, groups, and a legend. Text smaller than

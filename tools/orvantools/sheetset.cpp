@@ -78,7 +78,9 @@ SheetSet::SheetSet(const CProjectData& project, const SheetOptions& options) : m
         if (options.sender >= 0 && options.sender != i)
             continue;
         m_walls.push_back(
-            {i, MakeWallPicture(project, i, {options.port, options.rear, options.capacity}), {}});
+            {i,
+             MakeWallPicture(project, i, {options.port, options.rear, options.capacity, options.atOwnRate}),
+             {}});
         for (const PicturePort& port : m_walls.back().picture.ports)
             m_walls.back().bounds.push_back(BoundOf(port));
     }

@@ -24,6 +24,7 @@ struct SheetOptions
     Paper paper = Paper::A4;
     PortCapacity capacity;
     std::function<void(int percent)> progress;
+    bool atOwnRate = false; ///< at the frames and bits that each sender is set to, where it is
 };
 
 /// Writes the papers that a crew takes to the wall, as a PDF: a cover with the contents, an overview of each

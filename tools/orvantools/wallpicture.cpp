@@ -207,6 +207,7 @@ WallPicture MakeWallPicture(const CProjectData& project, int index, const Pictur
     const CSender& sender = *project.GetSender(index);
     const BackupMap backups(project);
     const bool isBackupOnly = IsBackupOnly(sender);
+    const PortCapacity capacity = options.atOwnRate ? CapacityOf(sender, options.capacity) : options.capacity;
     int canvasFrom = index;
     WallPicture picture;
     picture.isRear = options.rear;
@@ -223,7 +224,7 @@ WallPicture MakeWallPicture(const CProjectData& project, int index, const Pictur
         AddCabinets(made, *project.GetSender(shown.sender)->GetPort(shown.port));
         AddNotes(made, project, port, backups, index);
         if (!port.IsBackupDest())
-            made.load = options.capacity.PercentText(made.pixels);
+            made.load = capacity.PercentText(made.pixels);
         if (made.cabinets.empty() && made.note.isEmpty())
             continue;
         if (options.rear)

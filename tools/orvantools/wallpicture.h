@@ -20,6 +20,7 @@ struct PictureOptions
     int port = -1;     ///< the only one to show, counted from 0; -1: all
     bool rear = false; ///< as seen from behind: all is mirrored, the coordinates too
     PortCapacity capacity;
+    bool atOwnRate = false; ///< at the frames and bits that the sender is set to, where it is
 };
 
 struct PictureCabinet
