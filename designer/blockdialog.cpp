@@ -7,12 +7,14 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMultiMap>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QToolButton>
 
 namespace {
 
@@ -39,9 +41,17 @@ BlockDialog::BlockDialog(const DocumentController& document, QWidget* parent)
     m_cards = new CardsBox(this);
     FillPorts();
     FillProducts();
+    auto* rescan = new QToolButton(this);
+    rescan->setText(tr("Scan a&gain"));
+    rescan->setToolTip(tr("Look for products in %1 again")
+                           .arg(QDir::toNativeSeparators(CProductDirectorySet::GetRootDir())));
+    connect(rescan, &QToolButton::clicked, this, [this] {
+        DocumentController::GetProducts().LoadProductInfo();
+        FillProducts();
+    });
 
     auto* form = new QFormLayout(this);
-    form->addRow(tr("Pro&duct:"), m_product);
+    AddPair(*form, tr("Pro&duct:"), m_product, {}, rescan);
     AddPair(*form, tr("&Columns and rows:"), m_columns, QStringLiteral("×"), m_rows);
     AddPair(*form, tr("Cabinet &size in pixels:"), m_width, QStringLiteral("×"), m_height);
     AddPair(*form, tr("&Left and top in pixels:"), m_left, QStringLiteral(","), m_top);
@@ -74,8 +84,8 @@ QSpinBox* BlockDialog::AddNumber(const QString& name, int least, int most, int v
     return box;
 }
 
-void BlockDialog::AddPair(QFormLayout& form, const QString& label, QSpinBox* first, const QString& between,
-                          QSpinBox* second)
+void BlockDialog::AddPair(QFormLayout& form, const QString& label, QWidget* first, const QString& between,
+                          QWidget* second)
 {
     auto* row = new QHBoxLayout;
     row->addWidget(first, 1);
@@ -97,9 +107,11 @@ void BlockDialog::FillPorts()
     }
 }
 
-/// By name.
+/// By name; the one chosen stays so while it is there.
 void BlockDialog::FillProducts()
 {
+    const SMD5 chosen = m_product->currentData().value<SMD5>();
+    m_product->clear();
     QMultiMap<QString, SMD5> products;
     DocumentController::GetProducts().FindProduct([&](CProduct& product) {
         products.insert(product.GetName(), product.GetMd5());
@@ -108,6 +120,7 @@ void BlockDialog::FillProducts()
     m_product->addItem(tr("Plain size"));
     for (auto product = products.cbegin(); product != products.cend(); ++product)
         m_product->addItem(product.key(), QVariant::fromValue(product.value()));
+    m_product->setCurrentIndex(qMax(0, products.values().indexOf(chosen) + 1));
     m_product->setToolTip(tr("A product of the library, with its parameter file, or a size alone"));
 }
 

@@ -27,8 +27,8 @@ signals:
 
 private:
     QSpinBox* AddNumber(const QString& name, int least, int most, int value);
-    void AddPair(QFormLayout& form, const QString& label, QSpinBox* first, const QString& between,
-                 QSpinBox* second);
+    void AddPair(QFormLayout& form, const QString& label, QWidget* first, const QString& between,
+                 QWidget* second);
     void FillPorts();
     void FillProducts();
     const CProduct* GetProduct() const; ///< [ref] null: a plain size

@@ -13,12 +13,11 @@ class ChainActions : public QObject
     Q_OBJECT
 
 public:
-    ChainActions(DocumentController& document, QObject* parent); ///< [keep] the document
-
-    void AddTo(QMenu& menu);
-    void AddTo(QToolBar& bar);
+    ChainActions(DocumentController& document, QMenu& menu, QToolBar& bar); ///< [keep] the document
 
 private:
+    void Show();
+
     DocumentController& m_document;
     QList<QAction*> m_patterns;
     QAction* m_clear;

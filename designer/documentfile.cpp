@@ -16,72 +16,59 @@ QString DocumentFile::GetFolder() const
                             : QFileInfo(m_path).path();
 }
 
-bool DocumentFile::IsHere(const QString& path) const
+/// The one at hand when it is on that path. Null when it cannot be had.
+DocumentFile::Lock DocumentFile::LockOf(const QString& path, QString* holder) const
 {
-    return !m_path.isEmpty() && QFileInfo(m_path) == QFileInfo(path);
+    if (m_lock && QFileInfo(m_path) == QFileInfo(path))
+        return m_lock;
+    auto lock = std::make_shared<CProjectLock>(path);
+    return lock->Lock(holder) ? lock : nullptr;
 }
 
-/// Null when it cannot be had.
-std::unique_ptr<CProjectLock> DocumentFile::TakeLock(const QString& path, QString* holder) const
+/// `missing`: why it is not whole.
+DocumentFile::Outcome DocumentFile::Take(const QString& path, const Lock& lock, const QString& missing)
 {
-    auto lock = std::make_unique<CProjectLock>(path);
-    return lock->Lock(holder) ? std::move(lock) : nullptr;
+    m_path = QFileInfo(path).absoluteFilePath();
+    m_lock = lock;
+    GetConfigData()->AddProjectRecord(m_path);
+    return missing.isEmpty() ? Outcome::Done : Outcome::DoneInPart;
 }
 
 DocumentFile::Outcome DocumentFile::Open(const QString& path, bool readOnly, CCustomProgressbar* progress,
                                          QString* text)
 {
-    const bool isLockedHere = m_lock && IsHere(path);
-    std::unique_ptr<CProjectLock> lock;
-    if (!readOnly && !isLockedHere) {
-        lock = TakeLock(path, text);
-        if (!lock)
-            return Outcome::InUse;
-    }
+    const Lock lock = readOnly ? nullptr : LockOf(path, text);
+    if (!readOnly && !lock)
+        return Outcome::InUse;
     QString neededVersion;
     CProjectData& project = *GetProjectData();
-    if (!project.LoadProjectFromFile(QFile::encodeName(path).constData(), neededVersion, progress)) {
-        *text = project.GetLastFileError();
-        return Outcome::Failed;
-    }
-    if (!isLockedHere)
-        m_lock = std::move(lock);
+    const bool isRead =
+        project.LoadProjectFromFile(QFile::encodeName(path).constData(), neededVersion, progress);
     *text = project.GetLastFileError();
-    m_path = QFileInfo(path).absoluteFilePath();
-    m_readOnly = readOnly;
+    if (!isRead)
+        return Outcome::Failed;
     m_inPart = !text->isEmpty();
-    GetConfigData()->AddProjectRecord(m_path);
-    return m_inPart ? Outcome::DoneInPart : Outcome::Done;
+    return Take(path, lock, *text);
 }
 
 DocumentFile::Outcome DocumentFile::Save(const QString& path, CCustomProgressbar* progress, QString* text)
 {
-    const bool isLockedHere = m_lock && IsHere(path);
-    std::unique_ptr<CProjectLock> lock;
-    if (!isLockedHere) {
-        lock = TakeLock(path, text);
-        if (!lock)
-            return Outcome::InUse;
-    }
+    const Lock lock = LockOf(path, text);
+    if (!lock)
+        return Outcome::InUse;
     CProjectData& project = *GetProjectData();
-    const bool isSaved = project.SaveProjectToFile(QFileInfo(path).absoluteFilePath(), progress);
+    project.SaveProjectToFile(QFileInfo(path).absoluteFilePath(), progress);
     *text = project.GetLastFileError();
-    if (!isSaved || !text->isEmpty())
+    if (!project.IsArchiveWritten())
         return Outcome::Failed;
-    if (!isLockedHere)
-        m_lock = std::move(lock);
-    m_path = QFileInfo(path).absoluteFilePath();
-    m_readOnly = false;
     m_inPart = false;
     GetRuntimeData()->GetProjectUndoRedo()->SetAsSaveStep();
-    GetConfigData()->AddProjectRecord(m_path);
-    return Outcome::Done;
+    return Take(path, lock, *text);
 }
 
 void DocumentFile::Forget()
 {
     m_lock.reset();
     m_path.clear();
-    m_readOnly = false;
     m_inPart = false;
 }

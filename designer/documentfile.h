@@ -14,7 +14,7 @@ public:
     enum class Outcome
     {
         Done,
-        DoneInPart, ///< read, but not all of it
+        DoneInPart, ///< read or written, but not all of it
         InUse,      ///< somebody else edits it, or no lock can be made; nothing was done
         Failed,     ///< the document, or the file, is as it was
     };
@@ -30,15 +30,15 @@ public:
 
     QString GetPath() const { return m_path; } ///< empty: none yet
     QString GetFolder() const;                 ///< where the user looks for files
-    bool IsReadOnly() const { return m_readOnly; }
+    bool IsReadOnly() const { return !m_path.isEmpty() && !m_lock; }
     bool IsInPart() const { return m_inPart; } ///< saving to this path would lose what was not read
 
 private:
-    bool IsHere(const QString& path) const;
-    std::unique_ptr<CProjectLock> TakeLock(const QString& path, QString* holder) const;
+    using Lock = std::shared_ptr<CProjectLock>;
+    Lock LockOf(const QString& path, QString* holder) const;
+    Outcome Take(const QString& path, const Lock& lock, const QString& missing);
 
     QString m_path;
-    std::unique_ptr<CProjectLock> m_lock; ///< null while there is no path, and when it is only read
-    bool m_readOnly = false;
+    Lock m_lock; ///< null while there is no path, and when it is only read
     bool m_inPart = false;
 };

@@ -7,77 +7,73 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
+#include <functional>
+
 namespace {
 
 constexpr int kMostListed = 30;
 
 } // namespace
 
-EditActions::EditActions(DocumentController& document, QObject* parent)
-    : QObject(parent), m_document(document),
-      m_undo(MakeAction(this, tr("&Undo"), tr("Take back the last edit"), QKeySequence::Undo)),
-      m_redo(MakeAction(this, tr("&Redo"), tr("Bring back what was undone"), QKeySequence::Redo)),
-      m_paste(MakeAction(this, tr("&Paste"), tr("Place what was copied on the current port"),
-                         QKeySequence::Paste)),
-      m_selectAll(MakeAction(this, tr("Select &all"),
-                             tr("Select the cabinets of all ports that are shown and not locked"),
-                             QKeySequence::SelectAll)),
-      m_moveToPort(new QAction(tr("&Move to port"), this))
+template <typename Act>
+void EditActions::Add(QMenu& menu, const QString& text, const QString& tip, const QKeySequence& key,
+                      Needs needs, Act act)
 {
-    connect(m_undo, &QAction::triggered, this, [this] { m_document.Undo(); });
-    connect(m_redo, &QAction::triggered, this, [this] { m_document.Redo(); });
-    connect(m_paste, &QAction::triggered, this, [this] {
-        if (m_document.Paste())
-            emit Placed(m_document.GetSelectionBound());
+    QAction* action = AddAction(menu, this, text, tip, key, [this, act] {
+        std::invoke(act, m_document);
+        ShowNeeds(); // nobody tells of copies
     });
-    connect(m_selectAll, &QAction::triggered, this, [this] { m_document.SelectAll(); });
-    const auto add = [this](const QString& text, const QString& tip, const QKeySequence& key, auto act) {
-        QAction* action = MakeAction(this, text, tip, key);
-        connect(action, &QAction::triggered, this, [this, act] { act(m_document); });
-        m_ofSelection.append(action);
-        return action;
-    };
-    using Document = DocumentController;
-    QAction* cut = add(tr("Cu&t"), tr("Copy the selected cabinets and delete them"), QKeySequence::Cut,
-                       [](Document& wall) { wall.CutSelection(); });
-    QAction* copy = add(tr("&Copy"), tr("Copy the selected cabinets, with groups that are wholly selected"),
-                        QKeySequence::Copy, [this](Document& wall) {
-                            wall.CopySelection();
-                            ShowSelection();
-                        });
-    QAction* remove = add(tr("&Delete"), tr("Delete the selected cabinets; their chains close up"),
-                          QKeySequence::Delete, [](Document& wall) { wall.DeleteSelection(); });
-    for (QAction* action : {cut, remove}) // in a list or a field it would delete what nobody looks at
+    // In a list or a field these would delete what nobody looks at.
+    if (key == QKeySequence(QKeySequence::Cut) || key == QKeySequence(QKeySequence::Delete))
         action->setShortcutContext(Qt::WidgetShortcut);
-    QAction* group = add(tr("&Group"), tr("Make one group of the selected cabinets and groups of a port"),
-                         Keys("Ctrl+G"), [](Document& wall) { wall.GroupSelection(); });
-    QAction* ungroup = add(tr("U&ngroup"), tr("Take the outermost groups of the selected cabinets apart"),
-                           Keys("Ctrl+Shift+G"), [](Document& wall) { wall.UngroupSelection(); });
-    QAction* selectGroup =
-        add(tr("Select gr&oup"), tr("Select all of the groups that the selected cabinets are in"), Qt::Key_G,
-            [](Document& wall) { wall.SelectGroups(); });
-    QAction* selectNone = add(tr("&Select none"), tr("Select no cabinet"), Keys("Ctrl+Shift+A"),
-                              [](Document& wall) { wall.Select({}, Document::Choice::Replace); });
-    m_ofSelection.append(m_moveToPort);
-    m_menu = {m_undo, m_redo,  nullptr,      cut,     copy,        m_paste,     remove,    nullptr,
-              group,  ungroup, m_moveToPort, nullptr, m_selectAll, selectGroup, selectNone};
-    connect(&document, &DocumentController::Changed, this, &EditActions::Show);
-    connect(&document, &DocumentController::SenderChanged, this, &EditActions::Show);
-    connect(&document, &DocumentController::SelectionChanged, this, &EditActions::ShowSelection);
-    Show();
+    Enable(*action, needs);
 }
 
-void EditActions::AddTo(QMenu& menu)
+EditActions::EditActions(DocumentController& document, QMenu& menu, QToolBar& bar)
+    : QObject(&menu), m_document(document)
 {
-    auto* ports = new QMenu(&menu);
+    m_undo = AddAction(menu, this, tr("&Undo"), tr("Take back the last edit"), QKeySequence::Undo,
+                       [this] { m_document.Undo(); });
+    m_redo = AddAction(menu, this, tr("&Redo"), tr("Bring back what was undone"), QKeySequence::Redo,
+                       [this] { m_document.Redo(); });
+    AddSteps(bar, m_undo, true);
+    AddSteps(bar, m_redo, false);
+    using Document = DocumentController;
+    menu.addSeparator();
+    Add(menu, tr("Cu&t"), tr("Copy the selected cabinets and delete them"), QKeySequence::Cut, Selection,
+        &Document::CutSelection);
+    Add(menu, tr("&Copy"), tr("Copy the selected cabinets, with groups that are wholly selected"),
+        QKeySequence::Copy, Selection, &Document::CopySelection);
+    Add(menu, tr("&Paste"), tr("Place what was copied on the current port"), QKeySequence::Paste, Copies,
+        [this](Document& wall) {
+            if (wall.Paste())
+                emit Placed(wall.GetSelectionBound());
+        });
+    Add(menu, tr("&Delete"), tr("Delete the selected cabinets; their chains close up"), QKeySequence::Delete,
+        Selection, &Document::DeleteSelection);
+    menu.addSeparator();
+    Add(menu, tr("&Group"), tr("Make one group of the selected cabinets and groups of a port"),
+        Keys("Ctrl+G"), Several, &Document::GroupSelection);
+    Add(menu, tr("U&ngroup"), tr("Take the outermost groups of the selected cabinets apart"),
+        Keys("Ctrl+Shift+G"), Group, &Document::UngroupSelection);
+    Add(menu, tr("Select gr&oup"), tr("Select all of the groups that the selected cabinets are in"),
+        Qt::Key_G, Group, &Document::SelectGroups);
+    menu.addSeparator();
+    Add(menu, tr("Select &all"), tr("Select the cabinets of all ports that are shown and not locked"),
+        QKeySequence::SelectAll, Nothing, &Document::SelectAll);
+    Add(menu, tr("&Select none"), tr("Select no cabinet"), Keys("Ctrl+Shift+A"), Selection,
+        [](Document& wall) { wall.Select({}, Document::Choice::Replace); });
+    menu.addSeparator();
+    QMenu* ports = menu.addMenu(tr("&Move to port"));
+    ports->menuAction()->setStatusTip(tr("Give the selected cabinets to another port of the sender"));
     connect(ports, &QMenu::aboutToShow, this, [this, ports] { FillPorts(*ports); });
-    m_moveToPort->setMenu(ports);
-    for (QAction* action : qAsConst(m_menu)) {
-        if (action)
-            menu.addAction(action);
-        else
-            menu.addSeparator();
-    }
+    Enable(*ports->menuAction(), Selection);
+    connect(&document, &Document::Changed, this, &EditActions::Show);
+    connect(&document, &Document::SenderChanged, this, &EditActions::Show);
+    connect(&document, &Document::SelectionChanged, this, &EditActions::ShowNeeds);
+    connect(&document, &Document::PortStatesChanged, this, &EditActions::ShowNeeds);
+    Show();
 }
 
 /// Numbers go: the other port has a chain of its own.
@@ -90,21 +86,18 @@ void EditActions::FillPorts(QMenu& menu)
         QAction* action =
             menu.addAction(tr("Port %1").arg(i + 1), this, [this, i] { m_document.MoveSelectionToPort(i); });
         action->setEnabled(why.isEmpty());
-        action->setStatusTip(why);
+        action->setStatusTip(why.isEmpty() ? menu.menuAction()->statusTip() : why);
     }
 }
 
-void EditActions::AddTo(QToolBar& bar)
+void EditActions::AddSteps(QToolBar& bar, QAction* action, bool back)
 {
-    for (QAction* action : {m_undo, m_redo}) {
-        bar.addAction(action);
-        auto* button = qobject_cast<QToolButton*>(bar.widgetForAction(action));
-        auto* steps = new QMenu(button);
-        button->setMenu(steps);
-        button->setPopupMode(QToolButton::MenuButtonPopup);
-        const bool back = action == m_undo;
-        connect(steps, &QMenu::aboutToShow, this, [this, steps, back] { FillSteps(*steps, back); });
-    }
+    bar.addAction(action);
+    auto* button = qobject_cast<QToolButton*>(bar.widgetForAction(action));
+    auto* steps = new QMenu(button);
+    button->setMenu(steps);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+    connect(steps, &QMenu::aboutToShow, this, [this, steps, back] { FillSteps(*steps, back); });
 }
 
 void EditActions::FillSteps(QMenu& menu, bool back)
@@ -129,13 +122,15 @@ void EditActions::Show()
     m_redo->setText(redo.isEmpty() ? tr("&Redo") : tr("&Redo: %1").arg(redo));
     m_undo->setIconText(tr("Undo"));
     m_redo->setIconText(tr("Redo"));
-    ShowSelection();
+    ShowNeeds();
 }
 
-void EditActions::ShowSelection()
+void EditActions::ShowNeeds()
 {
-    const bool hasSelection = !m_document.GetSelection().isEmpty();
-    for (QAction* action : qAsConst(m_ofSelection))
-        action->setEnabled(hasSelection);
-    m_paste->setEnabled(m_document.HasCopies());
+    const QList<CTile*> tiles = m_document.GetSelection();
+    const bool anyGroup = std::any_of(tiles.begin(), tiles.end(),
+                                      [](const CTile* tile) { return !tile->GetGroupId().isNull(); });
+    const bool has[] = {true, !tiles.isEmpty(), tiles.size() > 1, anyGroup, m_document.HasCopies()};
+    for (const auto& [action, needs] : qAsConst(m_needs))
+        action->setEnabled(has[needs]);
 }

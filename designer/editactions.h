@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QPair>
 #include <QRect>
 
 class DocumentController;
@@ -16,26 +17,34 @@ class EditActions : public QObject
     Q_OBJECT
 
 public:
-    EditActions(DocumentController& document, QObject* parent); ///< [keep] the document
+    enum Needs
+    {
+        Nothing,
+        Selection,
+        Several, ///< cabinets selected
+        Group,   ///< that a selected cabinet is in
+        Copies,
+    };
 
-    void AddTo(QMenu& menu);
-    void AddTo(QToolBar& bar);
+    EditActions(DocumentController& document, QMenu& menu, QToolBar& bar); ///< [keep] the document
+
+    void Enable(QAction& action, Needs needs) { m_needs.append({&action, needs}); } ///< [keep]
 
 signals:
     void Placed(const QRect& cabinets); ///< perhaps out of sight; wall pixels
 
 private:
+    template <typename Act>
+    void Add(QMenu& menu, const QString& text, const QString& tip, const QKeySequence& key, Needs needs,
+             Act act);
+    void AddSteps(QToolBar& bar, QAction* action, bool back);
     void Show();
-    void ShowSelection();
+    void ShowNeeds();
     void FillSteps(QMenu& menu, bool back);
     void FillPorts(QMenu& menu);
 
     DocumentController& m_document;
     QAction* m_undo;
     QAction* m_redo;
-    QAction* m_paste;
-    QAction* m_selectAll;
-    QAction* m_moveToPort;
-    QList<QAction*> m_ofSelection; ///< enabled while something is selected
-    QList<QAction*> m_menu;        ///< in its order, null: a separator
+    QList<QPair<QAction*, Needs>> m_needs;
 };

@@ -1,45 +1,44 @@
 #pragma once
 
-#include <QObject>
+#include "documentcontroller.h"
 
-class DocumentController;
-class QIODevice;
+#include <functional>
+#include <vector>
+
 class QMenu;
-class QWidget;
 
-/// What others get of the project: drawings of the current sender, sheets for the crew, lists, and layouts
-/// for other projects.
-class ExportActions : public QObject
+/// What goes to others and comes from them: drawings of the current sender, sheets for the crew, lists, and
+/// layouts of one sender or port.
+class ExchangeActions : public QObject
 {
     Q_OBJECT
 
 public:
-    enum Kind
-    {
-        Drawing,
-        DrawingFromBehind,
-        SheetsA4,
-        SheetsA3,
-        SheetsLetter,
-        CabinetList,
-        CableSchedule,
-        SenderLayout,
-        PortLayout,
-    };
-
-    ExportActions(const DocumentController& document, QWidget& window); ///< [keep] both
+    ExchangeActions(DocumentController& document, QWidget& window); ///< [keep] both
 
     void AddTo(QMenu& menu);
-    bool Export(Kind kind, const QString& path); ///< the ending of the path says the form
+    bool Export(size_t kind, const QString& path); ///< as the menu lists them; the ending says the form
+    bool Import(const LayoutImport& wanted);       ///< asks when no undo would bring back what is there
 
 signals:
     void Told(const QString& text); ///< of what went well
 
 private:
-    void Choose(Kind kind, const QString& title, const QString& tail);
-    QString Write(Kind kind, const QString& path);
-    bool Make(Kind kind, const QString& ending, QIODevice& device);
+    struct Kind
+    {
+        QString text;
+        QString tip;
+        const char* tail; ///< of the name proposed
+        QStringList endings;
+        std::function<QString(const QString& path)> write; ///< gives back why it could not
+    };
 
-    const DocumentController& m_document;
+    void ChooseExport(size_t kind);
+    void ChooseImport(bool ofPort, const QString& title);
+    bool AskHow(LayoutImport* wanted);
+    void Tell(const QString& text);
+
+    DocumentController& m_document;
     QWidget& m_window;
+    std::vector<Kind> m_kinds;
 };

@@ -14,7 +14,6 @@
 namespace {
 
 constexpr int kMostRecent = 9;
-const QString kSuffix = QStringLiteral(".prj");
 
 } // namespace
 
@@ -24,20 +23,18 @@ FileActions::FileActions(DocumentController& document, QWidget& window)
 
 void FileActions::AddTo(QMenu& menu)
 {
-    const auto add = [&](const QString& text, const QString& tip, const QKeySequence& key, auto act) {
-        QAction* action = MakeAction(this, text, tip, key);
-        connect(action, &QAction::triggered, this, act);
-        menu.addAction(action);
-    };
-    add(tr("&New"), tr("Start an empty project with one sender"), QKeySequence::New, [this] { New(); });
-    add(tr("&Open…"), tr("Open a project: an archive (.prj) or a bare document (.xml)"), QKeySequence::Open,
-        [this] { Choose(); });
+    AddAction(menu, this, tr("&New"), tr("Start an empty project with one sender"), QKeySequence::New,
+              [this] { New(); });
+    AddAction(menu, this, tr("&Open…"), tr("Open a project: an archive (.prj) or a bare document (.xml)"),
+              QKeySequence::Open, [this] { Choose(); });
     m_recent = menu.addMenu(tr("Open &recent"));
+    m_recent->menuAction()->setStatusTip(tr("Open one of the projects that were open last"));
     connect(m_recent, &QMenu::aboutToShow, this, &FileActions::FillRecent);
     menu.addSeparator();
-    add(tr("&Save"), tr("Save the project to its file"), QKeySequence::Save, [this] { Save(); });
-    add(tr("Save &as…"), tr("Save the project under another name"), Keys("Ctrl+Shift+S"),
-        [this] { SaveAs(); });
+    AddAction(menu, this, tr("&Save"), tr("Save the project to its file"), QKeySequence::Save,
+              [this] { Save(); });
+    AddAction(menu, this, tr("Save &as…"), tr("Save the project under another name"), Keys("Ctrl+Shift+S"),
+              [this] { SaveAs(); });
 }
 
 void FileActions::FillRecent()
@@ -91,47 +88,37 @@ void FileActions::Choose()
 
 bool FileActions::Open(const QString& path)
 {
-    if (!MayLeave())
-        return false;
+    return MayLeave() && Read(path, false);
+}
+
+bool FileActions::Read(const QString& path, bool readOnly)
+{
+    const QString name = QFileInfo(path).fileName();
     QString text;
     DocumentFile::Outcome outcome = DocumentFile::Outcome::Failed;
     {
-        CCustomProgressbar progress(tr("Opening %1").arg(QFileInfo(path).fileName()), &m_window);
-        outcome = m_document.Open(path, false, &progress, &text);
+        CCustomProgressbar progress(tr("Opening %1").arg(name), &m_window);
+        outcome = m_document.Open(path, readOnly, &progress, &text);
     }
+    const QString question =
+        tr("%1 cannot be opened for editing.\n\n%2\n\nOpen it to look at? It can then be saved under another "
+           "name.");
     switch (outcome) {
     case DocumentFile::Outcome::Done:
         return true;
     case DocumentFile::Outcome::DoneInPart:
         Tell(tr("Not all of %1 could be read. Saving it under its own name would lose the rest.\n\n%2")
-                 .arg(QFileInfo(path).fileName(), text));
+                 .arg(name, text));
         return true;
     case DocumentFile::Outcome::InUse:
-        return OpenInUse(path, text);
+        return CCustomMessageBox::question(&m_window, question.arg(name, text)) == QMessageBox::Yes
+               && Read(path, true);
     case DocumentFile::Outcome::Failed:
         break;
     }
     Tell(tr("%1 could not be opened; what was open before still is.\n\n%2")
              .arg(QDir::toNativeSeparators(path), text));
     return false;
-}
-
-bool FileActions::OpenInUse(const QString& path, const QString& holder)
-{
-    const QString name = QFileInfo(path).fileName();
-    const QMessageBox::StandardButton answer = CCustomMessageBox::question(
-        &m_window,
-        tr("%1 cannot be opened for editing.\n\n%2\n\nOpen it to look at? It can then be saved under "
-           "another name.")
-            .arg(name, holder));
-    if (answer != QMessageBox::Yes)
-        return false;
-    QString text;
-    CCustomProgressbar progress(tr("Opening %1").arg(name), &m_window);
-    const DocumentFile::Outcome outcome = m_document.Open(path, true, &progress, &text);
-    if (!text.isEmpty())
-        Tell(text);
-    return outcome != DocumentFile::Outcome::Failed;
 }
 
 bool FileActions::Save()
@@ -149,24 +136,29 @@ bool FileActions::Save()
     return SaveTo(file.GetPath());
 }
 
+QString FileActions::AskForPath(QWidget* window, const DocumentFile& file, const QString& title,
+                                const QString& tail, const QStringList& filters)
+{
+    const QString name = QFileInfo(file.GetPath()).completeBaseName();
+    const QString proposed =
+        file.GetFolder() + QLatin1Char('/') + (name.isEmpty() ? tr("wall") : name) + tail;
+    QString filter;
+    QString path =
+        QFileDialog::getSaveFileName(window, title, proposed, filters.join(QStringLiteral(";;")), &filter);
+    if (path.isEmpty() || !QFileInfo(path).suffix().isEmpty())
+        return path;
+    path += filter.section(QLatin1Char('*'), 1).chopped(1);
+    const QString question = tr("%1 is there already. Replace it?").arg(QFileInfo(path).fileName());
+    return !QFileInfo::exists(path) || CCustomMessageBox::question(window, question) == QMessageBox::Yes
+               ? path
+               : QString();
+}
+
 bool FileActions::SaveAs()
 {
-    const QString present = m_document.GetFile().GetPath();
-    const QString name = present.isEmpty() ? tr("wall") : QFileInfo(present).completeBaseName();
-    QString path = QFileDialog::getSaveFileName(
-        &m_window, tr("Save the project"),
-        m_document.GetFile().GetFolder() + QLatin1Char('/') + name + kSuffix, tr("Projects (*.prj)"));
-    if (path.isEmpty())
-        return false;
-    if (QFileInfo(path).suffix().isEmpty()) {
-        path += kSuffix;
-        const QString question = tr("%1 is there already. Replace it?");
-        if (QFileInfo::exists(path)
-            && CCustomMessageBox::question(&m_window, question.arg(QFileInfo(path).fileName()))
-                   != QMessageBox::Yes)
-            return false;
-    }
-    return SaveTo(path);
+    const QString path =
+        AskForPath(&m_window, m_document.GetFile(), tr("Save the project"), {}, {tr("Projects (*.prj)")});
+    return !path.isEmpty() && SaveTo(path);
 }
 
 bool FileActions::SaveTo(const QString& path)
@@ -177,10 +169,14 @@ bool FileActions::SaveTo(const QString& path)
         CCustomProgressbar progress(tr("Saving %1").arg(QFileInfo(path).fileName()), &m_window);
         outcome = m_document.Save(path, &progress, &text);
     }
-    if (outcome == DocumentFile::Outcome::Done) {
-        emit Told(tr("Saved: %1").arg(QDir::toNativeSeparators(path)));
-        return true;
-    }
-    Tell(tr("%1 was not saved. Try another name or folder.\n\n%2").arg(QDir::toNativeSeparators(path), text));
-    return false;
+    const QString name = QDir::toNativeSeparators(path);
+    const bool done = outcome == DocumentFile::Outcome::Done;
+    const bool inPart = outcome == DocumentFile::Outcome::DoneInPart;
+    if (done)
+        emit Told(tr("Saved: %1").arg(name));
+    else if (inPart)
+        Tell(tr("%1 is saved, but not all that belongs into it.\n\n%2").arg(name, text));
+    else
+        Tell(tr("%1 was not saved. Try another name or folder.\n\n%2").arg(name, text));
+    return done || inPart;
 }

@@ -26,6 +26,11 @@ public:
     bool SaveTo(const QString& path);
     bool MayLeave(); ///< whether what is open may go: saved, not changed, or given up by the user
 
+    /// Where to write what is made of the project. Without an ending it gets that of the filter, "PDF
+    /// (*.pdf)".
+    static QString AskForPath(QWidget* window, const DocumentFile& file, const QString& title,
+                              const QString& tail, const QStringList& filters);
+
 signals:
     void Told(const QString& text); ///< of what went well
 
@@ -33,7 +38,7 @@ private:
     void Choose();
     void FillRecent();
     void Tell(const QString& text);
-    bool OpenInUse(const QString& path, const QString& holder);
+    bool Read(const QString& path, bool readOnly);
 
     DocumentController& m_document;
     QWidget& m_window;

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
 #include <QIcon>
 #include <QTimer>
@@ -22,7 +23,12 @@ int Run(const QString& file)
     if (!file.isEmpty())
         QTimer::singleShot(0, &program, [&] { program.GetWindow().GetFiles().Open(file); });
     const int status = QApplication::exec();
-    GetConfigData()->Save();
+    if (!GetConfigData()->Save())
+        CCustomMessageBox::information(
+            nullptr,
+            Program::tr("The settings could not be kept. Look whether the disk has room, and whether "
+                        "files can be written in %1.")
+                .arg(QDir::toNativeSeparators(CConstantData::GetSysConfigDir())));
     return status;
 }
 

@@ -5,10 +5,9 @@
 #include "chainactions.h"
 #include "designview.h"
 #include "editactions.h"
-#include "exportactions.h"
+#include "exchangeactions.h"
 #include "faultsdock.h"
 #include "fileactions.h"
-#include "importactions.h"
 #include "makeaction.h"
 #include "numbertool.h"
 #include "pantool.h"
@@ -49,34 +48,35 @@ QString DraggedFile(const QMimeData* data)
 
 MainWindow::MainWindow(DocumentController& document, QWidget* parent)
     : QMainWindow(parent), m_document(document), m_view(new DesignView(m_scene, this)),
-      m_files(new FileActions(m_document, *this)), m_edits(new EditActions(m_document, this)),
-      m_ports(new PortActions(m_document, m_senderEdits, *this)), m_settings(new SettingsActions(this)),
-      m_bar(addToolBar(tr("Tools"))), m_tree(new ProjectTree(m_document, m_senderEdits, this))
+      m_files(new FileActions(m_document, *this)), m_ports(new PortActions(m_document, m_senderEdits, *this)),
+      m_settings(new SettingsActions(this)), m_bar(addToolBar(tr("Tools"))),
+      m_tree(new ProjectTree(m_document, m_senderEdits, this))
 {
     setCentralWidget(m_view);
-    auto* dock = new QDockWidget(tr("Project"), this);
-    dock->setObjectName(QStringLiteral("project"));
-    dock->setWidget(m_tree);
-    addDockWidget(Qt::LeftDockWidgetArea, dock);
-    auto* properties = new QDockWidget(tr("Properties"), this);
-    properties->setObjectName(QStringLiteral("properties"));
-    m_properties = new QTabWidget(properties);
-    properties->setWidget(m_properties);
-    m_properties->addTab(new CabinetsPage(m_document, this), tr("Cabinets"));
-    new PropertyPages(m_document, m_senderEdits, *m_ports, *m_properties);
-    addDockWidget(Qt::RightDockWidgetArea, properties);
+    const auto add = [this](const QString& name, const QString& title, QWidget* widget,
+                            Qt::DockWidgetArea area) {
+        auto* dock = new QDockWidget(title, this);
+        dock->setObjectName(name);
+        dock->setWidget(widget);
+        addDockWidget(area, dock);
+        return dock;
+    };
+    auto* project = add(QStringLiteral("project"), tr("Project"), m_tree, Qt::LeftDockWidgetArea);
+    auto* pages = new QTabWidget(this);
+    pages->addTab(new CabinetsPage(m_document, this), tr("Cabinets"));
+    new PropertyPages(m_document, m_senderEdits, *m_ports, *pages);
+    auto* properties = add(QStringLiteral("properties"), tr("Properties"), pages, Qt::RightDockWidgetArea);
     m_faults = new FaultsDock(m_document, this);
     addDockWidget(Qt::BottomDockWidgetArea, m_faults);
     setAcceptDrops(true);
     resize(1280, 800);
-    resizeDocks({dock, properties}, {280, 240}, Qt::Horizontal);
+    resizeDocks({project, properties}, {280, 240}, Qt::Horizontal);
     resizeDocks({m_faults}, {110}, Qt::Vertical);
     m_bar->setObjectName(QStringLiteral("tools"));
     m_bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     Connect();
     MakeStatusBar();
-    MakeFileMenu();
-    MakeEditMenu();
+    MakeFileAndEditMenu();
     MakeViewMenu();
     MakeTools();
     MakeProjectMenu();
@@ -98,14 +98,17 @@ void MainWindow::Connect()
     connect(&m_document, &DocumentController::PortStatesChanged, &m_scene, &SceneModel::RenewPortStates);
     connect(&m_document, &DocumentController::PortStatesChanged, m_view, &DesignView::ShowTool);
     connect(&m_document, &DocumentController::PortEdited, &m_scene, &SceneModel::RenewPort);
-    connect(&m_document, &DocumentController::SenderChanged, this, &MainWindow::ShowSender);
-    connect(&m_document, &DocumentController::Refused, this,
-            [this](const QString& why) { statusBar()->showMessage(why, kMessageTime); });
+    connect(&m_document, &DocumentController::SenderChanged, &m_scene, &SceneModel::Renew);
+    connect(&m_document, &DocumentController::SenderChanged, m_view, &DesignView::Fit);
+    connect(&m_document, &DocumentController::Refused, this, &MainWindow::Tell);
     connect(m_faults, &FaultsDock::CabinetChosen, m_view, &DesignView::Show);
-    connect(m_edits, &EditActions::Placed, m_view, &DesignView::Show);
     connect(&m_scene, &SceneModel::Renewed, this, &MainWindow::ShowCounts);
-    connect(m_files, &FileActions::Told, this,
-            [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });
+    connect(m_files, &FileActions::Told, this, &MainWindow::Tell);
+}
+
+void MainWindow::Tell(const QString& text)
+{
+    statusBar()->showMessage(text, kMessageTime);
 }
 
 void MainWindow::Take(const SDocumentChange& change)
@@ -118,34 +121,21 @@ void MainWindow::Take(const SDocumentChange& change)
     ShowTitle();
 }
 
-void MainWindow::ShowSender()
-{
-    m_scene.Renew();
-    m_view->Fit();
-}
-
-void MainWindow::MakeFileMenu()
+void MainWindow::MakeFileAndEditMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     m_files->AddTo(*menu);
     menu->addSeparator();
-    const auto tell = [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); };
-    auto* exports = new ExportActions(m_document, *this);
-    auto* imports = new ImportActions(m_document, *this);
-    connect(exports, &ExportActions::Told, this, tell);
-    connect(imports, &ImportActions::Told, this, tell);
-    exports->AddTo(*menu->addMenu(tr("&Export")));
-    imports->AddTo(*menu->addMenu(tr("&Import")));
+    auto* exchange = new ExchangeActions(m_document, *this);
+    connect(exchange, &ExchangeActions::Told, this, &MainWindow::Tell);
+    exchange->AddTo(*menu);
     menu->addSeparator();
-    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
-}
-
-void MainWindow::MakeEditMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
-    m_edits->AddTo(*menu);
-    m_view->addActions(menu->actions()); // some have their key in the view alone
-    m_edits->AddTo(*m_bar);
+    AddAction(*menu, this, tr("&Quit"), tr("Close the window; what is not saved is asked for first"),
+              QKeySequence::Quit, [this] { close(); });
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    m_edits = new EditActions(m_document, *edit, *m_bar);
+    m_view->addActions(edit->actions()); // some have their key in the view alone
+    connect(m_edits, &EditActions::Placed, m_view, &DesignView::Show);
     m_bar->addSeparator();
 }
 
@@ -155,13 +145,9 @@ void MainWindow::MakeTools()
     QMenu* menu = menuBar()->addMenu(tr("&Tools"));
     auto* group = new QActionGroup(this);
     const auto add = [&](const QString& text, const QString& tip, const QKeySequence& key, auto make) {
-        QAction* action = MakeAction(this, text, tip, key);
-        action->setCheckable(true);
-        group->addAction(action);
-        menu->addAction(action);
-        m_bar->addAction(action);
-        connect(action, &QAction::triggered, this, [this, make] { m_view->SetTool(make()); });
-        return action;
+        const auto choose = [this, make] { m_view->SetTool(make()); };
+        m_bar->addAction(group->addAction(AddSwitch(*menu, this, text, tip, key, false, choose)));
+        return group->actions().last();
     };
     add(tr("&Select"), tr("Select and move cabinets"), Qt::Key_S, [this] {
         return std::make_unique<SelectTool>(*m_view, m_document);
@@ -175,17 +161,16 @@ void MainWindow::MakeTools()
 void MainWindow::MakeProjectMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Project"));
-    const auto add = [&](const QString& text, const QString& tip, const QKeySequence& key, auto act) {
-        QAction* action = MakeAction(this, text, tip, key);
-        connect(action, &QAction::triggered, this, act);
-        menu->addAction(action);
-    };
-    add(tr("&Add sender"), tr("Add a sending unit or processor, with ports of its own"), Keys("Ctrl+T"),
-        [this] { m_document.AddSender(); });
-    add(tr("&Rename sender"), tr("Give the sender in the tree a name"), Qt::Key_F2,
-        [this] { m_tree->RenameCurrent(); });
-    add(tr("&Delete sender…"), tr("Delete the sender in the tree with all its cabinets"), QKeySequence(),
-        [this] { m_document.DeleteSender(m_tree->GetSelectedSender(), this); });
+    AddAction(*menu, this, tr("&Add sender"), tr("Add a sending unit or processor, with ports of its own"),
+              Keys("Ctrl+T"), [this] { m_document.AddSender(); });
+    AddAction(*menu, this, tr("&Rename sender"), tr("Give the sender in the tree a name"), Qt::Key_F2,
+              [this] { m_tree->RenameCurrent(); });
+    QAction* remove =
+        AddAction(*menu, this, tr("&Delete sender…"),
+                  tr("Delete the sender in the tree with all its cabinets; the last one of a project stays"),
+                  {}, [this] { m_document.DeleteSender(m_tree->GetSelectedSender(), this); });
+    connect(&m_document, &DocumentController::Changed, remove,
+            [this, remove] { remove->setEnabled(m_document.GetProject().GetSenderCount() > 1); });
     menu->addSeparator();
     menu->addActions(m_ports->GetActions());
     m_tree->addActions(menu->actions());
@@ -194,29 +179,22 @@ void MainWindow::MakeProjectMenu()
 void MainWindow::MakeWallMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Wall"));
-    QAction* block =
-        MakeAction(this, tr("Add &block…"), tr("Place a block of equal cabinets on a port"), Qt::Key_Insert);
-    connect(block, &QAction::triggered, this, &MainWindow::AskForBlock);
-    menu->addAction(block);
     m_bar->addSeparator();
-    m_bar->addAction(block);
-    QAction* turn =
-        MakeAction(this, tr("&Turn…"), tr("Turn the selected cabinets about their middle"), Keys("Ctrl+R"));
-    connect(turn, &QAction::triggered, this, &MainWindow::AskForAngle);
-    QAction* turned = MakeAction(this, tr("Show turned cabinets as &turned"),
-                                 tr("Off: they are shown and found upright, each about its middle"));
-    turned->setCheckable(true);
-    turned->setChecked(GetConfigData()->IsEnableRotate());
-    connect(turned, &QAction::toggled, &m_document, &DocumentController::SetRotationOn);
+    m_bar->addAction(AddAction(*menu, this, tr("Add &block…"),
+                               tr("Place a block of equal cabinets on a port"), Qt::Key_Insert,
+                               [this] { AskForBlock(); }));
+    m_edits->Enable(*AddAction(*menu, this, tr("&Turn…"), tr("Turn the selected cabinets about their middle"),
+                               Keys("Ctrl+R"), [this] { AskForAngle(); }),
+                    EditActions::Selection);
+    QAction* turned = AddSwitch(*menu, this, tr("Show turned cabinets as &turned"),
+                                tr("Off: they are shown and found upright, each about its middle"), {},
+                                GetConfigData()->IsEnableRotate(), [this](bool on) { m_document.SetRotationOn(on); });
     connect(&m_document, &DocumentController::RotationChanged, turned, &QAction::setChecked);
     connect(&m_document, &DocumentController::RotationChanged, &m_scene, &SceneModel::Renew);
-    menu->addActions({turn, turned});
     menu->addSeparator();
-    auto* chain = new ChainActions(m_document, this);
-    chain->AddTo(*menu);
     QToolBar* bar = addToolBar(tr("Chain"));
     bar->setObjectName(QStringLiteral("chain"));
-    chain->AddTo(*bar);
+    new ChainActions(m_document, *menu, *bar);
 }
 
 void MainWindow::KeepLayout() const
@@ -234,6 +212,8 @@ void MainWindow::RestoreLayout()
 
 void MainWindow::AskForAngle()
 {
+    if (!m_document.MayEditSelection())
+        return;
     bool isChosen = false;
     const double angle =
         QInputDialog::getDouble(this, tr("Turn"), tr("Degrees, clockwise:"), 90, -360, 360, 2, &isChosen);
@@ -243,10 +223,8 @@ void MainWindow::AskForAngle()
 
 void MainWindow::AskForBlock()
 {
-    if (!m_document.GetSender()) {
-        statusBar()->showMessage(tr("There is no sender yet. Add one first."), kMessageTime);
-        return;
-    }
+    if (!m_document.GetSender())
+        return Tell(tr("There is no sender yet. Add one first."));
     auto* dialog = new BlockDialog(m_document, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     const auto preview = [this](const SAddTileInfo& block) {
@@ -266,23 +244,23 @@ void MainWindow::AskForBlock()
 void MainWindow::MakeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
-    const auto add = [&](const QString& text, const QKeySequence& key, void (DesignView::*slot)()) {
-        return menu->addAction(text, m_view, slot, key);
-    };
-    add(tr("Zoom &in"), QKeySequence::ZoomIn, &DesignView::ZoomIn)
+    AddAction(*menu, this, tr("Zoom &in"), tr("Show the wall larger, about the middle of the view"),
+              QKeySequence::ZoomIn, [this] { m_view->ZoomIn(); })
         ->setShortcuts({QKeySequence(QKeySequence::ZoomIn), Keys("Ctrl+=")});
-    add(tr("Zoom &out"), QKeySequence::ZoomOut, &DesignView::ZoomOut);
-    add(tr("&Fit the wall"), Keys("Ctrl+0"), &DesignView::Fit);
-    add(tr("&Actual size"), Keys("Ctrl+1"), &DesignView::ActualSize);
+    AddAction(*menu, this, tr("Zoom &out"), tr("Show the wall smaller, about the middle of the view"),
+              QKeySequence::ZoomOut, [this] { m_view->ZoomOut(); });
+    AddAction(*menu, this, tr("&Fit the wall"), tr("Show the canvas, and what lies beyond it, as a whole"),
+              Keys("Ctrl+0"), [this] { m_view->Fit(); });
+    AddAction(*menu, this, tr("&Actual size"), tr("Show each pixel of the wall as one of the screen"),
+              Keys("Ctrl+1"), [this] { m_view->ActualSize(); });
     menu->addSeparator();
-    QAction* grid = menu->addAction(tr("&Grid"));
-    grid->setShortcut(Qt::Key_NumberSign);
-    grid->setCheckable(true);
-    grid->setChecked(GetConfigData()->IsShowGrid());
-    connect(grid, &QAction::toggled, m_view, &DesignView::ShowGrid);
+    AddSwitch(*menu, this, tr("&Grid"), tr("Show lines on the canvas to measure by eye"), Qt::Key_NumberSign,
+              GetConfigData()->IsShowGrid(), [this](bool on) { m_view->ShowGrid(on); });
     menu->addSeparator();
-    for (const QDockWidget* dock : findChildren<QDockWidget*>())
+    for (const QDockWidget* dock : findChildren<QDockWidget*>()) {
+        dock->toggleViewAction()->setStatusTip(tr("Show this part of the window, or hide it"));
         menu->addAction(dock->toggleViewAction());
+    }
 }
 
 void MainWindow::MakeStatusBar()

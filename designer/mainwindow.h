@@ -14,7 +14,6 @@ class PortActions;
 class ProjectTree;
 class SettingsActions;
 class QLabel;
-class QTabWidget;
 class QToolBar;
 
 /// The window: menus, the view of the wall, and what is told about it.
@@ -39,8 +38,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void MakeFileMenu();
-    void MakeEditMenu();
+    void MakeFileAndEditMenu();
     void MakeViewMenu();
     void MakeStatusBar();
     void MakeTools();
@@ -48,9 +46,9 @@ private:
     void MakeWallMenu();
     void RestoreLayout();
     void Connect();
+    void Tell(const QString& text);
     void AskForBlock();
     void AskForAngle();
-    void ShowSender();
     void ShowTitle();
     void ShowCounts();
     void Take(const SDocumentChange& change);
@@ -66,7 +64,6 @@ private:
     QToolBar* m_bar = nullptr;
     ProjectTree* m_tree = nullptr;
     FaultsDock* m_faults = nullptr;
-    QTabWidget* m_properties = nullptr; ///< a page for each kind of thing that has properties
     QLabel* m_hint = nullptr;
     QLabel* m_state = nullptr;
     QLabel* m_counts = nullptr;

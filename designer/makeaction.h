@@ -27,3 +27,25 @@ inline QAction* MakeAction(QObject* parent, const QString& text, const QString& 
         key.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
     return action;
 }
+
+/// The same in a menu, or in a bar. `act` belongs to the owner.
+template <typename Act>
+QAction* AddAction(QWidget& menu, QObject* owner, const QString& text, const QString& tip,
+                   const QKeySequence& key, Act act)
+{
+    QAction* action = MakeAction(owner, text, tip, key);
+    QObject::connect(action, &QAction::triggered, owner, act);
+    menu.addAction(action);
+    return action;
+}
+
+/// One that is on or off; `act` takes which.
+template <typename Act>
+QAction* AddSwitch(QWidget& menu, QObject* owner, const QString& text, const QString& tip,
+                   const QKeySequence& key, bool isOn, Act act)
+{
+    QAction* action = AddAction(menu, owner, text, tip, key, act);
+    action->setCheckable(true);
+    action->setChecked(isOn);
+    return action;
+}

@@ -16,24 +16,20 @@ void SettingsActions::AddTo(QMenu& menu)
     const bool isChinese = GetConfigData()->GetLanguageType() == LanguageChinese; // else English
     QMenu* languages = menu.addMenu(tr("&Language"));
     auto* group = new QActionGroup(this);
-    const auto add = [&](const QString& name, ELanguageType language) { // each by its own name
-        QAction* action = MakeAction(this, name, tr("Show the program in this language from now on"));
-        action->setCheckable(true);
-        action->setChecked(isChinese == (language == LanguageChinese));
-        group->addAction(action);
-        languages->addAction(action);
-        connect(action, &QAction::triggered, this, [this, language] {
+    const QString tip = tr("Show the program in this language from now on");
+    languages->menuAction()->setStatusTip(tip);
+    for (const ELanguageType language : {LanguageEnglish, LanguageChinese}) { // each by its own name
+        const bool isOther = language == LanguageChinese;
+        const QString name = isOther ? QStringLiteral("中文(&Z)") : QStringLiteral("&English");
+        const auto choose = [this, language] {
             GetConfigData()->SetAutoSelectLanguage(false);
             GetConfigData()->SetLanguage(language);
             emit LanguageChanged();
-        });
-    };
-    add(QStringLiteral("&English"), LanguageEnglish);
-    add(QStringLiteral("中文(&Z)"), LanguageChinese);
-    QAction* snap = MakeAction(this, tr("&Snap to neighbours and canvas"),
-                               tr("What is dragged keeps to edges that are near; not while Alt is held"));
-    snap->setCheckable(true);
-    snap->setChecked(GetConfigData()->IsEnableAttraction());
-    connect(snap, &QAction::toggled, this, [](bool on) { GetConfigData()->SetEnableAttraction(on); });
-    menu.addAction(snap);
+        };
+        group->addAction(AddSwitch(*languages, this, name, tip, {}, isChinese == isOther, choose));
+    }
+    AddSwitch(menu, this, tr("&Snap to neighbours and canvas"),
+              tr("What is dragged keeps to edges that are near; not while Alt is held"), {},
+              GetConfigData()->IsEnableAttraction(),
+              [](bool on) { GetConfigData()->SetEnableAttraction(on); });
 }

@@ -87,6 +87,14 @@
         <source>A product of the library, with its parameter file, or a size alone</source>
         <translation>产品库中的产品（带参数文件），或只有尺寸</translation>
     </message>
+    <message>
+        <source>Scan a&amp;gain</source>
+        <translation>重新扫描(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Look for products in %1 again</source>
+        <translation>重新在%1中查找产品</translation>
+    </message>
 </context>
 <context>
     <name>CabinetsPage</name>
@@ -413,9 +421,29 @@
         <source>Port %1</source>
         <translation>输出口%1</translation>
     </message>
+    <message>
+        <source>Give the selected cabinets to another port of the sender</source>
+        <translation>把选中的箱体移至此主控的另一个输出口</translation>
+    </message>
 </context>
 <context>
-    <name>ExportActions</name>
+    <name>ExchangeActions</name>
+    <message>
+        <source>What has that name is no file. Choose another name.</source>
+        <translation>同名的不是文件。请换一个名称。</translation>
+    </message>
+    <message>
+        <source>Try another name or folder. %1</source>
+        <translation>请换一个名称或文件夹。%1</translation>
+    </message>
+    <message>
+        <source>Drawing the sheets</source>
+        <translation>正在绘制施工图册</translation>
+    </message>
+    <message>
+        <source>Sheets for the crew: a cover, and pages for each sender and port, on %1</source>
+        <translation>施工图册：封面以及每个主控和输出口的页面，纸张%1</translation>
+    </message>
     <message>
         <source>&amp;Drawing…</source>
         <translation>图纸(&amp;D)…</translation>
@@ -431,10 +459,6 @@
     <message>
         <source>Draw the current sender as it is seen from behind</source>
         <translation>绘制当前主控的背视图</translation>
-    </message>
-    <message>
-        <source>Sheets for the crew: a cover, and pages for each sender and port, on %1</source>
-        <translation>施工图册：封面以及每个主控和输出口的页面，纸张%1</translation>
     </message>
     <message>
         <source>Sheets on A&amp;4…</source>
@@ -465,14 +489,6 @@
         <translation>按连接顺序列出项目的所有线缆</translation>
     </message>
     <message>
-        <source>There is no sender yet. Add one first.</source>
-        <translation>还没有主控。请先添加一个。</translation>
-    </message>
-    <message>
-        <source>Exported: %1</source>
-        <translation>已导出：%1</translation>
-    </message>
-    <message>
         <source>Layout of the s&amp;ender…</source>
         <translation>主控布局(&amp;E)…</translation>
     </message>
@@ -489,20 +505,40 @@
         <translation>把当前输出口的布局写入单独的文件，供其他项目使用</translation>
     </message>
     <message>
-        <source>wall</source>
-        <translation>屏体</translation>
+        <source>&amp;Export</source>
+        <translation>导出(&amp;E)</translation>
     </message>
     <message>
-        <source>Drawing the sheets</source>
-        <translation>正在绘制施工图册</translation>
+        <source>Write drawings, sheets, lists or layouts for others</source>
+        <translation>写出供他人使用的图纸、施工图册、清单或布局</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Replace a layout by that of a file from another project</source>
+        <translation>用其他项目的文件中的布局替换当前布局</translation>
+    </message>
+    <message>
+        <source>Replace the layout of the current port by that of a file</source>
+        <translation>用文件中的布局替换当前输出口的布局</translation>
+    </message>
+    <message>
+        <source>Replace the layout of the current sender by that of a file</source>
+        <translation>用文件中的布局替换当前主控的布局</translation>
+    </message>
+    <message>
+        <source>There is no sender yet. Add one first.</source>
+        <translation>还没有主控。请先添加一个。</translation>
     </message>
     <message>
         <source>Its name has to end in .%1.</source>
         <translation>文件名必须以 .%1 结尾。</translation>
     </message>
     <message>
-        <source>Try another name or folder. %1</source>
-        <translation>请换一个名称或文件夹。%1</translation>
+        <source>Exported: %1</source>
+        <translation>已导出：%1</translation>
     </message>
     <message>
         <source>%1 was not written.
@@ -511,6 +547,42 @@
         <translation>%1没有写入。
 
 %2</translation>
+    </message>
+    <message>
+        <source>Layouts (*.xml);;All files (*)</source>
+        <translation>布局 (*.xml);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Keep the ports that are locked as they are?</source>
+        <translation>锁定的输出口是否保持不变？</translation>
+    </message>
+    <message>
+        <source>Take names, canvas and background from the file too? No undo takes these back.</source>
+        <translation>是否同时采用文件中的名称、画布和背景？此项无法撤销。</translation>
+    </message>
+    <message>
+        <source>The file has other backups or another number of ports than this sender. So neither the import nor what was done to the sender before can be undone afterwards. Import it all the same?</source>
+        <translation>该文件的输出口数量或备份与此主控不同。因此导入之后，导入本身以及之前对此主控的操作都无法撤销。仍然导入吗？</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read.
+
+%2</source>
+        <translation>%1只读取了一部分。
+
+%2</translation>
+    </message>
+    <message>
+        <source>%1 was not imported, and nothing was changed. Choose a file that was exported as the layout of a sender, or of a port, as the menu says.
+
+%2</source>
+        <translation>%1没有导入，项目没有任何更改。请按菜单所示，选择作为主控布局或输出口布局导出的文件。
+
+%2</translation>
+    </message>
+    <message>
+        <source>Imported: %1</source>
+        <translation>已导入：%1</translation>
     </message>
 </context>
 <context>
@@ -534,6 +606,62 @@
     <message>
         <source>Faults: %1</source>
         <translation>故障：%1</translation>
+    </message>
+    <message>
+        <source>lies over another cabinet</source>
+        <translation>与其他箱体重叠</translation>
+    </message>
+    <message>
+        <source>lies outside the canvas</source>
+        <translation>超出画布</translation>
+    </message>
+    <message>
+        <source>is not in the chain</source>
+        <translation>不在连线中</translation>
+    </message>
+    <message>
+        <source>has the number of another cabinet</source>
+        <translation>与其他箱体编号相同</translation>
+    </message>
+    <message>
+        <source>leaves a gap before it in the chain</source>
+        <translation>在连线中前面缺少编号</translation>
+    </message>
+    <message>
+        <source>has other receiving cards before it than the file says</source>
+        <translation>之前的接收卡数量与文件所述不同</translation>
+    </message>
+    <message>
+        <source>is of a product that is not known here</source>
+        <translation>所属的产品在这里未知</translation>
+    </message>
+    <message>
+        <source>a parameter file is missing</source>
+        <translation>缺少参数文件</translation>
+    </message>
+    <message>
+        <source>is in a group that there is not</source>
+        <translation>所属的分组不存在</translation>
+    </message>
+    <message>
+        <source>backs up a port that there is not</source>
+        <translation>所备份的输出口不存在</translation>
+    </message>
+    <message>
+        <source>backs itself up in the end</source>
+        <translation>最终备份了自身</translation>
+    </message>
+    <message>
+        <source>has more pixels than it can carry</source>
+        <translation>像素数超出带载能力</translation>
+    </message>
+    <message>
+        <source>Sender %1, port %2, cabinet %3: %4</source>
+        <translation>主控%1，输出口%2，箱体%3：%4</translation>
+    </message>
+    <message>
+        <source>Sender %1, port %2: %3</source>
+        <translation>主控%1，输出口%2：%3</translation>
     </message>
 </context>
 <context>
@@ -662,6 +790,18 @@ Open it to look at? It can then be saved under another name.</source>
         <source>%1 is there already. Replace it?</source>
         <translation>%1已经存在。要替换吗？</translation>
     </message>
+    <message>
+        <source>Open one of the projects that were open last</source>
+        <translation>打开最近打开过的项目</translation>
+    </message>
+    <message>
+        <source>%1 is saved, but not all that belongs into it.
+
+%2</source>
+        <translation>%1已保存，但其中缺少一部分内容。
+
+%2</translation>
+    </message>
 </context>
 <context>
     <name>GroupRows</name>
@@ -676,61 +816,6 @@ Open it to look at? It can then be saved under another name.</source>
     <message>
         <source>A click or Return selects its cabinets</source>
         <translation>单击或按回车键可选择其中的箱体</translation>
-    </message>
-</context>
-<context>
-    <name>ImportActions</name>
-    <message>
-        <source>Layout of the s&amp;ender…</source>
-        <translation>主控布局(&amp;E)…</translation>
-    </message>
-    <message>
-        <source>Replace the layout of the current sender by that of a file</source>
-        <translation>用文件中的布局替换当前主控的布局</translation>
-    </message>
-    <message>
-        <source>Layout of the &amp;port…</source>
-        <translation>输出口布局(&amp;P)…</translation>
-    </message>
-    <message>
-        <source>Replace the layout of the current port by that of a file</source>
-        <translation>用文件中的布局替换当前输出口的布局</translation>
-    </message>
-    <message>
-        <source>Layouts (*.xml);;All files (*)</source>
-        <translation>布局 (*.xml);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>Keep the ports that are locked as they are?</source>
-        <translation>锁定的输出口是否保持不变？</translation>
-    </message>
-    <message>
-        <source>Take names, canvas and background from the file too? No undo takes these back.</source>
-        <translation>是否同时采用文件中的名称、画布和背景？此项无法撤销。</translation>
-    </message>
-    <message>
-        <source>The file has other backups or another number of ports than this sender. So neither the import nor what was done to the sender before can be undone afterwards. Import it all the same?</source>
-        <translation>该文件的输出口数量或备份与此主控不同。因此导入之后，导入本身以及之前对此主控的操作都无法撤销。仍然导入吗？</translation>
-    </message>
-    <message>
-        <source>Not all of %1 could be read.
-
-%2</source>
-        <translation>%1只读取了一部分。
-
-%2</translation>
-    </message>
-    <message>
-        <source>%1 was not imported, and nothing was changed. Choose a file that was exported as the layout of a sender, or of a port, as the menu says.
-
-%2</source>
-        <translation>%1没有导入，项目没有任何更改。请按菜单所示，选择作为主控布局或输出口布局导出的文件。
-
-%2</translation>
-    </message>
-    <message>
-        <source>Imported: %1</source>
-        <translation>已导入：%1</translation>
     </message>
 </context>
 <context>
@@ -758,14 +843,6 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>&amp;File</source>
         <translation>文件(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;Export</source>
-        <translation>导出(&amp;E)</translation>
-    </message>
-    <message>
-        <source>&amp;Import</source>
-        <translation>导入(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -826,10 +903,6 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>&amp;Delete sender…</source>
         <translation>删除主控(&amp;D)…</translation>
-    </message>
-    <message>
-        <source>Delete the sender in the tree with all its cabinets</source>
-        <translation>删除列表中的主控及其所有箱体</translation>
     </message>
     <message>
         <source>&amp;Wall</source>
@@ -931,6 +1004,38 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <source>&amp;Grid</source>
         <translation>显示网格(&amp;G)</translation>
     </message>
+    <message>
+        <source>Close the window; what is not saved is asked for first</source>
+        <translation>关闭窗口；有未保存的内容时先询问</translation>
+    </message>
+    <message>
+        <source>Delete the sender in the tree with all its cabinets; the last one of a project stays</source>
+        <translation>删除项目树中的主控及其所有箱体；项目至少保留一个主控</translation>
+    </message>
+    <message>
+        <source>Show the wall larger, about the middle of the view</source>
+        <translation>以视图中心为基准放大</translation>
+    </message>
+    <message>
+        <source>Show the wall smaller, about the middle of the view</source>
+        <translation>以视图中心为基准缩小</translation>
+    </message>
+    <message>
+        <source>Show the canvas, and what lies beyond it, as a whole</source>
+        <translation>显示整个画布以及画布以外的箱体</translation>
+    </message>
+    <message>
+        <source>Show each pixel of the wall as one of the screen</source>
+        <translation>屏幕的一个像素显示屏体的一个像素</translation>
+    </message>
+    <message>
+        <source>Show lines on the canvas to measure by eye</source>
+        <translation>在画布上显示网格线，便于目测</translation>
+    </message>
+    <message>
+        <source>Show this part of the window, or hide it</source>
+        <translation>显示或隐藏窗口的这一部分</translation>
+    </message>
 </context>
 <context>
     <name>NumberTool</name>
@@ -963,6 +1068,13 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>Make the current port one of its own again</source>
         <translation>使当前输出口恢复为独立的输出口</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>The settings could not be kept. Look whether the disk has room, and whether files can be written in %1.</source>
+        <translation>设置无法保存。请检查磁盘是否有剩余空间，以及%1中能否写入文件。</translation>
     </message>
 </context>
 <context>

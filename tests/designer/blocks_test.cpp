@@ -70,6 +70,14 @@ struct BlocksStory : DesignerStory
         Click({10, 10});
         Click({140, 10}, Qt::ShiftModifier);
     }
+    bool IsEnabled(const char* text)
+    {
+        for (const QAction* action : window.findChildren<QAction*>()) {
+            if (action->text() == QString::fromUtf8(text))
+                return action->isEnabled();
+        }
+        return false;
+    }
     CTileGroupSet& Groups(int port) { return document.GetSender()->GetPort(port)->GetTileGroupSet(); }
     const CTileGroup& Group(int index) { return *Groups(0).GetDirectGroupByDirIndex(index); }
     double Angle(int tile) { return Tiles().GetTile(tile)->GetRotateRecord().angle; }
@@ -81,6 +89,12 @@ struct BlocksStory : DesignerStory
 
 TEST_F(BlocksStory, GroupsAreMadeTakenApartAndNested)
 {
+    EXPECT_FALSE(IsEnabled("&Turn…") || IsEnabled("U&ngroup") || IsEnabled("&Delete sender…"));
+    Click({10, 10});
+    EXPECT_TRUE(IsEnabled("&Turn…") && IsEnabled("U&ngroup") && !IsEnabled("&Group"));
+    document.SetCurrentPort(0, 0);
+    ASSERT_TRUE(document.ClearNumbers() && !IsEnabled("&Clear numbers"));
+    document.Undo();
     Key(Qt::Key_A, kCtrl);
     Key(Qt::Key_G, kCtrl);
     EXPECT_TRUE(IsTold("one port"));

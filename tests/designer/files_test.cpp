@@ -44,6 +44,17 @@ TEST_F(FilesStory, AProjectIsOpenedLookedAtAndSaved)
     EXPECT_TRUE(window.GetFiles().MayLeave() && messages.Take().isEmpty()) << "but nothing is asked";
     EXPECT_TRUE(CProjectLock(path).Lock()) << "the first file is free again";
     EXPECT_FALSE(CProjectLock(folder.Path("copy.prj"_s)).Lock());
+
+    document.SelectAll();
+    ASSERT_TRUE(document.DeleteSelection());
+    GetProjectData()->AddParameterFileInfo("lost"_s, SMD5::FromString(QString(32, QLatin1Char('a'))));
+    ASSERT_TRUE(window.GetFiles().SaveTo(path)) << "all but the file that is missing";
+    const QString told = messages.Take().join(QString());
+    EXPECT_TRUE(told.contains("wall.prj is saved, but not all"_s) && told.contains("lost"_s))
+        << qPrintable(told);
+    EXPECT_EQ(window.windowTitle().toStdString(), "wall.prj[*]");
+    EXPECT_FALSE(CProjectLock(path).Lock());
+    EXPECT_TRUE(window.GetFiles().MayLeave() && messages.Take().isEmpty()) << "it is saved";
 }
 
 TEST_F(FilesStory, WhatCannotBeOpenedIsToldAndNothingIsLost)
