@@ -35,6 +35,7 @@ public:
     CPort* GetPort() const;                      ///< [ref] the current one of that sender
     static QString WhyClosed(const CPort& port); ///< why its cabinets stay as they are; empty: they need not
     static QList<CPort*> OpenPorts(CSender& sender); ///< [ref] in use and not closed
+    bool IsAllowed(const QString& whyNot);           ///< with no reason against it, which the user is told
     // where the check and the drawings take the sender's canvas to lie among its cabinets
     static QRect CanvasOf(const CSender& sender); ///< null: it has none
     static QRect LimitsOf(const CSender& sender); ///< of the largest canvas that there can be
@@ -146,9 +147,8 @@ signals:
 
 private:
     bool Record(CProjectUndoRedo::Type type);
-    bool Refuse(const QString& why);       ///< tells the user; always false
-    bool IsAllowed(const QString& whyNot); ///< with no reason against it
-    void ShowTurned();                     ///< when some cabinet is
+    bool Refuse(const QString& why); ///< tells the user; always false
+    void ShowTurned();               ///< when some cabinet is
     void SelectionDone();
     static QString WhyTooLarge();
     QString WhyNoRoom(const CPort& port, qint64 cabinets) const; ///< for that many more; empty: there is

@@ -2,6 +2,7 @@
 
 #include "documentcontroller.h"
 #include "makeaction.h"
+#include "pageform.h"
 
 #include <QMenu>
 #include <QToolBar>
@@ -34,9 +35,15 @@ EditActions::EditActions(DocumentController& document, QMenu& menu, QToolBar& ba
     : QObject(&menu), m_document(document)
 {
     m_undo = AddAction(menu, this, tr("&Undo"), tr("Take back the last edit"), QKeySequence::Undo,
-                       [this] { m_document.Undo(); });
+                       [this] {
+                           PageForm::FinishTyping();
+                           m_document.Undo();
+                       });
     m_redo = AddAction(menu, this, tr("&Redo"), tr("Bring back what was undone"), QKeySequence::Redo,
-                       [this] { m_document.Redo(); });
+                       [this] {
+                           PageForm::FinishTyping();
+                           m_document.Redo();
+                       });
     AddSteps(bar, m_undo, true);
     AddSteps(bar, m_redo, false);
     using Document = DocumentController;

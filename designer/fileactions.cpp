@@ -2,6 +2,7 @@
 
 #include "documentcontroller.h"
 #include "makeaction.h"
+#include "pageform.h"
 
 #include "custommessagebox.h"
 #include "customprogressbar.h"
@@ -59,6 +60,7 @@ void FileActions::Tell(const QString& text)
 
 bool FileActions::MayLeave()
 {
+    PageForm::FinishTyping();
     if (!m_document.IsSaveNeeded())
         return true;
     const QString path = m_document.GetFile().GetPath();
@@ -163,6 +165,7 @@ bool FileActions::SaveAs()
 
 bool FileActions::SaveTo(const QString& path)
 {
+    PageForm::FinishTyping();
     QString text;
     DocumentFile::Outcome outcome = DocumentFile::Outcome::Failed;
     {

@@ -1,6 +1,6 @@
 #include "loaddelegate.h"
 
-#include <QPainter>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -14,15 +14,18 @@ void LoadDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     if (text.isEmpty())
         return;
     const double load = index.data(Qt::UserRole).toDouble();
-    const QRectF bar = QRectF(option.rect).adjusted(3, 3, -4, -4);
-    const QColor color = load > 1 ? QColor(200, 30, 30) : option.palette.color(QPalette::Highlight);
-    painter->save();
-    painter->fillRect(bar, option.palette.color(QPalette::Base));
-    painter->fillRect(QRectF(bar.topLeft(), QSizeF(bar.width() * std::min(load, 1.0), bar.height())), color);
-    painter->setPen(option.palette.color(QPalette::Mid));
-    painter->drawRect(bar);
-    painter->setPen(load > 0.5 ? option.palette.color(QPalette::HighlightedText)
-                               : option.palette.color(QPalette::Text));
-    painter->drawText(bar, Qt::AlignCenter, text);
-    painter->restore();
+    QStyleOptionProgressBar bar;
+    bar.initFrom(option.widget);
+    bar.rect = option.rect.adjusted(2, 2, -2, -2);
+    bar.state |= QStyle::State_Horizontal;
+    bar.maximum = 100;
+    bar.progress = qRound(std::min(load, 1.0) * bar.maximum);
+    bar.text = text;
+    bar.textVisible = true;
+    bar.textAlignment = Qt::AlignCenter;
+    if (load > 1) {
+        bar.palette.setColor(QPalette::Highlight, QColor(200, 30, 30));
+        bar.palette.setColor(QPalette::HighlightedText, Qt::white);
+    }
+    option.widget->style()->drawControl(QStyle::CE_ProgressBar, &bar, painter);
 }

@@ -10,6 +10,7 @@
 #include "fileactions.h"
 #include "makeaction.h"
 #include "numbertool.h"
+#include "pageform.h"
 #include "pantool.h"
 #include "portactions.h"
 #include "projecttree.h"
@@ -162,7 +163,10 @@ void MainWindow::MakeProjectMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Project"));
     AddAction(*menu, this, tr("&Add sender"), tr("Add a sending unit or processor, with ports of its own"),
-              Keys("Ctrl+T"), [this] { m_document.AddSender(); });
+              Keys("Ctrl+T"), [this] {
+                  PageForm::FinishTyping(); // it is about the sender that is left
+                  m_document.AddSender();
+              });
     AddAction(*menu, this, tr("&Rename sender"), tr("Give the sender in the tree a name"), Qt::Key_F2,
               [this] { m_tree->RenameCurrent(); });
     QAction* remove =

@@ -4,32 +4,69 @@
 #include "makeaction.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QToolButton>
 
-PageForm::PageForm(const DocumentController& document, QWidget* parent)
-    : QWidget(parent), m_document(document), m_form(new QFormLayout(this))
+namespace {
+
+constexpr int kWait = 50; ///< milliseconds
+
+bool IsBeingTyped(const QWidget& editor)
 {
-    connect(&document, &DocumentController::Changed, this, &PageForm::Renew);
-    connect(&document, &DocumentController::SenderChanged, this, &PageForm::Renew);
-    connect(&document, &DocumentController::PortStatesChanged, this, &PageForm::Renew);
+    const auto* line = qobject_cast<const QLineEdit*>(&editor);
+    if (!line)
+        line = editor.findChild<QLineEdit*>(); // of a spin box
+    return line && line->isModified() && editor.hasFocus();
+}
+
+} // namespace
+
+PageForm::PageForm(const DocumentController& document, QWidget* parent)
+    : QScrollArea(parent), m_document(document)
+{
+    auto* fields = new QWidget(this);
+    m_form = new QFormLayout(fields);
+    setWidget(fields);
+    setWidgetResizable(true);
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    fields->setAutoFillBackground(false); // what is behind it has a colour of its own
+    viewport()->setAutoFillBackground(false);
+    m_wait.setSingleShot(true);
+    m_wait.setInterval(kWait);
+    connect(&m_wait, &QTimer::timeout, this, &PageForm::Renew);
+    const auto soon = QOverload<>::of(&QTimer::start);
+    connect(&document, &DocumentController::Changed, &m_wait, soon);
+    connect(&document, &DocumentController::SelectionChanged, &m_wait, soon);
+    connect(&document, &DocumentController::SenderChanged, &m_wait, soon);
+    connect(&document, &DocumentController::PortStatesChanged, &m_wait, soon);
+    connect(&document, &DocumentController::RotationChanged, &m_wait, soon);
 }
 
 void PageForm::Follow(QWidget* editor, const QString& label, const QString& tip,
-                      const std::function<void()>& show)
+                      const std::function<void()>& show, const std::function<void()>& clear)
 {
     editor->setAccessibleName(PlainLabel(label));
     editor->setToolTip(tip);
-    m_shows.append([editor, show] {
-        const QSignalBlocker blocker(editor);
-        show();
-    });
+    editor->installEventFilter(this);
+    m_rows.append({editor, show, clear});
+}
+
+/// The wheel turns a value only where the user is, else the page.
+bool PageForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus())
+        return QScrollArea::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 void PageForm::AddNumber(const Field<int>& field, int least, int most, const QString& leastText)
@@ -37,11 +74,15 @@ void PageForm::AddNumber(const Field<int>& field, int least, int most, const QSt
     auto* editor = new QSpinBox(this);
     editor->setRange(least, most);
     editor->setSpecialValueText(leastText);
+    editor->setFocusPolicy(Qt::StrongFocus);
     editor->setKeyboardTracking(false); // a number that is being typed is none yet
-    connect(editor, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, field](int value) {
+    auto* line = editor->findChild<QLineEdit*>();
+    connect(editor, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, line, field](int value) {
+        line->setModified(false);
         field.write(value);
         Renew();
     });
+    connect(editor, &QSpinBox::editingFinished, line, [line] { line->setModified(false); });
     Follow(editor, field.label, field.tip, [editor, field] { editor->setValue(field.read()); });
     m_form->addRow(field.label, editor);
 }
@@ -49,6 +90,7 @@ void PageForm::AddNumber(const Field<int>& field, int least, int most, const QSt
 void PageForm::AddChoice(const Field<int>& field, const QList<int>& values, const QString& zeroText)
 {
     auto* editor = new QComboBox(this);
+    editor->setFocusPolicy(Qt::StrongFocus);
     const auto add = [editor, zeroText](int value) {
         editor->addItem(value == 0 ? zeroText : QString::number(value), value);
     };
@@ -65,21 +107,41 @@ void PageForm::AddChoice(const Field<int>& field, const QList<int>& values, cons
     m_form->addRow(field.label, editor);
 }
 
-void PageForm::AddText(const Field<QString>& field)
+QLineEdit* PageForm::MakeLine(const std::function<void(const QString& text)>& take)
 {
-    auto* editor = new QLineEdit(this);
-    connect(editor, &QLineEdit::editingFinished, this, [editor, field] { field.write(editor->text()); });
-    Follow(editor, field.label, field.tip, [editor, field] { editor->setText(field.read()); });
+    auto* line = new QLineEdit(this);
+    line->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 9);
+    connect(line, &QLineEdit::editingFinished, this, [this, line, take] {
+        if (!line->isModified())
+            return;
+        line->setModified(false);
+        take(line->text());
+        Renew();
+        if (line->hasFocus())
+            line->selectAll();
+    });
+    return line;
+}
+
+void PageForm::AddText(const Field<QString>& field, const QString& emptyText)
+{
+    QLineEdit* editor = MakeLine(field.write);
+    const auto show = [editor](const QString& text, const QString& placeholder) {
+        editor->setText(text);
+        editor->setPlaceholderText(placeholder);
+    };
+    Follow(
+        editor, field.label, field.tip, [=] { show(field.read(), emptyText); }, [=] { show({}, {}); });
     m_form->addRow(field.label, editor);
 }
 
 void PageForm::AddLine(const Field<SPrintLine>& field)
 {
     auto* on = new QCheckBox(field.label, this);
-    auto* editor = new QLineEdit(this);
-    const auto take = [on, editor, field] { field.write({on->isChecked(), editor->text()}); };
-    connect(on, &QCheckBox::toggled, this, take);
-    connect(editor, &QLineEdit::editingFinished, this, take);
+    QLineEdit* editor = MakeLine([on, field](const QString& text) { field.write({on->isChecked(), text}); });
+    connect(on, &QCheckBox::toggled, this, [editor, field](bool isOn) {
+        field.write({isOn, editor->text()});
+    });
     Follow(on, field.label, field.tip, [on, field] { on->setChecked(field.read().enable); });
     Follow(editor, field.label, field.tip, [editor, field] { editor->setText(field.read().text); });
     m_form->addRow(on, editor);
@@ -93,11 +155,17 @@ void PageForm::AddSwitch(const Field<bool>& field)
     m_form->addRow(editor);
 }
 
-void PageForm::AddInfo(const QString& label, const std::function<QString()>& read)
+void PageForm::AddInfo(const QString& label, const std::function<QString()>& read, const QString& tip,
+                       const QString& emptyText)
 {
     auto* text = new QLabel(this);
     text->setWordWrap(true);
-    Follow(text, label, QString(), [text, read] { text->setText(read()); });
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    const auto show = [text, read, emptyText] {
+        const QString shown = read();
+        text->setText(shown.isEmpty() ? emptyText : shown);
+    };
+    Follow(text, label, tip, show, [text] { text->clear(); });
     m_form->addRow(label, text);
 }
 
@@ -110,18 +178,49 @@ void PageForm::AddAction(QAction* action)
     m_form->addRow(button);
 }
 
+void PageForm::FinishTyping()
+{
+    QWidget* editor = QApplication::focusWidget();
+    if (!editor || !IsBeingTyped(*editor))
+        return;
+    editor->clearFocus();
+    if (editor->isVisible())
+        editor->setFocus();
+}
+
+bool PageForm::TakeSubject()
+{
+    return m_document.GetSender() != nullptr;
+}
+
 void PageForm::Renew()
 {
     if (!isVisible())
         return;
-    const bool hasSender = m_document.GetSender() != nullptr;
-    setEnabled(hasSender);
-    for (int i = 0; hasSender && i < m_shows.size(); ++i)
-        m_shows[i]();
+    if (QApplication::activeModalWidget()) { // perhaps a document is being replaced
+        m_wait.start();
+        return;
+    }
+    const bool isAny = TakeSubject();
+    widget()->setEnabled(isAny);
+    for (const Row& row : qAsConst(m_rows)) {
+        const QSignalBlocker blocker(row.editor);
+        if (!isAny)
+            row.clear();
+        else if (!IsBeingTyped(*row.editor))
+            row.show();
+    }
 }
 
 void PageForm::showEvent(QShowEvent* event)
 {
-    QWidget::showEvent(event);
+    QScrollArea::showEvent(event);
     Renew();
+}
+
+/// No field is cut at its side.
+QSize PageForm::minimumSizeHint() const
+{
+    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
+            QScrollArea::minimumSizeHint().height()};
 }

@@ -18,11 +18,11 @@ public:
     PortActions(DocumentController& document, SenderEdits& edits, QWidget& window); ///< [keep] all
 
     QList<QAction*> GetActions() const { return {m_make, m_end}; }
+    SPortPlace Place() const; ///< of the current port
 
 private:
     void Show();
     void FillSources();
-    SPortPlace Place() const; ///< of the current port
 
     DocumentController& m_document;
     SenderEdits& m_edits;

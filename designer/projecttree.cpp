@@ -9,6 +9,7 @@
 
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTimer>
@@ -87,29 +88,26 @@ int ProjectTree::GetSelectedSender() const
 
 void ProjectTree::Take(const SDocumentChange& change)
 {
+    const QScopedValueRollback<bool> filling(m_filling, true);
     if (change.documentReplaced || change.senders || change.properties) {
         Fill();
-        return;
+    } else {
+        for (const SPortPlace& place : change.ports) {
+            if (ItemOf(place.sender, place.port))
+                FillPort(place.sender, place.port);
+        }
     }
-    const QScopedValueRollback<bool> filling(m_filling, true);
-    for (const SPortPlace& place : change.ports) {
-        if (ItemOf(place.sender, place.port))
-            FillPort(place.sender, place.port);
-    }
+    ShowStates(); // an edit may make another port the current one
 }
 
 /// Items stay while they have their sender or port: the tree may be about to use the one that was changed.
 void ProjectTree::Fill()
 {
     const CProjectData& project = m_document.GetProject();
-    {
-        const QScopedValueRollback<bool> filling(m_filling, true);
-        while (topLevelItemCount() > project.GetSenderCount())
-            delete takeTopLevelItem(topLevelItemCount() - 1);
-        for (int i = 0; i < project.GetSenderCount(); ++i)
-            FillSender(i);
-    }
-    ShowStates();
+    while (topLevelItemCount() > project.GetSenderCount())
+        delete takeTopLevelItem(topLevelItemCount() - 1);
+    for (int i = 0; i < project.GetSenderCount(); ++i)
+        FillSender(i);
 }
 
 void ProjectTree::FillSender(int index)
@@ -147,7 +145,10 @@ void ProjectTree::FillPort(int sender, int index)
         qDeleteAll(item.takeChildren());
         return;
     }
-    item.setToolTip(Name, tr("Drag it onto another port to make it the backup of that one"));
+    item.setToolTip(
+        Name,
+        tr("Space shows or hides it, Shift+Space locks or unlocks it. Drag it onto another port to make it "
+           "the backup of that one."));
     ShowGroups(port, item);
     const OrvanTools::PortCapacity capacity =
         OrvanTools::CapacityOf(*m_document.GetProject().GetSender(sender));
@@ -208,6 +209,19 @@ void ProjectTree::TakeEdit(QTreeWidgetItem* item, int column)
         m_edits.SetShown(PlaceOf(item), on);
     else if (column == Locked)
         m_edits.SetLocked(PlaceOf(item), on);
+}
+
+/// The cursor stays with the names, so the boxes beside them have keys of their own.
+void ProjectTree::keyPressEvent(QKeyEvent* event)
+{
+    QTreeWidgetItem* item = currentItem();
+    const SPortPlace place = PlaceOf(item);
+    if (event->key() != Qt::Key_Space || place.port < 0 || item != ItemOf(place.sender, place.port)) {
+        QTreeWidget::keyPressEvent(event);
+        return;
+    }
+    const Column column = event->modifiers() & Qt::ShiftModifier ? Locked : Shown;
+    item->setCheckState(column, item->checkState(column) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
 }
 
 void ProjectTree::ChooseGroup(QTreeWidgetItem* item)

@@ -30,6 +30,7 @@ public:
     int GetSelectedSender() const; ///< -1: none
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     QMimeData* mimeData(const QList<QTreeWidgetItem*> items) const override; ///< [new]
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;

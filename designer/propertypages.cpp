@@ -65,23 +65,19 @@ const CPort& PropertyPages::Port() const
     return *m_document.GetPort();
 }
 
-SPortPlace PropertyPages::Place() const
-{
-    return {Index(), Port().GetPortIndex()};
-}
-
 void PropertyPages::MakePort(const PortActions& actions, QTabWidget& tabs)
 {
     auto* page = new PageForm(m_document, &tabs);
     tabs.addTab(page, tr("Port"));
-    page->AddInfo(tr("Port:"),
-                  [this] { return tr("%1 of %2").arg(Place().port + 1).arg(Sender().GetPortCount()); });
-    page->AddSwitch({tr("&Shown"), tr("Hidden ports are neither drawn nor edited"),
+    page->AddInfo(tr("Port:"), [this] {
+        return tr("%1 of %2").arg(Port().GetPortIndex() + 1).arg(Sender().GetPortCount());
+    });
+    page->AddSwitch({tr("Shown"), tr("Hidden ports are neither drawn nor edited"),
                      [this] { return Port().IsVisible(); },
-                     [this](bool on) { m_edits.SetShown(Place(), on); }});
-    page->AddSwitch({tr("Loc&ked"), tr("Cabinets of a locked port stay as they are"),
+                     [this, &actions](bool on) { m_edits.SetShown(actions.Place(), on); }});
+    page->AddSwitch({tr("Locked"), tr("Cabinets of a locked port stay as they are"),
                      [this] { return Port().IsFlagLock(); },
-                     [this](bool on) { m_edits.SetLocked(Place(), on); }});
+                     [this, &actions](bool on) { m_edits.SetLocked(actions.Place(), on); }});
     page->AddInfo(tr("Cabinets:"), [this] { return QLocale().toString(Port().GetTileSet().GetCount()); });
     const auto pixels = [this] { return OrvanTools::PixelsOf(Port().GetTileSet()); };
     page->AddInfo(tr("Pixels:"), [pixels] { return QLocale().toString(pixels()); });
@@ -92,10 +88,10 @@ void PropertyPages::MakePort(const PortActions& actions, QTabWidget& tabs)
                  QLocale().toString(capacity.Carried()), QString::number(capacity.framesPerSecond),
                  QString::number(capacity.colorBits));
     });
-    page->AddInfo(tr("Backup of:"), [this] {
-        return Port().IsBackupDest()
-                   ? tr("%1; cabinets of its own are kept until that ends").arg(m_edits.SourceText(Place()))
-                   : tr("none");
+    page->AddInfo(tr("Backup of:"), [this, &actions] {
+        return Port().IsBackupDest() ? tr("%1; cabinets of its own are kept until that ends")
+                                           .arg(m_edits.SourceText(actions.Place()))
+                                     : tr("none");
     });
     for (QAction* action : actions.GetActions())
         page->AddAction(action);
@@ -105,24 +101,24 @@ void PropertyPages::MakeSender(QTabWidget& tabs)
 {
     auto* page = new PageForm(m_document, &tabs);
     tabs.addTab(page, tr("Sender"));
-    page->AddText(SenderField<QString>(tr("&Name:"),
+    page->AddText(SenderField<QString>(tr("Name:"),
                                        tr("What the sender is called in the tree and on the sheets"),
                                        &CSender::GetSenderName, &CSender::SetSenderName));
-    page->AddLine({tr("P&rint as:"), tr("Its name on the printed form, printed when ticked"),
+    page->AddLine({tr("Print as:"), tr("Its name on the printed form, printed when ticked"),
                    [this] {
                        return SPrintLine{Sender().IsPrintNameEnable(), Sender().GetPrintName()};
                    },
                    [this](const SPrintLine& name) { m_edits.SetPrintName(Index(), name); }});
-    page->AddChoice({tr("P&orts:"), tr("How many ports the sender has"),
+    page->AddChoice({tr("Ports:"), tr("How many ports the sender has"),
                      [this] { return Sender().GetPortCount(); },
                      [this, page](int count) { m_edits.SetPortCount(Index(), count, page); }},
                     SenderEdits::GetPortCounts());
     AddPlaces(*page);
-    page->AddNumber(SenderField<int>(tr("Fre&quency in Hz:"),
+    page->AddNumber(SenderField<int>(tr("Frequency in Hz:"),
                                      tr("Frames a second; twice as many halve what a port carries"),
                                      &CSender::GetSignalFreq, &CSender::SetSignalFreq),
                     0, kMostFrames, tr("not set (60)"));
-    page->AddChoice(SenderField<int>(tr("&Bits a colour:"),
+    page->AddChoice(SenderField<int>(tr("Bits a colour:"),
                                      tr("The more of them, the fewer pixels a port carries"),
                                      &CSender::GetColorDepth, &CSender::SetColorDepth),
                     {0, 8, 10, 12}, tr("not set (8)"));
@@ -132,8 +128,8 @@ void PropertyPages::AddPlaces(PageForm& page)
 {
     const auto canvas = SenderField<QSize>({}, tr("Pixels of the picture that the sender shows"),
                                            &CSender::GetCanvasSize, &CSender::SetCanvasSize);
-    page.AddNumber(PartOf(canvas, tr("&Canvas width:"), Qt::Horizontal), -1, kMaxCanvasWidth, tr("none"));
-    page.AddNumber(PartOf(canvas, tr("Canvas &height:"), Qt::Vertical), -1, kMaxCanvasHeight, tr("none"));
+    page.AddNumber(PartOf(canvas, tr("Canvas width:"), Qt::Horizontal), -1, kMaxCanvasWidth, tr("none"));
+    page.AddNumber(PartOf(canvas, tr("Canvas height:"), Qt::Vertical), -1, kMaxCanvasHeight, tr("none"));
     const auto readOffset = [this] {
         const QSize offset = Sender().GetOffset();
         return offset == QSize(-1, -1) ? QSize(0, 0) : offset; // none was set
@@ -142,18 +138,16 @@ void PropertyPages::AddPlaces(PageForm& page)
                               tr("Pixels by which the whole layout is moved on the canvas"),
                               readOffset,
                               [this](const QSize& size) { m_edits.SetOffset(Index(), size); }};
-    page.AddNumber(PartOf(offset, tr("Moved right b&y:"), Qt::Horizontal), -kMaxCanvasWidth, kMaxCanvasWidth);
-    page.AddNumber(PartOf(offset, tr("Moved &down by:"), Qt::Vertical), -kMaxCanvasHeight, kMaxCanvasHeight);
+    page.AddNumber(PartOf(offset, tr("Moved right by:"), Qt::Horizontal), -kMaxCanvasWidth, kMaxCanvasWidth);
+    page.AddNumber(PartOf(offset, tr("Moved down by:"), Qt::Vertical), -kMaxCanvasHeight, kMaxCanvasHeight);
 }
 
 void PropertyPages::MakePrintedForm(QTabWidget& tabs)
 {
     const std::pair<QString, SPrintLine SPrintFormData::*> lines[] = {
-        {tr("Pro&ject:"), &SPrintFormData::projectName},
-        {tr("&Designer:"), &SPrintFormData::designer},
-        {tr("D&ate of design:"), &SPrintFormData::designDate},
-        {tr("Appr&over:"), &SPrintFormData::approver},
-        {tr("Date of approva&l:"), &SPrintFormData::approveDate},
+        {tr("Project:"), &SPrintFormData::projectName},          {tr("Designer:"), &SPrintFormData::designer},
+        {tr("Date of design:"), &SPrintFormData::designDate},    {tr("Approver:"), &SPrintFormData::approver},
+        {tr("Date of approval:"), &SPrintFormData::approveDate},
     };
     auto* page = new PageForm(m_document, &tabs);
     tabs.addTab(page, tr("Project"));

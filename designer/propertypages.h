@@ -32,7 +32,6 @@ private:
     CSender& Sender() const;
     int Index() const; ///< of the sender
     const CPort& Port() const;
-    SPortPlace Place() const; ///< of the port
 
     DocumentController& m_document;
     SenderEdits& m_edits;

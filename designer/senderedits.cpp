@@ -2,6 +2,8 @@
 
 #include "custommessagebox.h"
 
+#include <orvantools/backupmap.h>
+
 namespace {
 
 CProjectUndoRedo& History()
@@ -66,12 +68,15 @@ bool SenderEdits::SetPortCount(int sender, int count, QWidget* parent)
     if (!found || !CSender::IsPortCountAccepted(count) || count == found->GetPortCount())
         return false;
     QStringList used;
+    const OrvanTools::BackupMap backups(m_document.GetProject());
     for (int i = count; i < found->GetPortCount(); ++i) {
-        if (found->GetPort(i)->IsBackupDest() || found->GetPort(i)->GetTileSet().GetCount() > 0)
+        const CPort& port = *found->GetPort(i);
+        if (port.IsBackupDest() || port.GetTileSet().GetCount() > 0
+            || !backups.BackupsOf({sender, i}).empty())
             used.append(QString::number(i + 1));
     }
-    const QString losses = tr("Ports with cabinets or backups go: %1. They come back with a larger number of "
-                              "ports, but a save leaves them out.");
+    const QString losses = tr("Ports with cabinets, backups and ports that have backups go: %1. They come "
+                              "back with a larger number of ports, but a save leaves them out.");
     if (!used.isEmpty() && !Ask({losses.arg(used.join(QStringLiteral(", ")))}, parent))
         return false;
     found->SetPortCount(count);
@@ -114,29 +119,6 @@ void SenderEdits::NoteState(CPort& port, bool closed)
 
 // backups
 
-bool SenderEdits::IsSource(const SPortPlace& place) const
-{
-    const CProjectData& project = m_document.GetProject();
-    for (int sender = 0; sender < project.GetSenderCount(); ++sender) {
-        for (int port = 0; port < project.GetSender(sender)->GetPortCount(); ++port) {
-            if (SourceOf({sender, port}) == place)
-                return true;
-        }
-    }
-    return false;
-}
-
-SPortPlace SenderEdits::SourceOf(const SPortPlace& backup) const
-{
-    SPortPlace source;
-    bool isFound = false;
-    const CPort* port = FindPort(backup);
-    if (port && port->IsBackupDest())
-        m_document.GetProject().MatchSrcBackup(backup.sender, backup.port, source.sender, source.port,
-                                               isFound);
-    return source;
-}
-
 QString SenderEdits::WhyNotBackup(const SPortPlace& backup) const
 {
     const CPort* port = FindPort(backup);
@@ -145,7 +127,8 @@ QString SenderEdits::WhyNotBackup(const SPortPlace& backup) const
     const QString number = QString::number(backup.port + 1);
     if (port->IsBackupDest())
         return tr("Port %1 is a backup already. End that first.").arg(number);
-    if (IsSource(backup))
+    const OrvanTools::BackupMap backups(m_document.GetProject());
+    if (!backups.BackupsOf({backup.sender, backup.port}).empty())
         return tr("Port %1 has a backup itself, and a backup has none.").arg(number);
     return DocumentController::WhyClosed(*port);
 }
@@ -176,11 +159,8 @@ QList<SPortPlace> SenderEdits::GetSourcesFor(const SPortPlace& backup) const
 
 bool SenderEdits::MakeBackup(const SPortPlace& backup, const SPortPlace& source, QWidget* parent)
 {
-    const QString why = WhyNotBackup(backup, source);
-    if (!why.isEmpty()) {
-        emit m_document.Refused(why);
+    if (!m_document.IsAllowed(WhyNotBackup(backup, source)))
         return false;
-    }
     CPort& port = *FindPort(backup);
     QStringList losses;
     if (const int own = port.GetTileSet().GetCount())
@@ -199,14 +179,8 @@ bool SenderEdits::MakeBackup(const SPortPlace& backup, const SPortPlace& source,
 bool SenderEdits::EndBackup(const SPortPlace& backup, QWidget* parent)
 {
     CPort* port = FindPort(backup);
-    if (!port || !port->IsBackupDest())
-        return false;
-    const QString why = DocumentController::WhyShut(*port);
-    if (!why.isEmpty()) {
-        emit m_document.Refused(why);
-        return false;
-    }
-    if (!MayRestartHistory(backup.sender, {}, parent))
+    if (!port || !port->IsBackupDest() || !m_document.IsAllowed(DocumentController::WhyShut(*port))
+        || !MayRestartHistory(backup.sender, {}, parent))
         return false;
     port->CancelBackupDest();
     RestartHistory(backup.sender);
@@ -238,8 +212,8 @@ QString SenderEdits::PortText(const SPortPlace& place, int sender) const
 
 QString SenderEdits::SourceText(const SPortPlace& backup) const
 {
-    const SPortPlace source = SourceOf(backup);
-    return source.sender < 0 ? tr("a port that is not there") : PortText(source, backup.sender);
+    const auto source = OrvanTools::BackupMap(m_document.GetProject()).SourceOf({backup.sender, backup.port});
+    return source ? PortText({source->sender, source->port}, backup.sender) : tr("a port that is not there");
 }
 
 // printed form

@@ -51,8 +51,6 @@ private:
     CSender* FindSender(int sender) const;
     CPort* FindPort(const SPortPlace& place) const;
     void NoteState(CPort& port, bool closed);
-    SPortPlace SourceOf(const SPortPlace& backup) const; ///< sender -1: none
-    bool IsSource(const SPortPlace& place) const;
     bool MayRestartHistory(int sender, QStringList losses, QWidget* parent) const;
     void RestartHistory(int sender);
 

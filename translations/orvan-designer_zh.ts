@@ -111,28 +111,8 @@
         <translation>所选全部箱体的位置，单位为画布像素；全部一起移动</translation>
     </message>
     <message>
-        <source>&amp;Left:</source>
-        <translation>左(&amp;L)：</translation>
-    </message>
-    <message>
-        <source>&amp;Top:</source>
-        <translation>上(&amp;T)：</translation>
-    </message>
-    <message>
         <source>Of each cabinet, 1 to %1 pixels; rows and columns stay together</source>
         <translation>每个箱体的尺寸，1至%1像素；行和列保持相接</translation>
-    </message>
-    <message>
-        <source>&amp;Width:</source>
-        <translation>宽度(&amp;W)：</translation>
-    </message>
-    <message>
-        <source>&amp;Height:</source>
-        <translation>高度(&amp;H)：</translation>
-    </message>
-    <message>
-        <source>&amp;Angle:</source>
-        <translation>角度(&amp;A)：</translation>
     </message>
     <message>
         <source>Degrees, clockwise. What is turned alike turns as one about its middle, else each cabinet about its own.</source>
@@ -169,6 +149,26 @@
     <message>
         <source>mixed</source>
         <translation>多个值</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>左：</translation>
+    </message>
+    <message>
+        <source>Top:</source>
+        <translation>上：</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>宽度：</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>高度：</translation>
+    </message>
+    <message>
+        <source>Angle:</source>
+        <translation>角度：</translation>
     </message>
 </context>
 <context>
@@ -1120,12 +1120,12 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <translation>另一个输出口发生故障时，由它代为输出</translation>
     </message>
     <message>
-        <source>Drag it onto another port to make it the backup of that one</source>
-        <translation>拖到另一个输出口上，可设为其备份</translation>
-    </message>
-    <message>
         <source>Port %1 becomes the backup of %2</source>
         <translation>输出口%1将成为%2的备份</translation>
+    </message>
+    <message>
+        <source>Space shows or hides it, Shift+Space locks or unlocks it. Drag it onto another port to make it the backup of that one.</source>
+        <translation>按空格键显示或隐藏，按Shift+空格键锁定或解锁。拖到另一个输出口上，可设为其备份。</translation>
     </message>
 </context>
 <context>
@@ -1143,16 +1143,8 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <translation>%1，共%2个</translation>
     </message>
     <message>
-        <source>&amp;Shown</source>
-        <translation>显示(&amp;S)</translation>
-    </message>
-    <message>
         <source>Hidden ports are neither drawn nor edited</source>
         <translation>隐藏的输出口不绘制，也不能编辑</translation>
-    </message>
-    <message>
-        <source>Loc&amp;ked</source>
-        <translation>锁定(&amp;K)</translation>
     </message>
     <message>
         <source>Cabinets of a locked port stay as they are</source>
@@ -1191,32 +1183,16 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <translation>主控</translation>
     </message>
     <message>
-        <source>&amp;Name:</source>
-        <translation>名称(&amp;N)：</translation>
-    </message>
-    <message>
         <source>What the sender is called in the tree and on the sheets</source>
         <translation>主控在列表和施工图册中的名称</translation>
-    </message>
-    <message>
-        <source>P&amp;rint as:</source>
-        <translation>打印名称(&amp;R)：</translation>
     </message>
     <message>
         <source>Its name on the printed form, printed when ticked</source>
         <translation>打印表单上的名称，勾选后打印</translation>
     </message>
     <message>
-        <source>P&amp;orts:</source>
-        <translation>输出口数(&amp;O)：</translation>
-    </message>
-    <message>
         <source>How many ports the sender has</source>
         <translation>主控的输出口数量</translation>
-    </message>
-    <message>
-        <source>Fre&amp;quency in Hz:</source>
-        <translation>帧频，Hz(&amp;Q)：</translation>
     </message>
     <message>
         <source>Frames a second; twice as many halve what a port carries</source>
@@ -1225,10 +1201,6 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>not set (60)</source>
         <translation>未设置(60)</translation>
-    </message>
-    <message>
-        <source>&amp;Bits a colour:</source>
-        <translation>色深，位(&amp;B)：</translation>
     </message>
     <message>
         <source>The more of them, the fewer pixels a port carries</source>
@@ -1243,44 +1215,8 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <translation>主控所显示画面的像素数</translation>
     </message>
     <message>
-        <source>&amp;Canvas width:</source>
-        <translation>画布宽度(&amp;C)：</translation>
-    </message>
-    <message>
-        <source>Canvas &amp;height:</source>
-        <translation>画布高度(&amp;H)：</translation>
-    </message>
-    <message>
         <source>Pixels by which the whole layout is moved on the canvas</source>
         <translation>整个布局在画布上移动的像素数</translation>
-    </message>
-    <message>
-        <source>Moved right b&amp;y:</source>
-        <translation>右移(&amp;Y)：</translation>
-    </message>
-    <message>
-        <source>Moved &amp;down by:</source>
-        <translation>下移(&amp;D)：</translation>
-    </message>
-    <message>
-        <source>Pro&amp;ject:</source>
-        <translation>项目(&amp;J)：</translation>
-    </message>
-    <message>
-        <source>&amp;Designer:</source>
-        <translation>设计人(&amp;D)：</translation>
-    </message>
-    <message>
-        <source>D&amp;ate of design:</source>
-        <translation>设计日期(&amp;A)：</translation>
-    </message>
-    <message>
-        <source>Appr&amp;over:</source>
-        <translation>审核人(&amp;O)：</translation>
-    </message>
-    <message>
-        <source>Date of approva&amp;l:</source>
-        <translation>审核日期(&amp;L)：</translation>
     </message>
     <message>
         <source>Project</source>
@@ -1289,6 +1225,70 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>A line of the printed form, printed when ticked</source>
         <translation>打印表单的一行，勾选后打印</translation>
+    </message>
+    <message>
+        <source>Shown</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>锁定</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名称：</translation>
+    </message>
+    <message>
+        <source>Print as:</source>
+        <translation>打印名称：</translation>
+    </message>
+    <message>
+        <source>Ports:</source>
+        <translation>输出口数：</translation>
+    </message>
+    <message>
+        <source>Frequency in Hz:</source>
+        <translation>帧频，Hz：</translation>
+    </message>
+    <message>
+        <source>Bits a colour:</source>
+        <translation>色深，位：</translation>
+    </message>
+    <message>
+        <source>Canvas width:</source>
+        <translation>画布宽度：</translation>
+    </message>
+    <message>
+        <source>Canvas height:</source>
+        <translation>画布高度：</translation>
+    </message>
+    <message>
+        <source>Moved right by:</source>
+        <translation>右移：</translation>
+    </message>
+    <message>
+        <source>Moved down by:</source>
+        <translation>下移：</translation>
+    </message>
+    <message>
+        <source>Project:</source>
+        <translation>项目：</translation>
+    </message>
+    <message>
+        <source>Designer:</source>
+        <translation>设计人：</translation>
+    </message>
+    <message>
+        <source>Date of design:</source>
+        <translation>设计日期：</translation>
+    </message>
+    <message>
+        <source>Approver:</source>
+        <translation>审核人：</translation>
+    </message>
+    <message>
+        <source>Date of approval:</source>
+        <translation>审核日期：</translation>
     </message>
 </context>
 <context>
@@ -1319,10 +1319,6 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>Go on?</source>
         <translation>要继续吗？</translation>
-    </message>
-    <message>
-        <source>Ports with cabinets or backups go: %1. They come back with a larger number of ports, but a save leaves them out.</source>
-        <translation>以下有箱体或作为备份的输出口将被去掉：%1。增加输出口数后它们会恢复，但保存时不会写入。</translation>
     </message>
     <message>
         <source>There is no such port.</source>
@@ -1363,6 +1359,10 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>a port that is not there</source>
         <translation>不存在的输出口</translation>
+    </message>
+    <message>
+        <source>Ports with cabinets, backups and ports that have backups go: %1. They come back with a larger number of ports, but a save leaves them out.</source>
+        <translation>以下有箱体、作为备份或有备份的输出口将被去掉：%1。增加输出口数后它们会恢复，但保存时不会写入。</translation>
     </message>
 </context>
 <context>

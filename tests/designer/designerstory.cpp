@@ -56,6 +56,16 @@ QColor DesignerStory::ColorAt(const QPoint& wall)
     return view.viewport()->grab().toImage().pixelColor(view.GetMap().ToView(wall));
 }
 
+void DesignerStory::Type(QWidget* editor, const char* text, bool enters)
+{
+    QTRY_VERIFY(editor->isEnabled());
+    editor->setFocus();
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(editor, QLatin1String(text));
+    if (enters)
+        QTest::keyClick(editor, Qt::Key_Return);
+}
+
 std::string DesignerStory::Chain(int port) const
 {
     QStringList numbers;

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QTabWidget>
 #include <QTest>
 
 #include <memory>
@@ -32,6 +33,20 @@ struct DesignerStory : testing::Test
     {
         return GetProjectData()->GetSender(0)->GetPort(port)->GetTileSet();
     }
+    template <class Editor> Editor* Find(const char* page, const char* name) ///< among the properties
+    {
+        auto* pages = window.findChild<QTabWidget*>();
+        for (int i = 0; i < pages->count(); ++i) {
+            if (pages->tabText(i) == QLatin1String(page))
+                pages->setCurrentIndex(i);
+        }
+        for (Editor* editor : pages->currentWidget()->findChildren<Editor*>()) {
+            if (editor->accessibleName() == QLatin1String(name))
+                return editor;
+        }
+        throw std::runtime_error(name);
+    }
+    void Type(QWidget* editor, const char* text, bool enters = true);
     std::string Chain(int port = 0) const; ///< the cabinets' numbers in list order, 0: none
     void Picture(const char* name);        ///< into the folder of ORVAN_PICTURES, for eyes
 

@@ -8,7 +8,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QSpinBox>
-#include <QTabWidget>
 
 namespace {
 
@@ -40,26 +39,6 @@ struct SendersStory : DesignerStory
         QApplication::sendEvent(tree.viewport(), &move);
         QApplication::sendEvent(tree.viewport(), move.isAccepted() ? static_cast<QEvent*>(&drop) : &leave);
         QTest::qWait(1);
-    }
-    template <class Editor> Editor* Find(const char* page, const char* name) ///< among the properties
-    {
-        auto* pages = window.findChild<QTabWidget*>();
-        for (int i = 0; i < pages->count(); ++i) {
-            if (pages->tabText(i) == QLatin1String(page))
-                pages->setCurrentIndex(i);
-        }
-        for (Editor* editor : pages->currentWidget()->findChildren<Editor*>()) {
-            if (editor->accessibleName() == QLatin1String(name))
-                return editor;
-        }
-        throw std::runtime_error(name);
-    }
-    void Type(QWidget* editor, const char* text)
-    {
-        editor->setFocus();
-        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(editor, QLatin1String(text));
-        QTest::keyClick(editor, Qt::Key_Return);
     }
     void TypeNumber(const char* name, const char* text) { Type(Find<QSpinBox>("Sender", name), text); }
     CSender& Sender() { return *document.GetProject().GetSender(0); }
@@ -124,9 +103,16 @@ TEST_F(SendersStory, AGroupInTheTreeSelectsItsCabinets)
     tree.setFocus();
     QTest::keyClick(&tree, Qt::Key_Delete);
     EXPECT_EQ(Row(1)->childCount(), 1) << "in the tree it deletes no cabinets";
+    document.MoveSelectionToPort(2);
+    EXPECT_TRUE(Row(2)->font(0).bold() && !Row(1)->font(0).bold());
+    view.setFocus();
     Key(Qt::Key_Delete);
-    EXPECT_EQ(Row(1)->childCount(), 0);
-    ASSERT_TRUE(document.Undo());
+    EXPECT_EQ(Row(1)->childCount() + Row(2)->childCount(), 0);
+    QTest::keyClick(&tree, Qt::Key_Space);
+    QTest::keyClick(&tree, Qt::Key_Space, Qt::ShiftModifier);
+    EXPECT_TRUE(!Sender().GetPort(2)->IsVisible() && Sender().GetPort(2)->IsFlagLock());
+    QTest::keyClick(&tree, Qt::Key_Space, Qt::ShiftModifier);
+    ASSERT_TRUE(document.Undo(2));
     Sender().GetPort(1)->SetFlagLock(true);
     tree.setCurrentItem(Row(1)->child(0));
     QTest::keyClick(&tree, Qt::Key_Return);
@@ -167,7 +153,31 @@ TEST_F(SendersStory, PropertiesAreTypedAndKept)
     const SPrintLine& designer = document.GetProject().GetPrintSetData()->designer;
     EXPECT_EQ(Sender().GetSenderName() + designer.text, "StageA. Smith"_s);
     EXPECT_TRUE(designer.enable && Sender().GetSignalFreq() == 600 && Sender().GetPort(0)->IsFlagLock());
-    EXPECT_EQ(Find<QSpinBox>("Sender", "Moved down by")->value(), 8);
+    auto* offset = Find<QSpinBox>("Sender", "Moved down by");
+    QTRY_COMPARE(offset->value(), 8);
+    QTRY_VERIFY(offset->isEnabled());
+    const auto turnWheel = [offset] {
+        QWheelEvent wheel({5, 5}, offset->mapToGlobal({5, 5}), {}, {0, 120}, {}, {}, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(offset, &wheel);
+        return offset->value();
+    };
+    view.setFocus();
+    EXPECT_EQ(turnWheel(), 8);
+    offset->setFocus();
+    EXPECT_EQ(turnWheel(), 9);
+
+    auto* name = Find<QLineEdit>("Sender", "Name");
+    Type(name, "Hall", false);
+    emit document.PortStatesChanged();
+    QTest::qWait(100);
+    EXPECT_EQ(name->text(), "Hall"_s) << "renewing leaves what is being typed";
+    QTest::keyClick(name, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(document.IsSaveNeeded());
+    Type(name, "Arena", false);
+    messages.answer = QMessageBox::Discard;
+    ASSERT_TRUE(window.GetFiles().Open(folder.Path("kept.prj"_s))) << "asks";
+    EXPECT_EQ(Sender().GetSenderName() + QString::number(messages.texts.size()), "Hall1"_s);
 }
 
 TEST_F(SendersStory, FewerPortsAreAskedForWhenOneOfThemIsUsed)
@@ -176,6 +186,10 @@ TEST_F(SendersStory, FewerPortsAreAskedForWhenOneOfThemIsUsed)
     QTest::keyClick(ports, Qt::Key_Up);
     EXPECT_TRUE(messages.texts.isEmpty() && tree.topLevelItem(0)->childCount() == 2);
     QTest::keyClick(ports, Qt::Key_Down);
+    Sender().GetPort(0)->SetBeBackupDest(Sender().GetId(), 3);
+    QTest::keyClick(ports, Qt::Key_Up);
+    EXPECT_TRUE(messages.Take().join(QString()).contains("go: 4."_s)) << "what port 1 backs up";
+    Sender().GetPort(0)->CancelBackupDest();
     DragPort(3, 0);
     QTest::keyClick(ports, Qt::Key_Up);
     EXPECT_TRUE(messages.Take().join(QString()).contains("backups go: 4."_s));
