@@ -43,21 +43,19 @@ std::function<void(const QString&)> Typed(const std::function<void(double value)
 
 } // namespace
 
-template <class Value> std::function<QString()> CabinetsPage::Common(const Value& value) const
-{
-    return [this, value] {
-        const auto first = value(*m_tiles.first());
-        const auto isSame = [&](const CTile* tile) { return IsSame(value(*tile), first); };
-        return std::all_of(m_tiles.begin(), m_tiles.end(), isSame) ? Text(first) : QString();
-    };
-}
-
 CabinetsPage::CabinetsPage(DocumentController& document, QWidget* parent)
     : PageForm(document, parent), m_document(document)
 {
     const auto bound = [&document] { return document.GetSelectionBound(); };
     const auto move = [&document, bound](const QPoint& by) {
         document.MoveSelection(document.Limited(bound(), by));
+    };
+    const auto common = [this](auto value) { // empty: they differ
+        return [this, value] {
+            const auto first = value(*m_tiles.first());
+            const auto isSame = [&](const CTile* tile) { return IsSame(value(*tile), first); };
+            return std::all_of(m_tiles.begin(), m_tiles.end(), isSame) ? Text(first) : QString();
+        };
     };
     const QString place = tr("Of all that is selected, in pixels of the canvas: all move together");
     const QString size =
@@ -67,17 +65,17 @@ CabinetsPage::CabinetsPage(DocumentController& document, QWidget* parent)
          Typed([=](double to) { move(QPoint(qRound(to) - bound().left(), 0)); })},
         {tr("Top:"), place, [=] { return Text(bound().top()); },
          Typed([=](double to) { move(QPoint(0, qRound(to) - bound().top())); })},
-        {tr("Width:"), size, Common([](const CTile& tile) { return tile.GetWidth(); }),
+        {tr("Width:"), size, common([](const CTile& tile) { return tile.GetWidth(); }),
          Typed([&document](double to) { document.ResizeSelection(qMax(1, qRound(to)), 0); })},
-        {tr("Height:"), size, Common([](const CTile& tile) { return tile.GetHeight(); }),
+        {tr("Height:"), size, common([](const CTile& tile) { return tile.GetHeight(); }),
          Typed([&document](double to) { document.ResizeSelection(0, qMax(1, qRound(to))); })},
         {tr("Angle:"),
          tr("Degrees, clockwise. What is turned alike turns as one about its middle, else each cabinet about "
             "its own."),
-         Common([](const CTile& tile) { return tile.GetRotateRecord().angle; }),
+         common([](const CTile& tile) { return tile.GetRotateRecord().angle; }),
          Typed([&document](double to) { document.TurnSelectionTo(std::remainder(to, 360)); })},
     };
-    const auto number = Common([](const CTile& tile) { return qMax(tile.GetConnectionIndex(), -1) + 1; });
+    const auto number = common([](const CTile& tile) { return qMax(tile.GetConnectionIndex(), -1) + 1; });
     const Field<QString> infos[] = {
         {tr("Number:"),
          tr("Place in the chain of the port"),
@@ -88,11 +86,11 @@ CabinetsPage::CabinetsPage(DocumentController& document, QWidget* parent)
          {}},
         {tr("Port:"),
          tr("Edit, Move to port puts them on another"),
-         Common([](const CTile& tile) { return tile.GetPortIndex() + 1; }),
+         common([](const CTile& tile) { return tile.GetPortIndex() + 1; }),
          {}},
         {tr("Receiving cards:"),
          tr("Across and down, in each cabinet"),
-         Common(
+         common(
              [](const CTile& tile) { return tile.IsMultiRcvTile() ? tile.GetMultiRcvsSize() : QSize(1, 1); }),
          {}},
     };

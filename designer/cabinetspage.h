@@ -16,9 +16,6 @@ protected:
     bool TakeSubject() override;
 
 private:
-    /// Reads what all have; empty: they differ.
-    template <class Value> std::function<QString()> Common(const Value& value) const;
-
     const DocumentController& m_document;
     QList<CTile*> m_tiles; ///< good while the fields are read
 };

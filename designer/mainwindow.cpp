@@ -162,17 +162,20 @@ void MainWindow::MakeTools()
 void MainWindow::MakeProjectMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Project"));
+    const auto first = [this](auto act) { // what is typed is of the sender that is left
+        return [act] {
+            PageForm::FinishTyping();
+            act();
+        };
+    };
     AddAction(*menu, this, tr("&Add sender"), tr("Add a sending unit or processor, with ports of its own"),
-              Keys("Ctrl+T"), [this] {
-                  PageForm::FinishTyping(); // it is about the sender that is left
-                  m_document.AddSender();
-              });
+              Keys("Ctrl+T"), first([this] { m_document.AddSender(); }));
     AddAction(*menu, this, tr("&Rename sender"), tr("Give the sender in the tree a name"), Qt::Key_F2,
-              [this] { m_tree->RenameCurrent(); });
-    QAction* remove =
-        AddAction(*menu, this, tr("&Delete sender…"),
-                  tr("Delete the sender in the tree with all its cabinets; the last one of a project stays"),
-                  {}, [this] { m_document.DeleteSender(m_tree->GetSelectedSender(), this); });
+              first([this] { m_tree->RenameCurrent(); }));
+    QAction* remove = AddAction(
+        *menu, this, tr("&Delete sender…"),
+        tr("Delete the sender in the tree with all its cabinets; the last one of a project stays"), {},
+        first([this] { m_document.DeleteSender(m_tree->GetSelectedSender(), this); }));
     connect(&m_document, &DocumentController::Changed, remove,
             [this, remove] { remove->setEnabled(m_document.GetProject().GetSenderCount() > 1); });
     menu->addSeparator();

@@ -52,12 +52,16 @@ PageForm::PageForm(const DocumentController& document, QWidget* parent)
 }
 
 void PageForm::Follow(QWidget* editor, const QString& label, const QString& tip,
-                      const std::function<void()>& show, const std::function<void()>& clear)
+                      const std::function<void()>& show)
 {
     editor->setAccessibleName(PlainLabel(label));
     editor->setToolTip(tip);
     editor->installEventFilter(this);
-    m_rows.append({editor, show, clear});
+    m_shows.append([editor, show] {
+        const QSignalBlocker blocker(editor);
+        if (!IsBeingTyped(*editor))
+            show();
+    });
 }
 
 /// The wheel turns a value only where the user is, else the page.
@@ -126,12 +130,8 @@ QLineEdit* PageForm::MakeLine(const std::function<void(const QString& text)>& ta
 void PageForm::AddText(const Field<QString>& field, const QString& emptyText)
 {
     QLineEdit* editor = MakeLine(field.write);
-    const auto show = [editor](const QString& text, const QString& placeholder) {
-        editor->setText(text);
-        editor->setPlaceholderText(placeholder);
-    };
-    Follow(
-        editor, field.label, field.tip, [=] { show(field.read(), emptyText); }, [=] { show({}, {}); });
+    editor->setPlaceholderText(emptyText);
+    Follow(editor, field.label, field.tip, [editor, field] { editor->setText(field.read()); });
     m_form->addRow(field.label, editor);
 }
 
@@ -165,7 +165,7 @@ void PageForm::AddInfo(const QString& label, const std::function<QString()>& rea
         const QString shown = read();
         text->setText(shown.isEmpty() ? emptyText : shown);
     };
-    Follow(text, label, tip, show, [text] { text->clear(); });
+    Follow(text, label, tip, show);
     m_form->addRow(label, text);
 }
 
@@ -201,15 +201,9 @@ void PageForm::Renew()
         m_wait.start();
         return;
     }
-    const bool isAny = TakeSubject();
-    widget()->setEnabled(isAny);
-    for (const Row& row : qAsConst(m_rows)) {
-        const QSignalBlocker blocker(row.editor);
-        if (!isAny)
-            row.clear();
-        else if (!IsBeingTyped(*row.editor))
-            row.show();
-    }
+    widget()->setVisible(TakeSubject());
+    for (int i = 0; widget()->isVisible() && i < m_shows.size(); ++i)
+        m_shows[i]();
 }
 
 void PageForm::showEvent(QShowEvent* event)

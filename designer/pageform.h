@@ -45,27 +45,18 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    /// What the fields are about, before they are read. False: there is nothing, and they are not.
+    /// What the fields are about, before they are read. False: there is nothing, and the page is empty.
     virtual bool TakeSubject();
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
-    struct Row
-    {
-        QWidget* editor;
-        std::function<void()> show;
-        std::function<void()> clear;
-    };
-
-    void Follow(
-        QWidget* editor, const QString& label, const QString& tip, const std::function<void()>& show,
-        const std::function<void()>& clear = [] {});
+    void Follow(QWidget* editor, const QString& label, const QString& tip, const std::function<void()>& show);
     QLineEdit* MakeLine(const std::function<void(const QString& text)>& take);
     void Renew();
 
     const DocumentController& m_document;
     QFormLayout* m_form;
     QTimer m_wait; ///< changes that follow each other quickly are shown once
-    QList<Row> m_rows;
+    QList<std::function<void()>> m_shows;
 };

@@ -56,6 +56,7 @@ ProjectTree::ProjectTree(DocumentController& document, SenderEdits& edits, QWidg
         header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     header()->setMinimumSectionSize(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 5);
     header()->resizeSection(Load, fontMetrics().horizontalAdvance(QLatin1Char('0')) * 8);
+    setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 30); // no name of a port is cut
     setIndentation(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 2);
     connect(this, &QTreeWidget::currentItemChanged, this, &ProjectTree::TakeCurrent);
     connect(this, &QTreeWidget::itemChanged, this, &ProjectTree::TakeEdit);
@@ -215,12 +216,9 @@ void ProjectTree::TakeEdit(QTreeWidgetItem* item, int column)
 void ProjectTree::keyPressEvent(QKeyEvent* event)
 {
     QTreeWidgetItem* item = currentItem();
-    const SPortPlace place = PlaceOf(item);
-    if (event->key() != Qt::Key_Space || place.port < 0 || item != ItemOf(place.sender, place.port)) {
-        QTreeWidget::keyPressEvent(event);
-        return;
-    }
     const Column column = event->modifiers() & Qt::ShiftModifier ? Locked : Shown;
+    if (event->key() != Qt::Key_Space || !item || item->data(column, Qt::CheckStateRole).isNull())
+        return QTreeWidget::keyPressEvent(event);
     item->setCheckState(column, item->checkState(column) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
 }
 
@@ -239,12 +237,6 @@ QMimeData* ProjectTree::mimeData(const QList<QTreeWidgetItem*> items) const
     dragged->place = PlaceOf(items.value(0));
     dragged->setData(mimeTypes().first(), {}); // what the base class looks for
     return dragged;
-}
-
-void ProjectTree::dragEnterEvent(QDragEnterEvent* event)
-{
-    QTreeWidget::dragEnterEvent(event);
-    event->setAccepted(DraggedBy(event).port >= 0);
 }
 
 void ProjectTree::dragMoveEvent(QDragMoveEvent* event)

@@ -32,7 +32,6 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     QMimeData* mimeData(const QList<QTreeWidgetItem*> items) const override; ///< [new]
-    void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 

@@ -15,18 +15,15 @@ namespace {
 constexpr int kMostFrames = 1000;
 
 /// A part of a size as a field of its own.
-Field<int> PartOf(const Field<QSize>& size, const QString& label, Qt::Orientation side)
+Field<int> PartOf(const Field<QSize>& size, const QString& label, int& (QSize::*part)())
 {
-    const auto part = [side](QSize& whole) -> int& {
-        return side == Qt::Horizontal ? whole.rwidth() : whole.rheight();
-    };
     const auto read = [size, part] {
         QSize whole = size.read();
-        return part(whole);
+        return (whole.*part)();
     };
     const auto write = [size, part](int value) {
         QSize whole = size.read();
-        part(whole) = value;
+        (whole.*part)() = value;
         size.write(whole);
     };
     return {label, size.tip, read, write};
@@ -48,21 +45,6 @@ Field<Value> PropertyPages::SenderField(const QString& label, const QString& tip
 {
     return {label, tip, [this, get] { return (Sender().*get)(); },
             [this, get, set](const Value& value) { m_edits.SetValue(Index(), get, set, value); }};
-}
-
-CSender& PropertyPages::Sender() const
-{
-    return *m_document.GetSender();
-}
-
-int PropertyPages::Index() const
-{
-    return m_document.GetProject().GetCurSenderIndex();
-}
-
-const CPort& PropertyPages::Port() const
-{
-    return *m_document.GetPort();
 }
 
 void PropertyPages::MakePort(const PortActions& actions, QTabWidget& tabs)
@@ -128,8 +110,8 @@ void PropertyPages::AddPlaces(PageForm& page)
 {
     const auto canvas = SenderField<QSize>({}, tr("Pixels of the picture that the sender shows"),
                                            &CSender::GetCanvasSize, &CSender::SetCanvasSize);
-    page.AddNumber(PartOf(canvas, tr("Canvas width:"), Qt::Horizontal), -1, kMaxCanvasWidth, tr("none"));
-    page.AddNumber(PartOf(canvas, tr("Canvas height:"), Qt::Vertical), -1, kMaxCanvasHeight, tr("none"));
+    page.AddNumber(PartOf(canvas, tr("Canvas width:"), &QSize::rwidth), -1, kMaxCanvasWidth, tr("none"));
+    page.AddNumber(PartOf(canvas, tr("Canvas height:"), &QSize::rheight), -1, kMaxCanvasHeight, tr("none"));
     const auto readOffset = [this] {
         const QSize offset = Sender().GetOffset();
         return offset == QSize(-1, -1) ? QSize(0, 0) : offset; // none was set
@@ -138,8 +120,9 @@ void PropertyPages::AddPlaces(PageForm& page)
                               tr("Pixels by which the whole layout is moved on the canvas"),
                               readOffset,
                               [this](const QSize& size) { m_edits.SetOffset(Index(), size); }};
-    page.AddNumber(PartOf(offset, tr("Moved right by:"), Qt::Horizontal), -kMaxCanvasWidth, kMaxCanvasWidth);
-    page.AddNumber(PartOf(offset, tr("Moved down by:"), Qt::Vertical), -kMaxCanvasHeight, kMaxCanvasHeight);
+    page.AddNumber(PartOf(offset, tr("Moved right by:"), &QSize::rwidth), -kMaxCanvasWidth, kMaxCanvasWidth);
+    page.AddNumber(PartOf(offset, tr("Moved down by:"), &QSize::rheight), -kMaxCanvasHeight,
+                   kMaxCanvasHeight);
 }
 
 void PropertyPages::MakePrintedForm(QTabWidget& tabs)

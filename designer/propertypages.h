@@ -1,10 +1,7 @@
 #pragma once
 
-#include <OrvanData/orvandata.h>
+#include "documentcontroller.h"
 
-#include <QObject>
-
-class DocumentController;
 class PageForm;
 class PortActions;
 class QTabWidget;
@@ -29,9 +26,9 @@ private:
     template <class Value, class Get, class Set>
     Field<Value> SenderField(const QString& label, const QString& tip, Get get, Set set);
 
-    CSender& Sender() const;
-    int Index() const; ///< of the sender
-    const CPort& Port() const;
+    CSender& Sender() const { return *m_document.GetSender(); }
+    int Index() const { return m_document.GetProject().GetCurSenderIndex(); } ///< of the sender
+    const CPort& Port() const { return *m_document.GetPort(); }
 
     DocumentController& m_document;
     SenderEdits& m_edits;

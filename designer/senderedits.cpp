@@ -28,11 +28,6 @@ void SenderEdits::MarkModified()
 
 // senders
 
-CSender* SenderEdits::FindSender(int sender) const
-{
-    return m_document.GetProject().GetSender(sender);
-}
-
 void SenderEdits::SetPrintName(int sender, const SPrintLine& name)
 {
     SetValue(sender, &CSender::IsPrintNameEnable, &CSender::SetPrintNameEnable, name.enable);

@@ -48,7 +48,7 @@ public:
 
 private:
     static void MarkModified();
-    CSender* FindSender(int sender) const;
+    CSender* FindSender(int sender) const { return m_document.GetProject().GetSender(sender); }
     CPort* FindPort(const SPortPlace& place) const;
     void NoteState(CPort& port, bool closed);
     bool MayRestartHistory(int sender, QStringList losses, QWidget* parent) const;
