@@ -7,9 +7,7 @@
 void LoadDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const
 {
-    QStyleOptionViewItem ground = option;
-    initStyleOption(&ground, index);
-    const QString text = std::exchange(ground.text, QString());
+    const QString text = index.data().toString();
     QStyledItemDelegate::paint(painter, option, QModelIndex());
     if (text.isEmpty())
         return;
@@ -23,9 +21,7 @@ void LoadDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     bar.text = text;
     bar.textVisible = true;
     bar.textAlignment = Qt::AlignCenter;
-    if (load > 1) {
+    if (load > 1)
         bar.palette.setColor(QPalette::Highlight, QColor(200, 30, 30));
-        bar.palette.setColor(QPalette::HighlightedText, Qt::white);
-    }
     option.widget->style()->drawControl(QStyle::CE_ProgressBar, &bar, painter);
 }

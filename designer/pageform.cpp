@@ -121,8 +121,7 @@ QLineEdit* PageForm::MakeLine(const std::function<void(const QString& text)>& ta
         line->setModified(false);
         take(line->text());
         Renew();
-        if (line->hasFocus())
-            line->selectAll();
+        line->selectAll();
     });
     return line;
 }

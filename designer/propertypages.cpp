@@ -3,7 +3,6 @@
 #include "documentcontroller.h"
 #include "pageform.h"
 #include "portactions.h"
-#include "senderedits.h"
 
 #include <orvantools/portload.h>
 
@@ -38,13 +37,6 @@ PropertyPages::PropertyPages(DocumentController& document, SenderEdits& edits, c
     MakePort(actions, tabs);
     MakeSender(tabs);
     MakePrintedForm(tabs);
-}
-
-template <class Value, class Get, class Set>
-Field<Value> PropertyPages::SenderField(const QString& label, const QString& tip, Get get, Set set)
-{
-    return {label, tip, [this, get] { return (Sender().*get)(); },
-            [this, get, set](const Value& value) { m_edits.SetValue(Index(), get, set, value); }};
 }
 
 void PropertyPages::MakePort(const PortActions& actions, QTabWidget& tabs)

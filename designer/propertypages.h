@@ -1,12 +1,10 @@
 #pragma once
 
-#include "documentcontroller.h"
+#include "pageform.h"
+#include "senderedits.h"
 
-class PageForm;
 class PortActions;
 class QTabWidget;
-class SenderEdits;
-template <class Value> struct Field;
 
 /// Pages of properties: of the current port, of its sender, and of the printed form.
 class PropertyPages : public QObject
@@ -24,7 +22,11 @@ private:
     void MakePrintedForm(QTabWidget& tabs);
     void AddPlaces(PageForm& page);
     template <class Value, class Get, class Set>
-    Field<Value> SenderField(const QString& label, const QString& tip, Get get, Set set);
+    Field<Value> SenderField(const QString& label, const QString& tip, Get get, Set set)
+    {
+        return {label, tip, [this, get] { return (Sender().*get)(); },
+                [this, get, set](const Value& value) { m_edits.SetValue(Index(), get, set, value); }};
+    }
 
     CSender& Sender() const { return *m_document.GetSender(); }
     int Index() const { return m_document.GetProject().GetCurSenderIndex(); } ///< of the sender

@@ -122,8 +122,7 @@ QString SenderEdits::WhyNotBackup(const SPortPlace& backup) const
     const QString number = QString::number(backup.port + 1);
     if (port->IsBackupDest())
         return tr("Port %1 is a backup already. End that first.").arg(number);
-    const OrvanTools::BackupMap backups(m_document.GetProject());
-    if (!backups.BackupsOf({backup.sender, backup.port}).empty())
+    if (!OrvanTools::BackupMap(m_document.GetProject()).BackupsOf({backup.sender, backup.port}).empty())
         return tr("Port %1 has a backup itself, and a backup has none.").arg(number);
     return DocumentController::WhyClosed(*port);
 }
