@@ -34,16 +34,14 @@ void EditActions::Add(QMenu& menu, const QString& text, const QString& tip, cons
 EditActions::EditActions(DocumentController& document, QMenu& menu, QToolBar& bar)
     : QObject(&menu), m_document(document)
 {
-    m_undo = AddAction(menu, this, tr("&Undo"), tr("Take back the last edit"), QKeySequence::Undo,
-                       [this] {
-                           PageForm::FinishTyping();
-                           m_document.Undo();
-                       });
-    m_redo = AddAction(menu, this, tr("&Redo"), tr("Bring back what was undone"), QKeySequence::Redo,
-                       [this] {
-                           PageForm::FinishTyping();
-                           m_document.Redo();
-                       });
+    m_undo = AddAction(menu, this, tr("&Undo"), tr("Take back the last edit"), QKeySequence::Undo, [this] {
+        PageForm::FinishTyping();
+        m_document.Undo();
+    });
+    m_redo = AddAction(menu, this, tr("&Redo"), tr("Bring back what was undone"), QKeySequence::Redo, [this] {
+        PageForm::FinishTyping();
+        m_document.Redo();
+    });
     AddSteps(bar, m_undo, true);
     AddSteps(bar, m_redo, false);
     using Document = DocumentController;

@@ -172,10 +172,10 @@ void MainWindow::MakeProjectMenu()
               Keys("Ctrl+T"), first([this] { m_document.AddSender(); }));
     AddAction(*menu, this, tr("&Rename sender"), tr("Give the sender in the tree a name"), Qt::Key_F2,
               first([this] { m_tree->RenameCurrent(); }));
-    QAction* remove = AddAction(
-        *menu, this, tr("&Delete sender…"),
-        tr("Delete the sender in the tree with all its cabinets; the last one of a project stays"), {},
-        first([this] { m_document.DeleteSender(m_tree->GetSelectedSender(), this); }));
+    QAction* remove =
+        AddAction(*menu, this, tr("&Delete sender…"),
+                  tr("Delete the sender in the tree with all its cabinets; the last one of a project stays"),
+                  {}, first([this] { m_document.DeleteSender(m_tree->GetSelectedSender(), this); }));
     connect(&m_document, &DocumentController::Changed, remove,
             [this, remove] { remove->setEnabled(m_document.GetProject().GetSenderCount() > 1); });
     menu->addSeparator();
@@ -193,9 +193,10 @@ void MainWindow::MakeWallMenu()
     m_edits->Enable(*AddAction(*menu, this, tr("&Turn…"), tr("Turn the selected cabinets about their middle"),
                                Keys("Ctrl+R"), [this] { AskForAngle(); }),
                     EditActions::Selection);
-    QAction* turned = AddSwitch(*menu, this, tr("Show turned cabinets as &turned"),
-                                tr("Off: they are shown and found upright, each about its middle"), {},
-                                GetConfigData()->IsEnableRotate(), [this](bool on) { m_document.SetRotationOn(on); });
+    QAction* turned =
+        AddSwitch(*menu, this, tr("Show turned cabinets as &turned"),
+                  tr("Off: they are shown and found upright, each about its middle"), {},
+                  GetConfigData()->IsEnableRotate(), [this](bool on) { m_document.SetRotationOn(on); });
     connect(&m_document, &DocumentController::RotationChanged, turned, &QAction::setChecked);
     connect(&m_document, &DocumentController::RotationChanged, &m_scene, &SceneModel::Renew);
     menu->addSeparator();

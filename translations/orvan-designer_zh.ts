@@ -656,12 +656,20 @@
         <translation>像素数超出带载能力</translation>
     </message>
     <message>
-        <source>Sender %1, port %2, cabinet %3: %4</source>
-        <translation>主控%1，输出口%2，箱体%3：%4</translation>
+        <source>Sender %1, port %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Sender %1, port %2: %3</source>
-        <translation>主控%1，输出口%2：%3</translation>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, cabinet number %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, cabinet at %2, %3: %4</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -929,10 +937,6 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <translation>显示箱体的旋转(&amp;S)</translation>
     </message>
     <message>
-        <source>Off: they are shown and found where they lay before they were turned</source>
-        <translation>关闭时，箱体按旋转前的位置显示和选取</translation>
-    </message>
-    <message>
         <source>Chain</source>
         <translation>编号</translation>
     </message>
@@ -1035,6 +1039,10 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     <message>
         <source>Show this part of the window, or hide it</source>
         <translation>显示或隐藏窗口的这一部分</translation>
+    </message>
+    <message>
+        <source>Off: they are shown and found upright, each about its middle</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
