@@ -159,7 +159,8 @@ QString FileActions::AskForPath(QWidget* window, const DocumentFile& file, const
 bool FileActions::SaveAs()
 {
     const QString path =
-        AskForPath(&m_window, m_document.GetFile(), tr("Save the project"), {}, {tr("Projects (*.prj)")});
+        AskForPath(&m_window, m_document.GetFile(), tr("Save the project"),
+                   m_document.GetFile().IsReadOnly() ? tr(" copy") : QString(), {tr("Projects (*.prj)")});
     return !path.isEmpty() && SaveTo(path);
 }
 

@@ -257,7 +257,7 @@ void MainWindow::MakeViewMenu()
         ->setShortcuts({QKeySequence(QKeySequence::ZoomIn), Keys("Ctrl+=")});
     AddAction(*menu, this, tr("Zoom &out"), tr("Show the wall smaller, about the middle of the view"),
               QKeySequence::ZoomOut, [this] { m_view->ZoomOut(); });
-    AddAction(*menu, this, tr("&Fit the wall"), tr("Show the canvas, and what lies beyond it, as a whole"),
+    AddAction(*menu, this, tr("&Fit all"), tr("Show the canvas, and what lies beyond it, as a whole"),
               Keys("Ctrl+0"), [this] { m_view->Fit(); });
     AddAction(*menu, this, tr("&Actual size"), tr("Show each pixel of the wall as one of the screen"),
               Keys("Ctrl+1"), [this] { m_view->ActualSize(); });

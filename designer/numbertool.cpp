@@ -17,8 +17,7 @@ constexpr double kStep = 3; ///< view pixels between the places that are looked 
 QString NumberTool::GetHint() const
 {
     const CTile* end = m_document.GetEndOfChain();
-    return tr("Number from %1 on: click cabinets, drag over them, or use the arrow keys. To insert, click a "
-              "numbered cabinet, then those behind it with Shift; also Shift and an arrow key.")
+    return tr("Number from %1 on: click, drag or arrow keys. With Shift: insert after the selected cabinet.")
         .arg(end ? end->GetConnectionIndex() + 2 : 1);
 }
 

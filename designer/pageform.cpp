@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -64,9 +65,21 @@ void PageForm::Follow(QWidget* editor, const QString& label, const QString& tip,
     });
 }
 
-/// The wheel turns a value only where the user is, else the page.
+/// The wheel turns a value only where the user is, else the page. Undo and redo are the wall's when nothing
+/// typed is there to take back.
 bool PageForm::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride) {
+        auto* line = qobject_cast<QLineEdit*>(watched);
+        line = line ? line : watched->findChild<QLineEdit*>();
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (line
+            && ((key.matches(QKeySequence::Undo) && !line->isUndoAvailable())
+                || (key.matches(QKeySequence::Redo) && !line->isRedoAvailable()))) {
+            event->ignore();
+            return true;
+        }
+    }
     if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus())
         return QScrollArea::eventFilter(watched, event);
     event->ignore();
@@ -138,6 +151,7 @@ void PageForm::AddLine(const Field<SPrintLine>& field)
 {
     auto* on = new QCheckBox(field.label, this);
     QLineEdit* editor = MakeLine([on, field](const QString& text) { field.write({on->isChecked(), text}); });
+    connect(editor, &QLineEdit::textEdited, on, [on] { on->setChecked(true); });
     connect(on, &QCheckBox::toggled, this, [editor, field](bool isOn) {
         field.write({isOn, editor->text()});
     });

@@ -207,7 +207,8 @@ bool DocumentController::GroupSelection()
     case CPortSelection::Grouped::TooFew:
         return Refuse(tr("Select two cabinets or groups at least."));
     case CPortSelection::Grouped::InPart:
-        return Refuse(tr("Only a part of some group is selected. Select all of it, or ungroup it first."));
+        return Refuse(
+            tr("Only a part of a group is selected; a block is one too. Select all of it, or ungroup it."));
     default:
         MarkGroups();
         return Record(CSenderRecordItem::OperationGroup);

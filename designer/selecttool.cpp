@@ -87,6 +87,8 @@ void SelectTool::PressCabinet(CTile* tile, Qt::KeyboardModifiers keys)
         m_selectsOne = true;
     else
         m_document.Select({tile}, choice);
+    if (choice == DocumentController::Choice::Replace) // what is edited next is about its port
+        m_document.SetCurrentPort(m_document.GetProject().GetCurSenderIndex(), tile->GetPortIndex());
     if (!tile->IsSelected(InterfaceDesign))
         m_state = State::Idle; // taken out of the selection: nothing to drag
 }

@@ -70,8 +70,8 @@ bool SenderEdits::SetPortCount(int sender, int count, QWidget* parent)
             || !backups.BackupsOf({sender, i}).empty())
             used.append(QString::number(i + 1));
     }
-    const QString losses = tr("Ports with cabinets, backups and ports that have backups go: %1. They come "
-                              "back with a larger number of ports, but a save leaves them out.");
+    const QString losses = tr("These ports hold cabinets or have to do with backups, and would go: %1. They "
+                              "come back with a larger number of ports, but a save leaves them out.");
     if (!used.isEmpty() && !Ask({losses.arg(used.join(QStringLiteral(", ")))}, parent))
         return false;
     found->SetPortCount(count);

@@ -299,12 +299,12 @@
         <translation>请至少选择两个箱体或分组。</translation>
     </message>
     <message>
-        <source>Only a part of some group is selected. Select all of it, or ungroup it first.</source>
-        <translation>有分组只选择了一部分。请选择整个分组，或先取消分组。</translation>
-    </message>
-    <message>
         <source>No selected cabinet is in a group.</source>
         <translation>所选箱体都不在分组中。</translation>
+    </message>
+    <message>
+        <source>Only a part of a group is selected; a block is one too. Select all of it, or ungroup it.</source>
+        <translation>只选中了某个分组的一部分（添加的箱体块也是分组）。请选中整个分组，或取消分组。</translation>
     </message>
 </context>
 <context>
@@ -657,19 +657,19 @@
     </message>
     <message>
         <source>Sender %1, port %2</source>
-        <translation type="unfinished"></translation>
+        <translation>主控 %1 输出口 %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>%1, cabinet number %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，编号 %2 的箱体：%3</translation>
     </message>
     <message>
         <source>%1, cabinet at %2, %3: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，位于 %2, %3 的箱体：%4</translation>
     </message>
 </context>
 <context>
@@ -809,6 +809,10 @@ Open it to look at? It can then be saved under another name.</source>
         <translation>%1已保存，但其中缺少一部分内容。
 
 %2</translation>
+    </message>
+    <message>
+        <source> copy</source>
+        <translation> 副本</translation>
     </message>
 </context>
 <context>
@@ -969,10 +973,6 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <translation>缩小(&amp;O)</translation>
     </message>
     <message>
-        <source>&amp;Fit the wall</source>
-        <translation>适应窗口(&amp;F)</translation>
-    </message>
-    <message>
         <source>&amp;Actual size</source>
         <translation>实际大小(&amp;A)</translation>
     </message>
@@ -1042,14 +1042,18 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
     </message>
     <message>
         <source>Off: they are shown and found upright, each about its middle</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭时：旋转的箱体以各自中心为准按未旋转显示和选取</translation>
+    </message>
+    <message>
+        <source>&amp;Fit all</source>
+        <translation>适应窗口(&amp;F)</translation>
     </message>
 </context>
 <context>
     <name>NumberTool</name>
     <message>
-        <source>Number from %1 on: click cabinets, drag over them, or use the arrow keys. To insert, click a numbered cabinet, then those behind it with Shift; also Shift and an arrow key.</source>
-        <translation>从%1开始编号：单击箱体、拖过箱体或用方向键。要插入编号，先单击一个已编号的箱体，再按住Shift单击其后的箱体，或按Shift和方向键。</translation>
+        <source>Number from %1 on: click, drag or arrow keys. With Shift: insert after the selected cabinet.</source>
+        <translation>从 %1 开始编号：点击、拖动或使用方向键。按住 Shift：插入到所选箱体之后。</translation>
     </message>
 </context>
 <context>
@@ -1369,8 +1373,8 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <translation>不存在的输出口</translation>
     </message>
     <message>
-        <source>Ports with cabinets, backups and ports that have backups go: %1. They come back with a larger number of ports, but a save leaves them out.</source>
-        <translation>以下有箱体、作为备份或有备份的输出口将被去掉：%1。增加输出口数后它们会恢复，但保存时不会写入。</translation>
+        <source>These ports hold cabinets or have to do with backups, and would go: %1. They come back with a larger number of ports, but a save leaves them out.</source>
+        <translation>以下输出口有箱体或涉及备份，将不再使用：%1。增加输出口数量后它们会恢复，但保存时不会写入。</translation>
     </message>
 </context>
 <context>

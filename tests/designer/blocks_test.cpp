@@ -100,7 +100,7 @@ TEST_F(BlocksStory, GroupsAreMadeTakenApartAndNested)
     EXPECT_TRUE(IsTold("one port"));
     SelectTopRow();
     Key(Qt::Key_G, kCtrl);
-    EXPECT_TRUE(IsTold("part of some group"));
+    EXPECT_TRUE(IsTold("part of a group"));
     KeyStep(Qt::Key_G, kCtrlShift, "Ungroup");
     KeyStep(Qt::Key_G, kCtrl, "Group");
     Key(Qt::Key_G, kCtrl);

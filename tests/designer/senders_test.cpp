@@ -191,7 +191,7 @@ TEST_F(SendersStory, FewerPortsAreAskedForWhenOneOfThemIsUsed)
     Sender().GetPort(0)->CancelBackupDest();
     DragPort(3, 0);
     QTest::keyClick(ports, Qt::Key_Up);
-    EXPECT_TRUE(messages.Take().join(QString()).contains("backups go: 4."_s));
+    EXPECT_TRUE(messages.Take().join(QString()).contains("would go: 4."_s));
     EXPECT_EQ(ports->currentText().toStdString(), "4") << "as it still is";
     messages.answer = QMessageBox::Yes;
     QTest::keyClick(ports, Qt::Key_Up);
