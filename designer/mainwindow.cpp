@@ -64,6 +64,7 @@ MainWindow::MainWindow(DocumentController& document, QWidget* parent)
     };
     auto* project = add(QStringLiteral("project"), tr("Project"), m_tree, Qt::LeftDockWidgetArea);
     auto* pages = new QTabWidget(this);
+    pages->setUsesScrollButtons(false); // all of them are seen to be there
     pages->addTab(new CabinetsPage(m_document, this), tr("Cabinets"));
     new PropertyPages(m_document, m_senderEdits, *m_ports, *pages);
     auto* properties = add(QStringLiteral("properties"), tr("Properties"), pages, Qt::RightDockWidgetArea);
