@@ -92,6 +92,14 @@ MainWindow::MainWindow(DocumentController& document, QWidget* parent)
     m_view->setFocus();
 }
 
+/// What loses the focus while it goes still tells something, and that needs the members.
+MainWindow::~MainWindow()
+{
+    disconnect(&m_document, nullptr, this, nullptr);
+    delete m_view;
+    qDeleteAll(findChildren<QDockWidget*>());
+}
+
 void MainWindow::Connect()
 {
     connect(&m_document, &DocumentController::Changed, this, &MainWindow::Take);

@@ -23,6 +23,7 @@ class MainWindow : public QMainWindow
 
 public:
     explicit MainWindow(DocumentController& document, QWidget* parent = nullptr); ///< [keep] the document
+    ~MainWindow() override;
 
     DocumentController& GetDocument() { return m_document; }
     DesignView& GetView() { return *m_view; }

@@ -2,6 +2,7 @@
 
 #include "designview.h"
 #include "mainwindow.h"
+#include "pageform.h"
 #include "settingsactions.h"
 
 #include <QCoreApplication>
@@ -46,6 +47,7 @@ void Program::Show()
 /// The one before goes last, so that there always is a window.
 void Program::MakeAnew()
 {
+    PageForm::FinishTyping();
     Translate();
     const ViewMap map = m_window->GetView().GetMap();
     const double scaling = map.GetScaling();
