@@ -123,17 +123,14 @@ public:
 
     // project file
     /// False: refused, and nothing was written. True does not mean that there is an archive: ask
-    /// IsArchiveWritten() after each save, and GetLastFileError(), which is empty when all was written. With
-    /// an archive, for the open document, CProjectUndoRedo::SetAsSaveStep makes the steps count as saved;
-    /// what PrjModify marked (senders that came or went, sender groups) stays until the next load.
+    /// IsArchiveWritten() after each save. With one, for the open document, CProjectUndoRedo::SetAsSaveStep
+    /// makes the steps count as saved; what PrjModify marked (senders, sender groups) stays until a load.
     bool SaveProjectToFile(const QString& path, CCustomProgressbar* progress);
     /// `error` receives the minimum version of a file that is too new. On failure the project is as it was.
     bool LoadProjectFromFile(const char* path, QString& error, CCustomProgressbar* progress);
     QString GetMinVersionSupport() const;
-    /// Why the last file operation did not do all that was asked, whatever it returned; empty when it did.
-    QString GetLastFileError() const { return m_lastFileError; }
-    /// Whether the last SaveProjectToFile left the archive at its path, with or without all of its parts.
-    bool IsArchiveWritten() const { return m_archiveWritten; }
+    QString GetLastFileError() const { return m_lastFileError; } ///< empty: all that was asked was done
+    bool IsArchiveWritten() const { return m_archiveWritten; }   ///< by the last save, perhaps without a part
 
     // layout files of one sender or one port
     bool ExportSender(const QString& path, const QUuid& senderId);
