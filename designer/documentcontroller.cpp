@@ -205,18 +205,22 @@ bool DocumentController::Record(CProjectUndoRedo::Type type)
 
 bool DocumentController::Undo(int steps)
 {
-    FinishNumbering();
-    return Went(History().Undo(steps, nullptr, nullptr));
+    return Go([steps] { return History().Undo(steps, nullptr, nullptr); });
 }
 
 bool DocumentController::Redo(int steps)
 {
-    FinishNumbering();
-    return Went(History().Redo(steps, nullptr, nullptr));
+    return Go([steps] { return History().Redo(steps, nullptr, nullptr); });
 }
 
-bool DocumentController::Went(bool done)
+/// The current port stays: a step brings back the one that it was recorded with.
+bool DocumentController::Go(const std::function<bool()>& step)
 {
+    FinishNumbering();
+    const int current = GetSender() ? GetSender()->GetRecentPortIndex() : 0;
+    const bool done = step();
+    if (GetSender())
+        GetSender()->SetRecentPortIndex(current);
     KeepCurrentPort();
     emit PortStatesChanged();
     return done;

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QObject>
 
+#include <functional>
+
 class QWidget;
 
 struct LayoutImport
@@ -159,7 +161,7 @@ private:
     void DeleteSelected(CPort& port);
     bool RemoveSelection(CProjectUndoRedo::Type type);
     CSender* Append(const QSize& canvas); ///< [ref]
-    bool Went(bool done);
+    bool Go(const std::function<bool()>& step);
 
     DocumentFile m_file;
     CPortProject m_copies;   ///< good when their cabinets are gone, and for another document

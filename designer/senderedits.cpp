@@ -162,7 +162,8 @@ bool SenderEdits::MakeBackup(const SPortPlace& backup, const SPortPlace& source,
                          "shown nor checked until the backup ends.")
                           .arg(backup.port + 1)
                           .arg(own));
-    if (!MayRestartHistory(backup.sender, losses, parent))
+    const QString what = tr("Port %1 becomes the backup of %2.").arg(backup.port + 1);
+    if (!MayRestartHistory(backup.sender, what.arg(PortText(source, backup.sender)), losses, parent))
         return false;
     port.GetPortProject()->CancelAllSelected();
     port.SetBeBackupDest(FindSender(source.sender)->GetId(), source.port);
@@ -174,18 +175,22 @@ bool SenderEdits::EndBackup(const SPortPlace& backup, QWidget* parent)
 {
     CPort* port = FindPort(backup);
     if (!port || !port->IsBackupDest() || !m_document.IsAllowed(DocumentController::WhyShut(*port))
-        || !MayRestartHistory(backup.sender, {}, parent))
+        || !MayRestartHistory(backup.sender, tr("Port %1 is no backup any more.").arg(backup.port + 1), {},
+                              parent))
         return false;
     port->CancelBackupDest();
     RestartHistory(backup.sender);
     return true;
 }
 
-bool SenderEdits::MayRestartHistory(int sender, QStringList losses, QWidget* parent) const
+bool SenderEdits::MayRestartHistory(int sender, const QString& what, QStringList losses,
+                                    QWidget* parent) const
 {
     const CSenderUndoRedo* history = History().GetSenderUndoRedoFromID(FindSender(sender)->GetId());
     if (history && history->GetStepCount() > 1)
         losses.append(tr("The edits of this sender can no longer be undone afterwards."));
+    if (!losses.isEmpty())
+        losses.prepend(what);
     return Ask(losses, parent);
 }
 

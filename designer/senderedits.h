@@ -51,7 +51,7 @@ private:
     CSender* FindSender(int sender) const { return m_document.GetProject().GetSender(sender); }
     CPort* FindPort(const SPortPlace& place) const;
     void NoteState(CPort& port, bool closed);
-    bool MayRestartHistory(int sender, QStringList losses, QWidget* parent) const;
+    bool MayRestartHistory(int sender, const QString& what, QStringList losses, QWidget* parent) const;
     void RestartHistory(int sender);
 
     DocumentController& m_document;

@@ -1376,6 +1376,14 @@ Press Insert, or choose Wall, Add block, to place a block of them. Or drop a pro
         <source>These ports hold cabinets or have to do with backups, and would go: %1. They come back with a larger number of ports, but a save leaves them out.</source>
         <translation>以下输出口有箱体或涉及备份，将不再使用：%1。增加输出口数量后它们会恢复，但保存时不会写入。</translation>
     </message>
+    <message>
+        <source>Port %1 becomes the backup of %2.</source>
+        <translation>输出口 %1 将成为%2的备份。</translation>
+    </message>
+    <message>
+        <source>Port %1 is no backup any more.</source>
+        <translation>输出口 %1 将不再是备份。</translation>
+    </message>
 </context>
 <context>
     <name>SettingsActions</name>
