@@ -55,6 +55,7 @@ TEST_F(PortSelectionTest, GroupsNestAndComeApart)
     EXPECT_EQ(first->GetParentGroupID(), outer.GetID());
     EXPECT_EQ(Tile(8).GetGroupId(), outer.GetID());
     EXPECT_EQ(outer.GetRotateParam()->width, 700);
+    EXPECT_EQ(QPointF(outer.GetRotateParam()->centerX, outer.GetRotateParam()->centerY), QPointF(350, 50));
     Select({0, 1, 2, 3});
     EXPECT_EQ(selection.GetWholeGroups(), QList<CTileGroup*>{first});
     EXPECT_EQ(selection.GetTilesAround().size(), 5);
@@ -81,6 +82,12 @@ TEST_F(PortSelectionTest, RecordsOfWholeGroupsGoAlong)
     EXPECT_EQ(QPointF(record.centerX, record.centerY), QPointF(110, 70));
     EXPECT_EQ(std::abs(record.angle), 180);
     EXPECT_EQ(Tile(0).GetRotateRecord().angle, 180);
+    const SRotateParam before = Tile(0).GetRotateRecord();
+    selection.Offset(3, 4);
+    const SRotateParam after = Tile(0).GetRotateRecord();
+    EXPECT_EQ(QPointF(after.leftTopX - before.leftTopX, after.leftTopY - before.leftTopY), QPointF(3, 4));
+    EXPECT_EQ(QPointF(after.centerX - before.centerX, after.centerY - before.centerY), QPointF(3, 4));
+    selection.Offset(-3, -4);
     selection.TurnEachTo(30);
     EXPECT_EQ(Tile(3).GetRotateRecord().angle, 30);
 

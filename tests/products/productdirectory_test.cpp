@@ -60,6 +60,24 @@ TEST_F(ProductDirectoryTest, SearchesGoDepthFirst)
     EXPECT_EQ(sub->GetFileDirName(), "sub"_s);
 }
 
+TEST_F(ProductDirectoryTest, CopyOfAProductHoldsAllOfIt)
+{
+    CProduct product;
+    product.SetMd5(Digest('c'));
+    product.SetMenuID(5);
+    product.SetParamPath("/a/b.rcvbp"_s);
+    product.SetPixelWidth(128);
+    product.SetPixelHeight(64);
+    product.SetMulti(true);
+    product.SetMultiFlagSet(true);
+    CProduct copy;
+    copy.CopyByProduct(&product);
+    copy.CopyByProduct(nullptr);
+    EXPECT_TRUE(copy.GetMd5() == Digest('c') && copy.GetMenuID() == 5 && copy.GetName() == "b"_s);
+    EXPECT_TRUE(copy.GetPixelWidth() == 128 && copy.GetPixelHeight() == 64);
+    EXPECT_TRUE(copy.IsMulti() && copy.IsMultiFlagSet());
+}
+
 TEST_F(ProductDirectoryTest, WhatLiesDeepIsDeletedFromAbove)
 {
     CProduct stranger;
