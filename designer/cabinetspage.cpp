@@ -47,9 +47,7 @@ CabinetsPage::CabinetsPage(DocumentController& document, QWidget* parent)
     : PageForm(document, parent), m_document(document)
 {
     const auto bound = [&document] { return document.GetSelectionBound(); };
-    const auto move = [&document, bound](const QPoint& by) {
-        document.MoveSelection(document.Limited(bound(), by));
-    };
+    const auto move = [&document](const QPoint& by) { document.MoveSelection(by); };
     const auto common = [this](auto value) { // empty: they differ
         return [this, value] {
             const auto first = value(*m_tiles.first());

@@ -42,9 +42,8 @@ QHash<QUuid, CTileGroup*> OutermostGroups(const CPort& port)
 }
 
 /// The outermost groups that have some of the cabinets.
-QSet<CTileGroup*> Touched(const CPort& port, const CTileSet& tiles)
+QSet<CTileGroup*> Touched(const QHash<QUuid, CTileGroup*>& outermost, const CTileSet& tiles)
 {
-    const QHash<QUuid, CTileGroup*> outermost = OutermostGroups(port);
     QSet<CTileGroup*> touched;
     for (const CTile* tile : tiles)
         touched.insert(outermost.value(tile->GetGroupId()));
@@ -160,7 +159,7 @@ void CPortSelection::MarkWholeGroups()
 QList<CTile*> CPortSelection::GetTilesAround() const
 {
     const QHash<QUuid, CTileGroup*> outermost = OutermostGroups(m_port);
-    const QSet<CTileGroup*> touched = Touched(m_port, GetTiles());
+    const QSet<CTileGroup*> touched = Touched(outermost, GetTiles());
     QList<CTile*> tiles;
     for (CTile* tile : m_port.GetTileSet()) {
         if (touched.contains(outermost.value(tile->GetGroupId())))
@@ -208,7 +207,7 @@ CPortSelection::Grouped CPortSelection::Group()
 /// The groups inside take the place of theirs.
 bool CPortSelection::Ungroup()
 {
-    const QSet<CTileGroup*> touched = Touched(m_port, GetTiles());
+    const QSet<CTileGroup*> touched = Touched(OutermostGroups(m_port), GetTiles());
     CTileGroupSet& level = m_port.GetTileGroupSet();
     CTileGroupSet staying;
     QSet<QUuid> gone;
