@@ -4,6 +4,7 @@
 #include "documentcontroller.h"
 
 #include <orvantools/portload.h>
+#include <orvantools/wallarea.h>
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -31,7 +32,10 @@ BlockDialog::BlockDialog(const DocumentController& document, QWidget* parent)
 {
     setWindowTitle(tr("Add a block of cabinets"));
     const QSize cabinet = GetConfigData()->GetCustomerTileSize();
-    const QPoint place = FreePlace(*document.GetSender(), kColumns * cabinet.width());
+    const QRect all = document.GetSender()->GetBound();
+    const QRect block(all.topRight() + QPoint(1, 0),
+                      QSize(kColumns * cabinet.width(), kRows * cabinet.height()));
+    const QPoint place = OrvanTools::FreePlace(*document.GetSender(), block);
     m_columns = AddNumber(tr("Columns"), 1, kMostAcross, kColumns);
     m_rows = AddNumber(tr("Rows"), 1, kMostAcross, kRows);
     m_width = AddNumber(tr("Width of a cabinet"), 1, kMaxCabinetSize, cabinet.width());
@@ -143,19 +147,6 @@ void BlockDialog::TakeProduct()
     ShowBlock();
 }
 
-/// To the right of all cabinets while the canvas has room there for a block as proposed, else below them.
-QPoint BlockDialog::FreePlace(const CSender& sender, int width)
-{
-    CTileSet tiles;
-    if (!sender.GetTileSet(tiles))
-        return {};
-    const QRect bound = tiles.GetBound();
-    const bool hasRoom = bound.right() + width <= DocumentController::CanvasOf(sender).right();
-    const QPoint place =
-        hasRoom ? QPoint(bound.right() + 1, bound.top()) : QPoint(bound.left(), bound.bottom() + 1);
-    return QPoint(qBound(0, place.x(), kMaxCanvasWidth - 1), qBound(0, place.y(), kMaxCanvasHeight - 1));
-}
-
 SAddTileInfo BlockDialog::GetBlock() const
 {
     SAddTileInfo block;
@@ -195,11 +186,11 @@ void BlockDialog::ShowBlock()
                           .arg(qint64(block.rows) * block.height)
                           .arg(block.portIndex + 1)
                           .arg(load.replace(QLatin1Char(' '), QChar(QChar::Nbsp)))};
-    const QRect canvas = DocumentController::CanvasOf(sender);
-    const QRect area = canvas.isNull() ? DocumentController::LimitsOf(sender) : canvas;
+    const QRect canvas = OrvanTools::CanvasOf(sender);
+    const QRect area = canvas.isNull() ? OrvanTools::LargestCanvasOf(sender) : canvas;
     if (!why.isEmpty())
         lines.append(why);
-    else if (!area.contains(m_document.BoundOf(block)))
+    else if (!area.contains(block.GetBound()))
         lines.append(tr("Part of it lies beyond the canvas."));
     m_about->setText(lines.join(QLatin1Char('\n')));
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(why.isEmpty());

@@ -34,7 +34,6 @@ private:
     const CProduct* GetProduct() const; ///< [ref] null: a plain size
     void TakeProduct();
     void ShowBlock();
-    static QPoint FreePlace(const CSender& sender, int width);
 
     const DocumentController& m_document;
     QSpinBox* m_columns;

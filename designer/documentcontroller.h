@@ -38,9 +38,6 @@ public:
     static QString WhyClosed(const CPort& port); ///< why its cabinets stay as they are; empty: they need not
     static QList<CPort*> OpenPorts(CSender& sender); ///< [ref] in use and not closed
     bool IsAllowed(const QString& whyNot);           ///< with no reason against it, which the user is told
-    // where the check and the drawings take the sender's canvas to lie among its cabinets
-    static QRect CanvasOf(const CSender& sender); ///< null: it has none
-    static QRect LimitsOf(const CSender& sender); ///< of the largest canvas that there can be
     const DocumentFile& GetFile() const { return m_file; }
     bool IsModified() const;   ///< as the library has it: a project may stay modified after a save
     bool IsSaveNeeded() const; ///< there is a change since the last save
@@ -84,7 +81,7 @@ public:
 
     // edits of the selection: one step each. False: refused, and told why, or nothing to do
     bool MayEditSelection(); ///< there is one; false, and told why, when some of it is on a closed port
-    /// So that it comes to lie within LimitsOf, along the axes that it moves on.
+    /// So that it comes to lie within the largest canvas there can be, along the axes that it moves on.
     QPoint Limited(const QRect& bound, const QPoint& by) const;
     bool MoveSelection(const QPoint& by); ///< limited
     bool DeleteSelection();
@@ -103,7 +100,6 @@ public:
 
     // adding a block of cabinets
     static CProductDirectorySet& GetProducts();             ///< scanned when nobody has done so yet
-    static QRect BoundOf(const SAddTileInfo& block);        ///< wall pixels
     QString WhyNotAddable(const SAddTileInfo& block) const; ///< to the current sender; empty: it can be added
     bool AddBlock(const SAddTileInfo& block);
 
@@ -154,11 +150,8 @@ private:
     void SelectionDone();
     static QString WhyTooLarge();
     QString WhyNoRoom(const CPort& port, qint64 cabinets) const; ///< for that many more; empty: there is
-    QList<CPort*> PortsWithCabinets() const;                     ///< [ref] of the current sender
     void MarkGroups();                                           ///< as selected, or not, by their cabinets
-    void MoveSelected(const QPoint& by);
     bool FinishTurn();
-    void DeleteSelected(CPort& port);
     bool RemoveSelection(CProjectUndoRedo::Type type);
     CSender* Append(const QSize& canvas); ///< [ref]
     bool Go(const std::function<bool()>& step);

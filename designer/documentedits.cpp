@@ -1,46 +1,6 @@
 // The selection of the open document, blocks that are added, and the chain.
 #include "documentcontroller.h"
 
-#include <orvantools/tileshape.h>
-
-namespace {
-
-constexpr double kFarthest = 1000000; ///< of an offset, which a file may set to anything
-
-QPoint CanvasPlace(const CSender& sender)
-{
-    const QPointF offset = OrvanTools::OffsetOf(sender);
-    return QPoint(-qRound(qBound(-kFarthest, offset.x(), kFarthest)),
-                  -qRound(qBound(-kFarthest, offset.y(), kFarthest)));
-}
-
-} // namespace
-
-QRect DocumentController::CanvasOf(const CSender& sender)
-{
-    const QSize size = sender.GetCanvasSize();
-    return size.isEmpty() ? QRect() : QRect(CanvasPlace(sender), size);
-}
-
-QRect DocumentController::LimitsOf(const CSender& sender)
-{
-    const QSize largest(kMaxCanvasWidth, kMaxCanvasHeight);
-    return QRect(CanvasPlace(sender), largest)
-           & QRect(-kMaxCanvasWidth, -kMaxCanvasHeight, 2 * kMaxCanvasWidth, 2 * kMaxCanvasHeight);
-}
-
-/// Those of ports in use that have cabinets of their own.
-QList<CPort*> DocumentController::PortsWithCabinets() const
-{
-    CSender* sender = GetSender();
-    QList<CPort*> ports;
-    for (int i = 0; sender && i < sender->GetPortCount(); ++i) {
-        if (!sender->GetPort(i)->IsBackupDest() && sender->GetPort(i)->GetTileSet().GetCount() > 0)
-            ports.append(sender->GetPort(i));
-    }
-    return ports;
-}
-
 bool DocumentController::Refuse(const QString& why)
 {
     emit Refused(why);
@@ -56,10 +16,8 @@ bool DocumentController::IsAllowed(const QString& whyNot)
 
 void DocumentController::Select(const QList<CTile*>& tiles, Choice choice)
 {
-    if (choice == Choice::Replace) {
-        for (CPort* port : PortsWithCabinets())
-            port->GetTileSet().UnSelectAll(InterfaceDesign);
-    }
+    if (choice == Choice::Replace && GetSender())
+        CSenderSelection(*GetSender()).Clear();
     for (CTile* tile : tiles)
         tile->SetSelected(choice != Choice::Toggle || !tile->IsSelected(InterfaceDesign), InterfaceDesign,
                           -1);
@@ -68,10 +26,8 @@ void DocumentController::Select(const QList<CTile*>& tiles, Choice choice)
 
 void DocumentController::SelectGroups()
 {
-    QList<CTile*> tiles;
-    for (CPort* port : PortsWithCabinets())
-        tiles += CPortSelection(*port).GetTilesAround();
-    Select(tiles, Choice::Add);
+    if (GetSender())
+        Select(CSenderSelection(*GetSender()).GetTilesAround(), Choice::Add);
 }
 
 void DocumentController::SelectAll()
@@ -91,28 +47,18 @@ void DocumentController::SelectionDone()
 
 void DocumentController::MarkGroups()
 {
-    for (CPort* port : PortsWithCabinets())
-        CPortSelection(*port).MarkWholeGroups();
+    if (GetSender())
+        CSenderSelection(*GetSender()).MarkWholeGroups();
 }
 
 QList<CTile*> DocumentController::GetSelection() const
 {
-    QList<CTile*> selection;
-    CTileSet selected;
-    for (const CPort* port : PortsWithCabinets()) {
-        port->GetTileSet().GetSelTileSet(selected, InterfaceDesign);
-        for (CTile* tile : selected)
-            selection.append(tile);
-    }
-    return selection;
+    return GetSender() ? CSenderSelection(*GetSender()).GetTiles() : QList<CTile*>();
 }
 
 QRect DocumentController::GetSelectionBound() const
 {
-    QRect bound;
-    for (const CTile* tile : GetSelection())
-        bound |= tile->GetBound();
-    return bound;
+    return GetSender() ? CSenderSelection(*GetSender()).GetBound() : QRect();
 }
 
 CTile* DocumentController::FindNeighbour(int key)
@@ -120,24 +66,13 @@ CTile* DocumentController::FindNeighbour(int key)
     if (!MayEditPort())
         return nullptr;
     CTileSet& tiles = GetPort()->GetTileSet();
-    CTileSet selected;
-    tiles.GetSelTileSet(selected, InterfaceDesign);
+    const CTileSet selected = CPortSelection(*GetPort()).GetTiles();
     const CTile* last = selected.GetTile(selected.GetCount() - 1);
     return tiles.GetDirectionTile(last ? last->GetBound() : QRect(), static_cast<unsigned long>(key), false,
                                   false);
 }
 
 // adding
-
-QRect DocumentController::BoundOf(const SAddTileInfo& block)
-{
-    const auto end = [](int start, int count, int size, int most) {
-        return static_cast<int>(qMin(start + qint64(count) * size, 2 * qint64(most)));
-    };
-    return QRect(QPoint(block.left, block.top),
-                 QPoint(end(block.left, block.columns, block.width, kMaxCanvasWidth) - 1,
-                        end(block.top, block.rows, block.height, kMaxCanvasHeight) - 1));
-}
 
 QString DocumentController::WhyTooLarge()
 {
@@ -155,7 +90,7 @@ QString DocumentController::WhyNotAddable(const SAddTileInfo& block) const
     const QString why = WhyNoRoom(*port, qint64(block.columns) * block.rows);
     if (!why.isEmpty())
         return why;
-    if (!QRect(0, 0, kMaxCanvasWidth, kMaxCanvasHeight).contains(BoundOf(block)))
+    if (!QRect(0, 0, kMaxCanvasWidth, kMaxCanvasHeight).contains(block.GetBound()))
         return WhyTooLarge();
     return {};
 }
@@ -208,22 +143,14 @@ bool DocumentController::NumberNext(const QList<CTile*>& tiles)
     CPort* current = GetPort();
     if (!current || !WhyClosed(*current).isEmpty())
         return false;
-    const int port = current->GetPortIndex();
-    CTile* last = current->GetTileSet().GetEndIndexTile();
-    bool any = false;
-    for (CTile* tile : tiles) {
-        if (tile->HasSetConnectIndex() || tile->GetPortIndex() != port)
-            continue;
-        CTileSet before; // spares the look for the neighbour among all
-        before.AddTile(last);
-        tile->SetConnectionIndex(last ? last->GetConnectionIndex() + 1 : 0, &before);
-        last = tile;
-        any = true;
-    }
-    if (any)
-        emit PortEdited(port);
-    m_numbered = m_numbered || any;
-    return any;
+    QList<CTile*> own;
+    std::copy_if(tiles.begin(), tiles.end(), std::back_inserter(own),
+                 [&](const CTile* tile) { return tile->GetPortIndex() == current->GetPortIndex(); });
+    if (!current->GetTileSet().AppendToChain(own))
+        return false;
+    m_numbered = true;
+    emit PortEdited(current->GetPortIndex());
+    return true;
 }
 
 bool DocumentController::FinishNumbering()
@@ -231,26 +158,14 @@ bool DocumentController::FinishNumbering()
     return std::exchange(m_numbered, false) && Record(CSenderRecordItem::OperationConnect);
 }
 
-/// The later ones move up by one.
 bool DocumentController::InsertIntoChain(CTile& tile)
 {
     if (!MayEditPort() || tile.HasSetConnectIndex() || tile.GetPortIndex() != GetPort()->GetPortIndex())
         return false;
-    CTileSet& tiles = GetPort()->GetTileSet();
-    CTileSet selected;
-    tiles.GetSelTileSet(selected, InterfaceDesign);
-    const CTile* before = selected.GetEndIndexTile();
+    const CTile* before = CPortSelection(*GetPort()).GetTiles().GetEndIndexTile();
     if (!before)
         return Refuse(tr("Click the numbered cabinet first that it is to come behind."));
-    tiles.TileSetNormalization();
-    const int place = before->GetConnectionIndex() + 1;
-    CTileSet nowhere; // spares the look for the neighbour among all
-    for (CTile* other : tiles) {
-        if (other->GetConnectionIndex() >= place)
-            other->SetConnectionIndex(other->GetConnectionIndex() + 1, &nowhere);
-    }
-    tile.SetConnectionIndex(place, &nowhere);
-    tiles.TileSetNormalization();
+    GetPort()->GetTileSet().InsertIntoChain(&tile, before);
     Select({&tile}, Choice::Replace);
     return Record(CSenderRecordItem::OperationConnect);
 }

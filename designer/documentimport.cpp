@@ -1,23 +1,7 @@
 // Layouts that come from files of their own.
 #include "documentcontroller.h"
 
-#include <algorithm>
-
 namespace {
-
-/// Whether steps fit both: undoing clears a port that is a backup before or after alone, and what lies on a
-/// port out of use is lost.
-bool HasSameFrame(const CSender& a, const CSender& b)
-{
-    const auto isSame = [](const CPort& one, const CPort& other) {
-        return one.IsBackupDest() == other.IsBackupDest()
-               && one.GetBackupSrcSenderId() == other.GetBackupSrcSenderId()
-               && one.GetBackupSrcPortIndex() == other.GetBackupSrcPortIndex()
-               && one.GetBackupSrcIP() == other.GetBackupSrcIP();
-    };
-    return a.GetPortCount() == b.GetPortCount()
-           && std::equal(a.GetPorts().begin(), a.GetPorts().end(), b.GetPorts().begin(), isSame);
-}
 
 bool Read(CProjectData& project, const LayoutImport& wanted)
 {
@@ -51,7 +35,7 @@ DocumentController::ImportOutcome DocumentController::ImportLayout(const LayoutI
         *text = trial.GetLastFileError();
         return ImportOutcome::Failed;
     }
-    const bool fits = HasSameFrame(*sender, *copy);
+    const bool fits = CSenderUndoRedo::HoldsChange(*sender, *copy);
     if (!fits && !historyMayEnd)
         return ImportOutcome::HistoryWouldEnd;
     const bool done = Read(GetProject(), wanted);

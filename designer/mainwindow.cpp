@@ -245,7 +245,7 @@ void MainWindow::AskForBlock()
     auto* dialog = new BlockDialog(m_document, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     const auto preview = [this](const SAddTileInfo& block) {
-        m_view->SetPreview(DocumentController::BoundOf(block), QSize(block.width, block.height));
+        m_view->SetPreview(block.GetBound(), QSize(block.width, block.height));
     };
     preview(dialog->GetBlock());
     connect(dialog, &BlockDialog::BlockChanged, this, preview);

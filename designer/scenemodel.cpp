@@ -1,9 +1,9 @@
 #include "scenemodel.h"
 
-#include "documentcontroller.h"
 #include "groupbounds.h"
 
 #include <orvantools/portload.h>
+#include <orvantools/wallarea.h>
 
 namespace {
 
@@ -152,7 +152,7 @@ void SceneModel::Read(int index)
 void SceneModel::ReadStates()
 {
     const CSender* sender = GetProjectData()->GetCurrentSender();
-    m_canvas = sender ? DocumentController::CanvasOf(*sender) : QRect();
+    m_canvas = sender ? OrvanTools::CanvasOf(*sender) : QRect();
     m_currentPort = sender ? sender->GetRecentPortIndex() : 0;
     for (size_t i = 0; sender && i < m_ports.size(); ++i) {
         const CPort& port = *sender->GetPort(static_cast<int>(i));

@@ -1,40 +1,14 @@
 // The edits of the selected cabinets.
 #include "documentcontroller.h"
 
+#include <orvantools/wallarea.h>
+
 #include <algorithm>
 
+using OrvanTools::FreePlace;
+using OrvanTools::LargestCanvasOf;
+
 namespace {
-
-const QRect kSeen(0, 0, kMaxCanvasWidth, kMaxCanvasHeight); ///< by the design view
-constexpr QPoint kAside(16, 16);
-
-/// Where copies go: where they were when nothing lies there, else beside that, else beside all cabinets,
-/// else on top of what is there.
-QPoint FreePlace(const QList<CPort*>& ports, const CSender& sender, const QRect& bound)
-{
-    const QRect all = sender.GetBound();
-    const QPoint places[] = {bound.topLeft(),
-                             {bound.right() + 1, bound.top()},
-                             {bound.left(), bound.bottom() + 1},
-                             {bound.left() - bound.width(), bound.top()},
-                             {bound.left(), bound.top() - bound.height()},
-                             {all.right() + 1, bound.top()},
-                             {bound.left(), all.bottom() + 1}};
-    const auto isFree = [&](const QRect& place) {
-        CTileSet found;
-        return std::none_of(ports.begin(), ports.end(), [&](const CPort* port) {
-            return port->GetTileSet().GetTileSetAtRect(found, place, false);
-        });
-    };
-    for (const QRect& canvas : {DocumentController::CanvasOf(sender) & kSeen, kSeen}) {
-        for (const QPoint& place : places) {
-            const QRect covered(place, bound.size());
-            if (canvas.contains(covered) && isFree(covered))
-                return place;
-        }
-    }
-    return bound.topLeft() + kAside;
-}
 
 /// How far to move instead, so that it comes to lie inside the area.
 QPoint Kept(const QPoint& by, const QRect& bound, const QRect& area)
@@ -48,15 +22,10 @@ QPoint Kept(const QPoint& by, const QRect& bound, const QRect& area)
 bool DocumentController::MayEditSelection()
 {
     FinishNumbering();
-    bool any = false;
-    for (CPort* port : PortsWithCabinets()) {
-        if (CPortSelection(*port).GetTiles().GetCount() == 0)
-            continue;
-        if (!IsAllowed(WhyClosed(*port)))
-            return false;
-        any = true;
-    }
-    return any;
+    const QList<CPort*> ports = GetSender() ? CSenderSelection(*GetSender()).GetPorts() : QList<CPort*>();
+    return !ports.isEmpty() && std::all_of(ports.begin(), ports.end(), [this](const CPort* port) {
+        return IsAllowed(WhyClosed(*port));
+    });
 }
 
 /// What lies outside already is not drawn in along the other axis.
@@ -64,14 +33,8 @@ QPoint DocumentController::Limited(const QRect& bound, const QPoint& by) const
 {
     if (!GetSender())
         return {};
-    const QPoint kept = Kept(by, bound, LimitsOf(*GetSender()));
+    const QPoint kept = Kept(by, bound, LargestCanvasOf(*GetSender()));
     return QPoint(by.x() == 0 ? 0 : kept.x(), by.y() == 0 ? 0 : kept.y());
-}
-
-void DocumentController::MoveSelected(const QPoint& by)
-{
-    for (CPort* port : PortsWithCabinets())
-        CPortSelection(*port).Offset(by.x(), by.y());
 }
 
 bool DocumentController::MoveSelection(const QPoint& by)
@@ -79,25 +42,15 @@ bool DocumentController::MoveSelection(const QPoint& by)
     const QPoint limited = Limited(GetSelectionBound(), by);
     if (limited.isNull() || !MayEditSelection())
         return false;
-    MoveSelected(limited);
+    CSenderSelection(*GetSender()).Offset(limited.x(), limited.y());
     return Record(CSenderRecordItem::OperationMoveTiles);
-}
-
-/// The chain closes up over what is gone.
-void DocumentController::DeleteSelected(CPort& port)
-{
-    const int before = port.GetTileSet().GetCount();
-    port.GetPortProject()->DeleteSelectedTileAndGroup();
-    if (port.GetTileSet().GetCount() != before)
-        port.GetTileSet().TileSetNormalization();
 }
 
 bool DocumentController::RemoveSelection(CProjectUndoRedo::Type type)
 {
     if (!MayEditSelection())
         return false;
-    for (CPort* port : PortsWithCabinets())
-        DeleteSelected(*port);
+    CSenderSelection(*GetSender()).Delete();
     return Record(type);
 }
 
@@ -111,13 +64,7 @@ bool DocumentController::TurnSelection(double angle)
     if (qFuzzyIsNull(angle) || !MayEditSelection())
         return false;
     SetRotationOn(true); // upright, the selection may have its middle elsewhere
-    const QRectF bound = GetSelectionBound();
-    SRotateParam turn;
-    turn.angle = angle;
-    turn.centerX = bound.center().x();
-    turn.centerY = bound.center().y();
-    for (CPort* port : PortsWithCabinets())
-        CPortSelection(*port).Turn(turn);
+    CSenderSelection(*GetSender()).Turn(angle);
     return FinishTurn();
 }
 
@@ -126,20 +73,15 @@ bool DocumentController::TurnSelectionTo(double angle)
     if (!MayEditSelection())
         return false;
     SetRotationOn(true);
-    const QList<CTile*> tiles = GetSelection();
-    const double present = tiles.first()->GetRotateRecord().angle;
-    if (std::all_of(tiles.begin(), tiles.end(),
-                    [&](const CTile* tile) { return qFuzzyIsNull(tile->GetRotateRecord().angle - present); }))
-        return TurnSelection(angle - present);
-    for (CPort* port : PortsWithCabinets())
-        CPortSelection(*port).TurnEachTo(angle);
+    CSenderSelection(*GetSender()).TurnTo(angle);
     return FinishTurn();
 }
 
 /// What would then lie beyond the largest canvas comes back onto it.
 bool DocumentController::FinishTurn()
 {
-    MoveSelected(Kept({}, GetSelectionBound(), LimitsOf(*GetSender())));
+    const QPoint back = Kept({}, GetSelectionBound(), LargestCanvasOf(*GetSender()));
+    CSenderSelection(*GetSender()).Offset(back.x(), back.y());
     return Record(CSenderRecordItem::OperationRotate);
 }
 
@@ -166,32 +108,18 @@ void DocumentController::ShowTurned()
     }
 }
 
-/// Turned cabinets stay where they are, as their rows do not go along the canvas.
 bool DocumentController::ResizeSelection(int width, int height)
 {
     if (!MayEditSelection())
         return false;
-    CTileSet tiles;
-    for (CTile* tile : GetSelection())
-        tiles.AddTile(tile);
     width = qMin(width, kMaxCabinetSize);
     height = qMin(height, kMaxCabinetSize);
-    const bool keepsGrid = std::none_of(tiles.begin(), tiles.end(),
-                                        [](const CTile* tile) { return tile->GetRotateRecord().rotated; });
-    const QRect bound = tiles.GetBound();
-    const QRect limits = LimitsOf(*GetSender());
-    const auto end = [](int start, int at, int size, int wanted) {
-        return size > 0 ? start + (qint64(at - start) / size + 1) * wanted : 0;
-    };
-    if (keepsGrid && std::any_of(tiles.begin(), tiles.end(), [&](const CTile* tile) {
-            return end(bound.left(), tile->GetX(), tile->GetWidth(), width) > limits.right() + 1
-                   || end(bound.top(), tile->GetY(), tile->GetHeight(), height) > limits.bottom() + 1;
-        }))
+    CSenderSelection selection(*GetSender());
+    const QRect limits = LargestCanvasOf(*GetSender()) | selection.GetBound();
+    const QRect wanted = selection.GetBoundIfResized(width, height);
+    if (wanted.right() > limits.right() || wanted.bottom() > limits.bottom())
         return Refuse(WhyTooLarge());
-    tiles.SetWidthAuto(width, keepsGrid);
-    tiles.SetHeightAuto(height, keepsGrid);
-    for (CPort* port : PortsWithCabinets())
-        CPortSelection(*port).TakeSizes();
+    selection.Resize(width, height);
     return Record(CSenderRecordItem::OperationResizeTiles);
 }
 
@@ -219,10 +147,7 @@ bool DocumentController::UngroupSelection()
 {
     if (!MayEditSelection())
         return false;
-    bool any = false;
-    for (CPort* port : PortsWithCabinets())
-        any = CPortSelection(*port).Ungroup() || any;
-    if (!any)
+    if (!CSenderSelection(*GetSender()).Ungroup())
         return Refuse(tr("No selected cabinet is in a group."));
     MarkGroups();
     return Record(CSenderRecordItem::OperationUngroup);
@@ -235,8 +160,7 @@ void DocumentController::CopySelection()
     if (GetSelection().isEmpty())
         return;
     m_copies.ClearAllTiles();
-    for (CPort* port : PortsWithCabinets())
-        CPortSelection(*port).CopyTo(m_copies);
+    CSenderSelection(*GetSender()).CopyTo(m_copies);
 }
 
 bool DocumentController::CutSelection()
@@ -264,7 +188,7 @@ bool DocumentController::Paste()
     if (!port || !HasCopies() || !IsAllowed(WhyNoRoom(*port, m_copies.GetTileSet()->GetCount())))
         return false;
     const QRect bound = m_copies.GetTileSet()->GetBound();
-    const QPoint place = FreePlace(PortsWithCabinets(), *GetSender(), bound);
+    const QPoint place = FreePlace(*GetSender(), bound);
     Select({}, Choice::Replace);
     const QPoint by = Limited(bound, place - bound.topLeft());
     CPortSelection(*port).Paste(m_copies, by.x(), by.y());
@@ -284,17 +208,11 @@ bool DocumentController::MoveSelectionToPort(int index)
     if (!MayEditSelection())
         return false;
     CPort* port = GetSender()->GetPort(index);
-    QList<CPort*> others = PortsWithCabinets();
-    others.removeAll(port);
-    CPortProject moved;
-    for (CPort* other : qAsConst(others))
-        CPortSelection(*other).CopyTo(moved);
-    if (!port || moved.GetTileSet()->GetCount() == 0
-        || !IsAllowed(WhyNoRoom(*port, moved.GetTileSet()->GetCount())))
+    const QList<CTile*> tiles = GetSelection();
+    const auto comes = [=](const CTile* tile) { return tile->GetPortIndex() != index; };
+    if (!port || !IsAllowed(WhyNoRoom(*port, std::count_if(tiles.begin(), tiles.end(), comes)))
+        || !CSenderSelection(*GetSender()).MoveTo(*port))
         return false;
-    for (CPort* other : qAsConst(others))
-        DeleteSelected(*other);
-    CPortSelection(*port).Paste(moved, 0, 0);
     MarkGroups();
     GetSender()->SetRecentPortIndex(index);
     const bool done = Record(CSenderRecordItem::OperationMoveToPort);

@@ -16,6 +16,7 @@
 #include "layout/projectundoredo.h"
 #include "layout/rotation.h"
 #include "layout/sender.h"
+#include "layout/senderselection.h"
 #include "layout/senderundoredo.h"
 #include "layout/tile.h"
 #include "layout/tilegroup.h"

@@ -159,6 +159,11 @@ void TurnTile(CTile& tile, const SRotateParam& turn)
 
 } // namespace
 
+QRect SAddTileInfo::GetBound() const
+{
+    return SaturatedRect(left, top, qint64(columns) * width, qint64(rows) * height);
+}
+
 bool SAddTileInfo::SetCards(const QSize& cards, EnAutoNumberType pattern, bool thereAndBack)
 {
     const qint64 count = cards.isEmpty() ? 0 : qint64(cards.width()) * cards.height();

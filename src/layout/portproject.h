@@ -10,6 +10,7 @@
 #include <QMetaType>
 #include <QPoint>
 #include <QPointF>
+#include <QRect>
 #include <QSize>
 #include <QUuid>
 #include <QVector>
@@ -45,6 +46,8 @@ struct SAddTileInfo
     /// or no such pattern.
     ORVANDATA_EXPORT bool SetCards(const QSize& cards, EnAutoNumberType pattern, bool thereAndBack = true);
     ORVANDATA_EXPORT QVector<QPoint> GetCards() const; ///< column and row of each card along the chain
+
+    ORVANDATA_EXPORT QRect GetBound() const; ///< of the block, canvas pixels
 };
 
 /// The layout content of one port. Owns its tiles and its group tree and clears both when it dies.

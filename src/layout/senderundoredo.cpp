@@ -112,6 +112,19 @@ bool CSenderUndoRedo::AddStep(CSender& sender, Type type, QVector<int>* changed)
     return true;
 }
 
+bool CSenderUndoRedo::HoldsChange(const CSender& before, const CSender& after)
+{
+    const auto isSame = [](const CPort& one, const CPort& other) {
+        return one.IsBackupDest() == other.IsBackupDest()
+               && one.GetBackupSrcSenderId() == other.GetBackupSrcSenderId()
+               && one.GetBackupSrcPortIndex() == other.GetBackupSrcPortIndex()
+               && one.GetBackupSrcIP() == other.GetBackupSrcIP();
+    };
+    return before.GetPortCount() == after.GetPortCount()
+           && std::equal(before.GetPorts().begin(), before.GetPorts().end(), after.GetPorts().begin(),
+                         isSame);
+}
+
 bool CSenderUndoRedo::Move(int steps)
 {
     if (m_current < 0 || steps < -m_current || steps >= GetStepCount() - m_current)

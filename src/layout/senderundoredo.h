@@ -86,6 +86,9 @@ public:
     // steps
     bool AddStep(CSender& sender, Type type); ///< false when the sender is another or nothing changed
     bool AddStep(CSender& sender, Type type, QVector<int>* changed); ///< appends the ports that changed
+    /// Whether a step holds what leads from one to the other: no number of ports that differs, and no port
+    /// that became a backup, ceased to be one, or is the backup of another one.
+    static bool HoldsChange(const CSender& before, const CSender& after);
     bool Move(int steps);                            ///< negative: back; false outside the history
     int GetCurrentStep() const { return m_current; } ///< -1: no history
     int GetStepCount() const;

@@ -165,6 +165,39 @@ QRect CTileSet::GetRectByRcvCnntIndex(int receiver) const
     return tile->GetMultiRcvRect(receiver - tile->GetBeginRcvCnnt());
 }
 
+bool CTileSet::AppendToChain(const QList<CTile*>& tiles)
+{
+    CTile* last = GetEndIndexTile();
+    bool any = false;
+    for (CTile* tile : tiles) {
+        if (tile->HasSetConnectIndex())
+            continue;
+        CTileSet before; // spares the look for the neighbour among all
+        before.AddTile(last);
+        tile->SetConnectionIndex(last ? last->GetConnectionIndex() + 1 : 0, &before);
+        last = tile;
+        any = true;
+    }
+    return any;
+}
+
+bool CTileSet::InsertIntoChain(CTile* tile, const CTile* before)
+{
+    if (!IsTileIn(tile) || tile->HasSetConnectIndex()
+        || (before && !(IsTileIn(before) && before->HasSetConnectIndex())))
+        return false;
+    TileSetNormalization();
+    const int place = before ? before->GetConnectionIndex() + 1 : 0;
+    CTileSet nowhere; // spares the same
+    for (CTile* other : qAsConst(m_tiles)) {
+        if (other->GetConnectionIndex() >= place)
+            other->SetConnectionIndex(other->GetConnectionIndex() + 1, &nowhere);
+    }
+    tile->SetConnectionIndex(place, &nowhere);
+    TileSetNormalization();
+    return true;
+}
+
 bool CTileSet::CanDrawCnntLine(int pixels) const
 {
     return pixels >= 1 && std::any_of(m_tiles.begin(), m_tiles.end(), [=](const CTile* tile) {

@@ -51,6 +51,7 @@ TEST_F(PortProjectTest, AddTilePlacesABlockRowByRowAsASelectedGroup)
     info.left = 40;
     info.top = 10;
     info.portIndex = 2;
+    EXPECT_EQ(info.GetBound(), QRect(40, 10, 300, 100));
     ASSERT_TRUE(layout.AddTile(info));
     ASSERT_EQ(tiles.GetCount(), 7);
     EXPECT_FALSE(Tile(0)->IsSelected(kView));

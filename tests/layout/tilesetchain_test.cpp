@@ -252,3 +252,24 @@ TEST(TileSetChainTest, ArrowKeysMoveTheMarkFromCardToCard)
     EXPECT_FALSE(wall.DirectionKeyDemarcateTile(Qt::Key_Right, receiver));
     EXPECT_TRUE(receiver == 0 && plain->GetMultiRcvDemarcateIndex() == 0);
 }
+
+TEST(TileSetChainTest, CabinetsAreAppendedAndInserted)
+{
+    OwningWall wall(5, 1);
+    const auto tile = [&](int i) { return wall.GetTile(i); };
+    EXPECT_TRUE(wall.AppendToChain({tile(4), tile(0), tile(4)}));
+    EXPECT_FALSE(wall.AppendToChain({tile(0)})) << "has its number";
+    EXPECT_TRUE(wall.AppendToChain({tile(0), tile(2)}));
+    EXPECT_EQ(Indices(wall), (std::vector<int>{1, -1, 2, -1, 0}));
+    EXPECT_EQ(Begins(wall), (std::vector<int>{1, -1, 2, -1, 0}));
+
+    CTile stranger;
+    EXPECT_FALSE(wall.InsertIntoChain(tile(0), tile(4)));
+    EXPECT_FALSE(wall.InsertIntoChain(tile(1), tile(3))) << "has none";
+    EXPECT_FALSE(wall.InsertIntoChain(&stranger, tile(4)));
+    EXPECT_FALSE(wall.InsertIntoChain(tile(1), &stranger));
+    EXPECT_TRUE(wall.InsertIntoChain(tile(1), tile(4)));
+    EXPECT_TRUE(wall.InsertIntoChain(tile(3), nullptr));
+    EXPECT_EQ(Indices(wall), (std::vector<int>{3, 2, 4, 0, 1}));
+    EXPECT_EQ(Begins(wall), Indices(wall));
+}
