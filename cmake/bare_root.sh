@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Does what the README says in a new Debian root (debootstrap, minbase) with a copy of the committed tree: its
-# commands in their order, and its program. So nothing works only because it happens to be installed here.
-# Needs root, about 4 GB in TMPDIR, and the package sources of this machine. The root is removed at the end.
+# commands in their order, its program, the desktop program on a screen, and the packages. So nothing works only
+# because it happens to be installed here.
+# Needs root, Xvfb, about 4 GB in TMPDIR, and the package sources of this machine. The root is removed at the end.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -19,9 +20,11 @@ read -r suite mirror < <(. /etc/os-release && apt-get indextargets --format '$(C
 
 work=$(mktemp -d -t orvan-bare.XXXXXX)
 root=$work/root
-child=
+child= screen=
 clean_up() {
-    [ -z "$child" ] || { kill -KILL "$child" && wait "$child"; } 2>/dev/null || true
+    for process in $child $screen; do
+        { kill -KILL "$process" && wait "$process"; } 2>/dev/null || true
+    done
     rm -rf --one-file-system "$work"
 }
 trap clean_up EXIT
@@ -54,13 +57,35 @@ sed -n '/^```cpp/,/^```/p' README.md | sed '/^```/d' >"$tree/wall.cpp"
     sed '/^```/,/^```/d' README.md | grep '^    ' | while read -r command; do
         printf 'echo %q\n%s\n' "== $command" "$command"
     done
+    cat <<'COMMANDS'
+# stays COMMAND...: it still runs after 30 s, so it has found what it needs.
+stays() {
+    local status=0
+    timeout 30 "$@" || status=$?
+    [ $status -eq 124 ]
+}
+echo '== ./dev designer'
+./dev build release >/dev/null
+stays ./dev designer
+echo '== apt-get install build/package/*.deb'
+apt-get install -y -qq --no-install-recommends ./build/package/*.deb >/dev/null
+cd /
+orvan --version
+stays orvan-designer
+COMMANDS
 } >"$tree/readme.sh"
+
+# A screen of this machine, which the root shares: what draws on it has to come from the root itself.
+exec {number}< <(exec Xvfb -displayfd 1 -ac -nolisten tcp 2>/dev/null)
+screen=$!
+read -r -t 30 -u "$number" display || refuse "Xvfb does not start"
 
 proxies=()
 for name in http_proxy https_proxy no_proxy; do
     [ -z "${!name:-}" ] || proxies+=("$name=${!name}")
 done
 apart --root="$root" --wd=/root/tree \
-    env -i HOME=/root PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin "${proxies[@]}" \
+    env -i DISPLAY=":$display" HOME=/root PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin \
+    "${proxies[@]}" \
     bash readme.sh </dev/null
-echo "bare: every command of the README worked, in $SECONDS s"
+echo "bare: every command of the README and the desktop program worked, in $SECONDS s"
