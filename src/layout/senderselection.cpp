@@ -107,6 +107,8 @@ void CSenderSelection::Offset(int dx, int dy)
 
 void CSenderSelection::Turn(double angle)
 {
+    if (qFuzzyIsNull(angle))
+        return; // it would leave records of a turn behind
     const QPointF middle = QRectF(GetBound()).center();
     SRotateParam turn;
     turn.angle = angle;

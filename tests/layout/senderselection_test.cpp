@@ -57,6 +57,9 @@ TEST_F(SenderSelectionTest, IsMovedTurnedAndResizedAsAWhole)
     EXPECT_EQ(Tile(1, 2).GetBound(), QRect(410, 70, 200, 50));
     selection.Resize(100, 50);
 
+    const SRotateParam straight = Tile(1, 2).GetRotateRecord();
+    selection.TurnTo(0);
+    EXPECT_EQ(Tile(1, 2).GetRotateRecord(), straight);
     selection.Turn(90); // about the middle of 10, 20 to 310, 120
     EXPECT_EQ(selection.GetBound().size(), QSize(100, 300));
     EXPECT_EQ(selection.GetBound().center(), QRect(10, 20, 300, 100).center());
