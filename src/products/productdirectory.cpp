@@ -13,11 +13,7 @@ CProductDirectory::~CProductDirectory()
 
 QString CProductDirectory::GetFileDirName() const
 {
-    const int end = m_folderPath.endsWith(QLatin1Char('/')) ? m_folderPath.size() - 1 : m_folderPath.size();
-    if (end < 1)
-        return {};
-    const int begin = m_folderPath.lastIndexOf(QLatin1Char('/'), end - 1) + 1;
-    return m_folderPath.mid(begin, end - begin);
+    return m_folderPath.section(QLatin1Char('/'), -1, -1, QString::SectionSkipEmpty);
 }
 
 namespace {

@@ -33,7 +33,6 @@ int CProductDirectorySet::LoadProductInfo()
     CProductDirectory before;
     Swap(before);
     SetExpanded(before.IsExpanded());
-    m_scannedFolder.clear();
 
     const QString root = GetRootDir();
     m_nextMenuId = kFirstMenuId;

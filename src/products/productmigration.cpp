@@ -103,7 +103,6 @@ void MigrateProductFolder(const QString& oldFolder, const QString& newFolder)
             return; // which files are the user's own is not known
         DeleteListedProducts(oldFolder, digests);
         QFile::remove(list);
-        RemoveEmptySubFolders(oldFolder);
     }
 
     MoveFiles(oldFolder, newFolder);

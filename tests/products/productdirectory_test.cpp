@@ -57,7 +57,8 @@ TEST_F(ProductDirectoryTest, SearchesGoDepthFirst)
     EXPECT_FALSE(root.GetProductAbsolutePath(Digest('d'), path));
     EXPECT_EQ(path, sub->GetProducts().at(0)->GetParamPath());
     EXPECT_EQ(sub->GetProducts().at(0)->GetName(), "二.v2"_s);
-    EXPECT_EQ(sub->GetFileDirName(), "sub"_s);
+    sub->SetFolderPath("a"_s);
+    EXPECT_EQ(root.GetFileDirName() + deep->GetFileDirName() + sub->GetFileDirName(), "rootdeepa"_s);
 }
 
 TEST_F(ProductDirectoryTest, CopyOfAProductHoldsAllOfIt)

@@ -38,6 +38,7 @@ TEST_F(ProductDirectorySetTest, ProductsAreNumberedInOrderOfTheListing)
     Write("x.RCVP", "x");
     Write("x.rcvpx", "y");
     QDir().mkpath(root + "empty"_s);
+    library.SetExpanded(true);
 
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(library.LoadProductInfo(), 4);
@@ -50,6 +51,7 @@ TEST_F(ProductDirectorySetTest, ProductsAreNumberedInOrderOfTheListing)
         EXPECT_EQ(library.FindProductFromFileName("c.rcvbp"_s)->GetMenuID(), 8195U);
         EXPECT_EQ(library.SnatchMenuID(), 8196U);
         EXPECT_EQ(library.GetScannedFolder(), root);
+        EXPECT_TRUE(library.GetFolderPath() == root && library.IsExpanded());
     }
     int position = -1;
     const CProductDirectory* empty = library.FindProductDirectoryByName("empty"_s, &position);
@@ -153,6 +155,68 @@ TEST_F(ProductDirectorySetTest, DigestSearchFollowsEveryChangeOfTheTree)
     EXPECT_FALSE(CProductDirectorySet::IsSameProductExsit(other, nullptr));
     library.DeleteSubDir(sub);
     EXPECT_EQ(library.FindProductFromGuid(other), nullptr);
+}
+
+TEST_F(ProductDirectorySetTest, DigestSearchKnowsWhatIsAddedOrCopiedAtOnce)
+{
+    const auto digest = [](char digit) {
+        return SMD5::FromString(QString(SMD5::kDigits, QLatin1Char(digit)));
+    };
+    const auto add = [&](CProductDirectory& node, char digit) {
+        auto* product = new CProduct;
+        product->SetMd5(digest(digit));
+        node.AddProduct(product);
+        return product;
+    };
+    const auto known = [&] {
+        QByteArray digits;
+        for (const char digit : QByteArray("abcde"))
+            if (library.FindProductFromGuid(digest(digit)))
+                digits += digit;
+        return digits;
+    };
+    EXPECT_EQ(known(), "");
+    const CProduct* first = add(library, 'a');
+    add(library, 'a');
+    EXPECT_EQ(known(), "a");
+    EXPECT_EQ(library.FindProductFromGuid(digest('a')), first);
+    auto* sub = new CProductDirectorySet; // tells the one above
+    add(*sub, 'b');
+    library.AddSubProductDirectory(sub);
+    EXPECT_EQ(known(), "ab");
+    add(*sub, 'c');
+    EXPECT_EQ(known(), "abc");
+
+    CProductDirectory other;
+    add(other, 'd');
+    auto* below = new CProductDirectory;
+    add(*below, 'e');
+    other.AddSubProductDirectory(below);
+    library.CopyOtherProductDirectory(&other);
+    EXPECT_EQ(known(), "de");
+    library.FindProductFromGuid(digest('e'))->SetMd5(digest('a'));
+    EXPECT_EQ(known(), "ad");
+    library.FindProductFromGuid(digest('d'))->SetMd5(digest('b'));
+    EXPECT_EQ(known(), "ab");
+    library.DeleteAll();
+    EXPECT_TRUE(known().isEmpty() && library.GetProductCount() == 0);
+}
+
+TEST_F(ProductDirectorySetTest, CopyOfAFileThatHasGoneStays)
+{
+    TestFolder other;
+    const QString copy = other.Write("a.rcvp"_s, "a");
+    other.Write("b/c"_s, "x");
+    QDir().mkpath(other.Path("d/e"_s));
+    const QString gone = Write("a.rcvp", "a");
+    EXPECT_EQ(library.LoadProductInfo(), 1);
+    QFile::remove(gone);
+    unsigned int menuId = 1;
+    EXPECT_EQ(library.LoadProductInfoFolderEx(other.Path(), &library, menuId), 1);
+    EXPECT_TRUE(QFile::exists(copy));
+
+    CProductDirectorySet::DeleteEmptySubDir(other.Path());
+    EXPECT_EQ(QDir(other.Path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList("b"_s));
 }
 
 TEST_F(ProductDirectorySetTest, PixelSizeScansAnEmptyLibraryAndHasADefault)

@@ -77,11 +77,25 @@ TEST_F(ProductMigrationTest, NothingIsOverwrittenAndLinksStay)
 TEST_F(ProductMigrationTest, ListThatCannotBeReadWholeStaysAndNothingMoves)
 {
     const QByteArray product = "[ProductListInfo]\nProduct1=" + DigestOf(WriteFile(old + "a.rcvp"_s, "a"));
-    for (const QByteArray& end : {QByteArray("\n").repeated(4 << 20), QByteArray("\nno value\n")}) {
+    for (const QByteArray& end : {QByteArray("\n").repeated(4 << 20), QByteArray("\nno value\n"),
+                                  QByteArray("\nProduct2=@Variant(\\0\\0\\0\\t\\0\\0\\0\\0)\n")}) {
         WriteFile(old + "ProductList.ini"_s, product + end);
         CProductDirectorySet::UpdateProductDir();
         EXPECT_EQ(QDir(old).entryList(QDir::Files).size(), 2);
         EXPECT_TRUE(QDir(root).isEmpty());
+    }
+}
+
+TEST_F(ProductMigrationTest, WithoutAListOfItsOwnAllFilesAreTheUsers)
+{
+    TestFolder outside;
+    for (const bool linked : {false, true}) {
+        const QByteArray digest = DigestOf(WriteFile(old + "a.rcvp"_s, "a"));
+        const QString list = outside.Write("list"_s, "[ProductListInfo]\nProduct1=" + digest + '\n');
+        ASSERT_TRUE(!linked || QFile::link(list, old + "ProductList.ini"_s));
+        CProductDirectorySet::UpdateProductDir();
+        EXPECT_TRUE(QFile::remove(root + "a.rcvp"_s)) << linked;
+        EXPECT_TRUE(QFile::exists(list));
     }
 }
 
