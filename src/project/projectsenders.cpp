@@ -130,11 +130,8 @@ QString CProjectData::GetPortDescription(int sender, int port) const
 {
     if (!GetSender(sender) || port < 0 || port >= kMaxPorts)
         return {};
-    QString text = Texts::tr("主控 %1").arg(sender + 1);
-    const QString name = GetShowSenderName(sender, true);
-    if (!name.isEmpty())
-        text += QStringLiteral("(%1)").arg(name);
-    return text + Texts::tr(",输出口 %1 ").arg(port + 1);
+    return Texts::tr("主控 %1").arg(sender + 1) + QStringLiteral("(%1)").arg(GetShowSenderName(sender, true))
+           + Texts::tr(",输出口 %1 ").arg(port + 1);
 }
 
 void CProjectData::DeleteSender(const QUuid& id)

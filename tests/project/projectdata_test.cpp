@@ -43,8 +43,12 @@ TEST_F(ProjectDataTest, NamelessSendersShowTheirNumber)
     project.GetSender(0)->SetSenderName("A"_s);
     EXPECT_EQ(project.GetShowSenderName(2, true), "Processor 3"_s);
     EXPECT_EQ(project.GetShowSenderName(2, false), "Processor"_s);
-    EXPECT_EQ(project.GetPortDescription(0, 1), "主控 1(A),输出口 2 "_s);
-    EXPECT_EQ(project.GetPortDescription(3, 0), QString());
+    EXPECT_EQ(project.GetShowSenderName(3, true), QString());
+    EXPECT_EQ(project.GetSenderName(0) + project.GetSenderName(3), "A"_s);
+    EXPECT_EQ(project.GetPortDescription(0, 0), "主控 1(A),输出口 1 "_s);
+    EXPECT_EQ(project.GetPortDescription(1, 159), "主控 2(Processor 2),输出口 160 "_s);
+    for (const auto& [sender, port] : {std::pair(3, 0), std::pair(0, -1), std::pair(0, 160)})
+        EXPECT_EQ(project.GetPortDescription(sender, port), QString()) << sender << ' ' << port;
 }
 
 TEST_F(ProjectDataTest, DeletionAsksAndRefusesAsTheBackupsAndLocksSay)
@@ -69,6 +73,83 @@ TEST_F(ProjectDataTest, DeletionAsksAndRefusesAsTheBackupsAndLocksSay)
     boxes.answer = QMessageBox::Yes;
     EXPECT_TRUE(project.DeleteSender(2, true, false, true, nullptr));
     EXPECT_EQ(project.GetCurSenderIndex(), 1);
+    EXPECT_FALSE(project.DeleteSender(2, false, false, false, nullptr)) << "no such sender";
+}
+
+TEST_F(ProjectDataTest, CurrentSenderIsOneThatIsThereOrNone)
+{
+    EXPECT_EQ(project.GetCurSenderIndex(), -1);
+    EXPECT_EQ(project.GetCurSenderIndexForRtCnnt(), 0);
+    EXPECT_EQ(project.GetCurPortIndex(), -1);
+    const int removals[][4] = {{3, 0, 0, 0}, {3, 1, 0, 0}, {3, 1, 1, 1}, {3, 1, 2, 1},
+                               {3, 2, 0, 1}, {3, 2, 2, 1}, {1, 0, 0, -1}};
+    for (const auto& [count, current, removed, left] : removals) {
+        project.DeleteAllSender();
+        AddSenders(count);
+        EXPECT_EQ(project.GetCurSenderIndex(), 0) << "the first one made";
+        for (const int index : {current, count, -1})
+            project.SetCurrentSender(index);
+        EXPECT_EQ(project.GetCurSenderIndexForRtCnnt(), current);
+        project.DeleteSender(project.GetSender(removed)->GetId());
+        EXPECT_EQ(project.GetCurSenderIndex(), left) << count << current << removed;
+    }
+    const int choices[][3] = {{1, true, 0}, {0, true, 0}, {1, false, 1}, {3, false, 2}};
+    for (const auto& [deleted, previous, chosen] : choices) {
+        project.SetToDefault();
+        AddSenders(4);
+        ASSERT_TRUE(project.DeleteSender(deleted, false, true, previous, nullptr));
+        EXPECT_EQ(project.GetCurSenderIndex(), chosen) << deleted << previous;
+        EXPECT_EQ(GetRuntimeData()->GetCurSelectNode(), chosen);
+    }
+    project.GetCurrentSender()->SetRecentPortIndex(3);
+    EXPECT_EQ(project.GetCurPortIndex(), 3);
+    project.AddSender(project.GetSender(0));
+    project.AddSender(nullptr);
+    EXPECT_EQ(project.GetSenderCount(), 3) << "one that is there already, and none";
+}
+
+TEST_F(ProjectDataTest, CopyHoldsAllAndADefaultProjectNothing)
+{
+    ASSERT_TRUE(Load(SamplePath("full/project.xml")));
+    project.SetCurrentSender(1);
+    project.SetDeviceSetName("a"_s);
+    project.SetCurProjectName("b"_s);
+    const QByteArray full = Document();
+    const CProjectData copy(project);
+    const QUuid id = project.GetID();
+    EXPECT_FALSE(Load(folder.Path("missing"_s)));
+    project.SetToDefault();
+    EXPECT_EQ(Error(), QString());
+    EXPECT_TRUE(project.GetSenderCount() == 0 && project.GetCurSenderIndex() == -1);
+    EXPECT_EQ(project.GetDeviceSetName() + project.GetCurProjectName(), QString());
+    EXPECT_TRUE(project.GetID() != id && !project.GetID().isNull() && !CProjectData().GetID().isNull());
+    EXPECT_NE(Document(), full);
+    project.NewSender();
+    project = copy;
+    project.CopyProject(project);
+    EXPECT_EQ(Document(), full);
+    EXPECT_EQ(project.GetDeviceSetName() + project.GetCurProjectName(), "ab"_s);
+    EXPECT_TRUE(project.GetID() == id && project.GetCurSenderIndex() == 1);
+}
+
+TEST_F(ProjectDataTest, SelectionGoesOverAllPortsOfAllSenders)
+{
+    AddSenders(2);
+    GetConfigData()->SetEnableRotate(true);
+    CPort& first = *project.GetSender(0)->GetPort(0);
+    CPort& last = *project.GetSender(1)->GetPort(159);
+    for (CPort* port : {&first, &last})
+        MakeWall(*port, 2, 1);
+    project.CancelAllTileSelect(InterfaceDesign);
+    EXPECT_FALSE(TilesOf(first).GetTile(0)->IsSelected(InterfaceDesign));
+    EXPECT_FALSE(GroupsOf(last).GetDirectGroupByDirIndex(0)->IsSelected(InterfaceDesign));
+    project.SelectAllTile();
+    EXPECT_TRUE(TilesOf(last).GetTile(1)->IsSelected(InterfaceDesign));
+    EXPECT_FALSE(project.HasTileRotated());
+    SRotateParam turned;
+    turned.angle = 30;
+    TilesOf(last).GetTile(1)->SetTileRotateParam(&turned);
+    EXPECT_TRUE(project.HasTileRotated());
 }
 
 TEST_F(ProjectDataTest, ImagesFollowTheirSendersNumbers)
@@ -136,14 +217,44 @@ TEST_F(ProjectDataTest, SenderGroupsMarkTheProjectModified)
     project.SetGroupName(group, "c"_s);
     project.DeleteSenderGroup(group);
     EXPECT_FALSE(history->IsModidfied()) << "there is no such group";
+
+    group = project.AddGroupInfo("a"_s);
+    history->Init();
+    project.SetGroupName(group, "a"_s);
+    EXPECT_FALSE(history->IsModidfied()) << "the name that it has";
+}
+
+TEST_F(ProjectDataTest, SenderGroupsKnowTheirSenders)
+{
+    AddSenders(3);
+    const QUuid group = project.AddGroupInfo("a"_s);
+    const QUuid other = project.AddGroupInfo("b"_s);
+    EXPECT_TRUE(project.GetGroupExpand(other));
+    project.SetGroupExpand(other, false);
+    EXPECT_TRUE(project.GetGroupExpand(group) && !project.GetGroupExpand(other));
+    EXPECT_FALSE(project.GetGroupExpand(QUuid()));
+    project.GetSender(0)->SetBelongGroup(other);
+    for (const int i : {1, 2})
+        project.GetSender(i)->SetBelongGroup(group);
+    QList<QUuid> senders;
+    for (const QUuid& asked : {group, other})
+        project.GetSendersInGroup(asked, senders);
+    EXPECT_EQ(senders, QList<QUuid>{project.GetSender(0)->GetId()});
+    EXPECT_EQ(project.GetGroupIDBySenderIndex(1), group);
+    project.DeleteSenderGroup(group);
+    EXPECT_TRUE(project.GetSender(2)->GetBelongGroup().isNull());
+    EXPECT_EQ(project.GetSender(0)->GetBelongGroup(), other);
+    project.GetSender(1)->SetBelongGroup(group);
+    EXPECT_TRUE(project.GetGroupIDBySenderIndex(1).isNull() && project.GetGroupIDBySenderIndex(3).isNull());
 }
 
 TEST_F(ProjectDataTest, BackupsAreFoundByIdAndByAddressButNotWithinASender)
 {
     AddSenders(3);
-    project.GetSender(0)->SetNetSenderIP(77);
-    project.GetSender(1)->GetPort(0)->SetBeBackupDestIP(77, 3);
+    project.GetSender(0)->SetNetSenderIP(1);
+    project.GetSender(1)->GetPort(0)->SetBeBackupDestIP(1, 3);
     project.GetSender(2)->GetPort(1)->SetBeBackupDest(project.GetSender(2)->GetId(), 0);
+    EXPECT_FALSE(project.IsSenderSelfPortBackup(0) || project.IsSenderSelfPortBackup(1));
     int other = -1;
     EXPECT_TRUE(project.IsSenderBackupDest(1, &other));
     EXPECT_EQ(other, 0);
@@ -163,14 +274,21 @@ TEST_F(ProjectDataTest, BackupsAreFoundByIdAndByAddressButNotWithinASender)
 
     project.GetSender(1)->GetPort(0)->CancelBackupDest();
     project.GetSender(1)->GetPort(1)->CancelBackupDest();
-    project.GetSender(1)->GetPort(100)->SetBeBackupDestIP(77, 0);
+    project.GetSender(1)->GetPort(project.GetSender(1)->GetPortCount())->SetBeBackupDestIP(1, 0);
     EXPECT_FALSE(project.IsSenderBackupDest(1, nullptr)) << "only the ports in use count";
+    project.GetSender(0)->GetPort(3)->SetBeBackupDestIP(1, 0);
+    EXPECT_TRUE(project.IsSenderSelfPortBackup(0));
+    EXPECT_FALSE(project.IsSenderBackupDest(0, nullptr) || project.IsSenderBackupSource(0, nullptr));
+    project.GetSender(0)->GetPort(2)->SetBeBackupDestIP(9, 0);
+    EXPECT_TRUE(project.IsSenderBackupDest(0, &other));
+    EXPECT_EQ(other, -1) << "of a sender that is not in the project";
 }
 
 TEST_F(ProjectDataTest, NetworkUpdateAppendsWhatIsNewAndDeletesNothing)
 {
     AddSenders(1);
     project.GetSender(0)->SetPortCount(8);
+    project.GetSender(0)->SetCanvasSize(QSize(640, 480));
     project.GetSender(0)->SetNetSenderIP(5);
     EXPECT_FALSE(project.UpdateProjectSenders({6}, {})) << "only in the strategy that follows the network";
     GetConfigData()->SetDetectStrategy(2);
@@ -181,6 +299,7 @@ TEST_F(ProjectDataTest, NetworkUpdateAppendsWhatIsNewAndDeletesNothing)
     const CSender* added = project.GetSender(2);
     EXPECT_EQ(added->GetNetSenderIP(), 7u);
     EXPECT_EQ(added->GetPortCount(), 8);
+    EXPECT_EQ(added->GetCanvasSize(), QSize(640, 480));
     EXPECT_EQ(added->GetOffset(), QSize(0, 0));
     EXPECT_EQ(added->GetBelongGroup(), group);
     EXPECT_FALSE(project.UpdateProjectSenders({5, 6}, {7}));
@@ -240,7 +359,9 @@ TEST_F(ProjectDataTest, GammaOfATypeIsSetOnceAndDeletedAlone)
     for (const auto& [type, gamma] : {std::pair(a, 2.F), std::pair(b, 3.F), std::pair(a, 4.F)})
         project.AddRcvParamGamma(type, gamma);
     ASSERT_EQ(project.GetRcvParamGammas().size(), 2);
-    EXPECT_EQ(project.GetRcvParamGammas()[0].gamma, 4);
+    float gamma = 0;
+    EXPECT_TRUE(project.GetRcvParamGamma(a, &gamma));
+    EXPECT_EQ(gamma, 4);
     project.DeleteRcvParamGamma(a);
     EXPECT_EQ(project.GetRcvParamGammas()[0].gamma, 3);
 }

@@ -18,6 +18,7 @@ struct Raw
     QByteArray content;
     zip_uint32_t mode = S_IFREG | 0644;
     const char* password = nullptr;
+    zip_int32_t method = ZIP_CM_DEFLATE;
 };
 
 /// Overwrites the 4 bytes at an offset behind every local or central header that begins so.
@@ -41,6 +42,7 @@ struct ArchiveTest : testing::Test
                 zip_source_buffer(archive, entry.content.constData(), entry.content.size(), 0);
             const auto index = zip_file_add(archive, entry.name.constData(), source, 0);
             zip_file_set_external_attributes(archive, index, 0, ZIP_OPSYS_UNIX, entry.mode << 16);
+            zip_set_file_compression(archive, index, entry.method, 0);
             if (entry.password)
                 zip_file_set_encryption(archive, index, ZIP_EM_AES_256, entry.password);
         }
@@ -78,9 +80,16 @@ TEST_F(ArchiveTest, FolderComesBackWithEveryNameAndTheSameBytesEachTime)
     EXPECT_TRUE(first.contains("/\xD7\xD3/\xC4\xA3.txt")) << "GBK where that holds the name";
     EXPECT_TRUE(first.contains("/\xF0\x9F\x98\x80.txt"));
     int marked = 0; // in the list at the end: the flags of an entry stand 8 bytes behind its begin
-    for (int at = first.indexOf("PK\1\2"); at >= 0; at = first.indexOf("PK\1\2", at + 1))
+    int files = 0;
+    for (int at = first.indexOf("PK\1\2"); at >= 0; at = first.indexOf("PK\1\2", at + 1)) {
         marked += (first.at(at + 9) & 8) != 0;
+        EXPECT_EQ(first.mid(at + 12, 4), QByteArray("\0\0\x21\0", 4)) << "midnight of the first day there is";
+        const QByteArray mode = first.mid(at + 38, 4);
+        files += mode == QByteArray("\0\0\xA4\x81", 4);
+        EXPECT_TRUE(mode.endsWith("\xA4\x81") || mode.endsWith("\xED\x41")) << mode.toHex().constData();
+    }
     EXPECT_EQ(marked, 2) << "names in UTF-8 say so";
+    EXPECT_EQ(files, 7);
 
     const QString out = folder.Path("out"_s);
     ASSERT_TRUE(UnpackArchive(path, out, {}, &error)) << qPrintable(error);
@@ -104,13 +113,23 @@ TEST_F(ArchiveTest, FailedPackingKeepsTheOldArchiveAndAnEmptyFolderIsOne)
     ASSERT_TRUE(large.remove());
     ASSERT_TRUE(PackFolder(folder.Path("B"_s), path));
     EXPECT_TRUE(Unpack(path));
+
+    const QString deep = folder.Path("deep/er/a.zip"_s);
+    for (const auto& [from, to] :
+         {std::pair(QString(), path), {folder.Path("B"_s), QString()}, {path, deep}}) {
+        EXPECT_FALSE(PackFolder(from, to, &error)) << from.toStdString();
+        EXPECT_EQ(error, "文件夹不存在: "_s + from);
+    }
+    EXPECT_TRUE(PackFolder(folder.Path("B"_s), deep) && Unpack(deep)) << "the folders of an archive are made";
+    EXPECT_FALSE(PackFolder(folder.Path("B"_s), path + "/a.zip"_s, &error));
+    EXPECT_TRUE(error.contains(path)) << error.toStdString();
 }
 
 TEST_F(ArchiveTest, EntryThatLeadsOutStopsUnpackingAndWritesNothing)
 {
-    const char* hostile[] = {"../evil",         "B/../../evil", "/evil",    "C:/evil", "C:evil",
-                             "./evil",          "B/./evil",     "..\\evil", "B//evil", "B/..",
-                             "B\\..\\..\\evil", "ev\nil",       "B\x81"};
+    const char* hostile[] = {"../evil", "B/../../evil",    "/evil",    "C:/evil",  "C:evil",
+                             "C:",      "./evil",          "B/./evil", "..\\evil", "B//evil",
+                             "B/..",    "B\\..\\..\\evil", "ev\nil",   "B\x81"};
     for (const char* name : hostile) {
         const QString path = MakeArchive({{"good", "1"}, {name, "evil"}, {"late", "1"}});
         EXPECT_FALSE(Unpack(path)) << name;
@@ -125,6 +144,7 @@ TEST_F(ArchiveTest, LinksAndEncryptedAndDamagedEntriesAreRefused)
 {
     EXPECT_FALSE(Unpack(MakeArchive({{"link", "/etc", S_IFLNK | 0777}})));
     EXPECT_FALSE(Unpack(MakeArchive({{"secret", "text", S_IFREG, "key"}})));
+    EXPECT_FALSE(Unpack(MakeArchive({{"packed", "text", S_IFREG, nullptr, ZIP_CM_BZIP2}})));
     EXPECT_FALSE(Unpack(folder.Write("empty.zip"_s, QByteArray())));
     EXPECT_FALSE(Unpack(folder.Write("text.zip"_s, "no archive at all")));
 
@@ -149,6 +169,20 @@ TEST_F(ArchiveTest, NulInANameIsSeenBeforeACommentToo)
             const QByteArray content = QByteArray(archive).replace('#', replacement);
             EXPECT_EQ(Unpack(folder.Write("a.zip"_s, content)), replacement == ' ');
         }
+    }
+}
+
+TEST_F(ArchiveTest, NulInANameIsSeenWhereverItsRecordLies)
+{
+    for (const int behind : {1, 30, 46, 48, 70}) { // bytes of the record in the first of what is read at once
+        QByteArray large((1 << 20) - behind, 'x');
+        large.chop(30 + 5); // in front of it: its header and name
+        const QString path =
+            MakeArchive({{"large", large, S_IFREG | 0644, nullptr, ZIP_CM_STORE}, {"a b", ""}});
+        QByteArray archive = ReadFile(path);
+        EXPECT_TRUE(Unpack(path)) << error.toStdString();
+        EXPECT_FALSE(Unpack(folder.Write("nul.zip"_s, archive.replace("a b", QByteArray("a\0b", 3)))))
+            << behind;
     }
 }
 

@@ -119,12 +119,50 @@ TEST_F(ConfigDataTest, RecentProjectsAreFiveDifferentOnesNewestFirst)
 
 TEST_F(ConfigDataTest, SettersKeepValuesThatAFileCanHold)
 {
-    config.SetDeviceInformationLayoutSize(45.678f);
-    EXPECT_FLOAT_EQ(config.GetDeviceInformationLayoutSize(), 45.68f);
-    config.SetCustomerTileSize(QSize(0, 4000));
-    EXPECT_EQ(config.GetCustomerTileSize(), QSize(1, 1024));
-    config.SetUiStyles({{"A"_s, QString()}});
+    const float inf = std::numeric_limits<float>::infinity();
+    for (const auto& [set, got] : {std::pair(45.678f, 45.68f), std::pair(inf, 45.68f), std::pair(29.9f, 30.f),
+                                   std::pair(30.25f, 30.25f), std::pair(70.1f, 70.f)}) {
+        config.SetDeviceInformationLayoutSize(set);
+        EXPECT_FLOAT_EQ(config.GetDeviceInformationLayoutSize(), got);
+    }
+    config.SetAttractionDis(7.5);
+    config.SetAttractionDis(-double(inf));
+    EXPECT_EQ(config.GetAttractionDis(), 7.5);
+    for (const auto& [set, got] : {std::pair(0, 1), std::pair(2, 2), std::pair(1025, 1024)}) {
+        config.SetCustomerTileSize(QSize(set, 7));
+        EXPECT_EQ(config.GetCustomerTileSize(), QSize(got, 7));
+        config.SetCustomerTileSize(QSize(7, set));
+        EXPECT_EQ(config.GetCustomerTileSize(), QSize(7, got));
+    }
+    config.SetUiStyles({{"A"_s, QString()}, {"B"_s, QString()}, {"C"_s, QString()}});
+    EXPECT_EQ(config.GetCurrentUiStyle(), 1);
+    for (const int style : {0, 3, -1})
+        config.SetCurrentUiStyle(style);
     EXPECT_EQ(config.GetCurrentUiStyle(), 0);
+}
+
+TEST_F(ConfigDataTest, WhatHasNoSuchNumberIsEmptyAndIsNotSet)
+{
+    const SHotkey free = {true, "a"_s, "F7"_s, "b"_s};
+    for (const auto& [mode, index] : {std::pair(0, 0), std::pair(3, 0), std::pair(1, -1), std::pair(2, 20)}) {
+        EXPECT_FALSE(config.SetHotkey(mode, index, free)) << mode << ' ' << index;
+        EXPECT_EQ(config.GetHotkey(mode, index).operation, QString()) << mode << ' ' << index;
+    }
+    EXPECT_TRUE(config.SetHotkey(1, 0, free) && config.SetHotkey(2, 19, free));
+    EXPECT_EQ(config.GetHotkey(2, 19).description, "b"_s);
+    EXPECT_EQ(config.FindHotkey(2, "F7"_s), 19);
+    for (const auto& [mode, keys] :
+         {std::pair(0, "F7"), std::pair(3, "F7"), std::pair(1, ""), std::pair(1, "no")})
+        EXPECT_EQ(config.FindHotkey(mode, QLatin1String(keys)), -1) << mode << keys;
+    config.SetCurrentGain(0, {3, 3, 3, {}});
+    for (const int index : {-1, kCurrentGains}) {
+        config.SetCurrentGain(index, {2, 2, 2, "c"_s});
+        EXPECT_EQ(config.GetCurrentGain(index).red, 1);
+        config.SetReadOnlyState(index < 0 ? index : kInterfaceCount, true);
+        EXPECT_EQ(config.GetProjectRecordPath(index < 0 ? index : kProjectRecords), QString());
+    }
+    EXPECT_TRUE(config.GetCurrentGain(0).red == 3 && config.GetCurrentGain(3).red == 1);
+    EXPECT_FALSE(config.GetReadOnlyState(-1) || config.GetReadOnlyState(0));
 }
 
 TEST_F(ConfigDataTest, GainsAreOneAtFirstAndNeverOtherThanNumbers)

@@ -36,6 +36,34 @@ TEST(ConfigFileTest, ValuesOutOfBoundsArePutRight)
     EXPECT_TRUE(repaired.currentGains[1].red == 1 && repaired.currentGains[1].green == 0.5f);
 }
 
+TEST(ConfigFileTest, BoundsOfAFileAreTheNearestThatItCanSay)
+{
+    const auto read = [](const char* name, int value) {
+        return Read('<' + QByteArray(name) + '>' + QByteArray::number(value) + "</" + name + '>');
+    };
+    for (const auto& [value, taken] : {std::pair(7, 20), {8, 8}, {30, 30}, {31, 20}})
+        EXPECT_EQ(read("AttractionDis", value).attractionDis, taken) << value;
+    for (const auto& [value, taken] : {std::pair(2999, 30.), {3001, 30.01}, {6999, 69.99}, {7001, 70.}})
+        EXPECT_FLOAT_EQ(read("DeviceInformationLayoutSize", value).deviceInformationLayoutSize, float(taken));
+    for (const auto& [value, taken] : {std::pair(0, 2), {1, 1}, {2, 2}, {3, 2}})
+        EXPECT_EQ(read("BeaconNoBorder", value).beaconNoBorder, taken) << value;
+    for (const auto& [value, taken] : {std::pair(0, 1), {2, 2}, {1023, 1023}, {1025, 1024}}) {
+        const QByteArray number = QByteArray::number(value);
+        const SConfigItems items = Read("<CustomerTileSize><Width>" + number + "</Width><Height>" + number
+                                        + "</Height></CustomerTileSize>");
+        EXPECT_EQ(QSize(items.customerTileWidth, items.customerTileHeight), QSize(taken, taken));
+    }
+    QByteArray styles;
+    for (int i = 1; i <= 18; ++i)
+        styles += QByteArray("<UiStyle%1 Path='%1'/>").replace("%1", QByteArray::number(i));
+    const SConfigItems many = Read("<UiStyleEx><UiCurrent>15</UiCurrent>" + styles + "</UiStyleEx>");
+    EXPECT_EQ(many.uiStyles.size(), 16);
+    EXPECT_EQ(many.currentUiStyle, 15);
+    SConfigItems items;
+    SetStyles(QVector<SUiStyle>(17, {"a"_s, "b"_s}).toList(), &items);
+    EXPECT_EQ(items.uiStyles.size(), 16);
+}
+
 TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)
 {
     const SConfigItems records = Read("<ProjectRecord1/><ProjectRecord2>b</ProjectRecord2>"
