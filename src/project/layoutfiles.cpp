@@ -161,7 +161,6 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
                                 bool attributes)
 {
     DocumentOperation operation(History());
-    m_lastFileError.clear();
     const int place = GetScIndexByID(senderId);
     CSender* sender = GetSender(place);
     if (!sender || sender->GetPortCount() < 1)
@@ -222,7 +221,6 @@ bool CProjectData::ExportPort(const QString& path)
 bool CProjectData::ImportPort(const QString& path)
 {
     DocumentOperation operation(History());
-    m_lastFileError.clear();
     CSender* sender = GetCurrentSender();
     CPort* port = RecentPort(sender);
     if (!port)

@@ -3,9 +3,12 @@
 #include "params/paramresult.h"
 #include "params/paramtext.h"
 #include "project/projectdata.h"
+#include "support/messagerecorder.h"
 #include "support/text.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 using namespace params;
 using Project = CProjectData;
@@ -63,6 +66,81 @@ TEST_F(ParamBlocksTest, NullArgumentFailsAndWritesNothing)
     ASSERT_EQ(Project::WriteSingleProcessorParam(document, &root, &sender), kDone);
     EXPECT_TRUE(At("inputParamXmlRoot").firstChild().isNull());
     EXPECT_TRUE(At("OutputParamsXmlRoot/OutPortGroupAdjBrightParamXmlRoot").isNull()) << "no such feature";
+}
+
+TEST_F(ParamBlocksTest, EveryBlockReadsBackWhatItWrote)
+{
+    SVSyncParam sync;
+    sync.syncPhase = 3;
+    sender.SetVSyncInfo(sync);
+    sender.SetFrameCount(4);
+    sender.Set3DEnable(true);
+    sender.SetInputVideoInfo({SInputVideoParam()});
+    sender.SetColorCubeEnable(true, 0, 0);
+    sender.SetColorCurveEnable(true, 0, 0);
+    sender.SetExactColor(true);
+    sender.SetLowLatency(true);
+    sender.SetBrightness(5);
+    SSupportOptionsInfo support;
+    support.portGroupBrightness = true;
+    sender.SetProcessorSupportInfo(support);
+    SPortGroupParam groups;
+    groups.enable = true;
+    sender.SetPortGroupInfo(groups);
+    const auto one = [&](CSender& s) { return Project::SaveOneGroupParam(document, &root, 0, &s); };
+    const struct
+    {
+        std::function<quint32(CSender&)> save;
+        std::function<quint32(CSender&)> load;
+        bool whole = true;
+    } blocks[] = {
+        {[&](CSender& s) { return Project::SaveDeviceSetParam(document, &root, &s); },
+         [&](CSender& s) { return Project::LoadDeviceSetParam(document, &root, &s); }},
+        {[&](CSender& s) { return Project::SaveMultiParam(document, &root, &s); },
+         [&](CSender& s) { return Project::LoadMultiParam(document, root, &s); }},
+        {[&](CSender& s) { return Project::Save3DParam(document, &root, &s); },
+         [&](CSender& s) { return Project::Load3DParam(document, root, &s); }},
+        {[&](CSender& s) { return Project::SaveInputParam(document, &root, &s); },
+         [&](CSender& s) { return Project::LoadInputParam(document, &root, &s); }},
+        {[&](CSender& s) { return Project::SaveOutputParam(document, &s, &root); },
+         [&](CSender& s) { return Project::LoadOutputParam(document, &root, &s); }},
+        {[&](CSender& s) { return Project::SaveColorCubeParam(document, &root, &s, true); },
+         [&](CSender& s) { return Project::LoadColorCubeParam(document, root, &s, true); }},
+        {[&](CSender& s) { return Project::SaveColorCurveParam(document, &root, &s, true); },
+         [&](CSender& s) { return Project::LoadColorCurveParam(document, root, &s, true); }},
+        {[&](CSender& s) { return Project::WriteSingleSenderParam(document, &root, &s); },
+         [&](CSender& s) { return Project::ReadSingleSenderParam(document, &root, &s); }},
+        {[&](CSender& s) { return Project::WriteSingleProcessorParam(document, &root, &s); },
+         [&](CSender& s) { return Project::ReadSingleProcessorParam(document, &root, &s); }},
+        {one, [&](CSender& s) { return Project::LoadOneGroupParam(document, &root, 0, &s); }},
+        {one, [&](CSender& s) { return Project::LoadOutputColorBrightParam(document, &root, 0, &s); }, false},
+        {one, [&](CSender& s) { return Project::LoadOutputExactColorParam(document, &root, 0, &s); }, false},
+    };
+    for (const auto& block : blocks) {
+        Parse(QByteArray());
+        CSender target;
+        target.SetId(sender.GetId());
+        target.SetProcessorSupportInfo(support);
+        const CSenderParams before = target;
+        EXPECT_TRUE(block.save(sender) == kDone && block.load(target) == kDone) << (&block - blocks);
+        EXPECT_FALSE(target == before) << (&block - blocks);
+        const QByteArray written = document.toByteArray();
+        Parse(QByteArray());
+        EXPECT_EQ(block.save(target), kDone);
+        EXPECT_EQ(document.toByteArray() == written, block.whole) << written.constData();
+    }
+}
+
+TEST_F(ParamBlocksTest, BasicBlockFitsItsOwnTypeAloneAndSaysSo)
+{
+    MessageRecorder messages;
+    sender.SetProcessorType(17);
+    ASSERT_EQ(Project::SaveBasicInfoParam(document, &sender, &root), kDone);
+    EXPECT_EQ(Project::LoadBasicInfoParam(document, &root, &sender), kDone);
+    EXPECT_TRUE(messages.Take().isEmpty());
+    sender.SetProcessorType(18);
+    EXPECT_EQ(Project::LoadBasicInfoParam(document, &root, &sender), kFailed);
+    EXPECT_EQ(messages.Take().size(), 1);
 }
 
 TEST_F(ParamBlocksTest, InputsAreWrittenByCardAndReadBackWhereTheyAre)

@@ -102,7 +102,12 @@ TEST_F(ParamFileTest, ElementsOfOneNameAreAList)
     const QString path =
         folder.Write("b.xml"_s, "<SenderParams a='1'><P><n>1</n><n>2</n></P></SenderParams>");
     QString error;
-    EXPECT_EQ(ParamFileContents(path, &error)["P"_s].toObject()["n"_s].toArray(), (QJsonArray{"1"_s, "2"_s}));
+    const QJsonObject contents = ParamFileContents(path, &error);
+    EXPECT_EQ(contents["P"_s].toObject()["n"_s].toArray(), (QJsonArray{"1"_s, "2"_s}));
+    EXPECT_EQ(contents["a"_s], "1"_s);
+    EXPECT_EQ(error, QString());
+    EXPECT_TRUE(ParamFileContents(folder.Write("b.xml"_s, "<Other/>"), &error).isEmpty());
+    EXPECT_EQ(error, "不是参数文件。"_s);
 }
 
 TEST_F(ParamFileTest, RootSaysWhatTheFileHolds)
@@ -212,6 +217,12 @@ TEST_F(ParamFileTest, SendersTakeProcessorsOfTheirAddress)
         EXPECT_EQ(target.Do(kind.load, path), kDone);
         EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 50, 99}));
         EXPECT_EQ(messages.Take(), QStringList{"主控3未找到对应IP的主控参数。"_s});
+
+        target.Sender(0).SetSignalFreq(99);
+        target.Sender(1).SetProcessorType(18);
+        EXPECT_EQ(target.Do(kind.load, path), kTypeDiffers);
+        EXPECT_EQ(target.SignalFreqs(), (QList<int>{51, 50, 99})) << "one that fits is taken before";
+        EXPECT_EQ(messages.Take(), QStringList{kTypeDiffersText});
     }
 }
 

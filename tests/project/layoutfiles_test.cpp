@@ -84,6 +84,11 @@ TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
     EXPECT_FALSE(project.ImportSender(sender, QUuid::createUuid(), false, true));
     EXPECT_FALSE(project.ImportPort(sender));
     EXPECT_FALSE(project.ExportSender(hollow, QUuid()));
+    EXPECT_TRUE(project.ExportSender(cut, target->GetId()));
+    EXPECT_EQ(Error(), QString());
+    EXPECT_FALSE(project.ImportPort(hollow));
+    EXPECT_TRUE(project.ExportPort(cut));
+    EXPECT_EQ(Error(), QString());
     EXPECT_EQ(TilesOf(*target->GetPort(0)).GetCount(), 4);
     EXPECT_TRUE(project.ImportPort(port));
     EXPECT_EQ(Error(), QString());

@@ -155,11 +155,12 @@ TEST_F(ProjectDataTest, SelectionGoesOverAllPortsOfAllSenders)
 TEST_F(ProjectDataTest, ImagesFollowTheirSendersNumbers)
 {
     AddSenders(4);
-    for (int i = 1; i < 4; ++i)
+    for (int i = 1; i < 5; ++i)
         WriteFile(CConstantData::GetSenderBKImgName(i, true), QByteArray::number(i));
     ASSERT_TRUE(project.DeleteSender(1, false, false, false, nullptr));
     EXPECT_EQ(Image(1), "2");
     EXPECT_EQ(Image(3), "");
+    EXPECT_EQ(Image(4), "4") << "of no sender";
     ASSERT_TRUE(project.DeleteSender(1, false, true, false, nullptr));
     EXPECT_EQ(Image(1), "") << "the deleted sender's image goes in any case";
     EXPECT_EQ(Image(2), "3");
@@ -320,7 +321,13 @@ TEST_F(ProjectDataTest, ParameterFilesAreKeptUnderSafeNamesOnceAType)
     EXPECT_EQ(project.GetParameterFiles()[1].name, "_A_b_2"_s);
     EXPECT_EQ(ReadFile(parameterwork::PathOf("_a_b"_s)), "cabinet a");
 
-    project.ExchangeNameByMD5(type, "c"_s);
+    WriteFile(parameterwork::PathOf("c"_s), "of another project");
+    for (int again = 0; again < 2; ++again)
+        project.ExchangeNameByMD5(type, "c"_s);
+    const SMD5 none = SMD5::FromString(QString(32, QLatin1Char('c')));
+    project.ExchangeNameByMD5(none, "d"_s);
+    project.DeleteParameterFileInfo(none);
+    EXPECT_EQ(project.GetParameterFiles()[0].name, "c"_s);
     EXPECT_EQ(ReadFile(parameterwork::PathOf("c"_s)), "cabinet a");
     EXPECT_FALSE(QFile::exists(parameterwork::PathOf("_a_b"_s)));
     project.DeleteParameterFileInfo(type);
@@ -342,6 +349,8 @@ TEST_F(ProjectDataTest, ListsInTextsComeBackAndLoseOnlyTheirSeparators)
         CProjectData::SetReceiversFromString(read, text);
     ASSERT_EQ(read.receivers.size(), 2);
     EXPECT_EQ(read.receivers[0].name, "A B C"_s);
+    CProjectData::SetReceiversFromString(read, "c@x.test"_s);
+    EXPECT_EQ(read.receivers[0].address + read.receivers[0].name, "c@x.test"_s) << "no name";
 
     SSenderSetting setting;
     project.SetVideoInfoFromString(setting, "1,2,3,1;4,5,6,0;"_s);

@@ -5,6 +5,7 @@
 #include "monitor/monitordata.h"
 #include "products/productdirectoryset.h"
 #include "project/parameterwork.h"
+#include "project/projectelements.h"
 #include "settings/archive.h"
 #include "settings/constantdata.h"
 #include "support/projecttest.h"
@@ -144,6 +145,21 @@ TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
     EXPECT_EQ(Document(), before);
 }
 
+TEST_F(ProjectFileTest, ListsAreSavedAsLongAsTheyMayBeRead)
+{
+    const QString path = folder.Path("a.prj"_s);
+    for (int i = 0; i < kMaxListRecords; ++i)
+        project.AddGroupInfo(QString());
+    ASSERT_TRUE(Save(path));
+    const QByteArray before = ReadFile(path);
+    project.AddGroupInfo(QString());
+    EXPECT_FALSE(Save(path));
+    EXPECT_TRUE(Error().contains(QString::number(kMaxListRecords))) << qPrintable(Error());
+    EXPECT_EQ(ReadFile(path), before);
+    ASSERT_TRUE(Load(path));
+    EXPECT_EQ(project.GetSenderGroupCount(), kMaxListRecords);
+}
+
 TEST_F(ProjectFileTest, VersionsUpTo61AreRead)
 {
     EXPECT_TRUE(LoadText("<VersionSupport MinimumVersion='6.1'/>"));
@@ -156,8 +172,11 @@ TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
 {
     ASSERT_TRUE(LoadText("<Strange/><SenderLayout SenderCount='9'><Sender_2 PortCount='2' ID='x'><Port_1>"
                          "<TitleLayout TileCount='2000000000'><Tile_7 X='5'/><Tile_3 Width='32' Height='32'/>"
-                         "<Tile_3/><Tile_0/></TitleLayout></Port_1></Sender_2></SenderLayout>"));
-    EXPECT_TRUE(Error().contains("Strange"_s));
+                         "<Tile_3/><Tile_0/><Tile_02/><Tile_2x/><Tile_/><Tile_99999999999/></TitleLayout>"
+                         "</Port_1></Sender_2></SenderLayout>"));
+    for (const char* told : {"Strange”; ", "主控：文件声明9个，实有1个",
+                             "箱体：文件声明2000000000个，实有2个", "输出口：文件声明2个，实有1个"})
+        EXPECT_TRUE(Error().contains(QString::fromUtf8(told))) << told;
     ASSERT_EQ(project.GetSenderCount(), 1);
     EXPECT_FALSE(project.GetSender(0)->GetId().isNull());
     EXPECT_EQ(project.GetSender(0)->GetPortCount(), 2);
@@ -167,6 +186,15 @@ TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
     EXPECT_EQ(tiles.GetTile(1)->GetX(), 5);
     ASSERT_TRUE(LoadText("<SenderLayout SenderCount='1'><Other/><Sender_1/><Sender_2/></SenderLayout>"));
     EXPECT_TRUE(Error().contains("Other"_s) && Error().contains("Sender_2"_s)) << qPrintable(Error());
+
+    const QByteArray longName(70, 'a');
+    for (const int count : {10, 11, 13}) {
+        ASSERT_TRUE(LoadText(("<" + longName + "/>").repeated(count)));
+        EXPECT_EQ(Error().split("; "_s).size(), qMin(count, 11));
+        EXPECT_TRUE(Error().startsWith("跳过元素“"_s + QLatin1String(longName.left(64)) + "”"_s));
+        EXPECT_TRUE(Error().endsWith(count > 10 ? "; 另有%1处"_s.arg(count - 10) : "”"_s))
+            << qPrintable(Error());
+    }
 }
 
 TEST_F(ProjectFileTest, OfRepeatedElementsTheLastOfTheRootAndTheFirstOfAPortCounts)
@@ -225,15 +253,18 @@ TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
 {
     project.NewSender();
     const QString inTheWay = folder.Write("file"_s, "x");
+    const auto saveWell = [&] { return Save(folder.Path("well.prj"_s)) && project.IsArchiveWritten(); };
     for (const QString& path : {inTheWay + "/a.prj"_s, QString()}) {
-        EXPECT_TRUE(Save(path));
-        EXPECT_NE(Error(), QString());
+        EXPECT_TRUE(saveWell() && Error().isEmpty());
+        EXPECT_TRUE(Save(path) && !project.IsArchiveWritten());
+        EXPECT_GT(Error().size(), "项目文件没有保存："_s.size()) << "with the reason";
     }
+    EXPECT_TRUE(saveWell());
 
     const QString lockFolder = QFileInfo(parameterwork::LockPath()).path();
     ASSERT_TRUE(QDir().rename(lockFolder, folder.Path("aside"_s)));
     WriteFile(lockFolder, "x");
-    EXPECT_FALSE(Save(folder.Path("a.prj"_s)));
+    EXPECT_FALSE(Save(folder.Path("a.prj"_s)) || project.IsArchiveWritten());
     EXPECT_EQ(Error(), WhyNotWritable(lockFolder));
     ASSERT_TRUE(QFile::remove(lockFolder) && QDir().rename(folder.Path("aside"_s), lockFolder));
 
@@ -250,11 +281,13 @@ TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
     project.NewSender();
     const QString precious = folder.Write("linked/0.rcvbp"_s, "precious");
     const QString path = folder.Path("a.prj"_s);
+    const QString lock = WriteFile(parameterwork::LockPath() + ".rmlockAbCdEf"_s, "of a killed program");
     const QString work = parameterwork::ProjectFolder().chopped(1);
     QDir(work).removeRecursively();
     ASSERT_TRUE(QFile::link(folder.Path("linked"_s), work));
     EXPECT_TRUE(Save(path));
     EXPECT_EQ(ReadFile(precious), "precious") << "a link is replaced, what it leads to is not ours";
+    EXPECT_FALSE(QFile::exists(lock));
 
     const QString odd = folder.Path("project"_s);
     folder.Write("project/new.prj/a"_s, "folder");
