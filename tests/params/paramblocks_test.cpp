@@ -257,6 +257,50 @@ TEST_F(ParamBlocksTest, AreasOfPortsAreTakenAsFarAsACanvasMayLie)
     EXPECT_EQ(sender.GetPort(0)->GetPortArea(), QRect(-1048576, 1048575, 1048576, 0));
 }
 
+TEST_F(ParamBlocksTest, CanvasAndPortGroupsAreTakenAsFarAsTheyGo)
+{
+    const QString canvas = "<outputSpliceInfoParamRoot><outputSpliceInfoCanvasWidth>%1"
+                           "</outputSpliceInfoCanvasWidth><outputSpliceInfoCanvasHeight>%2"
+                           "</outputSpliceInfoCanvasHeight></outputSpliceInfoParamRoot>"_s;
+    const QSize sizes[][2] = {{{-2, -1}, {-1, -1}},
+                              {{32768, 16384}, {32768, 16384}},
+                              {{32769, 7}, {32768, 7}},
+                              {{7, 16385}, {7, 16384}},
+                              {{7, -2}, {7, -1}}};
+    for (const auto& [given, taken] : sizes) {
+        Parse(canvas.arg(given.width()).arg(given.height()).toUtf8());
+        ASSERT_EQ(Project::LoadOneGroupParam(document, &root, 0, &sender), kDone);
+        EXPECT_EQ(sender.GetCanvasSize(), taken);
+    }
+    SSupportOptionsInfo support;
+    support.portGroupBrightness = true;
+    sender.SetProcessorSupportInfo(support);
+    for (const auto& [given, taken] : {std::pair(-1, 0), {0, 0}, {1, 1}, {8, 8}, {9, 8}}) {
+        SPortGroupParam groups;
+        groups.groupCount = given;
+        sender.SetPortGroupInfo(groups);
+        Parse(QByteArray());
+        ASSERT_EQ(Project::SaveOutputParam(document, &sender, &root), kDone);
+        EXPECT_EQ(At("OutPortGroupAdjBrightParamXmlRoot/OutPortGroupAdjBrightGroupCount").text(),
+                  QString::number(taken));
+        EXPECT_EQ(root.elementsByTagName("OutPortGroupAdjBrightGroupName"_s).size(), taken);
+        ASSERT_EQ(Project::WriteSingleSenderParam(document, &root, &sender), kDone);
+        EXPECT_EQ(At("PortGroupParam/ValidPortCount").text(), QString::number(taken));
+        EXPECT_EQ(root.elementsByTagName("GroupName"_s).size(), taken);
+        Parse(("<OutPortGroupAdjBrightParamXmlRoot><OutPortGroupAdjBrightGroupCount>%1"
+               "</OutPortGroupAdjBrightGroupCount></OutPortGroupAdjBrightParamXmlRoot><SenderType>0</"
+               "SenderType>"
+               "<PortGroupParam><ValidPortCount>%1</ValidPortCount></PortGroupParam>"_s)
+                  .arg(given)
+                  .toUtf8());
+        ASSERT_EQ(Project::LoadOutputParam(document, &root, &sender), kDone);
+        EXPECT_EQ(sender.GetPortGroupInfo().groupCount, taken);
+        sender.SetPortGroupInfo(SPortGroupParam());
+        ASSERT_EQ(Project::ReadSingleSenderParam(document, &root, &sender), kDone);
+        EXPECT_EQ(sender.GetPortGroupInfo().groupCount, taken);
+    }
+}
+
 TEST_F(ParamBlocksTest, PortGroupsTakeNamesAndFlagsOfAnyLength)
 {
     SSupportOptionsInfo support;

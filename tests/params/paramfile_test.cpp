@@ -137,6 +137,22 @@ TEST_F(ParamFileTest, RootSaysWhatTheFileHolds)
     }
 }
 
+TEST_F(ParamFileTest, FileWithMoreElementsThanAReaderTakesIsNotWritten)
+{
+    constexpr int rootAttributes = 5; // of the family that has more
+    TestProject project(1);
+    const QString path = Export(project, kSenders);
+    const int others = ReadFile(path).count("</");
+    QVector<int> ports(kMaxTreeNodes - rootAttributes - others);
+    project.Sender(0).SetMultiNetPortInfo(ports.toList());
+    EXPECT_EQ(project.Do(kSenders.save, path), kDone);
+    ports.append(0);
+    project.Sender(0).SetMultiNetPortInfo(ports.toList());
+    EXPECT_EQ(project.Do(kSenders.save, path), kFailed);
+    EXPECT_EQ(project.Error(), "文件过大。"_s);
+    EXPECT_EQ(ReadFile(path).count("</"), kMaxTreeNodes - rootAttributes);
+}
+
 TEST_F(ParamFileTest, SendersTakeProcessorsByPositionOfTheChoice)
 {
     for (const FileKind& kind : {kSenders, kProcessors}) {

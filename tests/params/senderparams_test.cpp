@@ -17,6 +17,30 @@ TEST(SenderParamsTest, DeviceClass4KeepsPictureValuesOfItsOwn)
     EXPECT_EQ(params.GetVSyncFreq(), 0);
 }
 
+TEST(SenderParamsTest, NewOnesHaveThePictureOfTheDevice)
+{
+    const SPictureParam picture = CSenderParams().Params().picture;
+    EXPECT_EQ(picture.Values(), std::make_tuple(100, 6500, 3000, 100, 30, 100, 0.F));
+    EXPECT_EQ(CSenderParams().Params().curColorRgb, QColor(Qt::black));
+}
+
+TEST(SenderParamsTest, RecordsKnowWhatTheyCanHold)
+{
+    for (const auto& [count, valid] : {std::pair(-1, false), {0, true}, {32, true}, {33, false}}) {
+        SCuttingLineParam lines;
+        lines.horizontalCount = count;
+        EXPECT_EQ(lines.IsValid(), valid) << count;
+        std::swap(lines.horizontalCount, lines.verticalCount);
+        EXPECT_EQ(lines.IsValid(), valid) << count;
+    }
+    for (const auto& [width, height, empty] : {std::tuple(0, 1, true), {1, 0, true}, {1, 1, false}}) {
+        SLayerWndParam layer;
+        layer.width = width;
+        layer.height = height;
+        EXPECT_EQ(layer.IsEmpty(), empty) << width << height;
+    }
+}
+
 TEST(SenderParamsTest, WholeSenderEnableIsApartFromTheEntryOfItsInput)
 {
     CSenderParams params;

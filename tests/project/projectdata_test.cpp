@@ -276,13 +276,18 @@ TEST_F(ProjectDataTest, BackupsAreFoundByIdAndByAddressButNotWithinASender)
     project.GetSender(1)->GetPort(0)->CancelBackupDest();
     project.GetSender(1)->GetPort(1)->CancelBackupDest();
     project.GetSender(1)->GetPort(project.GetSender(1)->GetPortCount())->SetBeBackupDestIP(1, 0);
-    EXPECT_FALSE(project.IsSenderBackupDest(1, nullptr)) << "only the ports in use count";
+    project.GetSender(0)->GetPort(project.GetSender(0)->GetPortCount())->SetBeBackupDestIP(1, 0);
+    EXPECT_FALSE(project.IsSenderBackupDest(1, nullptr) || project.IsSenderBackupSource(0, nullptr)
+                 || project.IsSenderSelfPortBackup(0))
+        << "only the ports in use count";
     project.GetSender(0)->GetPort(3)->SetBeBackupDestIP(1, 0);
     EXPECT_TRUE(project.IsSenderSelfPortBackup(0));
     EXPECT_FALSE(project.IsSenderBackupDest(0, nullptr) || project.IsSenderBackupSource(0, nullptr));
     project.GetSender(0)->GetPort(2)->SetBeBackupDestIP(9, 0);
     EXPECT_TRUE(project.IsSenderBackupDest(0, &other));
     EXPECT_EQ(other, -1) << "of a sender that is not in the project";
+    project.GetSender(1)->GetPort(0)->SetBeBackupDest(QUuid(), 0);
+    EXPECT_FALSE(project.IsSenderBackupDest(1, nullptr)) << "of none";
 }
 
 TEST_F(ProjectDataTest, NetworkUpdateAppendsWhatIsNewAndDeletesNothing)

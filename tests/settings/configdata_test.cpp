@@ -134,6 +134,10 @@ TEST_F(ConfigDataTest, SettersKeepValuesThatAFileCanHold)
         config.SetCustomerTileSize(QSize(7, set));
         EXPECT_EQ(config.GetCustomerTileSize(), QSize(7, got));
     }
+    for (const auto& [set, got] : {std::pair(1, 1), std::pair(0, 2), std::pair(3, 2)}) {
+        config.SetBeaconNoBorder(set);
+        EXPECT_EQ(config.GetBeaconNoBorder(), got);
+    }
     config.SetUiStyles({{"A"_s, QString()}, {"B"_s, QString()}, {"C"_s, QString()}});
     EXPECT_EQ(config.GetCurrentUiStyle(), 1);
     for (const int style : {0, 3, -1})
