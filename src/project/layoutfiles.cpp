@@ -27,16 +27,14 @@ public:
         : m_names(names), m_reader(reader), m_report(report)
     {}
 
-    bool WasFound() const { return m_found; }
+    bool WasFound() const { return m_depth == m_names.size(); }
 
     XmlHandler* Child(std::string_view name) override
     {
-        if (m_found || m_depth >= m_names.size() || name != m_names[m_depth])
+        if (WasFound() || name != m_names[m_depth])
             return nullptr;
-        if (++m_depth < m_names.size())
-            return this;
-        m_found = true;
-        return &m_reader;
+        ++m_depth;
+        return WasFound() ? &m_reader : this;
     }
     QString GetRefusal() const override { return m_report.GetRefusal(); }
 
@@ -44,8 +42,7 @@ private:
     std::vector<std::string_view> m_names;
     XmlHandler& m_reader;
     const ReadReport& m_report;
-    size_t m_depth = 0;
-    bool m_found = false;
+    size_t m_depth = 0; ///< of the names, those that were entered
 };
 
 bool ReadElement(const QByteArray& content, std::initializer_list<std::string_view> names, XmlHandler& reader,
@@ -140,7 +137,6 @@ CPort* RecentPort(CSender* sender)
 
 bool CProjectData::ExportSender(const QString& path, const QUuid& senderId)
 {
-    m_lastFileError.clear();
     const CSender* sender = GetSender(GetScIndexByID(senderId));
     if (!sender)
         return Fail(&m_lastFileError, Texts::tr("没有这个主控。"));
@@ -163,7 +159,7 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
     DocumentOperation operation(History());
     const int place = GetScIndexByID(senderId);
     CSender* sender = GetSender(place);
-    if (!sender || sender->GetPortCount() < 1)
+    if (!sender)
         return Fail(&m_lastFileError, Texts::tr("没有这个主控。"));
 
     // Read into a sender of its own, so that a file that is refused changes nothing.
@@ -207,7 +203,6 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
 
 bool CProjectData::ExportPort(const QString& path)
 {
-    m_lastFileError.clear();
     const CPort* port = RecentPort(GetCurrentSender());
     if (!port)
         return Fail(&m_lastFileError, Texts::tr("没有这个输出口。"));

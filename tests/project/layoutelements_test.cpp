@@ -166,6 +166,8 @@ TEST_F(LayoutElementsTest, WithoutAnElementOrATargetNothingHappens)
     root = Parsed(groups + "</SenderTreeGroup>");
     project.ReadSenderGroup(document, &root);
     EXPECT_TRUE(project.GetSenderGroupCount() == 1 && project.GetSenderCount() == 1);
+    project.AddParameterFileInfo("a"_s, SMD5::FromString(QString(32, QLatin1Char('a'))));
+    EXPECT_EQ(project.GetParameterFiles().size(), 1) << "of no library";
 }
 
 TEST_F(LayoutElementsTest, BackupsAreTakenOnlyWhenThePortSaysItIsOne)

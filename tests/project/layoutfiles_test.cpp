@@ -70,6 +70,39 @@ TEST_F(LayoutFilesTest, GroupIdsUsedElsewhereAreRenewedOverTheWholeSender)
     EXPECT_EQ(tiles.GetCount(), 5);
 }
 
+TEST_F(LayoutFilesTest, GroupIdIsKeptUnlessAGroupOrACabinetElsewhereHasIt)
+{
+    CPort& port = *target->GetPort(0);
+    const QUuid ids[] = {MakeWall(port, 2, 1), MakeWall(port, 2, 1), MakeWall(port, 2, 1)};
+    target->SetRecentPortIndex(0);
+    const QString path = folder.Path("a.xml"_s);
+    ASSERT_TRUE(project.ExportPort(path));
+    auto* group = new CTileGroup;
+    group->SetID(ids[0]);
+    GroupsOf(*target->GetPort(1)).AddGroup(group, true);
+    MakeWall(*project.GetSender(0)->GetPort(9), 1, 1);
+    TilesOf(*project.GetSender(0)->GetPort(9)).GetTile(0)->SetGroupId(ids[1]);
+    ASSERT_TRUE(project.ImportPort(path));
+    for (int i = 0; i < 3; ++i) {
+        const QUuid id = GroupsOf(port).GetDirectGroupByDirIndex(i)->GetID();
+        EXPECT_EQ(id == ids[i], i == 2) << i;
+        EXPECT_EQ(TilesOf(port).GetTile(2 * i)->GetGroupId(), id);
+    }
+}
+
+TEST_F(LayoutFilesTest, WhatAFileDoesNotSayOfThePortsStays)
+{
+    target->SetPortCount(8);
+    target->GetPort(7)->SetVisible(false);
+    MakeWall(*target->GetPort(7), 1, 1);
+    const QString path =
+        folder.Write("a.xml"_s, "<SenderLayout><SenderLayout PortCount='3'/></SenderLayout>");
+    ASSERT_TRUE(project.ImportSender(path, target->GetId(), false, false));
+    EXPECT_EQ(target->GetPortCount(), 8) << "no sender has three";
+    EXPECT_FALSE(target->GetPort(7)->IsVisible());
+    EXPECT_EQ(TilesOf(*target->GetPort(7)).GetCount(), 0);
+}
+
 TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
 {
     MakeWall(*target->GetPort(0), 2, 2);

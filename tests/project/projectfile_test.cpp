@@ -70,6 +70,7 @@ TEST_F(ProjectFileTest, ParameterFilesTravelWithTheProjectIntoTheLibrary)
     EXPECT_EQ(saved(), first);
 
     WriteFile(parameterwork::PathOf("箱体A128"_s), "own, edited");
+    EXPECT_EQ(saved(), first) << "the library's is of the row's type";
     const QString known = CProductDirectorySet::GetRootDir() + "箱体A128.rcvbp"_s;
     ASSERT_TRUE(QFile::remove(known) && QDir().mkpath(known)); // cannot be read
     EXPECT_EQ(saved(), "own, edited");
@@ -93,6 +94,11 @@ TEST_F(ProjectFileTest, FilesInTheWorkAndProductFoldersCountAsTheyAre)
     ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
     EXPECT_TRUE(Error().contains("箱体A128"_s));
     EXPECT_EQ(ReadFile(taken), "another product of the name");
+
+    const QString own = parameterwork::PathOf("箱体A128"_s);
+    ASSERT_TRUE(QFile::remove(taken) && QFile::remove(own) && QDir().mkpath(own));
+    ASSERT_TRUE(Load(SamplePath("small-wall.prj")));
+    EXPECT_TRUE(Error().startsWith("参数文件“箱体A128”无法保存"_s)) << qPrintable(Error());
 }
 
 TEST_F(ProjectFileTest, ParameterFileThatIsDamagedOrTooLargeCostsItselfAlone)
@@ -101,7 +107,7 @@ TEST_F(ProjectFileTest, ParameterFileThatIsDamagedOrTooLargeCostsItselfAlone)
     const int content = archive.indexOf("project/0.rcvbp") + 40;
     archive[content] = static_cast<char>(~archive[content]);
     ASSERT_TRUE(Load(folder.Write("damaged.prj"_s, archive)));
-    EXPECT_TRUE(Error().contains("无法读取"_s));
+    EXPECT_TRUE(Error().contains("无法读取"_s) && !Error().contains("; "_s)) << qPrintable(Error());
     EXPECT_FALSE(QFile::exists(parameterwork::PathOf(project.GetParameterFiles()[0].name)));
     EXPECT_EQ(ReadFile(parameterwork::PathOf(project.GetParameterFiles()[1].name)).size(), 1104);
 
@@ -111,15 +117,17 @@ TEST_F(ProjectFileTest, ParameterFileThatIsDamagedOrTooLargeCostsItselfAlone)
         WriteFile(parameterwork::PathOf(QLatin1String(name)), "x");
     }
     QFile::resize(parameterwork::PathOf("large"_s), qint64(256) << 20); // sparse
+    project.AddParameterFileInfo("gone"_s, SMD5::FromString(QString(32, QLatin1Char('a'))));
     const QString path = folder.Path("a.prj"_s);
     ASSERT_TRUE(Save(path));
     EXPECT_TRUE(Error().contains("large"_s));
+    EXPECT_TRUE(Error().contains("缺少参数文件“gone”"_s)) << qPrintable(Error());
     EXPECT_FALSE(Error().contains("small"_s));
     ASSERT_TRUE(UnpackArchive(path, folder.Path("out"_s)));
     EXPECT_EQ(QDir(folder.Path("out/project"_s)).entryList(QDir::Files),
               QStringList({"0.rcvbp"_s, "new.prj"_s}));
     ASSERT_TRUE(Load(path));
-    EXPECT_TRUE(Error().contains("large"_s));
+    EXPECT_EQ(Error(), "缺少参数文件“large”; 缺少参数文件“gone”"_s) << "each is told once";
 }
 
 TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
@@ -272,6 +280,8 @@ TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
     const QString next = CConstantData::GetProjectParamFileTemp() + "new.prj.part"_s;
     for (const QString& own : {parameterwork::DocumentPath(), next})
         EXPECT_FALSE(Save(own)) << qPrintable(own);
+    for (const QString& other : {folder.Path("new.prj"_s), parameterwork::ProjectFolder() + "other.prj"_s})
+        EXPECT_TRUE(Save(other) && project.IsArchiveWritten()) << qPrintable(other);
     EXPECT_FALSE(Load(WriteFile(parameterwork::DocumentPath(), archive)));
     EXPECT_EQ(ReadFile(parameterwork::DocumentPath()), archive);
 }
@@ -282,6 +292,7 @@ TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
     const QString precious = folder.Write("linked/0.rcvbp"_s, "precious");
     const QString path = folder.Path("a.prj"_s);
     const QString lock = WriteFile(parameterwork::LockPath() + ".rmlockAbCdEf"_s, "of a killed program");
+    WriteFile(CConstantData::GetProjectParamFileTemp() + "new.prj.part"_s, "likewise");
     const QString work = parameterwork::ProjectFolder().chopped(1);
     QDir(work).removeRecursively();
     ASSERT_TRUE(QFile::link(folder.Path("linked"_s), work));

@@ -21,6 +21,8 @@ TEST(SpecifiedIpListTest, OnlyDottedAddressesAreReadOnceAndInOrder)
     EXPECT_EQ(ReadFile(path), "192.0.2.9\n203.0.113.1\n");
     EXPECT_FALSE(list.Load(folder.Path("missing"_s)));
     EXPECT_EQ(list.Addresses().size(), 2);
+    EXPECT_TRUE(list.Load(folder.Write("large"_s, QByteArray(1 << 20, '\n'))));
+    EXPECT_TRUE(list.Addresses().isEmpty());
 }
 
 TEST(SpecifiedIpListTest, ListEndsAt1024Addresses)
