@@ -127,6 +127,14 @@ TEST_F(LayoutElementsTest, CountBelowOneKeepsWhatIsHeld)
     EXPECT_EQ(tiles.GetCount(), 1);
     ReadTiles("<TitleLayout TileCount='3'/>");
     EXPECT_EQ(tiles.GetCount(), 0);
+
+    CTileGroupSet groups;
+    groups.AddGroup(new CTileGroup, true);
+    for (const int count : {0, 3}) {
+        QDomElement element = Parsed("<TitleGroupLayout GroupCount='" + QByteArray::number(count) + "'/>");
+        project.ReadTileGroupSet(QDomDocument(), "TitleGroupLayout"_s, &tiles, &groups, &element);
+        EXPECT_EQ(groups.GetDirectCount(), count == 0 ? 1 : 0);
+    }
 }
 
 TEST_F(LayoutElementsTest, WithoutAnElementOrATargetNothingHappens)

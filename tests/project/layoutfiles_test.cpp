@@ -125,4 +125,6 @@ TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
     EXPECT_EQ(TilesOf(*target->GetPort(0)).GetCount(), 4);
     EXPECT_TRUE(project.ImportPort(port));
     EXPECT_EQ(Error(), QString());
+    EXPECT_TRUE(project.ImportPort(folder.Write("odd.xml"_s, "<PortLayout><Odd/></PortLayout>")));
+    EXPECT_EQ(Error(), "跳过元素“Odd”"_s);
 }

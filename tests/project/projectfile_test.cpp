@@ -4,6 +4,7 @@
 #include "layout/projectundoredo.h"
 #include "monitor/monitordata.h"
 #include "products/productdirectoryset.h"
+#include "project/layoutdescription.h"
 #include "project/parameterwork.h"
 #include "project/projectelements.h"
 #include "settings/archive.h"
@@ -45,6 +46,10 @@ TEST_F(ProjectFileTest, TreesHoldWhatTheFileHolds)
     project.ReadTileGamma(tree, child("TileTypeGamma"));
     project.ReadPrintData(tree, child("PrintFormData"));
     project.ReadSender(tree, child("SenderLayout"), version, nullptr);
+    project.SetCurrentSender(1);
+    child("SenderLayout")->appendChild(tree.createElement("Odd"_s));
+    project.ReadSender(tree, &found, version, nullptr);
+    EXPECT_TRUE(project.GetCurSenderIndex() == 1 && Error() == "跳过元素“Odd”"_s) << qPrintable(Error());
     project.ReadMonitorSet(tree, child("Monitor"));
     project.ReadParameterFileInfo(tree, child("ParameterFile"));
     EXPECT_EQ(Document(), streamed);
@@ -205,15 +210,34 @@ TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
     }
 }
 
+TEST_F(ProjectFileTest, GroupsThatLieTooDeepAreToldAndLeftOut)
+{
+    QByteArray name = "TileGroup";
+    QByteArray begin;
+    QByteArray end;
+    for (int depth = 0; depth <= layoutnames::kMaxGroupDepth; ++depth) {
+        name += "_1";
+        begin += '<' + name + " GroupCount='1' GroupId='" + QUuid::createUuid().toByteArray() + "'>";
+        end = "</" + name + '>' + end;
+    }
+    ASSERT_TRUE(LoadText("<SenderLayout SenderCount='1'><Sender_1><Port_1><TitleGroupLayout GroupCount='1'>"
+                         + begin + end + "</TitleGroupLayout></Port_1></Sender_1></SenderLayout>"));
+    EXPECT_TRUE(Error().contains("分组嵌套过深"_s)) << qPrintable(Error());
+    QList<CTileGroup*> groups;
+    EXPECT_EQ(GroupsOf(*project.GetSender(0)->GetPort(0)).GetGroupListRecursive(groups),
+              layoutnames::kMaxGroupDepth);
+}
+
 TEST_F(ProjectFileTest, OfRepeatedElementsTheLastOfTheRootAndTheFirstOfAPortCounts)
 {
     const QByteArray id = "{c95ad16b-6333-4764-bb20-9ee65602cbb4}";
     const QByteArray tiles = "<TitleLayout TileCount='1'><Tile_1/></TitleLayout>";
     const QByteArray senders = "<SenderLayout SenderCount='1'><Sender_1 ID='" + id + "'><Port_1>" + tiles
-                               + "<TitleLayout TileCount='2'/></Port_1></Sender_1></SenderLayout>";
+                               + "<TitleLayout TileCount='2'/><Odd/></Port_1></Sender_1></SenderLayout>";
     ASSERT_TRUE(LoadText("<Monitor RefreshDisTime='30'/><Monitor/>" + senders + senders
                          + "<ParameterFile Count='1'><File1 Name='../../x/..'/></ParameterFile>"));
     EXPECT_EQ(project.GetParameterFiles()[0].name, "_.._x_"_s);
+    EXPECT_TRUE(Error().contains("“TitleLayout”; 跳过元素“Odd”"_s)) << qPrintable(Error());
     EXPECT_EQ(project.GetSender(0)->GetId().toByteArray(), id);
     EXPECT_EQ(TilesOf(*project.GetSender(0)->GetPort(0)).GetCount(), 1);
     EXPECT_EQ(GetMonitorData()->GetInterfaceData().GetIntervalTime(), 10);
@@ -255,6 +279,13 @@ TEST_F(ProjectFileTest, ProgressGoesByThePortsOfEachSender)
                           : project.LoadProjectFromFile(QFile::encodeName(path), version, &progress));
         EXPECT_EQ(told, QList<int>({12, 25, 37, 50, 62, 75, 87, 100}));
     }
+    const QByteArray senders = "<SenderLayout SenderCount='2'><Sender_1 PortCount='2'><Port_1/><Port_2/>"
+                               "</Sender_1><Sender_2/></SenderLayout>";
+    LoadText(senders + senders);
+    QList<int> told;
+    CCustomProgressbar progress([&told](int percent) { told.append(percent); });
+    EXPECT_TRUE(project.LoadProjectFromFile(QFile::encodeName(folder.Path("a.xml"_s)), version, &progress));
+    EXPECT_EQ(told, QList<int>({25, 50, 100, 25, 50, 100})) << "each list begins anew";
 }
 
 TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
