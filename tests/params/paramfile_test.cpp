@@ -130,10 +130,6 @@ TEST_F(ParamFileTest, RootSaysWhatTheFileHolds)
         EXPECT_EQ(contents["ProcessorCount"_s], "1"_s);
         EXPECT_EQ(contents["Processor_1"_s].toObject()["NetIP"_s], "167772162"_s);
 
-        project.prepared = {false, {9}};
-        EXPECT_TRUE(ReadFile(Export(project, kind)).contains(" ProcessorCount=\"1\"/>"))
-            << "one tag, and no sender";
-
         const QByteArray before = ReadFile(path);
         EXPECT_EQ(project.Do(kind.save, path, QUuid::createUuid()), kFailed);
         EXPECT_EQ(ReadFile(path), before);

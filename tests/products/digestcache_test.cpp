@@ -75,16 +75,6 @@ TEST_F(DigestCacheTest, FreshOrUnreadableFilesAreNotRemembered)
     EXPECT_EQ(hashed, 4);
 }
 
-TEST_F(DigestCacheTest, OnlyARegularFileHasAStamp)
-{
-    FileStamp stamp;
-    const QString path = folder.Write("a"_s, "one");
-    EXPECT_TRUE(ReadStamp(path, stamp) && stamp.size == 3);
-    ASSERT_TRUE(QFile::link(path, folder.Path("link"_s)));
-    for (const QString& other : {folder.Path("link"_s), folder.Path(), folder.Path("missing"_s)})
-        EXPECT_FALSE(ReadStamp(other, stamp)) << other.toStdString();
-}
-
 TEST_F(DigestCacheTest, FilesNotAskedForInARoundAreForgotten)
 {
     const QString kept = folder.Write("kept"_s, "one");

@@ -78,15 +78,12 @@ TEST_F(ProjectDataTest, DeletionAsksAndRefusesAsTheBackupsAndLocksSay)
 
 TEST_F(ProjectDataTest, CurrentSenderIsOneThatIsThereOrNone)
 {
-    EXPECT_EQ(project.GetCurSenderIndex(), -1);
     EXPECT_EQ(project.GetCurSenderIndexForRtCnnt(), 0);
     EXPECT_EQ(project.GetCurPortIndex(), -1);
-    const int removals[][4] = {{3, 0, 0, 0}, {3, 1, 0, 0}, {3, 1, 1, 1}, {3, 1, 2, 1},
-                               {3, 2, 0, 1}, {3, 2, 2, 1}, {1, 0, 0, -1}};
+    const int removals[][4] = {{3, 0, 0, 0}, {3, 1, 0, 0}, {3, 1, 1, 1}, {3, 2, 2, 1}, {1, 0, 0, -1}};
     for (const auto& [count, current, removed, left] : removals) {
         project.DeleteAllSender();
         AddSenders(count);
-        EXPECT_EQ(project.GetCurSenderIndex(), 0) << "the first one made";
         for (const int index : {current, count, -1})
             project.SetCurrentSender(index);
         EXPECT_EQ(project.GetCurSenderIndexForRtCnnt(), current);
@@ -101,54 +98,43 @@ TEST_F(ProjectDataTest, CurrentSenderIsOneThatIsThereOrNone)
         EXPECT_EQ(project.GetCurSenderIndex(), chosen) << deleted << previous;
         EXPECT_EQ(GetRuntimeData()->GetCurSelectNode(), chosen);
     }
-    project.GetCurrentSender()->SetRecentPortIndex(3);
-    EXPECT_EQ(project.GetCurPortIndex(), 3);
-    project.AddSender(project.GetSender(0));
-    project.AddSender(nullptr);
-    EXPECT_EQ(project.GetSenderCount(), 3) << "one that is there already, and none";
 }
 
 TEST_F(ProjectDataTest, CopyHoldsAllAndADefaultProjectNothing)
 {
     ASSERT_TRUE(Load(SamplePath("full/project.xml")));
     project.SetCurrentSender(1);
-    project.SetDeviceSetName("a"_s);
     project.SetCurProjectName("b"_s);
     const QByteArray full = Document();
     const CProjectData copy(project);
-    const QUuid id = project.GetID();
     EXPECT_FALSE(Load(folder.Path("missing"_s)));
     project.SetToDefault();
-    EXPECT_EQ(Error(), QString());
-    EXPECT_TRUE(project.GetSenderCount() == 0 && project.GetCurSenderIndex() == -1);
-    EXPECT_EQ(project.GetDeviceSetName() + project.GetCurProjectName(), QString());
-    EXPECT_TRUE(project.GetID() != id && !project.GetID().isNull() && !CProjectData().GetID().isNull());
+    EXPECT_EQ(Error() + project.GetCurProjectName(), QString());
+    EXPECT_TRUE(project.GetID() != copy.GetID() && !project.GetID().isNull()
+                && !CProjectData().GetID().isNull());
     EXPECT_NE(Document(), full);
     project.NewSender();
     project = copy;
     project.CopyProject(project);
     EXPECT_EQ(Document(), full);
-    EXPECT_EQ(project.GetDeviceSetName() + project.GetCurProjectName(), "ab"_s);
-    EXPECT_TRUE(project.GetID() == id && project.GetCurSenderIndex() == 1);
+    EXPECT_TRUE(project.GetID() == copy.GetID() && project.GetCurSenderIndex() == 1);
 }
 
 TEST_F(ProjectDataTest, SelectionGoesOverAllPortsOfAllSenders)
 {
     AddSenders(2);
     GetConfigData()->SetEnableRotate(true);
-    CPort& first = *project.GetSender(0)->GetPort(0);
     CPort& last = *project.GetSender(1)->GetPort(159);
-    for (CPort* port : {&first, &last})
-        MakeWall(*port, 2, 1);
+    MakeWall(last, 2, 1);
+    CTile* tile = TilesOf(last).GetTile(1);
     project.CancelAllTileSelect(InterfaceDesign);
-    EXPECT_FALSE(TilesOf(first).GetTile(0)->IsSelected(InterfaceDesign));
+    EXPECT_FALSE(tile->IsSelected(InterfaceDesign));
     EXPECT_FALSE(GroupsOf(last).GetDirectGroupByDirIndex(0)->IsSelected(InterfaceDesign));
     project.SelectAllTile();
-    EXPECT_TRUE(TilesOf(last).GetTile(1)->IsSelected(InterfaceDesign));
-    EXPECT_FALSE(project.HasTileRotated());
+    EXPECT_TRUE(tile->IsSelected(InterfaceDesign) && !project.HasTileRotated());
     SRotateParam turned;
     turned.angle = 30;
-    TilesOf(last).GetTile(1)->SetTileRotateParam(&turned);
+    tile->SetTileRotateParam(&turned);
     EXPECT_TRUE(project.HasTileRotated());
 }
 
@@ -218,11 +204,6 @@ TEST_F(ProjectDataTest, SenderGroupsMarkTheProjectModified)
     project.SetGroupName(group, "c"_s);
     project.DeleteSenderGroup(group);
     EXPECT_FALSE(history->IsModidfied()) << "there is no such group";
-
-    group = project.AddGroupInfo("a"_s);
-    history->Init();
-    project.SetGroupName(group, "a"_s);
-    EXPECT_FALSE(history->IsModidfied()) << "the name that it has";
 }
 
 TEST_F(ProjectDataTest, SenderGroupsKnowTheirSenders)
@@ -230,20 +211,16 @@ TEST_F(ProjectDataTest, SenderGroupsKnowTheirSenders)
     AddSenders(3);
     const QUuid group = project.AddGroupInfo("a"_s);
     const QUuid other = project.AddGroupInfo("b"_s);
-    EXPECT_TRUE(project.GetGroupExpand(other));
     project.SetGroupExpand(other, false);
     EXPECT_TRUE(project.GetGroupExpand(group) && !project.GetGroupExpand(other));
-    EXPECT_FALSE(project.GetGroupExpand(QUuid()));
-    project.GetSender(0)->SetBelongGroup(other);
-    for (const int i : {1, 2})
-        project.GetSender(i)->SetBelongGroup(group);
+    for (int i = 0; i < 3; ++i)
+        project.GetSender(i)->SetBelongGroup(i == 0 ? other : group);
     QList<QUuid> senders;
     for (const QUuid& asked : {group, other})
         project.GetSendersInGroup(asked, senders);
     EXPECT_EQ(senders, QList<QUuid>{project.GetSender(0)->GetId()});
     EXPECT_EQ(project.GetGroupIDBySenderIndex(1), group);
     project.DeleteSenderGroup(group);
-    EXPECT_TRUE(project.GetSender(2)->GetBelongGroup().isNull());
     EXPECT_EQ(project.GetSender(0)->GetBelongGroup(), other);
     project.GetSender(1)->SetBelongGroup(group);
     EXPECT_TRUE(project.GetGroupIDBySenderIndex(1).isNull() && project.GetGroupIDBySenderIndex(3).isNull());

@@ -4,9 +4,7 @@
 #include "layout/projectundoredo.h"
 #include "monitor/monitordata.h"
 #include "products/productdirectoryset.h"
-#include "project/layoutdescription.h"
 #include "project/parameterwork.h"
-#include "project/projectelements.h"
 #include "settings/archive.h"
 #include "settings/constantdata.h"
 #include "support/projecttest.h"
@@ -158,21 +156,6 @@ TEST_F(ProjectFileTest, RefusedFilesLeaveTheProjectAsItWas)
     EXPECT_EQ(Document(), before);
 }
 
-TEST_F(ProjectFileTest, ListsAreSavedAsLongAsTheyMayBeRead)
-{
-    const QString path = folder.Path("a.prj"_s);
-    for (int i = 0; i < kMaxListRecords; ++i)
-        project.AddGroupInfo(QString());
-    ASSERT_TRUE(Save(path));
-    const QByteArray before = ReadFile(path);
-    project.AddGroupInfo(QString());
-    EXPECT_FALSE(Save(path));
-    EXPECT_TRUE(Error().contains(QString::number(kMaxListRecords))) << qPrintable(Error());
-    EXPECT_EQ(ReadFile(path), before);
-    ASSERT_TRUE(Load(path));
-    EXPECT_EQ(project.GetSenderGroupCount(), kMaxListRecords);
-}
-
 TEST_F(ProjectFileTest, VersionsUpTo61AreRead)
 {
     EXPECT_TRUE(LoadText("<VersionSupport MinimumVersion='6.1'/>"));
@@ -208,24 +191,6 @@ TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
         EXPECT_TRUE(Error().endsWith(count > 10 ? "; 另有%1处"_s.arg(count - 10) : "”"_s))
             << qPrintable(Error());
     }
-}
-
-TEST_F(ProjectFileTest, GroupsThatLieTooDeepAreToldAndLeftOut)
-{
-    QByteArray name = "TileGroup";
-    QByteArray begin;
-    QByteArray end;
-    for (int depth = 0; depth <= layoutnames::kMaxGroupDepth; ++depth) {
-        name += "_1";
-        begin += '<' + name + " GroupCount='1' GroupId='" + QUuid::createUuid().toByteArray() + "'>";
-        end = "</" + name + '>' + end;
-    }
-    ASSERT_TRUE(LoadText("<SenderLayout SenderCount='1'><Sender_1><Port_1><TitleGroupLayout GroupCount='1'>"
-                         + begin + end + "</TitleGroupLayout></Port_1></Sender_1></SenderLayout>"));
-    EXPECT_TRUE(Error().contains("分组嵌套过深"_s)) << qPrintable(Error());
-    QList<CTileGroup*> groups;
-    EXPECT_EQ(GroupsOf(*project.GetSender(0)->GetPort(0)).GetGroupListRecursive(groups),
-              layoutnames::kMaxGroupDepth);
 }
 
 TEST_F(ProjectFileTest, OfRepeatedElementsTheLastOfTheRootAndTheFirstOfAPortCounts)
@@ -279,13 +244,6 @@ TEST_F(ProjectFileTest, ProgressGoesByThePortsOfEachSender)
                           : project.LoadProjectFromFile(QFile::encodeName(path), version, &progress));
         EXPECT_EQ(told, QList<int>({12, 25, 37, 50, 62, 75, 87, 100}));
     }
-    const QByteArray senders = "<SenderLayout SenderCount='2'><Sender_1 PortCount='2'><Port_1/><Port_2/>"
-                               "</Sender_1><Sender_2/></SenderLayout>";
-    LoadText(senders + senders);
-    QList<int> told;
-    CCustomProgressbar progress([&told](int percent) { told.append(percent); });
-    EXPECT_TRUE(project.LoadProjectFromFile(QFile::encodeName(folder.Path("a.xml"_s)), version, &progress));
-    EXPECT_EQ(told, QList<int>({25, 50, 100, 25, 50, 100})) << "each list begins anew";
 }
 
 TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)
@@ -322,14 +280,12 @@ TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
     project.NewSender();
     const QString precious = folder.Write("linked/0.rcvbp"_s, "precious");
     const QString path = folder.Path("a.prj"_s);
-    const QString lock = WriteFile(parameterwork::LockPath() + ".rmlockAbCdEf"_s, "of a killed program");
     WriteFile(CConstantData::GetProjectParamFileTemp() + "new.prj.part"_s, "likewise");
     const QString work = parameterwork::ProjectFolder().chopped(1);
     QDir(work).removeRecursively();
     ASSERT_TRUE(QFile::link(folder.Path("linked"_s), work));
     EXPECT_TRUE(Save(path));
     EXPECT_EQ(ReadFile(precious), "precious") << "a link is replaced, what it leads to is not ours";
-    EXPECT_FALSE(QFile::exists(lock));
 
     const QString odd = folder.Path("project"_s);
     folder.Write("project/new.prj/a"_s, "folder");

@@ -53,15 +53,6 @@ TEST(ConfigFileTest, BoundsOfAFileAreTheNearestThatItCanSay)
                                         + "</Height></CustomerTileSize>");
         EXPECT_EQ(QSize(items.customerTileWidth, items.customerTileHeight), QSize(taken, taken));
     }
-    QByteArray styles;
-    for (int i = 1; i <= 18; ++i)
-        styles += QByteArray("<UiStyle%1 Path='%1'/>").replace("%1", QByteArray::number(i));
-    const SConfigItems many = Read("<UiStyleEx><UiCurrent>15</UiCurrent>" + styles + "</UiStyleEx>");
-    EXPECT_EQ(many.uiStyles.size(), 16);
-    EXPECT_EQ(many.currentUiStyle, 15);
-    SConfigItems items;
-    SetStyles(QVector<SUiStyle>(17, {"a"_s, "b"_s}).toList(), &items);
-    EXPECT_EQ(items.uiStyles.size(), 16);
 }
 
 TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)

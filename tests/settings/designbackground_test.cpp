@@ -106,19 +106,6 @@ TEST_F(DesignBackgroundTest, RefusedScalingLeavesTheViewUntouched)
         background.GetViewScaling(&modified);
         EXPECT_FALSE(modified);
     }
-    const QRect client(0, 0, 500, 300);
-    for (const int index : {-1, 12, 11})
-        background.SetClientRect(index, client);
-    for (const auto& [interface, subDialog] : {std::pair(3, 0), {3, 3}, {1, 0}, {1, 1}, {1, 2}, {5, 0}}) {
-        windows.interface = interface;
-        windows.subDialog = subDialog;
-        EXPECT_TRUE(background.SetViewScaling(0.5f, noFix)) << interface << ' ' << subDialog;
-        EXPECT_EQ(background.GetClientRect() == client, interface == 1 && subDialog == 1);
-        background.SetViewStartPt(QPoint(7, 8));
-        EXPECT_EQ(background.GetViewStartPt(&modified), QPoint(7, 8));
-        EXPECT_TRUE(modified);
-    }
-    background.ResetViewScaling();
     windows.interface = InterfaceControl;
     EXPECT_FALSE(background.SetViewScaling(1.0f, noFix));
     background.GetViewScaling(&modified);
@@ -141,8 +128,6 @@ TEST_F(DesignBackgroundTest, StartIsClampedAndChangesAreNotified)
     background.SetViewScaling(5.0f, QPoint(-1, 0));
     background.SetViewScaling(6.0f, QPoint(0, -1));
     EXPECT_EQ(notified, 4);
-    EXPECT_TRUE(background.SetAdaptiveScaling(QSize(1920, 1080), QSize(3000, 500), 0));
-    EXPECT_EQ(notified, 6) << "of the scaling, and of itself";
     bool modified = true;
     background.ResetViewScaling();
     EXPECT_EQ(background.GetViewScaling(&modified), 1.0f);
