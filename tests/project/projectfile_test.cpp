@@ -280,7 +280,7 @@ TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
     project.NewSender();
     const QString precious = folder.Write("linked/0.rcvbp"_s, "precious");
     const QString path = folder.Path("a.prj"_s);
-    WriteFile(CConstantData::GetProjectParamFileTemp() + "new.prj.part"_s, "likewise");
+    WriteFile(CConstantData::GetProjectParamFileTemp() + "new.prj.part"_s, "of a killed program");
     const QString work = parameterwork::ProjectFolder().chopped(1);
     QDir(work).removeRecursively();
     ASSERT_TRUE(QFile::link(folder.Path("linked"_s), work));
@@ -292,6 +292,7 @@ TEST_F(ProjectFileTest, LeftoversInTheWorkFolderStopNeitherSavingNorLoading)
     folder.Write("project/0.rcvbp/a"_s, "folder");
     ASSERT_TRUE(PackFolder(odd, folder.Path("odd.prj"_s)));
     EXPECT_FALSE(Load(folder.Path("odd.prj"_s)));
+    ASSERT_TRUE(QDir().mkpath(parameterwork::DocumentPath() + "/a"_s));
     EXPECT_TRUE(Save(path));
     EXPECT_FALSE(Load(folder.Path("odd.prj"_s)));
     EXPECT_TRUE(Load(SamplePath("small-wall.prj")));
