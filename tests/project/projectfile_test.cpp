@@ -66,7 +66,7 @@ TEST_F(ProjectFileTest, ParameterFilesTravelWithTheProjectIntoTheLibrary)
     QFile::remove(parameterwork::PathOf("箱体A128"_s)); // the library's copy takes its place
     const auto saved = [this] {
         const QString path = folder.Path("b.prj"_s);
-        EXPECT_TRUE(Save(path));
+        EXPECT_TRUE(Save(path) && project.IsArchiveWritten());
         EXPECT_TRUE(UnpackArchive(path, folder.Path("unpacked"_s)));
         return ReadFile(folder.Path("unpacked/project/0.rcvbp"_s));
     };
