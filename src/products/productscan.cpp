@@ -40,7 +40,8 @@ ProductScan::ProductScan(DigestCache& digests, unsigned int& nextMenuId)
 void ProductScan::AddKnown(const CProductDirectory& tree)
 {
     tree.FindProduct([this](const CProduct& product) {
-        m_found.insert(product.GetMd5(), product.GetParamPath());
+        if (!product.GetMd5().IsNull() && !m_found.contains(product.GetMd5()))
+            m_found.insert(product.GetMd5(), product.GetParamPath());
         return false;
     });
 }

@@ -137,6 +137,7 @@ CPort* RecentPort(CSender* sender)
 
 bool CProjectData::ExportSender(const QString& path, const QUuid& senderId)
 {
+    m_lastFileError.clear();
     const CSender* sender = GetSender(GetScIndexByID(senderId));
     if (!sender)
         return Fail(&m_lastFileError, Texts::tr("没有这个主控。"));
@@ -157,6 +158,7 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
                                 bool attributes)
 {
     DocumentOperation operation(History());
+    m_lastFileError.clear();
     const int place = GetScIndexByID(senderId);
     CSender* sender = GetSender(place);
     if (!sender)
@@ -203,6 +205,7 @@ bool CProjectData::ImportSender(const QString& path, const QUuid& senderId, bool
 
 bool CProjectData::ExportPort(const QString& path)
 {
+    m_lastFileError.clear();
     const CPort* port = RecentPort(GetCurrentSender());
     if (!port)
         return Fail(&m_lastFileError, Texts::tr("没有这个输出口。"));
@@ -216,6 +219,7 @@ bool CProjectData::ExportPort(const QString& path)
 bool CProjectData::ImportPort(const QString& path)
 {
     DocumentOperation operation(History());
+    m_lastFileError.clear();
     CSender* sender = GetCurrentSender();
     CPort* port = RecentPort(sender);
     if (!port)

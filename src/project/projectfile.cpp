@@ -95,6 +95,7 @@ bool ReadDocument(const QString& path, ProjectContent& content, ReadReport& repo
 bool CProjectData::SaveProjectToFile(const QString& path, CCustomProgressbar* progress)
 {
     DocumentOperation operation(History()); // ends when the lock has gone
+    m_lastFileError.clear();
     m_archiveWritten = false;
     const auto write = [&](XmlWriter& writer) { WriteDocument(writer, *this, m_state, progress); };
     QLockFile lock(parameterwork::LockPath());
@@ -124,6 +125,7 @@ QString CProjectData::GetMinVersionSupport() const
 bool CProjectData::LoadProjectFromFile(const char* path, QString& error, CCustomProgressbar* progress)
 {
     DocumentOperation operation(History()); // ends when the lock has gone
+    m_lastFileError.clear();
     if (!path)
         return Fail(&m_lastFileError, Texts::tr("没有给出文件。"));
     const QString name = QFile::decodeName(path);
