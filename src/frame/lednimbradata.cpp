@@ -44,7 +44,6 @@ void LedNimbraData_Init()
     InstallLookups({*g_project, *g_config, *g_runtime, *g_monitor});
 
     g_config->Load(CConstantData::GetSysConfigDir() + QStringLiteral("SystemConfig.xml"));
-    g_config->UpdateErrorIPList();
     g_config->LoadSpecifiedIP(CConstantData::GetSysConfigDir() + QStringLiteral("SpecifiedIPs.txt"));
     // The interface settings lie beside the products, where hosts have always looked for them.
     g_config->Load_UI(CProductDirectorySet::GetRootDir() + QStringLiteral("SystemConfigUI.ini"));

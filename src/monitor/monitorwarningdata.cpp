@@ -39,7 +39,7 @@ void CMonitorWarningData::SetRcvWarning(unsigned int sender, int port, int recei
 
 quint32 CMonitorWarningData::GetRcvWarning(unsigned int sender, int port, int receiver) const
 {
-    return port < 0 || receiver < 0 ? 0 : m_warnings.Get({sender, port, receiver});
+    return receiver < 0 ? 0 : m_warnings.Get({sender, port, receiver}); // none is kept for a negative port
 }
 
 void CMonitorWarningData::SetLoopbackError(unsigned int sender, int port, const SLoopbackError& error)

@@ -48,10 +48,18 @@ TEST(AtomicFileTest, WaitingForAnotherSaveLeavesNoDescriptorOpen)
 TEST(AtomicFileTest, RefusedWritesAndTargetsThatAreNoRegularFilesAreTold)
 {
     TestFolder folder;
-    QString error;
+    const QString path = folder.Write("a.txt"_s, "old");
+    QString error = "of an earlier file"_s;
     EXPECT_FALSE(ReplaceFile(
-        folder.Path("a.txt"_s), [](QIODevice&) { return false; }, &error));
-    EXPECT_FALSE(error.isEmpty());
+        path, [](QIODevice&) { return false; }, &error));
+    EXPECT_TRUE(error.contains(path)) << error.toStdString();
+    EXPECT_FALSE(ReplaceFile(
+        path, [&error](QIODevice&) { return error = "why"_s, false; }, &error));
+    EXPECT_EQ(error, "why"_s) << "the writer knows best";
+    EXPECT_EQ(ReadFile(path), "old");
+    EXPECT_EQ(QDir(folder.Path()).entryList(QDir::Files | QDir::Hidden), QStringList("a.txt"_s));
+    EXPECT_TRUE(ReplaceFile(path, QByteArray("new"), &error));
+    EXPECT_EQ(error, QString());
     QString why;
     EXPECT_FALSE(ReplaceFile(folder.Path(), QByteArray("new"), &why));
     EXPECT_FALSE(why.isEmpty());

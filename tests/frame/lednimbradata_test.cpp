@@ -1,4 +1,8 @@
+#include "layout/layoutlookup.h"
+#include "monitor/monitorlookup.h"
 #include "orvandata.h"
+#include "project/projectlookup.h"
+#include "settings/settingslookup.h"
 #include "support/library.h"
 #include "support/testfolder.h"
 #include "support/text.h"
@@ -23,10 +27,17 @@ std::array<void*, 6> Objects()
 
 } // namespace
 
+/// Those who answer for other rooms.
+std::array<void*, 4> Answering()
+{
+    return {GetSettingsLookup(), GetLayoutLookup(), GetMonitorLookup(), GetProjectLookup()};
+}
+
 TEST(LedNimbraDataTest, ObjectsLiveBetweenInitAndRelease)
 {
     const std::array<void*, 6> none{};
     EXPECT_EQ(Objects(), none);
+    const auto answering = Answering();
     LedNimbraData_Release();
     {
         Library library;
@@ -35,8 +46,10 @@ TEST(LedNimbraDataTest, ObjectsLiveBetweenInitAndRelease)
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         EXPECT_TRUE(QDir(documents + "/Orvan/SysConfig"_s).exists());
         EXPECT_EQ(LedNimbraData_FolderProblem(), QString());
+        EXPECT_TRUE(GetConfigData()->GetLanguageFilePath().contains("/Language/"_s));
     }
     EXPECT_EQ(Objects(), none);
+    EXPECT_EQ(Answering(), answering) << "nobody asks what is gone";
     LedNimbraData_Release();
 }
 
@@ -53,6 +66,47 @@ TEST(LedNimbraDataTest, EachInitLoadsTheSettingsAndTheSecondKeepsTheObjects)
     LedNimbraData_Release();
     LedNimbraData_Init();
     EXPECT_EQ(GetConfigData()->GetLanguageType(), LanguageEnglish);
+}
+
+TEST(LedNimbraDataTest, TheObjectsAnswerEachOther)
+{
+    const Library library;
+    CProductDirectorySet& products = *GetRuntimeData()->GetProductDirectorySet();
+    const QString file = WriteFile(CProductDirectorySet::GetRootDir() + "cabinet.rcvbp"_s, "a");
+    ASSERT_EQ(products.LoadProductInfo(), 1);
+    const SMD5 type = CConstantData::GetMD5FromFile(file);
+    CProduct* product = products.FindProductFromFileName("cabinet.rcvbp"_s);
+    CSender* sender = GetProjectData()->NewSender();
+    for (const bool multi : {false, true}) {
+        for (const bool set : {false, true}) {
+            product->SetMulti(multi);
+            product->SetMultiFlagSet(set);
+            CTile tile;
+            tile.SetType(type);
+            EXPECT_TRUE(tile.IsMultiRcvTile() == multi && tile.IsMultiRcvsOrdered() == set);
+            tile.SetType(SMD5());
+            EXPECT_FALSE(tile.IsMultiRcvTile() || tile.IsMultiRcvsOrdered());
+        }
+    }
+    SAddTileInfo info;
+    info.columns = info.rows = 1;
+    info.type = type;
+    EXPECT_TRUE(sender->GetPort(0)->GetPortProject()->AddTile(info));
+    EXPECT_EQ(GetProjectData()->GetParameterFiles().size(), 1);
+    sender->GetPort(1)->SetBeBackupDest(sender->GetId(), 0);
+    EXPECT_EQ(sender->GetPort(1)->GetPortTileSetOrBackupSrc(), &TilesOf(*sender->GetPort(0)));
+
+    CConfigData& config = *GetConfigData();
+    config.SetReadOnlyState(InterfaceDesign, true);
+    GetMonitorData()->StoreInterfaceLockInfo();
+    config.SetReadOnlyState(InterfaceDesign, false);
+    GetMonitorData()->RecoverInterfaceLockInfo();
+    EXPECT_TRUE(config.GetReadOnlyState(InterfaceDesign));
+    config.SetReadOnlyState(InterfaceDesign, false);
+    GetMonitorData()->SetMonitoring(true);
+    ASSERT_TRUE(config.Save());
+    LedNimbraData_Init();
+    EXPECT_TRUE(config.GetReadOnlyState(InterfaceDesign)) << "monitoring had stored it";
 }
 
 TEST(LedNimbraDataTest, ValuesAreShownAndCarriedAndSetsWalked)
@@ -79,7 +133,7 @@ TEST(LedNimbraDataTest, ValuesAreShownAndCarriedAndSetsWalked)
     EXPECT_EQ(QVariant::fromValue(SPortPlace{1, 2}).value<SPortPlace>(), (SPortPlace{1, 2}));
 }
 
-TEST(LedNimbraDataTest, AFileInThePlaceOfTheFoldersIsTold)
+TEST(LedNimbraDataTest, FoldersThatCannotBeMadeOrWrittenInAreTold)
 {
     QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     const QString root = documents.filePath(QStringLiteral("Orvan"));
@@ -88,5 +142,10 @@ TEST(LedNimbraDataTest, AFileInThePlaceOfTheFoldersIsTold)
     LedNimbraData_Init();
     EXPECT_TRUE(LedNimbraData_FolderProblem().contains(root + QStringLiteral("/SysConfig")));
     LedNimbraData_Release();
-    EXPECT_TRUE(documents.remove(root));
+    EXPECT_TRUE(documents.remove(root) && documents.mkpath(root));
+    ASSERT_TRUE(QFile::link("/proc/self"_s, root + "/SysConfig"_s)); // where nobody writes
+    LedNimbraData_Init();
+    EXPECT_TRUE(LedNimbraData_FolderProblem().contains(root + QStringLiteral("/SysConfig")));
+    LedNimbraData_Release();
+    EXPECT_TRUE(QDir(root).removeRecursively());
 }

@@ -338,6 +338,10 @@ TEST_F(PortProjectTest, OnlyAWholeRegularBlockMayBeChanged)
             Tile(2)->SetWidth(64);
             Tile(5)->SetWidth(64);
         },
+        [&] { // no room in a cell
+            for (CTile* tile : Tiles({1, 2, 3, 4, 5, 6}))
+                tile->SetHeight(-64);
+        },
         [&] { // a group below
             groups.GetDirectGroupByDirID(group)->GetSubGroupSet()->AddGroup(new CTileGroup, true);
         },

@@ -1,5 +1,6 @@
 #include "layout/sender.h"
 
+#include "layout/layouthelpers.h"
 #include "support/wallbuilder.h"
 
 #include <gtest/gtest.h>
@@ -79,6 +80,11 @@ TEST(SenderTest, TheFirstBackupInUseTellsWhetherItIsASelfBackup)
 
 TEST(SenderTest, TheOffsetNeverStartsTheLayoutBeforeTheCanvas)
 {
+    EXPECT_FALSE(CSender::IsOffsetToZero());
+    CSender::OffsetToZero(true);
+    EXPECT_TRUE(CSender::IsOffsetToZero());
+    CSender::OffsetToZero(false);
+    EXPECT_FALSE(CSender::IsOffsetToZero());
     CSender sender;
     EXPECT_EQ(sender.GetBound(), QRect(QPoint(0, 0), QPoint(-1, -1)));
     MakeWall(*sender.GetPort(3), {1, 1, QSize(128, 64), QPoint(0, 5)});
@@ -140,9 +146,15 @@ TEST(SenderTest, AskingForTheGroupsAgainDeletesOnlyStrangers)
     const auto other = MakeWall(2, 1, 1);
     lookup.senders = {sender.get(), other.get()};
 
+    using CountedGroup = Counted<CTileGroup>;
     CTileGroupSet out;
-    out.AddGroup(new CTileGroup, true);
+    auto* stranger = new CountedGroup;
+    auto* twin = new CountedGroup;
+    twin->SetID(stranger->GetID());
+    for (CTileGroup* group : {stranger, twin, stranger})
+        out.AddGroup(group, true);
     EXPECT_TRUE(sender->GetTileGroupSet(out));
+    EXPECT_EQ(CountedGroup::alive, 0) << "also one with the id of another";
     EXPECT_EQ(out.GetDirectCount(), 2);
     EXPECT_TRUE(other->GetTileGroupSet(out));
     EXPECT_EQ(out.GetDirectCount(), 1);

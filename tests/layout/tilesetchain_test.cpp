@@ -100,6 +100,11 @@ TEST(TileSetChainTest, OnlyAWholeNumberingIsAPattern)
     wall.AutoConnection(AutoNumberRowsTopLeft, 0);
     wall.GetTile(8)->SetConnectionIndex(-1, &wall);
     EXPECT_EQ(wall.GetConnectionType(), -1) << "the last one is not in the chain";
+    wall.AutoConnection(AutoNumberRowsTopLeft, 0);
+    Add(wall, QRect(300, 150, 0, 0));
+    EXPECT_EQ(wall.GetConnectionType(), AutoNumberRowsTopLeft) << "no pattern goes there";
+    wall.GetTile(9)->SetConnectionIndex(9, &wall);
+    EXPECT_EQ(wall.GetConnectionType(), -1) << "but this chain does";
 }
 
 TEST(TileSetChainTest, AnySetIsNumberedLikeCellByCell)

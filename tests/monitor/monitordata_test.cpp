@@ -97,6 +97,41 @@ TEST(MonitorDataTest, ReadersSeeWholeMembersWhileOthersWrite)
     EXPECT_EQ(mixed, 0);
 }
 
+TEST(MonitorDataTest, EachMemberComesOutAsItWentIn)
+{
+    CMonitorData data;
+    data.SetDetectData(DetectedBy(3));
+    CMonitorInterfaceData settings;
+    settings.SetIntervalTime(30);
+    data.SetInterfaceData(settings);
+    CMonitorWarningData warning;
+    warning.SetPortWarning(1, 2, PortWarningCableError);
+    data.SetWarningData(warning);
+    CMonitorRcvShowData texts;
+    texts.SetText(1, 0, 0, MonitorRenderFan, "900"_s);
+    data.SetRcvShowData(texts);
+    CMonitorTipsData tips;
+    tips.SetTip(1, 2, -1, "cable"_s);
+    data.SetTipData(tips);
+
+    CMonitorDetectData detectNow;
+    CMonitorInterfaceData settingsNow;
+    CMonitorWarningData warningNow;
+    CMonitorRcvShowData textsNow;
+    CMonitorTipsData tipsNow;
+    data.GetAllData(detectNow, settingsNow, warningNow, textsNow, tipsNow);
+    for (const CMonitorDetectData& detect : {detectNow, data.GetDetectData()}) {
+        ASSERT_EQ(detect.GetRcvDataCount(3, 0), kReceivers);
+        EXPECT_EQ(detect.GetRcvData(3, 0, 7)->firmwareVersion, "3"_s);
+    }
+    EXPECT_TRUE(settingsNow == settings && data.GetInterfaceData() == settings);
+    EXPECT_TRUE(warningNow == warning && data.GetWarningData() == warning);
+    EXPECT_TRUE(textsNow == texts && data.GetRcvShowData() == texts);
+    EXPECT_TRUE(tipsNow == tips && data.GetTipData() == tips);
+    data.SetToDefault();
+    EXPECT_EQ(data.GetTipData(), CMonitorTipsData());
+}
+
 TEST(MonitorDataTest, ReadOnlyStatesComeBackWhileTheSettingsCallBack)
 {
     CMonitorData data;
@@ -112,6 +147,7 @@ TEST(MonitorDataTest, ReadOnlyStatesComeBackWhileTheSettingsCallBack)
     data.RecoverInterfaceLockInfo();
     EXPECT_TRUE(settings.readOnly.value(InterfaceDesign));
     EXPECT_FALSE(settings.readOnly.value(InterfaceMonitoring));
+    EXPECT_EQ(settings.readOnly.size(), kInterfaceCount);
 }
 
 TEST(MonitorDataTest, DefaultsEmptyEveryMemberAndKeepTheRunningState)
@@ -134,6 +170,7 @@ TEST(MonitorDataTest, DefaultsEmptyEveryMemberAndKeepTheRunningState)
     EXPECT_FALSE(data.GetInterfaceData().GetLineSetting().selfBackup);
 
     data.SetToDefault();
-    EXPECT_FALSE(data.IsVideoShow());
+    data.SetMonitoring(false);
+    EXPECT_FALSE(data.IsVideoShow() || data.IsMonitoring() || CMonitorData().IsVideoShow());
     EXPECT_EQ(data.GetInterfaceData(), CMonitorInterfaceData());
 }

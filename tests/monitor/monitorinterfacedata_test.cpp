@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 
 TEST(MonitorInterfaceDataTest, VideoDefaultsKeepSenderChecksAndDropReceiverChecks)
 {
@@ -28,21 +30,58 @@ TEST(MonitorInterfaceDataTest, VideoDefaultsKeepSenderChecksAndDropReceiverCheck
 
 TEST(MonitorInterfaceDataTest, OneDifferentMemberMakesUnequal)
 {
-    CMonitorInterfaceData base;
-    SEmailSetting mail;
-    mail.receivers = {{"ann@example.test"_s, "Ann"_s}};
-    base.SetMailSetting(mail);
-    CMonitorInterfaceData other = base;
-    EXPECT_FALSE(base != other);
-    mail.receivers[0].name.clear();
-    other.SetMailSetting(mail);
-    EXPECT_TRUE(base != other);
-
-    other = base;
-    SRecevierSetting receiver;
-    receiver.voltage[3].maximum = 12.5;
-    other.SetReceiverSetting(receiver);
-    EXPECT_TRUE(base != other);
+    struct Settings
+    {
+        SSenderSetting sender;
+        SLineSetting line;
+        SRecevierSetting receiver;
+        SEmailSetting mail;
+        int interval = 10;
+    };
+    const auto all = [](const Settings& settings) {
+        CMonitorInterfaceData data;
+        data.SetSenderSetting(settings.sender);
+        data.SetLineSetting(settings.line);
+        data.SetReceiverSetting(settings.receiver);
+        data.SetMailSetting(settings.mail);
+        data.SetIntervalTime(settings.interval);
+        return data;
+    };
+    const auto make = [] {
+        Settings settings;
+        settings.sender.videoInputs = {{1, 2, 3, true}};
+        settings.mail.receivers = {{"ann@example.test"_s, "Ann"_s}};
+        return settings;
+    };
+    const Settings base = make();
+    const std::function<void(Settings&)> changes[] = {
+        [](Settings& s) { s.sender.videoUnmatch = false; },
+        [](Settings& s) { s.sender.freeze = false; },
+        [](Settings& s) { s.sender.blackout = false; },
+        [](Settings& s) { s.sender.brightnessZero = false; },
+        [](Settings& s) { s.sender.videoInputs[0].slot = 9; },
+        [](Settings& s) { s.sender.videoInputs[0].sourceType = 9; },
+        [](Settings& s) { s.sender.videoInputs[0].sourceIndex = 9; },
+        [](Settings& s) { s.sender.videoInputs[0].enable = false; },
+        [](Settings& s) { s.line.cableError = true; },
+        [](Settings& s) { s.line.selfBackup = false; },
+        [](Settings& s) { s.receiver.temperatureEnable = 0; },
+        [](Settings& s) { s.receiver.cableDetection = 1; },
+        [](Settings& s) { s.receiver.power[0] = false; },
+        [](Settings& s) { s.receiver.power[4] = false; },
+        [](Settings& s) { s.receiver.voltage[0].enable = 1; },
+        [](Settings& s) { s.receiver.voltage[3].maximum = 12.5; },
+        [](Settings& s) { s.mail.notifyRecovery = false; },
+        [](Settings& s) { s.mail.receivers[0].address.clear(); },
+        [](Settings& s) { s.mail.receivers[0].name.clear(); },
+        [](Settings& s) { s.interval = 11; },
+    };
+    EXPECT_FALSE(all(base) != all(make()));
+    for (size_t i = 0; i < std::size(changes); ++i) {
+        Settings other = base;
+        changes[i](other);
+        EXPECT_TRUE(all(base) != all(other)) << i;
+    }
 }
 
 TEST(MonitorInterfaceDataTest, PollingNeverGoesBelowOneSecond)
