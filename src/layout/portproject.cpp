@@ -99,15 +99,12 @@ bool FillGrid(const CTileSet& tiles)
         first->SetHeight(1);
     const qint64 width = first->GetWidth(); // 64 bits: a host may move cabinets anywhere
     const qint64 height = first->GetHeight();
-    if (width < 1 || height < 1)
-        return false;
-
     const QRect bound = tiles.GetBound();
     const qint64 boundWidth = qint64(bound.right()) - bound.left() + 1;
     const qint64 boundHeight = qint64(bound.bottom()) - bound.top() + 1;
     const qint64 columns = boundWidth / width;
     const qint64 rows = boundHeight / height;
-    if (width * columns != boundWidth || height * rows != boundHeight || columns * rows != tiles.GetCount())
+    if (double(columns) * double(rows) != tiles.GetCount()) // their product may be too large for 64 bits
         return false;
 
     QVector<bool> taken(tiles.GetCount(), false);

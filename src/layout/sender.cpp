@@ -145,7 +145,7 @@ bool CSender::GetTileSet(CTileSet& out) const
     for (int i = 0; i < m_fields.portCount; ++i)
         found.AddFromOther(GetPort(i)->GetTileSet());
     out = found;
-    return m_fields.portCount > 0;
+    return true;
 }
 
 bool CSender::GetTileGroupSet(CTileGroupSet& out) const
@@ -171,7 +171,7 @@ bool CSender::GetTileGroupSet(CTileGroupSet& out) const
     out.RemoveAll();
     out.AddFromOther(found);
     dropped.DeleteAll();
-    return m_fields.portCount > 0;
+    return true;
 }
 
 bool CSender::GetAllTileSetInGroup(CTileSet& out, const QUuid& group) const
@@ -240,13 +240,10 @@ bool CSender::IsSelectMultiPortTile(int port) const
 QRect CSender::GetBound() const
 {
     QRect bound;
-    bool first = true;
     for (int i = 0; i < m_fields.portCount; ++i) {
         const CPort* port = GetPort(i);
-        if (port->GetTileSet().GetCount() == 0)
-            continue;
-        bound = first ? port->GetBound() : bound.united(port->GetBound());
-        first = false;
+        if (port->GetTileSet().GetCount() > 0)
+            bound = bound.united(port->GetBound());
     }
     return bound;
 }
