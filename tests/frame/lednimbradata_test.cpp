@@ -77,17 +77,15 @@ TEST(LedNimbraDataTest, TheObjectsAnswerEachOther)
     const SMD5 type = CConstantData::GetMD5FromFile(file);
     CProduct* product = products.FindProductFromFileName("cabinet.rcvbp"_s);
     CSender* sender = GetProjectData()->NewSender();
+    CTile tile;
     for (const bool multi : {false, true}) {
-        for (const bool set : {false, true}) {
-            product->SetMulti(multi);
-            product->SetMultiFlagSet(set);
-            CTile tile;
-            tile.SetType(type);
-            EXPECT_TRUE(tile.IsMultiRcvTile() == multi && tile.IsMultiRcvsOrdered() == set);
-            tile.SetType(SMD5());
-            EXPECT_FALSE(tile.IsMultiRcvTile() || tile.IsMultiRcvsOrdered());
-        }
+        product->SetMulti(multi);
+        product->SetMultiFlagSet(!multi);
+        tile.SetType(type);
+        EXPECT_TRUE(tile.IsMultiRcvTile() == multi && tile.IsMultiRcvsOrdered() != multi);
     }
+    tile.SetType(SMD5());
+    EXPECT_FALSE(tile.IsMultiRcvTile());
     SAddTileInfo info;
     info.columns = info.rows = 1;
     info.type = type;

@@ -21,8 +21,18 @@ TEST(PortTest, CopyTakesAllButLockVisibilityAndArea)
     EXPECT_EQ(copy.GetPortColor(), source.GetPortColor());
     EXPECT_TRUE(!copy.IsFlagLock() && copy.IsVisible() && copy.GetPortArea().isNull());
 
+    CPort assigned;
+    assigned = source;
+    EXPECT_TRUE(assigned.BeSameAs(source) && assigned.GetPortColor() == source.GetPortColor());
+    assigned = *&assigned;
+    EXPECT_TRUE(assigned.BeSameAs(source));
+
     CPort bare;
-    bare.Copy(source, true);
+    EXPECT_TRUE(bare.Copy(source, true));
+    EXPECT_FALSE(bare.BeSameAs(source)) << "the same wiring is not enough";
+    EXPECT_TRUE(CPort().LayoutCopy(source));
+    EXPECT_TRUE(bare.SetVisible(false) && !bare.SetVisible(false) && bare.SetVisible(true));
+    EXPECT_TRUE(bare.SetFlagLock(true) && !bare.SetFlagLock(true) && bare.SetFlagLock(false));
     EXPECT_EQ(bare.GetBackupSrcIP(), 0xC0A80001);
     EXPECT_EQ(TilesOf(bare).GetCount(), 0);
 }
@@ -31,7 +41,7 @@ TEST(PortTest, NamingTheSourceOneWayForgetsTheOther)
 {
     CPort port;
     EXPECT_FALSE(port.SetBeBackupDestIP(0, 1) || port.IsBackupDest());
-    port.SetBeBackupDest(QUuid::createUuid(), 4);
+    EXPECT_TRUE(port.SetBeBackupDest(QUuid::createUuid(), 4));
     EXPECT_TRUE(port.SetBeBackupDestIP(5, 2) && port.GetBackupSrcSenderId().isNull());
     port.SetBeBackupDest(QUuid::createUuid(), 4);
     EXPECT_EQ(port.GetBackupSrcIP(), 0u);

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -71,9 +72,12 @@ TEST_F(PortProjectTest, AddTilePlacesABlockRowByRowAsASelectedGroup)
 
 TEST_F(PortProjectTest, AddTileRefusesEnormousBlocksAndKeepsOthersOnTheCanvas)
 {
-    for (const QSize& size : {QSize(0, 5), QSize(5, -1), QSize(1024, 1025), QSize(65536, 65536)})
+    for (const QSize& size : {QSize(0, 5), QSize(5, 0), QSize(1024, 1025), QSize(65536, 65536)})
         EXPECT_FALSE(layout.AddTile(Block(size.width(), size.height())));
     EXPECT_EQ(tiles.GetCount() + groups.GetDirectCount(), 0);
+    tiles.AddTile(new CTile);
+    EXPECT_FALSE(layout.AddTile(Block(1024, 1024))) << "one too many";
+    layout.ClearAllTiles();
 
     SAddTileInfo info = Block(2, 2);
     info.left = std::numeric_limits<int>::max() - 50;
@@ -114,6 +118,7 @@ TEST_F(PortProjectTest, CardsAreWiredAsAPatternNumbersCabinets)
             tiles.AutoConnection(pattern, 0);
             ASSERT_TRUE(info.SetCards(cards, pattern) && info.multi);
             const QVector<QPoint> way = info.GetCards();
+            EXPECT_EQ(way.size(), tiles.GetCount());
             for (const CTile* tile : tiles)
                 EXPECT_EQ(way.value(tile->GetConnectionIndex()),
                           QPoint(tile->GetX() / 100, tile->GetY() / 50))
@@ -131,8 +136,15 @@ TEST_F(PortProjectTest, CardsAreWiredAsAPatternNumbersCabinets)
     EXPECT_EQ(info.GetCards().first(), QPoint(0, 0)) << "the end of the line";
     info.fixedLine = true;
     EXPECT_TRUE(info.SetCards(QSize(1, 1), AutoNumberRowsTopLeft));
-    EXPECT_TRUE(!info.multi && !info.fixedLine && line() == QByteArray(7, '\0'));
+    EXPECT_TRUE(!info.multi && !info.fixedLine && info.ordered && line() == QByteArray(7, '\0'));
     EXPECT_EQ(info.GetCards(), QVector<QPoint>{QPoint()});
+    info.multiSize = QSize(2, 2);
+    EXPECT_EQ(info.GetCards().size(), 1) << "not a cabinet of several";
+    EXPECT_TRUE(info.SetCards(QSize(1, 2), AutoNumberRowsTopLeft) && info.multi);
+    for (const auto& [cards, count] : {std::pair(QSize(5, 2), 10), {QSize(4, 4), 10}, {QSize(0, 2), 1}}) {
+        info.multiSize = cards; // as a host may set it
+        EXPECT_EQ(info.GetCards().size(), count);
+    }
 }
 
 TEST_F(PortProjectTest, CopiesAreEqualAndStandAlone)
@@ -149,6 +161,28 @@ TEST_F(PortProjectTest, CopiesAreEqualAndStandAlone)
     EXPECT_NE(copy, layout);
 }
 
+TEST_F(PortProjectTest, LayoutsFreeWhatTheyHoldAndHandItOverOnce)
+{
+    using CountedGroup = Counted<CTileGroup>;
+    auto other = std::make_unique<CPortProject>();
+    for (CPortProject* project : {&layout, other.get()}) {
+        Add(*project->GetTileSet(), QRect(0, 0, 100, 100));
+        project->GetTileGroupSet()->AddGroup(new CountedGroup, true);
+    }
+    const CTile* tile = other->GetTileSet()->GetTile(0);
+    const CTileGroup* group = other->GetTileGroupSet()->GetDirectGroupByDirIndex(0);
+    layout.TakeFrom(*other);
+    EXPECT_TRUE(Tile(0) == tile && groups.GetDirectGroupByDirIndex(0) == group);
+    EXPECT_TRUE(CountedTile::alive == 1 && CountedGroup::alive == 1) << "what was there before is gone";
+    EXPECT_TRUE(*other == CPortProject() && other->GetTileGroupSet()->GetDirectCount() == 0);
+    Add(*other->GetTileSet(), QRect(0, 0, 100, 100));
+    other->GetTileGroupSet()->AddGroup(new CountedGroup, true);
+    other.reset();
+    EXPECT_TRUE(CountedTile::alive == 1 && CountedGroup::alive == 1);
+    layout.ClearAllTiles();
+    EXPECT_EQ(CountedTile::alive + CountedGroup::alive + groups.GetDirectCount(), 0);
+}
+
 TEST_F(PortProjectTest, DeletingTheSelectionTakesSelectedGroupsAtEveryDepth)
 {
     QList<QUuid> ids;
@@ -156,6 +190,7 @@ TEST_F(PortProjectTest, DeletingTheSelectionTakesSelectedGroupsAtEveryDepth)
         ids.append(MakeWall(port, 2, 1));
     NestGroups(port, ids[2], {ids[0], ids[1]});
     layout.CancelAllSelected();
+    EXPECT_FALSE(Tile(7)->IsSelected(kView) || groups.GetDirectGroupByDirID(ids[3])->IsSelected(kView));
     groups.GetSubGroupBySubID(ids[0])->SetSelected(kView, true);
     groups.GetDirectGroupByDirID(ids[3])->SetSelected(kView, true);
     const QList<CTile*> staying{Tile(2), Tile(3), Tile(5)};
@@ -250,6 +285,7 @@ TEST_F(PortProjectTest, TheRotationCentreGoesToTheOneTileOrTheOneGroup)
     EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetRotateParam()->centerX, 128);
     layout.ChangeRotateCenter(QPointF(5, 6), tiles);
     EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetRotateParam()->centerX, 5);
+    EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetRotateParam()->centerY, 6);
     EXPECT_EQ(Tile(0)->GetRotateRecord().centerX, 64);
     MakeWall(port, 2, 1);
     layout.ChangeRotateCenter(QPointF(9, 9), tiles);
@@ -266,6 +302,16 @@ TEST_F(PortProjectTest, AQuarterTurnMovesTilesAboutTheGivenCentre)
     EXPECT_EQ(Tile(1)->GetRotateRecord().centerY, 75);
     EXPECT_TRUE(Tile(1)->GetRotateRecord().rotated);
     EXPECT_EQ(*groups.GetDirectGroupByDirIndex(0)->GetRotateParam(), record);
+
+    const CPortProject before = layout;
+    const double none = std::numeric_limits<double>::quiet_NaN();
+    const SRotateParam noX = Rotation(90, none, 25);
+    const SRotateParam noY = Rotation(90, 100, none);
+    layout.SetTileGroupRotateParam(nullptr, tiles, 90);
+    layout.SetTileGroupRotateParam(&record, tiles, none);
+    layout.SetTileGroupRotateParam(&noX, tiles, 90);
+    layout.SetTileGroupRotateParam(&noY, tiles, 90);
+    EXPECT_EQ(layout, before) << "no angle or no centre";
 
     layout.SetTileGroupRotateParam(&record, tiles, 180);
     EXPECT_EQ(Tile(1)->GetRotateRecord().angle, -90);
@@ -303,6 +349,7 @@ TEST_F(PortProjectTest, TilesTurnAsTheyShowWhateverTheirOwnCentreIs)
     Tile(0)->GetTileRotateParam()->angle = 30;
     Tile(0)->GetTileRotateParam()->rotated = true;
     Tile(1)->SetWidth(300);
+    Tile(1)->SetHeight(90);
 
     const SRotateParam turn = Rotation(60, 1200, 1100);
     for (const int index : {0, 1}) {
@@ -326,7 +373,20 @@ TEST_F(PortProjectTest, OnlyAWholeRegularBlockMayBeChanged)
     EXPECT_TRUE(layout.SelTileCountModifyEnable());
     EXPECT_FALSE(layout.SelTileShapeModifyEnable());
 
-    const QUuid group = MakeWall(port, 3, 2);
+    auto* alone = new CTileGroup; // a group of one, which has no size
+    groups.AddGroup(alone, true);
+    Tile(0)->SetGroupId(alone->GetID());
+    Tile(0)->SetWidth(0);
+    Tile(0)->SetHeight(0);
+    EXPECT_TRUE(layout.SelTileCountModifyEnable() && !layout.SelTileShapeModifyEnable());
+    EXPECT_EQ(Tile(0)->GetSize(), QSize(1, 1));
+    layout.ClearAllTiles();
+    MakeWall(port, {2, 1, QSize(1, 1)});
+    EXPECT_TRUE(layout.SelTileCountModifyEnable() && layout.SelTileShapeModifyEnable());
+    layout.ClearAllTiles();
+    MakeWall(port, 1, 1);
+
+    const QUuid group = MakeWall(port, {3, 2, QSize(128, 64), QPoint(300, 200)});
     const CPortProject before(layout);
     const std::function<void()> changes[] = {
         [&] { Tile(1)->SetSelected(false, kView, -1); }, // not the whole group
@@ -338,9 +398,18 @@ TEST_F(PortProjectTest, OnlyAWholeRegularBlockMayBeChanged)
             Tile(2)->SetWidth(64);
             Tile(5)->SetWidth(64);
         },
-        [&] { // no room in a cell
+        [&] { tiles.DeteleTile(5); }, // a hole
+        [&] {                         // no room in a cell
             for (CTile* tile : Tiles({1, 2, 3, 4, 5, 6}))
                 tile->SetHeight(-64);
+        },
+        [&] { // so far apart that the cells are more than can be counted
+            for (CTile* tile : Tiles({1, 2, 3, 4, 5, 6})) {
+                tile->SetWidth(1);
+                tile->SetHeight(1);
+            }
+            Tile(1)->Offset(std::numeric_limits<int>::min(), std::numeric_limits<int>::min());
+            Tile(2)->Offset(std::numeric_limits<int>::max(), std::numeric_limits<int>::max());
         },
         [&] { // a group below
             groups.GetDirectGroupByDirID(group)->GetSubGroupSet()->AddGroup(new CTileGroup, true);

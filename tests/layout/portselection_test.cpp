@@ -120,3 +120,74 @@ TEST_F(PortSelectionTest, CopiesHaveGroupsOfTheirOwnAndNoNumbers)
     EXPECT_EQ(group.GetRotateParam()->leftTopX, 5);
     EXPECT_TRUE(other.GetTileSet().GetTile(5)->GetGroupId().isNull()) << "its group was taken in part";
 }
+
+TEST_F(PortSelectionTest, WhatHappensToAGroupHappensToThoseInside)
+{
+    const QUuid left = Group(0).GetID();
+    const QUuid right = Group(1).GetID();
+    Select({0, 1, 2, 3, 4, 5, 6, 7});
+    EXPECT_EQ(selection.GetWholeGroups().size(), 2);
+    ASSERT_EQ(selection.Group(), CPortSelection::Grouped::Done);
+    CTileGroup& outer = Group(0); // it has no cabinets of its own
+    CTileGroup& inner = *GroupsOf(port).GetSubGroupBySubID(right);
+    EXPECT_EQ(selection.GetWholeGroups(), QList<CTileGroup*>{&outer});
+    EXPECT_EQ(QPointF(outer.GetRotateParam()->leftTopX, outer.GetRotateParam()->leftTopY), QPointF(0, 0));
+
+    selection.Offset(10, 20);
+    EXPECT_EQ(QPointF(inner.GetRotateParam()->leftTopX, inner.GetRotateParam()->leftTopY), QPointF(310, 20));
+    EXPECT_EQ(QPointF(inner.GetRotateParam()->centerX, inner.GetRotateParam()->centerY), QPointF(410, 70));
+    Tile(7).SetHeight(90);
+    selection.TakeSizes();
+    EXPECT_TRUE(inner.GetRotateParam()->height == 140 && outer.GetRotateParam()->height == 140);
+    EXPECT_EQ(QPointF(outer.GetRotateParam()->leftTopX, outer.GetRotateParam()->leftTopY), QPointF(10, 20));
+    EXPECT_EQ(outer.GetRotateParam()->width, 500);
+    selection.Turn(Rotation(90, 410, 0));
+    EXPECT_EQ(QPointF(inner.GetRotateParam()->centerX, inner.GetRotateParam()->centerY), QPointF(320, 0));
+    EXPECT_TRUE(inner.IsRotated());
+    selection.Turn(Rotation(120, 410, 0));
+    EXPECT_NEAR(outer.GetRotateParam()->angle, -150, 1e-6);
+    selection.Turn(Rotation(150, 410, 0));
+    EXPECT_FALSE(outer.IsRotated() || inner.IsRotated());
+
+    Select({4, 5, 6, 7});
+    EXPECT_EQ(selection.GetWholeGroups(), QList<CTileGroup*>{&inner});
+    CPortProject copies;
+    selection.CopyTo(copies);
+    const CTileGroup& copy = *copies.GetTileGroupSet()->GetDirectGroupByDirIndex(0);
+    EXPECT_TRUE(copy.GetParentGroupID().isNull() && copies.GetTileSet()->GetTile(0)->GetBeginRcvCnnt() == -1);
+    copies.CancelAllSelected();
+    for (const int count : {3, 4}) { // what is pasted does not change
+        selection.Paste(copies, 1000, 0);
+        const CTileGroup& pasted = Group(count - 2);
+        EXPECT_EQ(pasted.GetRotateParam()->centerX, copy.GetRotateParam()->centerX + 1000);
+        EXPECT_TRUE(port.GetTileSet().GetTile(4 * count)->IsSelected(kView));
+    }
+    Select({0});
+    EXPECT_TRUE(selection.Ungroup() && GroupsOf(port).GetDirectGroupByDirID(left));
+}
+
+TEST_F(PortSelectionTest, CabinetsTurnAboutTheirPresentMiddle)
+{
+    const SRotateParam before = *Group(0).GetRotateParam();
+    delete GroupsOf(port).RemoveDirectGroup(1);
+    Select({0, 1});
+    selection.Turn(Rotation(90, 50, 50));
+    EXPECT_EQ(*Group(0).GetRotateParam(), before) << "a part of the port's only group";
+
+    Select({8});
+    Tile(8).SetWidth(60);
+    Tile(8).SetHeight(80);
+    for (const double angle : {30.0, 30.0, 70.0, 0.0}) {
+        selection.TurnEachTo(angle);
+        const SRotateParam& record = Tile(8).GetRotateRecord();
+        EXPECT_NEAR(record.angle, angle, 1e-6);
+        EXPECT_NEAR(record.centerX, 630, 1e-6);
+        EXPECT_NEAR(record.centerY, 40, 1e-6);
+    }
+    selection.TurnEachTo(30);
+    Tile(8).SetWidth(70);
+    Tile(8).SetHeight(90);
+    selection.TakeSizes();
+    EXPECT_TRUE(Tile(8).GetRotateRecord().width == 70 && Tile(8).GetRotateRecord().height == 90);
+    EXPECT_NEAR(Tile(8).GetRotateRecord().centerX, 630, 1e-6) << "a turned one keeps its centre";
+}

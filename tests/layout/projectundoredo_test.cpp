@@ -243,6 +243,10 @@ TEST_F(ProjectUndoRedoTest, OnlyChangedLayoutsAreRecorded)
     for (const int x : {9, Tile(0).GetX()})
         Tile(0).SetX(x);
     EXPECT_FALSE(history.AddOneStep(Step::OperationAlign)) << "it is back where it was";
+    SRotateParam record = Tile(0).GetRotateRecord();
+    record.centerX += 0.3;
+    Tile(0).SetTileRotateParam(&record);
+    EXPECT_FALSE(history.AddOneStep(Step::OperationRotate)) << "a rounded record is no change";
 
     const QUuid parent = GroupsOf(Port(0)).GetDirectGroupByDirIndex(0)->GetID();
     const QUuid child = MakeWall(Port(0), 2, 1);
@@ -287,6 +291,7 @@ TEST_F(ProjectUndoRedoTest, CabinetsKeepTheirAddressAndViewStateWhereNothingChan
     SRotateParam* record = Tile(0, 2).GetTileRotateParam();
     for (CTile* tile : {&Tile(0, 0), moved}) {
         tile->SetTileShowColor(Qt::red);
+        tile->SetTileGamutStatus(3);
         tile->SetRcvSelected(0, true);
     }
     history.Init();
@@ -297,7 +302,47 @@ TEST_F(ProjectUndoRedoTest, CabinetsKeepTheirAddressAndViewStateWhereNothingChan
     EXPECT_TRUE(TilesOf(Port(0)).GetCount() == 4 && &Tile(0, 1) == moved && moved->GetX() == 128);
     EXPECT_TRUE(Tile(0, 0).GetTileShowColor() == Qt::red && Tile(0, 0).IsRcvSelected(0));
     EXPECT_FALSE(moved->GetTileShowColor().isValid() || moved->IsRcvSelected(0));
+    EXPECT_TRUE(moved->GetTileGamutStatus() == 0 && Tile(0, 0).GetTileGamutStatus() == 3);
     EXPECT_TRUE(record->angle == 0 && record == Tile(0, 2).GetTileRotateParam()) << "it stays right";
+}
+
+TEST_F(ProjectUndoRedoTest, GroupsComeBackAsTheyWere)
+{
+    const QUuid outer = GroupsOf(Port(0)).GetDirectGroupByDirIndex(0)->GetID();
+    const QUuid inner = MakeWall(Port(0), 2, 1);
+    NestGroups(Port(0), outer, {inner});
+    auto* twin = new CTileGroup(*GroupsOf(Port(0)).GetSubGroupBySubID(inner)); // as a damaged file may hold
+    twin->SetSelected(3, false);
+    twin->GetRotateParam()->angle = 45;
+    GroupsOf(Port(0)).AddGroup(twin, true);
+    const auto groups = [this] {
+        QList<CTileGroup*> all;
+        GroupsOf(Port(0)).GetGroupListRecursive(all);
+        std::vector<CTileGroup> copies;
+        for (const CTileGroup* group : qAsConst(all)) {
+            copies.push_back(*group);
+            copies.back().GetSubGroupSet()->DeleteAll();
+        }
+        return copies;
+    };
+    const auto before = groups();
+    history.Init();
+    Port(0).GetPortProject()->ClearAllTiles();
+    EXPECT_TRUE(history.AddOneStep(Step::OperationClear) && groups().empty() && Undo());
+    EXPECT_EQ(before.size(), 3U);
+    EXPECT_TRUE(groups() == before);
+}
+
+TEST_F(ProjectUndoRedoTest, AWriteBehindAPointerIsNoticedHoweverTheListChangedBefore)
+{
+    EXPECT_TRUE(Edit());
+    auto* tile = new CTile;
+    SRotateParam* record = tile->GetTileRotateParam();
+    TilesOf(Port(0)).AddTile(tile);
+    EXPECT_TRUE(history.AddOneStep(Step::OperationAddTiles));
+    record->angle = 45;
+    EXPECT_TRUE(history.AddOneStep(Step::OperationRotate) && Undo());
+    EXPECT_EQ(record->angle, 0);
 }
 
 TEST_F(ProjectUndoRedoTest, CabinetListedTwiceBecomesTwoWhenTwoWereRecorded)
@@ -356,9 +401,9 @@ TEST_F(ProjectUndoRedoTest, HiddenPortsTakePartWhereTheHostWantsThat)
 TEST_F(ProjectUndoRedoTest, AStepHoldsWhosePortItIs)
 {
     const QUuid owner = Port(3).GetSenderId();
-    Port(3).SetSenderIdAndPortIndex(QUuid(), 3);
-    EXPECT_TRUE(Edit() && Undo() && Port(3).GetSenderId() == owner);
-    EXPECT_TRUE(Redo() && Port(3).GetSenderId().isNull());
+    Port(3).SetSenderIdAndPortIndex(QUuid(), 7);
+    EXPECT_TRUE(Edit() && Undo() && Port(3).GetSenderId() == owner && Port(3).GetPortIndex() == 3);
+    EXPECT_TRUE(Redo() && Port(3).GetSenderId().isNull() && Port(3).GetPortIndex() == 7);
     Port(3).SetBeBackupDest(owner, 1);
     EXPECT_TRUE(Edit() && Undo() && TilesOf(Port(3)).GetCount() == 0);
     EXPECT_TRUE(Redo() && TilesOf(Port(3)).GetCount() == 4);
@@ -389,6 +434,42 @@ TEST_F(ProjectUndoRedoTest, UndoTellsThePortsOfTheStepsAndShowsTheSecond)
         EXPECT_TRUE(history.GetUndoStepPort(steps) == -1 && history.GetRedoStepPort(steps) == -1);
     }
     EXPECT_EQ(history.GetCurSenderCurStep(), 2);
+}
+
+TEST_F(ProjectUndoRedoTest, StepsAreCountedAndNamedBothWays)
+{
+    const Step::VIEW_OPERATION_TYPE types[] = {Step::OperationMoveTiles, Step::OperationAlign,
+                                               Step::OperationRotate};
+    for (const int port : {1, 2, 3}) {
+        Tile(port).SetX(++place);
+        Sender().SetRecentPortIndex(port);
+        EXPECT_TRUE(history.AddOneStep(types[port - 1]));
+    }
+    int ports[] = {0, 0, 0};
+    int count = 3;
+    EXPECT_TRUE(history.Undo(1, ports, &count));
+    EXPECT_TRUE(count == 2 && ports[0] == 2 && ports[1] == 3 && Sender().GetRecentPortIndex() == 3);
+    EXPECT_TRUE(history.GetCanUndoStep() == 2 && history.GetCanRedoStep() == 1);
+    EXPECT_TRUE(history.GetUndoStepType(0) == types[1] && history.GetRedoStepType(0) == types[1]);
+    EXPECT_TRUE(history.GetUndoStepType(1) == types[0] && history.GetRedoStepType(1) == types[2]);
+    EXPECT_TRUE(history.GetUndoStepPort(1) == 1 && history.GetRedoStepPort(1) == 3);
+    EXPECT_TRUE(history.GetUndoStepPort(2) == 0 && history.GetRedoStepPort(2) == -1);
+    EXPECT_TRUE(Redo() && Edit(3));
+    count = 3;
+    ports[1] = 0;
+    EXPECT_TRUE(history.Undo(1, ports, &count));
+    EXPECT_TRUE(count == 1 && ports[0] == 3 && Sender().GetRecentPortIndex() == 3) << "both on one port";
+
+    history.Release();
+    EXPECT_FALSE(Undo(0) || Redo(0) || Undo(1));
+    EXPECT_TRUE(history.GetCanUndoStep() == 0 && history.GetCanRedoStep() == 0);
+    EXPECT_EQ(history.GetCurSenderCurStep(), -1);
+    const QUuid gone = Sender().GetId();
+    EXPECT_TRUE(history.SenderUndoRedoInit(&Sender()));
+    lookup.senders.clear();
+    EXPECT_FALSE(history.AddOneStep(Step::OperationAlign) || Undo(0)) << "no sender is current";
+    EXPECT_TRUE(history.GetSenderUndoRedoFromID(gone) && history.Init());
+    EXPECT_FALSE(history.GetSenderUndoRedoFromID(gone));
 }
 
 TEST_F(ProjectUndoRedoTest, AHistoryThatAnEditStartedIsModified)

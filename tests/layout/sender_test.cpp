@@ -37,6 +37,7 @@ TEST(SenderTest, ACopyTakesThePortsWithTheirViewAndTheParameters)
     const auto source = MakeWall(2, 2, 3);
     source->SetMonitorRenderArea(QRect(6, 7, 8, 9));
     source->SetMonitorRcvOffsetPt(QPoint(11, 12));
+    source->SetMonitorRenderRelativePos(3);
     CPort& port = *source->GetPort(159);
     port.SetBeBackupDest(source->GetId(), 1);
     port.SetFlagLock(true);
@@ -52,14 +53,15 @@ TEST(SenderTest, ACopyTakesThePortsWithTheirViewAndTheParameters)
     for (int i = 0; i < kMaxPorts; ++i)
         EXPECT_TRUE(copy.GetPort(i)->BeSameAs(*source->GetPort(i))) << i;
     EXPECT_EQ(copy.GetMonitorRenderArea(), QRect(6, 7, 8, 9));
+    EXPECT_EQ(copy.GetMonitorRenderRelativePos(), 3);
     copy.ResetMonitorRenderParam(false);
-    EXPECT_EQ(copy.GetMonitorRenderArea(), QRect());
+    EXPECT_TRUE(copy.GetMonitorRenderArea() == QRect() && copy.GetMonitorRenderRelativePos() == 0);
     EXPECT_EQ(copy.GetMonitorRcvOffsetPt(), QPoint(11, 12));
     copy.ResetMonitorRenderParam(true);
     EXPECT_EQ(copy.GetMonitorRcvOffsetPt(), QPoint());
 
     CSender layoutOnly;
-    layoutOnly.LayoutCopy(*source);
+    EXPECT_TRUE(layoutOnly.LayoutCopy(*source));
     EXPECT_EQ(*layoutOnly.GetPort(2)->GetPortProject(), *source->GetPort(2)->GetPortProject());
     EXPECT_FALSE(layoutOnly.GetPort(159)->IsBackupDest());
 }
@@ -81,12 +83,15 @@ TEST(SenderTest, TheFirstBackupInUseTellsWhetherItIsASelfBackup)
 TEST(SenderTest, TheOffsetNeverStartsTheLayoutBeforeTheCanvas)
 {
     EXPECT_FALSE(CSender::IsOffsetToZero());
-    CSender::OffsetToZero(true);
-    EXPECT_TRUE(CSender::IsOffsetToZero());
-    CSender::OffsetToZero(false);
-    EXPECT_FALSE(CSender::IsOffsetToZero());
     CSender sender;
     EXPECT_EQ(sender.GetBound(), QRect(QPoint(0, 0), QPoint(-1, -1)));
+    CSender flat;
+    MakeWall(*flat.GetPort(0), {1, 1, QSize(0, 64)});
+    for (CSender* without : {&sender, &flat}) {
+        without->SetOffset(QSize(-7, -8));
+        without->OffsetValid();
+        EXPECT_EQ(without->GetOffset(), QSize(-7, -8)) << "nothing to be seen";
+    }
     MakeWall(*sender.GetPort(3), {1, 1, QSize(128, 64), QPoint(0, 5)});
     TilesOf(*sender.GetPort(3)).SetOffset(-30, 0);
     sender.SetOffset(QSize(10, 0));
@@ -109,7 +114,10 @@ TEST(SenderTest, ASelectionOnSeveralPortsIsNoticed)
     TilesOf(*sender->GetPort(2)).UnSelectAll(3);
     EXPECT_FALSE(sender->IsSelectMultiPortTile(-1) || sender->IsSelectMultiPortTile(0));
     EXPECT_TRUE(sender->IsSelectMultiPortTile(1));
-    EXPECT_FALSE(CSender().IsSelectMultiPortTile(0)) << "nothing is selected";
+    for (const int port : {-1, 0})
+        EXPECT_FALSE(CSender().IsSelectMultiPortTile(port)) << "nothing is selected";
+    TilesOf(*sender->GetPort(0)).GetTile(0)->SetSelected(false, 3, -1);
+    EXPECT_FALSE(sender->IsSelectMultiPortTile(-1)) << "one cabinet";
 }
 
 TEST(SenderTest, GroupOperationsWorkOnAllPortsInUse)
@@ -158,6 +166,14 @@ TEST(SenderTest, AskingForTheGroupsAgainDeletesOnlyStrangers)
     EXPECT_EQ(out.GetDirectCount(), 2);
     EXPECT_TRUE(other->GetTileGroupSet(out));
     EXPECT_EQ(out.GetDirectCount(), 1);
+    CTileGroupSet one;
+    one.AddGroup(new CountedGroup, true);
+    EXPECT_TRUE(other->GetTileGroupSet(one));
+    EXPECT_EQ(CountedGroup::alive, 0);
+    CSender unlisted; // its own groups are no strangers
+    GroupsOf(*unlisted.GetPort(0)).AddGroup(new CountedGroup, true);
+    EXPECT_TRUE(unlisted.GetTileGroupSet(one) && unlisted.GetTileGroupSet(one));
+    EXPECT_EQ(CountedGroup::alive, 1);
     EXPECT_FALSE(sender->GetTileGroupSet(GroupsOf(*sender->GetPort(0))));
     EXPECT_EQ(GroupsOf(*sender->GetPort(0)).GetDirectCount(), 1);
 }

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
 
 namespace {
 
@@ -36,6 +37,8 @@ TEST(TileTest, PlaceIsClampedToTheCanvasByThePresentSize)
     CTile tile;
     Place(tile, QRect(0, 0, 200, 100));
     const int cases[][3] = {{-5, 0, 0},
+                            {-1, 0, 0},
+                            {0, 0, 0},
                             {16383, 16383, 16383},
                             {16384, 16384, 16284},
                             {32767, 32767, 16284},
@@ -104,6 +107,7 @@ TEST(TileTest, EveryFieldCountsInComparisonAndWritingItLeavesCopiesAlone)
 TEST(TileTest, ViewStateIsNeitherCopiedNorCompared)
 {
     CTile tile = FourCards();
+    EXPECT_EQ(CTile().GetTileShowColor(), QColor(160, 163, 173, 200));
     tile.SetTileShowColor(Qt::red);
     tile.SetTileGamutStatus(3);
     tile.SetRcvSelected(2, true);
@@ -148,6 +152,11 @@ TEST(TileTest, FlagsFollowTheProductAndEachOther)
     EXPECT_TRUE(tile.IsMultiRcvTile() && tile.IsMultiRcvsOrdered());
     tile.SetType(TypeOf('b'));
     EXPECT_FALSE(tile.IsMultiRcvTile() || tile.IsMultiRcvsOrdered());
+    EXPECT_EQ(tile.GetType(), TypeOf('b'));
+    lookup.product = {};
+    tile.SetType(TypeOf('a'));
+    EXPECT_FALSE(tile.IsMultiRcvTile() || tile.IsMultiRcvsOrdered());
+    EXPECT_EQ(tile.GetType(), TypeOf('a'));
 
     tile = FourCards();
     tile.SetBeMultiFixedLine(true);
@@ -156,6 +165,23 @@ TEST(TileTest, FlagsFollowTheProductAndEachOther)
     tile.SetBeMultiRcvsTile(false);
     tile.SetBeMultiFixedLine(true);
     EXPECT_FALSE(tile.IsMultiRcvsOrdered() || tile.IsMultiFixedLine()) << "that needs several cards";
+}
+
+TEST(TileTest, CardsAreCountedWhereTheirGridIsOne)
+{
+    constexpr int most = std::numeric_limits<int>::max();
+    CTile tile;
+    for (const auto& [grid, count] : {std::pair(QSize(0, 5), 0),
+                                      {QSize(-1, -1), 0},
+                                      {QSize(2, -3), 0},
+                                      {QSize(65536, 65536), 0},
+                                      {QSize(most, 1), most}}) {
+        tile.SetMultiRcvsSize(grid);
+        EXPECT_EQ(tile.GetMultiRcvsCount(), count) << grid.width() << ' ' << grid.height();
+    }
+    EXPECT_TRUE(tile.IsTileVisible());
+    tile.SetTileVisible(false);
+    EXPECT_FALSE(tile.IsTileVisible());
 }
 
 TEST(TileTest, ViewsKeepSelectionsOfTheirOwn)
@@ -252,6 +278,8 @@ TEST(TileTest, TurnedTileIsBoundedByItsCornersWhileRotationIsEnabled)
     lookup.rotateEnabled = true;
     EXPECT_EQ(tile.GetBound(), QRect(25, -25, 50, 100));
     EXPECT_EQ(tile.GetCenter(), QPoint(50, 25));
+    Turn(tile, 30, 50, 25);
+    EXPECT_LE((tile.GetCenter() - QPoint(50, 25)).manhattanLength(), 2);
     Turn(tile, 90, 0, 0); // about its own left-top corner
     EXPECT_EQ(tile.GetBound(), QRect(-50, 0, 50, 100));
     EXPECT_EQ(tile.GetCenter(), QPoint(-25, 50));

@@ -128,12 +128,21 @@ TEST_F(TileGroupTest, GroupsAreFoundAtTheirLevel)
     EXPECT_EQ(m_set.RemoveDirectGroup(m_deep->GetID()), nullptr);
     EXPECT_FALSE(m_first->HasAnySubGroupInArray({m_last->GetID()}));
     EXPECT_TRUE(m_first->HasAnySubGroupInArray({m_last->GetID(), m_deep->GetID()}));
+    EXPECT_TRUE(m_first->HasAnySubGroupInArray({m_first->GetID()}));
+    QMap<QUuid, CTileGroup*> byId;
+    m_set.GetGroupListRecursive(byId);
+    EXPECT_EQ(byId.size(), 4);
+    EXPECT_TRUE(byId.value(m_deep->GetID()) == m_deep && byId.value(m_last->GetID()) == m_last);
     QList<CTileGroup*> list{m_last};
     EXPECT_EQ(m_set.GetGroupListRecursive(list), 4);
     EXPECT_EQ(list, (QList<CTileGroup*>{m_last, m_first, m_below, m_deep, m_last}));
 
     CTileGroup twin(*m_deep);
     EXPECT_FALSE(m_set.AddGroup(&twin, false)) << "its id is in the tree";
+    EXPECT_FALSE(m_set.AddGroup(nullptr, true));
+    twin.SetID(QUuid::createUuid());
+    EXPECT_TRUE(m_set.AddGroup(&twin, false));
+    EXPECT_EQ(m_set.RemoveDirectGroup(2), &twin);
 }
 
 TEST_F(TileGroupTest, AncestorsAreListedOnceFromTheGroupUp)

@@ -25,24 +25,12 @@ TEST(MonitorDetectDataTest, ReceiversAreFoundByPlaceAndByOrderOfDetection)
     data.AddRcvData(0, -1, 0, &record);
     data.AddRcvData(0, 0, -1, &record);
     EXPECT_EQ(data.GetRcvDataCount(), 3);
-}
-
-TEST(MonitorDetectDataTest, SendersAreFoundAndEmptiedWithTheRest)
-{
-    CMonitorDetectData data;
-    SDetectSenderData record;
-    record.fanSpeed = 900;
-    data.AddSenderData(2, &record);
-    data.AddSenderData(2, nullptr);
-    SDetectReceiverData receiver;
-    data.AddRcvData(2, 0, 0, &receiver);
-    data.SetStarLink(true);
-    ASSERT_NE(data.GetSenderData(2), nullptr);
-    EXPECT_EQ(data.GetSenderData(2)->fanSpeed, 900);
-    EXPECT_EQ(data.GetSenderData(0), nullptr);
+    const SDetectSenderData sender;
+    data.AddSenderData(2, &sender);
+    data.AddSenderData(3, nullptr);
+    EXPECT_TRUE(data.GetSenderData(2) && !data.GetSenderData(3));
     data.SetToDefault();
-    EXPECT_FALSE(data.GetSenderData(2) || data.GetRcvData(2, 0, 0) || data.IsStarLink());
-    EXPECT_EQ(data.GetRcvDataCount() + data.GetRcvDataCount(2, 0), 0);
+    EXPECT_TRUE(!data.GetSenderData(2) && data.GetRcvDataCount() == 0);
 }
 
 TEST(MonitorDetectDataTest, RecordStaysInReachWhileACopyChangesAndGoes)

@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
-#include <iterator>
 
 TEST(MonitorInterfaceDataTest, VideoDefaultsKeepSenderChecksAndDropReceiverChecks)
 {
@@ -30,58 +28,35 @@ TEST(MonitorInterfaceDataTest, VideoDefaultsKeepSenderChecksAndDropReceiverCheck
 
 TEST(MonitorInterfaceDataTest, OneDifferentMemberMakesUnequal)
 {
-    struct Settings
-    {
-        SSenderSetting sender;
-        SLineSetting line;
-        SRecevierSetting receiver;
-        SEmailSetting mail;
-        int interval = 10;
-    };
-    const auto all = [](const Settings& settings) {
-        CMonitorInterfaceData data;
-        data.SetSenderSetting(settings.sender);
-        data.SetLineSetting(settings.line);
-        data.SetReceiverSetting(settings.receiver);
-        data.SetMailSetting(settings.mail);
-        data.SetIntervalTime(settings.interval);
-        return data;
-    };
-    const auto make = [] {
-        Settings settings;
-        settings.sender.videoInputs = {{1, 2, 3, true}};
-        settings.mail.receivers = {{"ann@example.test"_s, "Ann"_s}};
-        return settings;
-    };
-    const Settings base = make();
-    const std::function<void(Settings&)> changes[] = {
-        [](Settings& s) { s.sender.videoUnmatch = false; },
-        [](Settings& s) { s.sender.freeze = false; },
-        [](Settings& s) { s.sender.blackout = false; },
-        [](Settings& s) { s.sender.brightnessZero = false; },
-        [](Settings& s) { s.sender.videoInputs[0].slot = 9; },
-        [](Settings& s) { s.sender.videoInputs[0].sourceType = 9; },
-        [](Settings& s) { s.sender.videoInputs[0].sourceIndex = 9; },
-        [](Settings& s) { s.sender.videoInputs[0].enable = false; },
-        [](Settings& s) { s.line.cableError = true; },
-        [](Settings& s) { s.line.selfBackup = false; },
-        [](Settings& s) { s.receiver.temperatureEnable = 0; },
-        [](Settings& s) { s.receiver.cableDetection = 1; },
-        [](Settings& s) { s.receiver.power[0] = false; },
-        [](Settings& s) { s.receiver.power[4] = false; },
-        [](Settings& s) { s.receiver.voltage[0].enable = 1; },
-        [](Settings& s) { s.receiver.voltage[3].maximum = 12.5; },
-        [](Settings& s) { s.mail.notifyRecovery = false; },
-        [](Settings& s) { s.mail.receivers[0].address.clear(); },
-        [](Settings& s) { s.mail.receivers[0].name.clear(); },
-        [](Settings& s) { s.interval = 11; },
-    };
-    EXPECT_FALSE(all(base) != all(make()));
-    for (size_t i = 0; i < std::size(changes); ++i) {
-        Settings other = base;
-        changes[i](other);
-        EXPECT_TRUE(all(base) != all(other)) << i;
-    }
+    const SVideoInput input = {1, 2, 3, true};
+    for (const SVideoInput& other :
+         {SVideoInput{9, 2, 3, true}, {1, 9, 3, true}, {1, 2, 9, true}, {1, 2, 3, false}})
+        EXPECT_FALSE(input == other);
+    for (const SSenderSetting& other : {SSenderSetting{false, true, true, true, {}},
+                                        {true, false, true, true, {}},
+                                        {true, true, false, true, {}},
+                                        {true, true, true, false, {}},
+                                        {true, true, true, true, {input}}})
+        EXPECT_FALSE(SSenderSetting() == other);
+    EXPECT_FALSE((SLineSetting{true, true}) == SLineSetting()
+                 || (SLineSetting{false, false}) == SLineSetting());
+    const SMailReceiver ann = {"ann@example.test"_s, "Ann"_s};
+    EXPECT_TRUE((ann == SMailReceiver{"ann@example.test"_s, "Ann"_s}));
+    EXPECT_FALSE((ann == SMailReceiver{QString(), "Ann"_s} || ann == SMailReceiver{ann.address, QString()}));
+
+    const CMonitorInterfaceData base;
+    CMonitorInterfaceData others[5];
+    others[0].SetSenderSetting({true, true, true, true, {input}});
+    others[1].SetLineSetting({true, true});
+    SRecevierSetting receiver;
+    receiver.voltage[3].maximum = 12.5;
+    others[2].SetReceiverSetting(receiver);
+    SEmailSetting mail;
+    mail.receivers = {ann};
+    others[3].SetMailSetting(mail);
+    others[4].SetIntervalTime(11);
+    for (const CMonitorInterfaceData& other : others)
+        EXPECT_TRUE(base != other && !(other != CMonitorInterfaceData(other)));
 }
 
 TEST(MonitorInterfaceDataTest, PollingNeverGoesBelowOneSecond)
