@@ -67,7 +67,7 @@ TEST(SenderParamsTest, ValuesOfAnInputAreApartFromThoseOfOthers)
         params.SetColorCurveEnable(true, slot, source);
         params.SetColorCurveAdjPoint(3, {QPointF(slot, source)}, slot, source);
         params.Set3DLUTEnable(true, slot, source);
-        params.Set3DLutStrength(slot + 0.5F, slot, source);
+        params.Set3DLutStrength(float(slot) + 0.5F, slot, source);
     }
     EXPECT_FALSE(params.GetColorCurveEnable(0, 0));
     EXPECT_EQ(params.GetColorCurveParams().size(), 4);
@@ -77,7 +77,7 @@ TEST(SenderParamsTest, ValuesOfAnInputAreApartFromThoseOfOthers)
         EXPECT_EQ(points, QList<QPointF>{QPointF(slot, source)});
         EXPECT_FALSE(params.GetColorCurveAdjPoint(4, points, slot, source) || !points.isEmpty());
         EXPECT_TRUE(params.GetColorCurveLock(slot, source) && params.Get3DLUTEnable(slot, source));
-        EXPECT_EQ(params.Get3DLUTStrength(slot, source), slot + 0.5F);
+        EXPECT_EQ(params.Get3DLUTStrength(slot, source), float(slot) + 0.5F);
     }
 }
 

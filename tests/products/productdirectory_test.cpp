@@ -1,4 +1,5 @@
 #include "products/productdirectory.h"
+#include "products/productdirectoryset.h"
 #include "support/text.h"
 
 #include <gtest/gtest.h>
@@ -82,7 +83,14 @@ TEST_F(ProductDirectoryTest, CopyOfAProductHoldsAllOfIt)
 TEST_F(ProductDirectoryTest, WhatLiesDeepIsDeletedFromAbove)
 {
     CProduct stranger;
+    auto* other = new CProductDirectory;
+    EXPECT_TRUE(root.AddSubProductDirectory(other));
+    other->AddProduct(NewProduct('d', "/root/other/fourth.rcvp"));
+    QStringList names;
+    CProductDirectorySet::GetAllProductName(names, &root);
+    EXPECT_EQ(names, (QStringList{"first.rcvp"_s, "二.v2.rcvbp"_s, "third.rcvp"_s, "fourth.rcvp"_s}));
     EXPECT_FALSE(root.DeleteProduct(&stranger));
+    EXPECT_TRUE(root.DeleteProduct(other->GetProducts().at(0)));
     EXPECT_TRUE(root.DeleteProduct(deep->GetProducts().at(0)));
     EXPECT_EQ(root.GetProductCount(), 2);
     EXPECT_TRUE(root.DeleteSubDir(deep));
