@@ -60,8 +60,6 @@ bool XmlCleaner::TakeAsReference(char c)
         if (c != '#')
             return false;
         m_part = Part::Hash;
-        m_hexadecimal = false;
-        m_zeros = 0;
         return true;
     case Part::Hash:
         if (c != 'x' && c != '0')

@@ -30,18 +30,16 @@ bool LoadXmlDom(const QString& path, QDomDocument& document, QString* error)
 
 bool ParseXmlDom(const QByteArray& content, QDomDocument& document, QString* error)
 {
-    QByteArray bytes = content;
-    QBuffer buffer(&bytes);
+    QBuffer buffer;
+    buffer.setData(content);
     buffer.open(QIODevice::ReadOnly);
     NodeCounter nodes;
     if (!ParseXml(buffer, nodes, error))
         return false;
     if (nodes.count > kMaxTreeNodes)
         return Fail(error, Texts::tr("文件中的元素过多。"));
-    buffer.close();
-
     QDomDocument tree;
-    if (!tree.setContent(bytes, false, error))
+    if (!tree.setContent(content, false, error))
         return false;
     document = tree;
     return true;

@@ -56,10 +56,8 @@ void XmlTagGuard::LookAt(char c)
     case Place::Aside:
         if (c == m_asideEnd[m_matched])
             ++m_matched;
-        else if (c != m_asideEnd[0])
+        else if (c != m_asideEnd[0]) // "--->" ends like "-->"
             m_matched = 0;
-        else if (m_asideEnd[m_matched + 1] != '\0') // else "--->" ends like "-->"
-            m_matched = 1;
         if (m_asideEnd[m_matched] == '\0')
             m_place = Place::Text;
         break;

@@ -68,7 +68,6 @@ void StreamXmlWriter::StartLine()
 {
     if (m_tagOpen)
         m_buffer.append(">\n");
-    m_tagOpen = false;
     m_buffer.append(m_open.size() * 4, ' ');
 }
 
@@ -79,7 +78,6 @@ void StreamXmlWriter::BeginElement(std::string_view name)
     m_buffer.append("<").append(name);
     m_open.emplace_back(name);
     m_tagOpen = true;
-    m_hasText = false;
     m_tagBegin = m_written + static_cast<qint64>(m_buffer.size());
 }
 
