@@ -29,6 +29,8 @@ TEST(FieldTextTest, NumbersReadAsQtReadsThemButAreFinite)
         EXPECT_EQ(Value(text, 7u), QString::fromLatin1(text).toUInt()) << text;
     for (const char* text : {"2.85", "1e3", "-.5", "abc", "5,5"})
         EXPECT_EQ(Value(text, 7.0), QString::fromLatin1(text).toDouble()) << text;
+    const QUuid id = QUuid::createUuid();
+    EXPECT_EQ(Value(" " + Text(id) + "\n", QUuid()), id);
     EXPECT_EQ(Value("nan", 7.0), 7.0);
     EXPECT_EQ(Value("inf", 7.0), 7.0);
     EXPECT_EQ(Value("1e300", 7.0f), 7.0f);

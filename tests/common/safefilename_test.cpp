@@ -10,6 +10,7 @@ TEST(SafeFileNameTest, LongNameIsCutBetweenCharacters)
     EXPECT_EQ(SafeFileName(letters + face, QString()), letters);
     EXPECT_EQ(SafeFileName(QLatin1Char('.') + letters + face, QString()), letters);
     EXPECT_EQ(SafeFileName(face.repeated(40), QString()), face.repeated(30));
+    EXPECT_EQ(SafeFileName("a"_s.repeated(130), QString()), "a"_s.repeated(kMaxFileNameBytes));
 }
 
 TEST(SafeFileNameTest, NothingLeadsOutOfTheFolderOrBreaksALine)

@@ -159,12 +159,17 @@ TEST_F(LimitsTest, DocumentThatNoReaderTakesIsNotKept)
     for (qint64 size = 0; size < kMaxXmlBytes; size += kMaxXmlText) {
         EXPECT_EQ(writer.GetRefusal(), QString());
         writer.BeginElement("b");
+        writer.Attribute("c", "d");
         writer.Text(text);
         writer.EndElement();
     }
     EXPECT_FALSE(writer.Flush());
     EXPECT_EQ(writer.GetRefusal(), DocumentTooLarge());
 
+    StreamXmlWriter longText(nowhere);
+    longText.BeginElement("Name");
+    longText.Text(text + 'x');
+    EXPECT_TRUE(longText.GetRefusal().contains("“Name”"_s));
     StreamXmlWriter longTag(nowhere);
     longTag.BeginElement("Sender_7");
     for (const char* name : {"a", "b", "c", "d", "e", "f"}) {

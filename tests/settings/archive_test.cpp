@@ -48,7 +48,13 @@ struct ArchiveTest : testing::Test
         return path;
     }
 
-    bool Unpack(const QString& path) { return UnpackArchive(path, folder.Path("in/out"_s), {}, &error); }
+    bool Unpack(const QString& path)
+    {
+        error.clear();
+        const bool done = UnpackArchive(path, folder.Path("in/out"_s), {}, &error);
+        EXPECT_EQ(error.isEmpty(), done) << error.toStdString();
+        return done;
+    }
 
     TestFolder folder;
     QString error;
@@ -144,6 +150,11 @@ TEST_F(ArchiveTest, LinksAndEncryptedAndDamagedEntriesAreRefused)
     EXPECT_FALSE(Unpack(folder.Write("empty.zip"_s, QByteArray())));
     EXPECT_FALSE(Unpack(folder.Write("text.zip"_s, "no archive at all")));
     EXPECT_EQ(error, "不是有效的压缩包: "_s + folder.Path("text.zip"_s));
+
+    const QString headless = MakeArchive({{"file", "text"}});
+    Patch(headless, "PK\1\2", 42, QByteArray("\0\1\0\0", 4)); // where the entry would begin
+    EXPECT_FALSE(Unpack(headless));
+    EXPECT_EQ(error, "压缩包条目无法解压: file"_s);
 
     const std::pair<int, QByteArray> lies[] = {{24, QByteArray("\x10\0\0\0", 4)}, // declares 16 bytes
                                                {24, QByteArray("\0\0\0\x7F", 4)}, // declares 2 GiB

@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QJsonArray>
 #include <QLocale>
 #include <QSettings>
 
@@ -82,6 +84,7 @@ TEST_F(ConfigDataTest, LanguageFollowsTheLocaleWhenAsked)
     EXPECT_EQ(config.GetLanguageType(), LanguagePortuguese);
     QLocale::setDefault(QLocale(QLocale::Finnish));
     EXPECT_EQ(GetSystemLanguage(), LanguageEnglish);
+    EXPECT_EQ(GetTranslationFileName(ELanguageType(0)), "orvandata_en.qm"_s);
     QLocale::setDefault(before);
 }
 
@@ -136,6 +139,7 @@ TEST_F(ConfigDataTest, SettersKeepValuesThatAFileCanHold)
     }
     config.SetUiStyles({{"A"_s, QString()}, {"B"_s, QString()}, {"C"_s, QString()}});
     EXPECT_EQ(config.GetCurrentUiStyle(), 1);
+    EXPECT_EQ(config.GetUiStyles().size(), 3);
     for (const int style : {0, 3, -1})
         config.SetCurrentUiStyle(style);
     EXPECT_EQ(config.GetCurrentUiStyle(), 0);
@@ -172,9 +176,58 @@ TEST_F(ConfigDataTest, AddressesInNoNetworkOfOursAreToldAsSoonAsTheyAreListed)
     EXPECT_TRUE(config.AddSpecifiedIP(far));
     EXPECT_EQ(config.GetErrorIPList(), QStringList(far));
     EXPECT_TRUE(config.DeleteSpecifiedIP(far) && config.GetErrorIPList().isEmpty());
-    config.AddSpecifiedIP(far);
+    EXPECT_TRUE(config.LoadSpecifiedIP(folder.Write("a.txt"_s, far.toLatin1())));
+    EXPECT_EQ(config.GetErrorIPList(), QStringList(far));
     config.ClearSpecifiedIP();
-    EXPECT_TRUE(config.GetErrorIPList().isEmpty());
+    EXPECT_TRUE(config.GetErrorIPList().isEmpty() && config.GetSpecifiedIPList().isEmpty());
+}
+
+TEST_F(ConfigDataTest, FileThatIsMissingOrBrokenLeavesNoValueOfTheOneBefore)
+{
+    const struct
+    {
+        QByteArray content;
+        std::function<bool(const QString&)> load;
+    } files[] = {{"[Other]\na=1\n", [this](const QString& path) { return config.Load_UI(path); }},
+                 {"{\"a\": 1}", [this](const QString& path) { return config.LoadCustomizeConfig(path); }}};
+    const QString path = folder.Path("a"_s);
+    for (const auto& file : files) {
+        for (const char* content : {"", "broken", "missing"}) {
+            config.SetUIValue("key"_s, 1);
+            config.SetCustomizeValue("key"_s, 1);
+            EXPECT_EQ(config.GetUIValue("key"_s, 0).toInt() + config.GetCustomizeValue("key"_s, 0).toInt(),
+                      2);
+            const bool whole = *content == '\0';
+            WriteFile(path, whole ? file.content : QByteArray(content));
+            EXPECT_TRUE(*content != 'm' || QFile::remove(path));
+            EXPECT_EQ(file.load(path), whole);
+            EXPECT_EQ(config.GetUIValue("key"_s, 0).toInt() + config.GetCustomizeValue("key"_s, 0).toInt(), 1)
+                << content;
+            EXPECT_EQ(QFile::exists(path), whole);
+            EXPECT_EQ(ReadFile(path + ".bak"_s), whole ? QByteArray() : QByteArray("broken"));
+        }
+        QFile::remove(path + ".bak"_s);
+    }
+    QJsonArray zeros;
+    for (int i = 0; i < 2000000; ++i)
+        zeros.append(0);
+    config.SetCustomizeValue("zeros"_s, zeros);
+    EXPECT_TRUE(config.SaveCustomizeConfig()) << "without blanks when it is long";
+    EXPECT_TRUE(config.LoadCustomizeConfig(path));
+    EXPECT_EQ(config.GetCustomizeValue("zeros"_s).toArray().size(), zeros.size());
+}
+
+TEST_F(ConfigDataTest, TranslationIsThatOfTheChosenLanguage)
+{
+    EXPECT_EQ(config.GetTranslationPath(), QString());
+    const QString french =
+        WriteFile(QCoreApplication::applicationDirPath() + "/Language/orvandata_fr.qm"_s, QByteArray());
+    for (const auto& [language, path] : {std::pair(LanguageFrench, french), {LanguageChinese, QString()}}) {
+        for (int i = 0; i < 2; ++i) // the first call takes what was loaded
+            config.SetLanguage(language);
+        EXPECT_EQ(config.GetTranslationPath(), path);
+    }
+    QFile::remove(french);
 }
 
 TEST_F(ConfigDataTest, HotkeyIsRefusedWhenItsKeyIsUnknownOrTaken)

@@ -72,6 +72,8 @@ TEST(ConfigFileTest, RecordsThatDoNotHoldTogetherAreRepaired)
     ASSERT_TRUE(WriteConfigFile(folder.Path("c.xml"_s), styles));
     EXPECT_FALSE(ReadFile(folder.Path("c.xml"_s)).contains("Name="));
     EXPECT_EQ(styles.currentUiStyle, 0);
+    EXPECT_EQ(Read("<UiStyleEx/>").uiStyles.size(), 2) << "those from before";
+    EXPECT_EQ(Read("<UiStyleEx><UiStyle1 Path='A'/></UiStyleEx>").uiStyles.size(), 1);
     for (const auto& [current, taken] :
          {std::pair(0, 0), std::pair(1, 1), std::pair(2, 1), std::pair(-1, 1)}) {
         const SConfigItems two =

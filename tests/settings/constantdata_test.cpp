@@ -76,6 +76,8 @@ TEST(ConstantDataTest, TemporaryProjectNeverShowsAnEarlierOne)
     folder.Write("SaveProject/card.prj"_s, "first");
     const QString archive = folder.Path("a.prj"_s);
     CConstantData::ZipFile(folder.Path("SaveProject"_s), archive);
+    CConstantData::UnZipFile(archive, folder.Path("out"_s));
+    EXPECT_EQ(ReadFile(folder.Path("out/SaveProject/card.prj"_s)), "first");
     const QString document = CConstantData::GetTmpProjectDataPath(archive);
     EXPECT_EQ(ReadFile(document), "first");
     EXPECT_EQ(CConstantData::GetTmpProjectDataPath(folder.Path("missing"_s)), document);

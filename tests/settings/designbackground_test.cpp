@@ -63,12 +63,26 @@ TEST_F(DesignBackgroundTest, WheelVisitsTheStepsOfItsDirection)
 
 TEST_F(DesignBackgroundTest, ScalingIsBoundByTheCanvas)
 {
+    EXPECT_EQ(background.GetClientRect(), QRect(0, 0, 1920, 1080));
+    background.SetClientRect(0, QRect(50, 100, 1920, 1080)); // its size counts
     EXPECT_TRUE(background.SetViewScaling(0.01f, noFix));
     EXPECT_FLOAT_EQ(background.GetViewScaling(), 1080.0f / 16384);
 
     QPoint start(40000, -3);
     EXPECT_TRUE(background.ViewStartPtValid(start, 0.5f));
     EXPECT_EQ(start, QPoint(32768 - 3840, 0));
+    for (const auto& [scaling, valid] : {std::pair(1080.0f / 16384, true), {0.0657f, false}, {0.07f, true}}) {
+        float taken = scaling;
+        EXPECT_EQ(background.ViewScalingValid(taken), valid) << scaling;
+        EXPECT_FLOAT_EQ(taken, valid ? scaling : 1080.0f / 16384);
+    }
+    for (const auto& [scaling, fix] : {std::pair(0.5f, noFix), {2.0f, QPoint(1, 1)}}) {
+        background.ResetViewScaling();
+        background.SetViewStartPt(QPoint(99999, 99999));
+        EXPECT_TRUE(background.SetViewScaling(scaling, fix));
+        EXPECT_EQ(background.GetViewStartPt(),
+                  QPoint(32768 - int(1920 / scaling), 16384 - int(1080 / scaling)));
+    }
 }
 
 TEST_F(DesignBackgroundTest, ZoomKeepsThePixelUnderThePointer)
@@ -89,7 +103,22 @@ TEST_F(DesignBackgroundTest, ZoomingInAgainReturnsToThePlaceThatTheEdgeTook)
     EXPECT_EQ(background.GetViewStartPt(), QPoint(0, 0));
     ASSERT_TRUE(background.SetViewScaling(1.0f, QPoint(10, 10)));
     EXPECT_EQ(background.GetViewStartPt(), QPoint(100, 50));
-    ASSERT_TRUE(background.SetViewScaling(0.5f, QPoint(1900, 1000)));
+
+    // Zooming out from further in forgets the places of less.
+    background.SetViewStartPt(QPoint(20, 30));
+    const auto zoom = [this](float scaling, QPoint fix) {
+        background.SetViewScaling(scaling, fix);
+        return background.GetViewStartPt();
+    };
+    const QPoint far(1900, 1000);
+    EXPECT_EQ(zoom(2, QPoint(0, 0)), QPoint(20, 30));
+    EXPECT_EQ(zoom(1, far), QPoint(0, 0));
+    background.SetViewStartPt(QPoint(7, 8));
+    EXPECT_EQ(zoom(0.5f, far), QPoint(0, 0));
+    EXPECT_EQ(zoom(1, QPoint(10, 10)), QPoint(7, 8));
+    EXPECT_EQ(zoom(2, QPoint(10, 10)), QPoint(20, 30));
+
+    ASSERT_EQ(zoom(0.5f, far), QPoint(0, 0));
     background.ResetViewScaling();
     ASSERT_TRUE(background.SetViewScaling(0.5f, noFix) && background.SetViewScaling(1.0f, QPoint(10, 10)));
     EXPECT_NE(background.GetViewStartPt(), QPoint(100, 50)) << "what was before the reset is forgotten";

@@ -25,12 +25,16 @@ QVariantMap Read(const QString& path)
 TEST(IniFileTest, BlanksAtTheEndOfATextStayWhereTheyAreEscaped)
 {
     const TestFolder folder;
-    const QString path = folder.Write("a.ini"_s, "a=x\\x20 \t\nb= x \nc=\"x \" \nd=x , y\\x20 \n");
+    const QString path = folder.Write("a.ini"_s, "a=x\\x20 \t\nb= x \nc=\"x \" \nd=x , y\\x20 \n"
+                                                 "e=\"x \" , y \nf=\\101\\x62,\\\r\n c\n");
     const QVariantMap read = Read(path);
     EXPECT_EQ(read["a"_s].toString(), "x "_s);
     EXPECT_EQ(read["b"_s].toString(), "x"_s);
     EXPECT_EQ(read["c"_s].toString(), "x "_s);
     EXPECT_EQ(read["d"_s].toStringList(), QStringList({"x"_s, "y "_s}));
+    EXPECT_EQ(read["e"_s].toStringList(), QStringList({"x "_s, "y"_s}));
+    EXPECT_EQ(read["f"_s].toStringList(), QStringList({"Ab"_s, " c"_s}));
+    EXPECT_EQ(read["f"_s].userType(), QMetaType::QStringList);
 }
 
 TEST(IniFileTest, QSettingsAndWeReadWhatTheOtherWrote)
@@ -39,6 +43,7 @@ TEST(IniFileTest, QSettingsAndWeReadWhatTheOtherWrote)
         {"General/bool"_s, true},
         {"bytes"_s, QByteArray("\0\xff\"(,", 5)},
         {"colour"_s, QColor(1, 2, 3)},
+        {"double"_s, -2.5},
         {"float"_s, QVariant::fromValue(1.5F)},
         {"keys"_s, QKeySequence(Qt::CTRL + Qt::Key_A)},
         {"line"_s, QLineF(1, 2, 3, 4)},
@@ -82,24 +87,28 @@ TEST(IniFileTest, LinesStayAsTheyAreButForTheValueThatChanges)
 {
     const TestFolder folder;
     const QByteArray before = "\xef\xbb\xbf; first\r\na = 1 ; why\n\n[s]\nb=\\x35\nb=\"x;\\\ny\";last\n"
-                              "/=2\nt=@Variant(\\0\\0\\0\\t\\0\\0\\0\\0)\n[%GENERAL]\nc=1\n[empty]";
+                              "/=2\nt=@Variant(\\0\\0\\0\\t\\0\\0\\0\\0)\n[%GENERAL]\nc=1\r\n[empty]";
     const QString path = folder.Write("a.ini"_s, before);
     QVariantMap values = Read(path);
     EXPECT_EQ(values.keys().join(QLatin1Char(' ')), "GENERAL/c a s/b s/t"_s);
     ASSERT_TRUE(WriteIniValues(path, values));
     EXPECT_EQ(ReadFile(path), before + '\n');
 
-    values = {{"a"_s, "屏"_s}, {"/s//b/"_s, 3}, {"s/new"_s, 4},    {"empty/d"_s, 5},
-              {"x/y/z"_s, 6},  {"e"_s, 7},      {"GENERAL/f"_s, 8}};
+    values = {{"a"_s, "屏"_s},      {"/s//b/"_s, 3}, {"s/new"_s, 4},    {"empty/d"_s, 5},
+              {"x/y/z"_s, "6 7"_s}, {"e"_s, 7},      {"GENERAL/f"_s, 8}};
     ASSERT_TRUE(WriteIniValues(path, values));
     EXPECT_EQ(ReadFile(path).toStdString(),
               "\xef\xbb\xbf; first\r\na =\\x5c4f; why\ne=7\n\n[s]\nb=\\x35\nb=3;last\n"
-              "/=2\nt=@Variant(\\0\\0\\0\\t\\0\\0\\0\\0)\nnew=4\n[%GENERAL]\nc=1\nf=8\n[empty]\nd=5\n"
-              "\n[x]\ny\\z=6\n");
+              "/=2\nt=@Variant(\\0\\0\\0\\t\\0\\0\\0\\0)\nnew=4\n[%GENERAL]\nc=1\r\nf=8\n[empty]\nd=5\n"
+              "\n[x]\ny\\z=6 7\n");
     EXPECT_FALSE(WriteIniValues(path, {{"a"_s, QVariantMap()}}));
     EXPECT_FALSE(WriteIniValues(path, {{"//"_s, 1}}));
     EXPECT_FALSE(WriteIniValues(path, {{"a"_s, QString(1 << 22, QLatin1Char('a'))}}));
+    EXPECT_FALSE(WriteIniValues(path, {{"a"_s, QVariantList{1}}})) << "it would come back as a text";
     EXPECT_EQ(Read(path).value("a"_s), "屏"_s);
+    const QString fresh = folder.Path("new/b.ini"_s);
+    EXPECT_TRUE(WriteIniValues(fresh, {{"a"_s, QStringList()}, {"b"_s, QVariantList()}}));
+    EXPECT_EQ(ReadFile(fresh), "[General]\na=@Invalid()\nb=@Invalid()\n");
 }
 
 TEST(IniFileTest, NoValueIsBuiltOfATypeThatAFileNames)

@@ -36,11 +36,12 @@ TEST(SpecifiedIpListTest, ListEndsAt1024Addresses)
 TEST(SpecifiedIpListTest, AddressesOutsideEveryNetworkAreErrors)
 {
     SpecifiedIpList list;
-    for (const char* address : {"10.1.2.3", "10.2.2.3", "192.168.7.128", "192.168.7.127"})
+    for (const char* address :
+         {"10.1.2.3", "10.2.2.3", "192.168.7.128", "192.168.7.127", "10.8.0.1", "10.8.0.0"})
         list.Add(QLatin1String(address));
     const QVector<Ipv4Network> networks = {
         {0x0A010001, 0xFFFF0000}, {0xC0A807FE, 0xFFFFFF80}, {0x0A080001, 0}};
-    EXPECT_EQ(list.Outside(networks), QStringList({"10.2.2.3"_s, "192.168.7.127"_s}));
+    EXPECT_EQ(list.Outside(networks), QStringList({"10.2.2.3"_s, "192.168.7.127"_s, "10.8.0.0"_s}));
     EXPECT_EQ(list.Outside({}), list.Addresses());
 
     SpecifiedIpList own;
