@@ -49,6 +49,23 @@ TEST(PortTest, NamingTheSourceOneWayForgetsTheOther)
     EXPECT_TRUE(port.BeSameAs(CPort()));
 }
 
+TEST(PortTest, StoredFieldsKeepTheAreaAndNameOneSourceAtMost)
+{
+    for (const bool dest : {false, true}) {
+        for (const quint32 ip : {0U, 1U}) {
+            PortFields stored;
+            stored.backup = {dest, QUuid::createUuid(), 2, ip};
+            stored.view.area = QRect(0, 0, 9, 9);
+            CPort port;
+            port.SetPortArea(QRect(1, 1, 5, 5));
+            port.TakeStored(stored);
+            EXPECT_EQ(port.GetPortArea(), QRect(1, 1, 5, 5));
+            EXPECT_TRUE(port.IsBackupDest() == dest && port.GetBackupSrcIP() == (dest ? ip : 0));
+            EXPECT_EQ(port.GetBackupSrcSenderId(), dest && ip == 0 ? stored.backup.senderId : QUuid());
+        }
+    }
+}
+
 TEST(PortTest, UndoBetweenBackupAndNormalPortClearsTheLayout)
 {
     CPort normal;

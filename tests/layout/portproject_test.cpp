@@ -52,6 +52,7 @@ TEST_F(PortProjectTest, AddTilePlacesABlockRowByRowAsASelectedGroup)
     info.left = 40;
     info.top = 10;
     info.portIndex = 2;
+    info.senderId = QUuid::createUuid();
     EXPECT_EQ(info.GetBound(), QRect(40, 10, 300, 100));
     ASSERT_TRUE(layout.AddTile(info));
     ASSERT_EQ(tiles.GetCount(), 7);
@@ -59,6 +60,7 @@ TEST_F(PortProjectTest, AddTilePlacesABlockRowByRowAsASelectedGroup)
     EXPECT_EQ(Tile(4)->GetPosition(), QPoint(40, 60));
     EXPECT_EQ(Tile(6)->GetBound(), QRect(240, 60, 100, 50));
     EXPECT_TRUE(Tile(6)->GetPortIndex() == 2 && Tile(6)->GetTileShowColor().isValid());
+    EXPECT_EQ(Tile(6)->GetSenderId(), info.senderId);
     const SRotateParam record = {false, false, 290, 85, -100, -100, 0, 100, 50};
     EXPECT_EQ(Tile(6)->GetRotateRecord(), record);
 
@@ -76,7 +78,7 @@ TEST_F(PortProjectTest, AddTileRefusesEnormousBlocksAndKeepsOthersOnTheCanvas)
         EXPECT_FALSE(layout.AddTile(Block(size.width(), size.height())));
     EXPECT_EQ(tiles.GetCount() + groups.GetDirectCount(), 0);
     tiles.AddTile(new CTile);
-    EXPECT_FALSE(layout.AddTile(Block(1024, 1024))) << "one too many";
+    EXPECT_FALSE(layout.AddTile(Block(kMaxTilesOfPort / 64, 64))) << "one too many";
     layout.ClearAllTiles();
 
     SAddTileInfo info = Block(2, 2);
@@ -102,6 +104,7 @@ TEST_F(PortProjectTest, AddTileLetsTheBlockOverruleTheProductAndRegistersIt)
     const unsigned char line[] = {1, 0, 3, 2};
     std::copy(std::begin(line), std::end(line), info.line);
     ASSERT_TRUE(layout.AddTile(info));
+    EXPECT_EQ(Tile(1)->GetType(), info.type);
     EXPECT_TRUE(Tile(1)->IsMultiRcvTile() && Tile(1)->IsMultiRcvsOrdered()) << "as every fixed line";
     EXPECT_TRUE(Tile(1)->GetMultiRcvsCount() == 4 && Tile(1)->GetMultiRcvsLineCode(2) == 3);
     EXPECT_EQ(lookup.parameterFiles, QList<QString>{"cabinet"_s});
@@ -202,6 +205,13 @@ TEST_F(PortProjectTest, DeletingTheSelectionTakesSelectedGroupsAtEveryDepth)
     EXPECT_TRUE(tiles.IsOwner());
     EXPECT_FALSE(groups.GetSubGroupBySubID(ids[0]));
     EXPECT_TRUE(groups.GetSubGroupBySubID(ids[1]) && groups.GetDirectCount() == 1);
+
+    auto* doomed = new Counted<CTileGroup>;
+    doomed->SetSelected(kView, true);
+    groups.AddGroup(doomed, true);
+    groups.AddGroup(new CTileGroup(*groups.GetDirectGroupByDirIndex(0)), true); // as a damaged file may hold
+    layout.DeleteSelectedTileAndGroup();
+    EXPECT_TRUE(Counted<CTileGroup>::alive == 0 && groups.GetDirectCount() == 2) << "both of one id stay";
 }
 
 // Cabinets 0-1 lie in `left`, 2-3 in `right`, both below `above` with 4-5; 6-7 in `single`, 8 in none.
@@ -240,6 +250,9 @@ TEST_F(PortProjectGroupTest, TilesOfAGroupComeGroupByGroupFromTheTop)
     const CTileGroup* group = groups.GetDirectGroupByDirID(above);
     EXPECT_TRUE(layout.GetAllTileSetInFirstGroupPart(out, group->GetSubGroupSet()));
     ExpectTiles(out, {8, 2, 3, 0, 1});
+    const CTileGroupSet none;
+    EXPECT_FALSE(layout.GetAllTileSetInFirstGroupPart(out, nullptr));
+    EXPECT_FALSE(layout.GetAllTileSetInFirstGroupPart(out, &none));
 
     Tile(8)->SetGroupId(unknown);
     CTileSet stray;
@@ -326,6 +339,8 @@ TEST_F(PortProjectTest, TurnedBackByTheSameAngleEverythingIsWhereItWas)
     const CPortProject before(layout);
     SRotateParam record = *groups.GetDirectGroupByDirIndex(0)->GetRotateParam();
 
+    for (int i = 0; i < 9; ++i) // all round, without rounding adding up; no turn undoes another
+        layout.SetTileGroupRotateParam(&record, tiles, 40);
     for (double angle = -720; angle <= 720; angle += 13.7) {
         layout.SetTileGroupRotateParam(&record, tiles, angle);
         layout.SetTileGroupRotateParam(&record, tiles, -angle);
@@ -402,6 +417,10 @@ TEST_F(PortProjectTest, OnlyAWholeRegularBlockMayBeChanged)
         [&] {                         // no room in a cell
             for (CTile* tile : Tiles({1, 2, 3, 4, 5, 6}))
                 tile->SetHeight(-64);
+        },
+        [&] { // in one row, and all but the first of no height
+            for (int i = 1; i <= 6; ++i)
+                Place(*Tile(i), QRect(128 * i, 0, 128, 0));
         },
         [&] { // so far apart that the cells are more than can be counted
             for (CTile* tile : Tiles({1, 2, 3, 4, 5, 6})) {

@@ -66,6 +66,10 @@ TEST_F(PortSelectionTest, GroupsNestAndComeApart)
     EXPECT_TRUE(GroupsOf(port).GetDirectGroupByDirID(inner)->GetParentGroupID().isNull());
     Select({8});
     EXPECT_FALSE(selection.Ungroup());
+
+    GroupsOf(port).AddGroup(new CTileGroup(Group(0)), true); // two of one id, as a damaged file may hold
+    Select({0});
+    EXPECT_TRUE(selection.Ungroup() && GroupsOf(port).GetDirectCount() == 2) << "both stay";
 }
 
 TEST_F(PortSelectionTest, RecordsOfWholeGroupsGoAlong)

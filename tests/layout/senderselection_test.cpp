@@ -40,6 +40,7 @@ TEST_F(SenderSelectionTest, KnowsWhatIsSelectedOnAllPortsButBackups)
 
     sender->GetPort(1)->SetBeBackupDest(sender->GetId(), 0);
     EXPECT_EQ(selection.GetTiles(), QList<CTile*>{&Tile(0, 0)});
+    EXPECT_TRUE(selection.Ungroup() && Tile(0, 0).GetGroupId().isNull());
     selection.Clear();
     EXPECT_TRUE(selection.GetPorts().isEmpty() && selection.GetBound().isNull());
     EXPECT_FALSE(selection.Ungroup());
@@ -55,6 +56,11 @@ TEST_F(SenderSelectionTest, IsMovedTurnedAndResizedAsAWhole)
     EXPECT_EQ(selection.GetBound(), QRect(10, 20, 300, 100));
     selection.Resize(200, 0);
     EXPECT_EQ(Tile(1, 2).GetBound(), QRect(410, 70, 200, 50));
+    const CTileGroup& group = *GroupsOf(*sender->GetPort(1)).GetDirectGroupByDirIndex(0);
+    EXPECT_EQ(selection.GetBoundIfResized(0, 80), QRect(10, 20, 600, 160));
+    selection.Resize(0, 80);
+    EXPECT_EQ(Tile(1, 2).GetBound(), QRect(410, 100, 200, 80));
+    EXPECT_TRUE(group.GetRotateParam()->width == 600 && group.GetRotateParam()->height == 80);
     selection.Resize(100, 50);
 
     const SRotateParam straight = Tile(1, 2).GetRotateRecord();

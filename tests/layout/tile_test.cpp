@@ -139,6 +139,12 @@ TEST(TileTest, PointerHandedOutStaysTheTilesOwn)
     line[0] = 7;
     EXPECT_TRUE(tile.GetRotateRecord().angle == 30 && tile.GetMultiRcvsLineCode(0) == 7);
     EXPECT_EQ(other.GetRotateRecord().angle, 0);
+
+    CTile wired = FourCards(); // without a pointer to its rotation
+    line = wired.GetMultiRcvsLine();
+    const CTile apart(wired);
+    line[0] = 7;
+    EXPECT_EQ(apart, before);
 }
 
 TEST(TileTest, FlagsFollowTheProductAndEachOther)
@@ -161,7 +167,7 @@ TEST(TileTest, FlagsFollowTheProductAndEachOther)
     tile = FourCards();
     tile.SetBeMultiFixedLine(true);
     tile.SetMultiRcvsOrdered(false);
-    EXPECT_TRUE(tile.IsMultiRcvsOrdered()) << "as every fixed line";
+    EXPECT_TRUE(tile.IsMultiRcvsOrdered() && tile.IsMultiFixedLine()) << "as every fixed line";
     tile.SetBeMultiRcvsTile(false);
     tile.SetBeMultiFixedLine(true);
     EXPECT_FALSE(tile.IsMultiRcvsOrdered() || tile.IsMultiFixedLine()) << "that needs several cards";
@@ -189,6 +195,7 @@ TEST(TileTest, ViewsKeepSelectionsOfTheirOwn)
     for (int iface = -1; iface <= kInterfaceCount; ++iface) {
         CTile tile;
         tile.SetSelected(true, iface, -1);
+        EXPECT_EQ(tile.IsRcvSelected(0), iface >= 3 && iface <= 6) << iface;
         for (int other = -1; other <= kInterfaceCount; ++other)
             EXPECT_EQ(tile.IsSelected(other), other == iface && iface >= 3 && iface <= 6) << iface << other;
         tile.SetSelected(false, iface, 65535);
@@ -230,6 +237,8 @@ TEST(TileTest, CardsLieColumnByColumnInWiringOrder)
         tile.SetMultiRcvsSize(size);
         EXPECT_EQ(tile.GetMultiRcvRect(0), QRect());
     }
+    EXPECT_EQ(tile.GetMultiRcvRelativeRect(0), QRect());
+    EXPECT_EQ(tile.GetMultiRcvsSize(), QSize(0, 3)) << "none is asked for";
     EXPECT_EQ(tile.GetMultiRcvRelativeRect(-1), QRect(0, 0, 1, 1));
     EXPECT_EQ(tile.GetMultiRcvsSize(), QSize(128, 128)) << "an empty grid is repaired";
 
@@ -238,6 +247,13 @@ TEST(TileTest, CardsLieColumnByColumnInWiringOrder)
     tile.SetMultiRcvsLine(codes);
     EXPECT_EQ(tile.GetMultiRcvRect(9), QRect(132, 114, 32, 32));
     EXPECT_EQ(tile.GetMultiRcvRect(15), QRect(100, 50, 32, 32));
+
+    tile.SetMultiRcvsSize(QSize(1, 1));
+    tile.SetMultiRcvsLine(codes + 4);
+    EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(qAsConst(tile).GetMultiRcvsLine()), 2), "\5\x8");
+    tile.SetMultiRcvsSize(QSize(0, 3));
+    tile.SetHeight(0);
+    EXPECT_EQ(tile.GetMultiRcvRelativeRect(-1), QRect(0, 0, 1, 1)) << "not even a pixel high";
 }
 
 TEST(TileTest, ChainCountsTheCardsOfThePredecessor)

@@ -67,6 +67,11 @@ TEST_F(TileGroupTest, SelectionReachesTheWholeTreeInTheDesignViewAlone)
     EXPECT_FALSE(m_first->IsSelected(InterfaceSoftEdge) || m_deep->IsSelected(kView));
     m_first->SetSelected(kView, true);
     EXPECT_TRUE(m_first->IsSelected(kView) && m_deep->IsSelected(kView));
+    QList<CTileGroup*> selected{m_last, m_last};
+    m_set.GetSelTileGroup(selected, kView);
+    EXPECT_EQ(selected, QList<CTileGroup*>{m_first});
+    m_set.SelectAll(kView);
+    EXPECT_TRUE(m_first->IsSelected(kView) && m_last->IsSelected(kView));
 }
 
 TEST_F(TileGroupTest, OffsetPutsTheVerticalPlaceIntoTheHorizontal)
@@ -95,6 +100,17 @@ TEST_F(TileGroupTest, RenumberingGoesDownInPreOrder)
     EXPECT_EQ(m_deep->GetParentGroupID(), m_below->GetID());
 }
 
+TEST_F(TileGroupTest, AStoredGroupIsTurnedWhenItsAngleSaysSo)
+{
+    for (const double angle : {0.0, 0.0001, -0.0001, 0.0002, -0.0002, 30.0}) {
+        GroupFields stored;
+        stored.rotate = Rotation(angle, 7, 8);
+        m_first->TakeStored(stored);
+        EXPECT_EQ(m_first->IsRotated(), qAbs(angle) > 0.00015) << angle;
+        EXPECT_TRUE(m_first->GetRotateParam()->angle == angle && m_first->GetRotateParam()->centerX == 7);
+    }
+}
+
 TEST_F(TileGroupTest, CopiesOfASetAreSeparateGroupsWithTheSameIds)
 {
     CTileGroupSet copy;
@@ -114,6 +130,9 @@ TEST_F(TileGroupTest, CopiesOfASetAreSeparateGroupsWithTheSameIds)
 
 TEST_F(TileGroupTest, AGroupListedTwiceIsFreedOnce)
 {
+    CTileGroupSet list;
+    list.AddFromOther(m_set);
+    EXPECT_TRUE(list.RemoveAll() == 2 && list.GetDirectCount() == 0) << "frees nothing";
     m_set.AddFromOther(m_set);
     EXPECT_EQ(m_set.GetDirectCount(), 4);
     EXPECT_TRUE(m_set.DeleteGroupRecursive(2));
@@ -147,7 +166,9 @@ TEST_F(TileGroupTest, GroupsAreFoundAtTheirLevel)
 
 TEST_F(TileGroupTest, AncestorsAreListedOnceFromTheGroupUp)
 {
-    QList<QUuid> ids{m_below->GetID()};
+    QList<QUuid> ids;
+    EXPECT_TRUE(CTileGroupSet::AddGuidToGuidArray(ids, m_below->GetID()));
+    EXPECT_FALSE(CTileGroupSet::AddGuidToGuidArray(ids, m_below->GetID()));
     EXPECT_FALSE(m_set.GroupAndParentAddGuidArray(ids, QUuid::createUuid()));
     m_last->SetID(QUuid()); // is nobody's parent
     EXPECT_TRUE(m_set.GroupAndParentAddGuidArray(ids, m_deep->GetID()));

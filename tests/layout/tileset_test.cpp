@@ -42,6 +42,12 @@ TEST_F(TileSetTest, CopiesShareTilesUnlessTheSourceOwnsThem)
     EXPECT_TRUE(copy.IsOwner() && copy == m_set);
     copy.ExchangeTile(2, 0);
     EXPECT_NE(copy, m_set) << "order counts";
+    EXPECT_EQ(copy, *&copy);
+    for (int none : {-1, 3}) {
+        copy.ExchangeTile(0, none);
+        copy.ExchangeTile(none, 0);
+        EXPECT_EQ(copy.GetTile(0)->GetX(), 200) << "nothing to exchange with";
+    }
     m_set.DeleteAllTiles();
     EXPECT_TRUE(CountedTile::alive == 0 && copy.GetTile(0)->GetX() == 200);
 }
@@ -81,6 +87,9 @@ TEST_F(TileSetTest, SelectedTilesAreFreedOnceAndByTheirOwnerAlone)
     m_set.DeleteSelected(InterfaceDesign);
     EXPECT_EQ(m_set.GetTiles(), (Tiles{m_tiles[1], m_tiles[2]}));
     EXPECT_EQ(CountedTile::alive, 2);
+    m_set = selection;
+    EXPECT_EQ(CountedTile::alive, 1) << "assigned a part of what it owns";
+    m_set.SetOwnerShip(true);
 }
 
 TEST_F(TileSetTest, SetMayBeReadAndFilledAtOnce)
@@ -120,6 +129,15 @@ TEST_F(TileSetTest, SubsetsAreByIdentityAndKeepListOrder)
     m_set.GetTileSetUngrouped(out);
     EXPECT_TRUE(m_set.GetTileSetInGroup(out, group, true));
     EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[1], m_tiles[0], m_tiles[2]}));
+    m_set.GetTileSetGrouped(out);
+    EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[0], m_tiles[2]}));
+    EXPECT_TRUE(m_set.GetTileSetInGroup(out, QUuid(), false));
+    EXPECT_EQ(out.GetTiles(), Tiles{m_tiles[1]}) << "instead of what it held";
+    m_tiles[1]->SetSelected(true, kView, -1);
+    m_set.GetUnselectedTileSet(out);
+    EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[0], m_tiles[2]}));
+    m_set.SetAllNotGroup();
+    EXPECT_EQ(m_set.GetCountInGroup(QUuid()), 3);
 }
 
 TEST_F(TileSetTest, UnselectingResetsCardsAndMarksOfOneView)
@@ -141,6 +159,9 @@ TEST_F(TileSetTest, EachTypeIsListedOnceInListOrder)
     m_tiles[1]->SetType(a);
     EXPECT_TRUE(m_set.GetProductTypeArray(&types));
     EXPECT_EQ(types, (QList<SMD5>{SMD5(), a}));
+    m_set.GetProductTypeArray(&types);
+    EXPECT_EQ(types.size(), 2) << "what was in the list is gone";
+    EXPECT_FALSE(m_set.GetProductTypeArray(nullptr) || out.GetProductTypeArray(&types));
 }
 
 TEST_F(TileSetTest, LockIsThatOfThePortOfTheCurrentSender)
@@ -165,8 +186,9 @@ TEST_F(TileSetTest, HitTestsListTheTopmostTileFirst)
     m_set.GetTileSetAtRect(out, QRect(99, 99, 2, 1), false);
     EXPECT_EQ(out.GetTiles(), (Tiles{m_tiles[1], m_tiles[0]}));
     EXPECT_FALSE(m_set.GetTileSetAtRect(out, QRect(0, 100, 300, 5), false));
-    m_set.GetTileSetAtRectWithCenter(out, QRect(150, 50, 1, 1));
+    EXPECT_TRUE(m_set.GetTileSetAtRectWithCenter(out, QRect(150, 50, 1, 1)));
     EXPECT_EQ(out.GetTiles(), Tiles{m_tiles[1]});
+    EXPECT_FALSE(m_set.GetTileSetAtRectWithCenter(out, QRect(151, 50, 1, 1)));
 }
 
 TEST_F(TileSetTest, TurnedTilesAreHitByTheirCorners)
@@ -184,11 +206,21 @@ TEST_F(TileSetTest, TurnedTilesAreHitByTheirCorners)
     m_set.GetTileSetAtRect(out, m_tiles[2]->GetBound(), true);
     EXPECT_EQ(out.GetTiles(), Tiles{m_tiles[2]}) << "a tile lies in its own bound";
     EXPECT_EQ(m_set.GetBound(), QRect(-20, -20, 320, 141));
+    const QRect room(-21, -21, 142, 142); // the least that has the whole diamond
+    EXPECT_TRUE(m_set.GetTileSetAtRect(out, room, true));
+    for (const QRect& less : {room.adjusted(1, 0, 0, 0), room.adjusted(0, 1, 0, 0),
+                              room.adjusted(0, 0, -1, 0), room.adjusted(0, 0, 0, -1)})
+        EXPECT_FALSE(m_set.GetTileSetAtRect(out, less, true)) << less.x() << ' ' << less.y();
     // The diamond's corners beside, above and below everything else, to the pixel that they lie in.
     for (const QRect& reached : {QRect(-21, 45, 5, 10), QRect(45, -21, 10, 5), QRect(45, 116, 10, 5)})
         EXPECT_TRUE(m_set.GetTileSetAtRect(out, reached, false)) << reached.x() << ' ' << reached.y();
     for (const QRect& missed : {QRect(-20, 45, 5, 10), QRect(45, -20, 10, 5), QRect(45, 115, 10, 5)})
         EXPECT_FALSE(m_set.GetTileSetAtRect(out, missed, false)) << missed.x() << ' ' << missed.y();
+
+    Turn(*m_tiles[2], 90, 200, 500);
+    EXPECT_FALSE(m_set.GetTileSetAtPosition(out, 250, 50)) << "it is far away";
+    m_lookup.rotateEnabled = false;
+    EXPECT_TRUE(m_set.GetTileSetAtPosition(out, 250, 50));
 }
 
 TEST_F(TileSetTest, OverlapIsStrictOnOneAxis)
@@ -226,4 +258,7 @@ TEST_F(TileSetTest, NewSizeKeepsTilesOnTheGridEdgeToEdge)
     m_set.SetWidthAuto(0, true);
     m_set.SetWidthAuto(10, false);
     EXPECT_EQ(m_tiles[1]->GetBound(), QRect(64, 2007, 10, 1024));
+    m_set.SetWidthAuto(1, false);
+    m_set.SetHeightAuto(1, false);
+    EXPECT_EQ(m_tiles[1]->GetBound(), QRect(64, 2007, 1, 1));
 }

@@ -88,6 +88,18 @@ void NumberCellByCell(CTileSet& set, int type)
     }
 }
 
+/// Whichever of the two is listed first. They have several cards, but count as wholes.
+void ExpectTaken(const QRect& from, Qt::Key key, const QRect& nearer, const QRect& other)
+{
+    for (const bool first : {true, false}) {
+        OwningWall wall;
+        for (const QRect& rect : {first ? nearer : other, first ? other : nearer})
+            Add(wall, QRect(QPoint(), rect.size()), QSize(2, 2))->Offset(rect.x(), rect.y());
+        EXPECT_EQ(wall.GetDirectionTile(from, key, false, false), wall.GetTile(first ? 0 : 1))
+            << key << ": " << nearer.x() << ' ' << nearer.y() << ", " << other.x() << ' ' << other.y();
+    }
+}
+
 } // namespace
 
 TEST(TileSetChainTest, OnlyAWholeNumberingIsAPattern)
@@ -105,6 +117,10 @@ TEST(TileSetChainTest, OnlyAWholeNumberingIsAPattern)
     EXPECT_EQ(wall.GetConnectionType(), AutoNumberRowsTopLeft) << "no pattern goes there";
     wall.GetTile(9)->SetConnectionIndex(9, &wall);
     EXPECT_EQ(wall.GetConnectionType(), -1) << "but this chain does";
+
+    OwningWall flat;
+    Add(flat, QRect(0, 0, 0, 50))->SetConnectionIndex(0, nullptr);
+    EXPECT_EQ(flat.GetConnectionType(), -1) << "there is no cell to go through";
 }
 
 TEST(TileSetChainTest, AnySetIsNumberedLikeCellByCell)
@@ -130,6 +146,21 @@ TEST(TileSetChainTest, AnySetIsNumberedLikeCellByCell)
         }
     }
     EXPECT_GT(leftOut, 10);
+}
+
+TEST(TileSetChainTest, TheCellIsTheLeastWidthByTheLeastHeight)
+{
+    const std::pair<std::vector<QSize>, QSize> cases[] = {
+        {{{60, 90}, {80, 20}}, {60, 20}}, {{{80, 20}, {60, 90}}, {60, 20}}, {{{1, 0}, {7, 1}}, {1, 1}},
+        {{{-4, 9}, {8, -2}}, {8, 9}},     {{{0, 50}, {-1, 40}}, {}},        {{{50, 0}, {40, -1}}, {}}};
+    for (const auto& [sizes, expected] : cases) {
+        OwningWall wall;
+        for (const QSize& size : sizes)
+            Add(wall, QRect(QPoint(0, 0), size));
+        QSize cell;
+        EXPECT_EQ(wall.AutoConnectGetSize(cell), expected.isValid());
+        EXPECT_EQ(cell, expected);
+    }
 }
 
 TEST(TileSetChainTest, NothingToNumberLeavesTheSetUnnumbered)
@@ -166,6 +197,16 @@ TEST(TileSetChainTest, NumberSetRectContinuesTheChainAtNext)
     EXPECT_EQ(Begins(wall), (std::vector<int>{0, 2, 1}));
     EXPECT_FALSE(wall.NumberSetRect(next, QRect(0, 0, 300, 50), QSize(100, 50), 0));
     EXPECT_EQ(next, 3);
+
+    for (int i : {1, 2})
+        wall.GetTile(i)->SetConnectionIndex(-1, nullptr);
+    next = 0;
+    for (int direction : {-1, 8}) // there are eight
+        EXPECT_FALSE(wall.NumberSetRect(next, QRect(0, 0, 300, 50), QSize(100, 50), direction));
+    EXPECT_EQ(Indices(wall), (std::vector<int>{0, -1, -1}));
+    wall.GetTile(0)->SetMultiRcvsSize(QSize(3, 1));
+    EXPECT_TRUE(wall.NumberSetRect(next, QRect(0, 0, 300, 50), QSize(100, 50), 0));
+    EXPECT_EQ(Begins(wall), (std::vector<int>{0, 0, 4})) << "after the one that was numbered before it here";
 }
 
 TEST(TileSetChainTest, NormalisationClosesGapsAndResolvesEqualIndices)
@@ -205,6 +246,7 @@ TEST(TileSetChainTest, ReceiversAreFoundByTheirPlaceInTheChain)
     EXPECT_EQ(wall.GetTileByRcvCnntIndex(5), wall.GetTile(2));
     EXPECT_EQ(wall.GetTileByRcvCnnt(6), nullptr);
     EXPECT_EQ(wall.GetRectByRcvCnntIndex(3), QRect(150, 0, 50, 50));
+    EXPECT_EQ(wall.GetRectByRcvCnntIndex(0), QRect(0, 0, 100, 100));
     EXPECT_EQ(wall.GetRectByRcvCnntIndex(6), QRect());
     CTileSet multi;
     EXPECT_FALSE(wall.CanSnapToRcvsMulti() || multi.CanSnapToRcvsMulti());
@@ -231,9 +273,39 @@ TEST(TileSetChainTest, ArrowKeysNumberTheNearestCabinetThatOverlaps)
         EXPECT_TRUE(!numbered || numbered->GetConnectionIndex() == ++index) << key;
     }
     EXPECT_EQ(wall.GetDirectionTile(below->GetBound(), Qt::Key_Up, false, false), straight);
+    for (const CTile* tile : wall)
+        EXPECT_EQ(tile->GetMultiRcvDemarcateIndex(), -1) << "numbering marks no card";
     first->SetConnectionIndex(std::numeric_limits<int>::max(), nullptr);
     below->SetConnectionIndex(-1, nullptr);
     EXPECT_FALSE(wall.DirectionKeyConnection(Qt::Key_Right)) << "no number comes after that";
+}
+
+TEST(TileSetChainTest, AnArrowTakesTheLeastGapAndThenTheNearestMiddle)
+{
+    // Seen from the middle of a cabinet from -50 to 50 both ways, for an arrow to the right.
+    const std::pair<QRect, QRect> cases[] = {
+        {{60, 40, 100, 101}, {61, -50, 100, 101}},  {{60, -50, 99, 101}, {60, -50, 100, 101}},
+        {{60, -50, 100, 101}, {60, -49, 100, 101}}, {{60, -10, 100, 101}, {60, -91, 100, 101}},
+        {{60, -91, 100, 101}, {60, -8, 100, 101}},  {{60, 50, 100, 101}, {51, 51, 1, 1}},
+        {{60, -150, 100, 101}, {51, -51, 1, 1}},    {{1, 0, 10, 10}, {0, 0, 10, 10}}};
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+        const auto towards = [key](const QRect& rect) {
+            const bool upright = key == Qt::Key_Up || key == Qt::Key_Down;
+            const QPoint least = upright ? rect.topLeft().transposed() : rect.topLeft();
+            const QPoint most = upright ? rect.bottomRight().transposed() : rect.bottomRight();
+            const bool back = key == Qt::Key_Left || key == Qt::Key_Up;
+            return QRect(back ? -most : least, back ? -least : most).translated(1050, 1050);
+        };
+        for (const auto& [nearer, other] : cases)
+            ExpectTaken(towards(QRect(-50, -50, 101, 101)), key, towards(nearer), towards(other));
+    }
+    const std::pair<QRect, QRect> fromOrigin[] = {
+        {{30, 0, 9, 9}, {31, 0, 9, 9}},      {{0, 30, 9, 9}, {0, 31, 9, 9}},
+        {{-38, 0, 9, 9}, {-39, 0, 9, 9}},    {{0, -38, 9, 9}, {0, -39, 9, 9}},
+        {{0, 0, 99, 100}, {0, 0, 100, 100}}, {{0, 0, 100, 99}, {0, 0, 100, 100}},
+        {{30, 40, 9, 9}, {51, 0, 9, 9}},     {{0, 49, 9, 9}, {40, 30, 9, 9}}};
+    for (const auto& [nearer, other] : fromOrigin)
+        ExpectTaken(QRect(), Qt::Key_Up, nearer, other);
 }
 
 TEST(TileSetChainTest, ArrowKeysMoveTheMarkFromCardToCard)
@@ -248,6 +320,8 @@ TEST(TileSetChainTest, ArrowKeysMoveTheMarkFromCardToCard)
                               {Qt::Key_Right, 4, 3, -1},
                               {Qt::Key_Right, 0, -1, 0}};
     int receiver = -5;
+    OwningWall unnumbered(1, 1);
+    EXPECT_TRUE(unnumbered.DirectionKeyDemarcateTile(Qt::Key_Up, receiver) && receiver == -1);
     for (const auto& [key, found, inMulti, inPlain] : presses) {
         EXPECT_TRUE(wall.DirectionKeyDemarcateTile(static_cast<unsigned long>(key), receiver));
         EXPECT_EQ(receiver, found);
@@ -277,4 +351,9 @@ TEST(TileSetChainTest, CabinetsAreAppendedAndInserted)
     EXPECT_TRUE(wall.InsertIntoChain(tile(3), nullptr));
     EXPECT_EQ(Indices(wall), (std::vector<int>{3, 2, 4, 0, 1}));
     EXPECT_EQ(Begins(wall), Indices(wall));
+
+    for (int i : {0, 1, 2})
+        tile(i)->SetConnectionIndex(i == 2 ? -1 : 7, nullptr);
+    EXPECT_TRUE(wall.InsertIntoChain(tile(2), tile(0)));
+    EXPECT_EQ(Indices(wall), (std::vector<int>{2, 4, 3, 0, 1})) << "between two that had one number";
 }
