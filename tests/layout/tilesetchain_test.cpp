@@ -303,6 +303,7 @@ TEST(TileSetChainTest, AnArrowTakesTheLeastGapAndThenTheNearestMiddle)
         {{30, 0, 9, 9}, {31, 0, 9, 9}},      {{0, 30, 9, 9}, {0, 31, 9, 9}},
         {{-38, 0, 9, 9}, {-39, 0, 9, 9}},    {{0, -38, 9, 9}, {0, -39, 9, 9}},
         {{0, 0, 99, 100}, {0, 0, 100, 100}}, {{0, 0, 100, 99}, {0, 0, 100, 100}},
+        {{0, 0, 100, 100}, {1, 0, 9, 9}},    {{0, 0, 100, 100}, {0, 1, 9, 9}},
         {{30, 40, 9, 9}, {51, 0, 9, 9}},     {{0, 49, 9, 9}, {40, 30, 9, 9}}};
     for (const auto& [nearer, other] : fromOrigin)
         ExpectTaken(QRect(), Qt::Key_Up, nearer, other);
