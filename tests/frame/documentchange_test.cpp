@@ -72,6 +72,9 @@ TEST_F(DocumentChangeTest, AWindowIsToldOnceAfterEachOperation)
     project.DeleteAllSender();
     project.SetToDefault();
     EXPECT_EQ(Told(), "(properties) (properties) (senders properties steps) (replaced modified)");
+    QDomElement none = QDomDocument().createElement(QStringLiteral("SenderLayout"));
+    EXPECT_TRUE(project.ReadSender(QDomDocument(), &none, error, nullptr));
+    EXPECT_EQ(Told(), "(senders properties modified)");
 }
 
 TEST_F(DocumentChangeTest, SettersAndOtherDocumentsTellNothing)

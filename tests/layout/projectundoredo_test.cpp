@@ -1,5 +1,6 @@
 #include "layout/projectundoredo.h"
 
+#include "layout/changeteller.h"
 #include "layout/layoutsnapshot.h"
 #include "layout/tileaccess.h"
 #include "support/wallbuilder.h"
@@ -216,7 +217,7 @@ TEST_F(ProjectUndoRedoTest, TheLimitKeepsTheBaseAndMovesTheSavedPositionWithItsR
         history.Init();
         const int base = Tile(0).GetX();
         for (int i = 1; i <= 201; ++i) {
-            Edit();
+            EXPECT_TRUE(Edit());
             if (i == savedAt)
                 history.SetAsSaveStep();
         }
@@ -304,6 +305,8 @@ TEST_F(ProjectUndoRedoTest, CabinetsKeepTheirAddressAndViewStateWhereNothingChan
     EXPECT_FALSE(moved->GetTileShowColor().isValid() || moved->IsRcvSelected(0));
     EXPECT_TRUE(moved->GetTileGamutStatus() == 0 && Tile(0, 0).GetTileGamutStatus() == 3);
     EXPECT_TRUE(record->angle == 0 && record == Tile(0, 2).GetTileRotateParam()) << "it stays right";
+    EXPECT_TRUE(Edit() && Undo() && record == Tile(0, 2).GetTileRotateParam())
+        << "of one that did not change";
 }
 
 TEST_F(ProjectUndoRedoTest, GroupsComeBackAsTheyWere)
@@ -380,6 +383,66 @@ TEST_F(ProjectUndoRedoTest, HiddenPortsAndPortsThatBecameBackupsAreLeftOut)
     EXPECT_EQ(TilesOf(Port(0)).GetCount(), 0);
     EXPECT_TRUE(Undo(2));
     EXPECT_TRUE(history.IsModidfied()) << "the step's layout could not come back";
+}
+
+TEST_F(ProjectUndoRedoTest, WhatWasSavedApartFromAnyStepIsNotFoundAgain)
+{
+    Edit(0);
+    Edit(1);
+    Edit(1);
+    Port(1).SetVisible(false);
+    EXPECT_TRUE(Undo(2));
+    history.SetAsSaveStep();
+    EXPECT_FALSE(history.IsModidfied());
+    Port(1).SetVisible(true);
+    EXPECT_TRUE(Undo() && history.IsModidfied());
+    EXPECT_TRUE(Redo() && history.IsModidfied()) << "the step as it was recorded is not what was saved";
+
+    history.Init();
+    EXPECT_TRUE(Edit() && Edit());
+    history.SetAsSaveStep();
+    EXPECT_TRUE(Undo() && Edit() && Undo(2) && history.IsModidfied()) << "the saved step is gone";
+}
+
+TEST_F(ProjectUndoRedoTest, OneSendersHistoryIsUsedAlone)
+{
+    const int before = Tile(2).GetX();
+    CSenderUndoRedo alone;
+    EXPECT_FALSE(alone.AddStep(Sender(), Step::OperationAlign) || alone.Restore(&Sender(), 2));
+    alone.Start(Sender());
+    Tile(2).SetX(999);
+    EXPECT_TRUE(alone.AddStep(Sender(), Step::OperationAlign) && alone.Move(-1));
+    EXPECT_TRUE(alone.Restore(&Sender(), 2) && Tile(2).GetX() == before);
+    EXPECT_EQ(Sender().GetRecentPortIndex(), 2);
+    QVector<int> changed;
+    EXPECT_TRUE(alone.Move(1) && alone.Restore(&Sender(), 1, &changed) && Tile(2).GetX() == 999);
+    EXPECT_EQ(changed, QVector<int>{2});
+    EXPECT_TRUE(alone.GetStepCount() == 2 && alone.GetSenderId() == Sender().GetId());
+    alone.Clear();
+    EXPECT_TRUE(alone.GetStepCount() == 0 && !alone.GetStep(0) && alone.GetSenderId().isNull());
+    EXPECT_FALSE(alone.Move(0));
+}
+
+TEST_F(ProjectUndoRedoTest, AnOperationOfSeveralEditsIsToldOnceAndInOrder)
+{
+    std::vector<SDocumentChange> told;
+    const auto note = [&told](const SDocumentChange& change) { told.push_back(change); };
+    history.SetChangeHandler(note);
+    {
+        const DocumentOperation all(&history);
+        EXPECT_TRUE(Edit(3) && Edit(1) && Edit(3));
+    }
+    history.SetChangeHandler({});
+    EXPECT_TRUE(Edit(2));
+    history.SetAsSaveStep();
+    history.SetChangeHandler(note);
+    EXPECT_TRUE(Edit(1) && Undo(0));
+    ASSERT_EQ(told.size(), 2U);
+    EXPECT_TRUE(told[0].ports == (QVector<SPortPlace>{{0, 1}, {0, 3}}));
+    EXPECT_TRUE(told[1].ports == (QVector<SPortPlace>{{0, 1}}))
+        << "what nobody listened to is not told later";
+    for (const SDocumentChange& change : told)
+        EXPECT_TRUE(change.steps && change.modifiedState && !change.saved && !change.senders);
 }
 
 TEST_F(ProjectUndoRedoTest, HiddenPortsTakePartWhereTheHostWantsThat)

@@ -64,6 +64,42 @@ TEST(SenderTest, ACopyTakesThePortsWithTheirViewAndTheParameters)
     EXPECT_TRUE(layoutOnly.LayoutCopy(*source));
     EXPECT_EQ(*layoutOnly.GetPort(2)->GetPortProject(), *source->GetPort(2)->GetPortProject());
     EXPECT_FALSE(layoutOnly.GetPort(159)->IsBackupDest());
+    MakeWall(*layoutOnly.GetPort(159), 1, 1);
+    layoutOnly.ClearAllTiles();
+    for (const int i : {0, 2, 159})
+        EXPECT_EQ(TilesOf(*layoutOnly.GetPort(i)).GetCount(), 0) << i;
+}
+
+TEST(SenderTest, WhatAFileHoldsIsTakenAsFarAsWanted)
+{
+    StoredSender stored;
+    stored.id = QUuid::createUuid();
+    stored.belongGroup = QUuid::createUuid();
+    stored.netIp = 5;
+    stored.name = "file"_s;
+    stored.signalFreq = 50;
+    stored.colorDepth = 12;
+    stored.portCount = 8;
+    stored.recentPort = 159;
+    for (const SenderParts parts :
+         {SenderParts::LayoutOnly, SenderParts::LayoutAndView, SenderParts::Project}) {
+        CSender sender;
+        const QUuid id = sender.GetId();
+        const QUuid group = QUuid::createUuid();
+        sender.SetBelongGroup(group);
+        sender.SetNetSenderIP(1);
+        sender.SetRecentPortIndex(3);
+        sender.TakeStored(stored, parts);
+        const bool view = parts != SenderParts::LayoutOnly;
+        const bool all = parts == SenderParts::Project;
+        EXPECT_EQ(sender.GetSenderName(), view ? "file"_s : QString());
+        EXPECT_TRUE(sender.GetSignalFreq() == (view ? 50 : 0) && sender.GetColorDepth() == (view ? 12 : 0));
+        EXPECT_EQ(sender.GetId(), all ? stored.id : id);
+        EXPECT_EQ(sender.GetPort(159)->GetSenderId(), sender.GetId());
+        EXPECT_EQ(sender.GetBelongGroup(), all ? stored.belongGroup : group);
+        EXPECT_EQ(sender.GetNetSenderIP(), all ? 5U : 1U);
+        EXPECT_TRUE(sender.GetPortCount() == 8 && sender.GetRecentPortIndex() == 159);
+    }
 }
 
 TEST(SenderTest, TheFirstBackupInUseTellsWhetherItIsASelfBackup)

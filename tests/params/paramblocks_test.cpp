@@ -181,6 +181,11 @@ TEST_F(ParamBlocksTest, SplitLinesBeyondTheRecordAreNeitherWrittenNorRead)
     lines.horizontalCount = 1;
     lines.horizontal[0] = 4000000000U;
     sender.SetCuttingLineInfo(lines);
+    QDomElement own = document.createElement("own"_s);
+    ASSERT_EQ(Project::SaveOneGroupParam(document, &own, 0, &sender), kDone);
+    CSender target;
+    ASSERT_EQ(Project::LoadOutputSpiltLineParam(document, &own, 0, &target), kDone);
+    EXPECT_EQ(target.GetCuttingLineInfo(), lines);
     for (const char* count : {"33", "-1", "2147483647"}) {
         Parse("<outputSpiltLineParamRoot><outputSpiltLineVLineCount>" + QByteArray(count)
               + "</outputSpiltLineVLineCount></outputSpiltLineParamRoot>");

@@ -303,7 +303,8 @@ TEST_F(ParamFileTest, DamagedFilesFailWithTheirReason)
     for (const QString& path : paths) {
         EXPECT_EQ(project.Do(kProcessors.load, path), kFailed) << qPrintable(path);
         EXPECT_FALSE(project.Error().isEmpty()) << qPrintable(path);
-        EXPECT_EQ(project.Do(&CProjectData::ImportSenderParam, path, project.Sender(0).GetId()), kFailed);
+        for (const auto load : {&CProjectData::ImportSenderParam, &CProjectData::ImportProcessorParam})
+            EXPECT_EQ(project.Do(load, path, project.Sender(0).GetId()), kFailed);
     }
     const QString none =
         folder.Write("none.xml"_s, "<DeviceParams CheckValue='1' bSpecifyIP='0' ProcessorCount='0'/>");

@@ -41,6 +41,21 @@ TEST_F(LayoutElementsTest, FirstReceiversFollowFromTheFinishedWiringInAnyOrder)
     EXPECT_EQ(tiles.GetTile(1)->GetBeginRcvCnnt(), 0);
     EXPECT_EQ(tiles.GetTile(2)->GetBeginRcvCnnt(), 4);
     EXPECT_EQ(tiles.GetTile(3)->GetBeginRcvCnnt(), -1) << "nothing stands before it in the chain";
+    ReadTiles("<TitleLayout TileCount='1'><Tile_1 index='1'/></TitleLayout>");
+    EXPECT_EQ(tiles.GetTile(0)->GetBeginRcvCnnt(), -1) << "the first is missing";
+}
+
+TEST_F(LayoutElementsTest, CabinetsBelongToThePortThatIsNamedElseAsTheFileSays)
+{
+    const QByteArray xml = "<TitleLayout TileCount='1'><Tile_1 portIndexr='5' SenderId='"
+                           + sender.toByteArray() + "'/></TitleLayout>";
+    const QUuid other = QUuid::createUuid();
+    QDomElement element = Parsed(xml);
+    for (const auto& [id, port] : {std::pair(other, 0), std::pair(QUuid(), -1)}) {
+        project.ReadTileSet(QDomDocument(), "TitleLayout"_s, &tiles, &element, id, port);
+        EXPECT_EQ(tiles.GetTile(0)->GetSenderId(), id.isNull() ? sender : other);
+        EXPECT_EQ(tiles.GetTile(0)->GetPortIndex(), port < 0 ? 5 : port);
+    }
 }
 
 TEST_F(LayoutElementsTest, AttributesAreTakenAsTheirRulesSay)
@@ -50,7 +65,7 @@ TEST_F(LayoutElementsTest, AttributesAreTakenAsTheirRulesSay)
               "Height='1025' "
               "MultiLine_3='258' IsMultiFixed='1' RotateAngle='-30' RotateCenterX='nan'/>"
               "<Tile_2 Type='6a68bac7e613028bb11b40c35340e863' IsMultiCabinet='1' IsMultiFixed='1' "
-              "MultiRcvSizeX='0' MultiRcvSizeY='5' MultiOrdered='0'/></TitleLayout>");
+              "MultiRcvSizeX='0' MultiRcvSizeY='5' MultiOrdered='0' Width='1025'/></TitleLayout>");
     const CTile& first = *tiles.GetTile(0);
     EXPECT_TRUE(first.GetType().IsNull()) << "31 characters are no digest";
     EXPECT_TRUE(first.IsMultiRcvsOrdered()) << "only a type takes the flags of its product";
@@ -64,6 +79,7 @@ TEST_F(LayoutElementsTest, AttributesAreTakenAsTheirRulesSay)
     const CTile& second = *tiles.GetTile(1);
     EXPECT_EQ(second.GetType().ToString(), "6a68bac7e613028bb11b40c35340e863"_s);
     EXPECT_EQ(second.GetMultiRcvsSize(), QSize(1, 1));
+    EXPECT_EQ(second.GetWidth(), 1024);
     EXPECT_TRUE(second.IsMultiRcvsOrdered()) << "a fixed line is always ordered";
 }
 
@@ -78,6 +94,25 @@ TEST_F(LayoutElementsTest, EachTypeTakesTheFlagsOfItsOwnProduct)
               + "</TitleLayout>");
     for (int i = 0; i < tiles.GetCount(); ++i)
         EXPECT_EQ(tiles.GetTile(i)->IsMultiRcvTile(), i == 0 || i == 3) << i;
+
+    const std::tuple<bool, char, const char*, bool, bool, bool> cases[] = {
+        {false, 'a', "", true, false, false},
+        {true, 'a', "", true, false, true},
+        {true, 'a', "IsMultiCabinet='0' IsMultiFixed='1'", false, false, false},
+        {true, 'a', "MultiOrdered='0'", true, false, false},
+        {true, 'a', "MultiOrdered='0' IsMultiFixed='1'", true, true, true},
+        {false, 'a', "IsMultiFixed='0' MultiOrdered='1'", true, false, true},
+        {true, 'b', "IsMultiCabinet='1'", true, false, false},
+    };
+    for (const auto& [productIsOrdered, type, attributes, multi, fixed, ordered] : cases) {
+        lookup.product.multiSet = productIsOrdered;
+        ReadTiles("<TitleLayout TileCount='2'><Tile_1" + a + "<Tile_2 Type='" + QByteArray(32, type) + "' "
+                  + attributes + "/></TitleLayout>");
+        const CTile& tile = *tiles.GetTile(1);
+        EXPECT_EQ(tile.IsMultiRcvTile(), multi) << type << attributes;
+        EXPECT_EQ(tile.IsMultiFixedLine(), fixed) << type << attributes;
+        EXPECT_EQ(tile.IsMultiRcvsOrdered(), ordered) << type << attributes;
+    }
 }
 
 TEST_F(LayoutElementsTest, PartsOfALayoutReadBackAlone)
@@ -94,6 +129,7 @@ TEST_F(LayoutElementsTest, PartsOfALayoutReadBackAlone)
     CPort read;
     EXPECT_TRUE(project.ReadPort(document, "Port"_s, &read, &root, sender, 3, false));
     EXPECT_TRUE(read.GetPortIndex() == 3 && read.GetSenderId() == sender);
+    EXPECT_FALSE(project.ReadPort(document, "Port"_s, nullptr, &root, sender, 3, false));
     project.ReadTileSet(document, "Tiles"_s, &tiles, &root, sender, 3);
     EXPECT_EQ(tiles, TilesOf(read));
     EXPECT_EQ(tiles.GetTile(3)->GetPosition(), TilesOf(port).GetTile(3)->GetPosition());
@@ -103,6 +139,8 @@ TEST_F(LayoutElementsTest, PartsOfALayoutReadBackAlone)
     ASSERT_EQ(groups.GetDirectCount(), 1);
     EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetParentGroupID(), parent);
     EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetSubGroupCount(), 1);
+    project.ReadSubTileGroup(document, "Group"_s, nullptr, &groups, nullptr, sender);
+    EXPECT_EQ(groups.GetDirectGroupByDirIndex(0)->GetParentGroupID(), parent) << "nothing was read";
     groups.DeleteAll();
 }
 
@@ -188,6 +226,13 @@ TEST_F(LayoutElementsTest, GroupTreesLoseRepeatedIdsAndWhatLiesTooDeep)
     QDomElement repeated = document.createElement("TileGroup_2"_s);
     repeated.setAttribute("GroupId"_s, second->GetID().toString());
     layout.appendChild(repeated);
+    QDomElement deepest = layout.firstChildElement();
+    int depth = 1;
+    for (; !deepest.firstChildElement().isNull(); ++depth)
+        deepest = deepest.firstChildElement();
+    EXPECT_EQ(depth, layoutnames::kMaxGroupDepth) << "what lies deeper is not written either";
+    deepest.setAttribute("GroupCount"_s, 1);
+    deepest.appendChild(document.createElement(deepest.tagName() + "_1"_s));
 
     CTileGroupSet read;
     project.ReadTileGroupSet(document, "TitleGroupLayout"_s, &tiles, &read, &root);
@@ -216,4 +261,10 @@ TEST_F(LayoutElementsTest, SingleSenderKeepsItsIdentity)
     project.ReadSingleSender(document, &element, &target, sender, false, true);
     EXPECT_TRUE(target.GetId() == sender && target.GetNetSenderIP() == 0);
     EXPECT_TRUE(target.GetRecentPortIndex() == 0 && target.GetSenderName() == "file"_s);
+    for (const bool keeps : {true, false}) {
+        MakeWall(*target.GetPort(1), 1, 1);
+        target.GetPort(1)->SetFlagLock(true);
+        project.ReadSingleSender(document, &element, &target, QUuid(), keeps, false);
+        EXPECT_TRUE(target.GetPort(1)->IsFlagLock() == keeps && target.GetId() == sender);
+    }
 }

@@ -98,9 +98,15 @@ TEST_F(LayoutFilesTest, WhatAFileDoesNotSayOfThePortsStays)
     const QString path =
         folder.Write("a.xml"_s, "<SenderLayout><SenderLayout PortCount='3'/></SenderLayout>");
     ASSERT_TRUE(project.ImportSender(path, target->GetId(), false, false));
+    EXPECT_EQ(Error(), "输出口：文件声明8个，实有0个"_s);
     EXPECT_EQ(target->GetPortCount(), 8) << "no sender has three";
     EXPECT_FALSE(target->GetPort(7)->IsVisible());
     EXPECT_EQ(TilesOf(*target->GetPort(7)).GetCount(), 0);
+
+    ASSERT_TRUE(LoadText("<SenderLayout SenderCount='1'><Sender_1 PortCount='4'><Port_1 Lock='1'/>"
+                         "<Port_2 Lock='x'/></Sender_1></SenderLayout>"));
+    EXPECT_TRUE(project.GetSender(0)->GetPort(0)->IsFlagLock());
+    EXPECT_FALSE(project.GetSender(0)->GetPort(1)->IsFlagLock()) << "not as the port before";
 }
 
 TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
@@ -117,6 +123,8 @@ TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
     EXPECT_FALSE(project.ImportSender(sender, QUuid::createUuid(), false, true));
     EXPECT_FALSE(project.ImportPort(sender));
     EXPECT_FALSE(project.ExportSender(hollow, QUuid()));
+    EXPECT_FALSE(project.ExportPort(folder.Path("missing/a.xml"_s)));
+    EXPECT_NE(Error(), QString());
     EXPECT_TRUE(project.ExportSender(cut, target->GetId()));
     EXPECT_EQ(Error(), QString());
     EXPECT_FALSE(project.ImportPort(hollow));

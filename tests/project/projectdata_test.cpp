@@ -195,10 +195,14 @@ TEST_F(ProjectDataTest, SenderGroupsMarkTheProjectModified)
     const std::function<void()> changes[] = {[&] { group = project.AddGroupInfo("a"_s); },
                                              [&] { project.SetGroupName(group, "b"_s); },
                                              [&] { project.DeleteSenderGroup(group); }};
+    QStringList names = {"a"_s, "b"_s, QString()};
     for (const auto& change : changes) {
         history->Init();
         change();
         EXPECT_TRUE(history->IsModidfied()) << (&change - changes);
+        QList<SSenderGroupInfo> groups;
+        project.GetAllSenderGroup(groups);
+        EXPECT_EQ(groups.value(0).name, names.takeFirst());
     }
     history->Init();
     project.SetGroupName(group, "c"_s);
@@ -263,6 +267,15 @@ TEST_F(ProjectDataTest, BackupsAreFoundByIdAndByAddressButNotWithinASender)
     project.GetSender(0)->GetPort(2)->SetBeBackupDestIP(9, 0);
     EXPECT_TRUE(project.IsSenderBackupDest(0, &other));
     EXPECT_EQ(other, -1) << "of a sender that is not in the project";
+    project.GetSender(2)->SetNetSenderIP(9);
+    EXPECT_TRUE(project.IsSenderBackupDest(0, &other) && other == 2);
+    for (const int none : {-1, 3})
+        EXPECT_FALSE(project.IsSenderBackupDest(none, nullptr) || project.IsSenderBackupSource(none, nullptr)
+                     || project.IsSenderSelfPortBackup(none));
+    for (const auto& [noSender, noPort] : {std::pair(3, 0), std::pair(0, kMaxPorts)}) {
+        EXPECT_FALSE(project.MatchSrcBackup(noSender, noPort, sender, port, found) || found);
+        EXPECT_EQ(std::make_pair(sender, port), std::make_pair(-1, -1));
+    }
     project.GetSender(1)->GetPort(0)->SetBeBackupDest(QUuid(), 0);
     EXPECT_FALSE(project.IsSenderBackupDest(1, nullptr)) << "of none";
 }
@@ -302,6 +315,10 @@ TEST_F(ProjectDataTest, ParameterFilesAreKeptUnderSafeNamesOnceAType)
     EXPECT_EQ(project.GetParameterFiles()[0].name, "_a_b"_s);
     EXPECT_EQ(project.GetParameterFiles()[1].name, "_A_b_2"_s);
     EXPECT_EQ(ReadFile(parameterwork::PathOf("_a_b"_s)), "cabinet a");
+    project.ExchangeNameByMD5(other, "second"_s);
+    EXPECT_TRUE(project.GetParameterFiles()[0].name == "_a_b"_s
+                && project.GetParameterFiles()[1].name == "second"_s);
+    EXPECT_EQ(ReadFile(parameterwork::PathOf("second"_s)), "cabinet b");
 
     WriteFile(parameterwork::PathOf("c"_s), "of another project");
     for (int again = 0; again < 2; ++again)
@@ -335,8 +352,13 @@ TEST_F(ProjectDataTest, ListsInTextsComeBackAndLoseOnlyTheirSeparators)
     EXPECT_EQ(read.receivers[0].address + read.receivers[0].name, "c@x.test"_s) << "no name";
 
     SSenderSetting setting;
-    project.SetVideoInfoFromString(setting, "1,2,3,1;4,5,6,0;"_s);
-    EXPECT_EQ(project.GetVideoInfoString(), "1,2,3,1;4,5,6,0;"_s);
+    for (int again = 0; again < 2; ++again)
+        project.SetVideoInfoFromString(setting, "1,2,3,1;4,5,6,0;"_s);
+    Document();
+    project.SetVideoInputs({});
+    ASSERT_TRUE(Load(folder.Path("document.prj"_s)));
+    EXPECT_EQ(project.GetVideoInfoString(), "1,2,3,1;4,5,6,0;"_s) << "the project file holds them";
+    EXPECT_EQ(CProjectData::GetIntFromOctString("1.2.3.4"_s), 0x01020304U);
     EXPECT_EQ(CProjectData::GetColorStr(-5) + CProjectData::GetColorStr(3) + CProjectData::GetColorStr(4),
               "ColorRedColorWrite"_s);
 }

@@ -87,6 +87,8 @@ TEST_F(ProjectFileTest, FilesInTheWorkAndProductFoldersCountAsTheyAre)
     const QString taken = root + "箱体A128.rcvbp"_s;
     WriteFile(parameterwork::PathOf("箱体A128"_s), "of another project");
     WriteFile(deep, ReadFile(folder.Path("project/0.rcvbp"_s)));
+    for (const char* name : {"0", "mine/a", "mine/z", "z"}) // before and behind it, whatever the order
+        WriteFile(root + QLatin1String(name) + ".rcvbp"_s, name);
     ASSERT_TRUE(Load(SamplePath("small-wall.prj"))) << "nothing was scanned before";
     EXPECT_EQ(Error(), QString());
     EXPECT_EQ(ReadFile(parameterwork::PathOf("箱体A128"_s)).size(), 1504);
@@ -162,6 +164,11 @@ TEST_F(ProjectFileTest, VersionsUpTo61AreRead)
     EXPECT_TRUE(LoadText("<SenderLayout SenderCount='0'/>")) << "no version asks for nothing";
     EXPECT_FALSE(LoadText("<VersionSupport MinimumVersion='6.2'/>"));
     EXPECT_EQ(version, "6.2"_s);
+    QDomDocument tree;
+    ASSERT_TRUE(tree.setContent("<VersionSupport MinimumVersion='7.5'/>"_s));
+    QDomElement root = tree.documentElement();
+    EXPECT_FALSE(project.ReadVersionSupport(tree, &root, version));
+    EXPECT_EQ(version, "7.5"_s);
 }
 
 TEST_F(ProjectFileTest, CountsThatLieAreToldAndWhatIsThereIsRead)
@@ -199,9 +206,13 @@ TEST_F(ProjectFileTest, OfRepeatedElementsTheLastOfTheRootAndTheFirstOfAPortCoun
     const QByteArray tiles = "<TitleLayout TileCount='1'><Tile_1/></TitleLayout>";
     const QByteArray senders = "<SenderLayout SenderCount='1'><Sender_1 ID='" + id + "'><Port_1>" + tiles
                                + "<TitleLayout TileCount='2'/><Odd/></Port_1></Sender_1></SenderLayout>";
-    ASSERT_TRUE(LoadText("<Monitor RefreshDisTime='30'/><Monitor/>" + senders + senders
-                         + "<ParameterFile Count='1'><File1 Name='../../x/..'/></ParameterFile>"));
+    const QByteArray file = " Md5='" + QByteArray(32, 'a') + "'/>";
+    const QByteArray files = "<ParameterFile Count='3'><File1 Name='../../x/..'" + file + "<File2 Name='b'"
+                             + file + "<File3 Name='c'/></ParameterFile>";
+    ASSERT_TRUE(LoadText("<Monitor RefreshDisTime='30'/><Monitor/>" + senders + senders + files + files));
+    ASSERT_EQ(project.GetParameterFiles().size(), 2) << "one of each type";
     EXPECT_EQ(project.GetParameterFiles()[0].name, "_.._x_"_s);
+    EXPECT_EQ(project.GetParameterFiles()[1].name, "c"_s);
     EXPECT_TRUE(Error().contains("“TitleLayout”; 跳过元素“Odd”"_s)) << qPrintable(Error());
     EXPECT_EQ(project.GetSender(0)->GetId().toByteArray(), id);
     EXPECT_EQ(TilesOf(*project.GetSender(0)->GetPort(0)).GetCount(), 1);
@@ -244,6 +255,17 @@ TEST_F(ProjectFileTest, ProgressGoesByThePortsOfEachSender)
                           : project.LoadProjectFromFile(QFile::encodeName(path), version, &progress));
         EXPECT_EQ(told, QList<int>({12, 25, 37, 50, 62, 75, 87, 100}));
     }
+    const auto toldOf = [&](const QByteArray& elements) {
+        const QString file =
+            folder.Write("a.xml"_s, "<?xml version='1.0'?><LedSetting>" + elements + "</LedSetting>");
+        QList<int> told;
+        CCustomProgressbar progress([&told](int percent) { told.append(percent); });
+        EXPECT_TRUE(project.LoadProjectFromFile(QFile::encodeName(file), version, &progress));
+        return told;
+    };
+    const QByteArray twoSenders = "<SenderLayout SenderCount='2'><Sender_1 PortCount='4'><Port_1/><Port_2/>"
+                                  "</Sender_1><Sender_2/></SenderLayout>";
+    EXPECT_EQ(toldOf(twoSenders + twoSenders), QList<int>({12, 50, 100, 12, 50, 100})) << "begins anew";
 }
 
 TEST_F(ProjectFileTest, SaveThatCannotReachItsTargetSaysSo)

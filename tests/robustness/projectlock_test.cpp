@@ -1,5 +1,6 @@
 #include "project/projectlock.h"
 
+#include "common/fileproblem.h"
 #include "support/testfolder.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +38,11 @@ TEST(ProjectLockTest, LockFileWithoutAHolderIsTakenOverOnceItIsOld)
     const QString project = folder.Path("a.prj"_s);
     const QString abandoned = folder.Write("a.prj.lock"_s, QByteArray());
     CProjectLock lock(project);
-    EXPECT_FALSE(lock.Lock());
+    QString holder;
+    EXPECT_FALSE(lock.Lock(&holder) || lock.IsLocked());
+    EXPECT_EQ(holder, "无法在项目文件旁创建锁文件。"_s);
     ASSERT_TRUE(SetFileTime(abandoned, QDateTime::currentDateTime().addSecs(-60)));
-    EXPECT_TRUE(lock.Lock());
+    EXPECT_TRUE(lock.Lock() && lock.IsLocked());
+    EXPECT_FALSE(CProjectLock(folder.Path("missing/a.prj"_s)).Lock(&holder));
+    EXPECT_EQ(holder, WhyNotWritable(folder.Path("missing"_s)));
 }
