@@ -417,32 +417,23 @@ TEST_F(ProjectUndoRedoTest, OneSendersHistoryIsUsedAlone)
     QVector<int> changed;
     EXPECT_TRUE(alone.Move(1) && alone.Restore(&Sender(), 1, &changed) && Tile(2).GetX() == 999);
     EXPECT_EQ(changed, QVector<int>{2});
-    EXPECT_TRUE(alone.GetStepCount() == 2 && alone.GetSenderId() == Sender().GetId());
     alone.Clear();
     EXPECT_TRUE(alone.GetStepCount() == 0 && !alone.GetStep(0) && alone.GetSenderId().isNull());
-    EXPECT_FALSE(alone.Move(0));
 }
 
 TEST_F(ProjectUndoRedoTest, AnOperationOfSeveralEditsIsToldOnceAndInOrder)
 {
     std::vector<SDocumentChange> told;
-    const auto note = [&told](const SDocumentChange& change) { told.push_back(change); };
-    history.SetChangeHandler(note);
+    EXPECT_TRUE(Edit(0)); // before anybody listens
+    history.SetChangeHandler([&told](const SDocumentChange& change) { told.push_back(change); });
     {
         const DocumentOperation all(&history);
         EXPECT_TRUE(Edit(3) && Edit(1) && Edit(3));
     }
-    history.SetChangeHandler({});
-    EXPECT_TRUE(Edit(2));
-    history.SetAsSaveStep();
-    history.SetChangeHandler(note);
-    EXPECT_TRUE(Edit(1) && Undo(0));
-    ASSERT_EQ(told.size(), 2U);
+    EXPECT_TRUE(Undo(0));
+    ASSERT_EQ(told.size(), 1U);
     EXPECT_TRUE(told[0].ports == (QVector<SPortPlace>{{0, 1}, {0, 3}}));
-    EXPECT_TRUE(told[1].ports == (QVector<SPortPlace>{{0, 1}}))
-        << "what nobody listened to is not told later";
-    for (const SDocumentChange& change : told)
-        EXPECT_TRUE(change.steps && change.modifiedState && !change.saved && !change.senders);
+    EXPECT_TRUE(told[0].steps && !told[0].modifiedState && !told[0].saved && !told[0].senders);
 }
 
 TEST_F(ProjectUndoRedoTest, HiddenPortsTakePartWhereTheHostWantsThat)

@@ -88,7 +88,6 @@ TEST(SenderTest, WhatAFileHoldsIsTakenAsFarAsWanted)
         const QUuid group = QUuid::createUuid();
         sender.SetBelongGroup(group);
         sender.SetNetSenderIP(1);
-        sender.SetRecentPortIndex(3);
         sender.TakeStored(stored, parts);
         const bool view = parts != SenderParts::LayoutOnly;
         const bool all = parts == SenderParts::Project;

@@ -103,10 +103,10 @@ TEST_F(LayoutFilesTest, WhatAFileDoesNotSayOfThePortsStays)
     EXPECT_FALSE(target->GetPort(7)->IsVisible());
     EXPECT_EQ(TilesOf(*target->GetPort(7)).GetCount(), 0);
 
-    ASSERT_TRUE(LoadText("<SenderLayout SenderCount='1'><Sender_1 PortCount='4'><Port_1 Lock='1'/>"
-                         "<Port_2 Lock='x'/></Sender_1></SenderLayout>"));
-    EXPECT_TRUE(project.GetSender(0)->GetPort(0)->IsFlagLock());
-    EXPECT_FALSE(project.GetSender(0)->GetPort(1)->IsFlagLock()) << "not as the port before";
+    ASSERT_TRUE(LoadText("<SenderLayout SenderCount='1'><Sender_1><Port_1 IsBackupDest='1' BkPortIndex='3'/>"
+                         "<Port_2 IsBackupDest='1' BkPortIndex='x'/></Sender_1></SenderLayout>"));
+    EXPECT_EQ(project.GetSender(0)->GetPort(0)->GetBackupSrcPortIndex(), 3);
+    EXPECT_NE(project.GetSender(0)->GetPort(1)->GetBackupSrcPortIndex(), 3) << "not as the port before";
 }
 
 TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
@@ -133,6 +133,9 @@ TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
     EXPECT_EQ(TilesOf(*target->GetPort(0)).GetCount(), 4);
     EXPECT_TRUE(project.ImportPort(port));
     EXPECT_EQ(Error(), QString());
-    EXPECT_TRUE(project.ImportPort(folder.Write("odd.xml"_s, "<PortLayout><Odd/></PortLayout>")));
-    EXPECT_EQ(Error(), "跳过元素“Odd”"_s);
+    const QByteArray id = "{c95ad16b-6333-4764-bb20-9ee65602cbb4}";
+    EXPECT_TRUE(project.ImportPort(folder.Write(
+        "odd.xml"_s, "<PortLayout><Odd/><TitleGroupLayout GroupCount='2'><TileGroup_1 GroupId='" + id
+                         + "'/><TileGroup_2 GroupId='" + id + "'/></TitleGroupLayout></PortLayout>")));
+    EXPECT_EQ(Error(), "跳过元素“Odd”; 跳过重复的分组"_s + QLatin1String(id));
 }

@@ -87,12 +87,13 @@ TEST_F(ProjectFileTest, FilesInTheWorkAndProductFoldersCountAsTheyAre)
     const QString taken = root + "箱体A128.rcvbp"_s;
     WriteFile(parameterwork::PathOf("箱体A128"_s), "of another project");
     WriteFile(deep, ReadFile(folder.Path("project/0.rcvbp"_s)));
-    for (const char* name : {"0", "mine/a", "mine/z", "z"}) // before and behind it, whatever the order
-        WriteFile(root + QLatin1String(name) + ".rcvbp"_s, name);
+    WriteFile(root + "0.rcvbp"_s, "another product");
+    WriteFile(root + "箱体Z.rcvbp"_s, ReadFile(folder.Path("project/1.rcvbp"_s)));
     ASSERT_TRUE(Load(SamplePath("small-wall.prj"))) << "nothing was scanned before";
     EXPECT_EQ(Error(), QString());
     EXPECT_EQ(ReadFile(parameterwork::PathOf("箱体A128"_s)).size(), 1504);
     EXPECT_TRUE(QFile::exists(deep) && !QFile::exists(taken)) << "no second copy";
+    EXPECT_TRUE(QFile::exists(root + "箱体Z.rcvbp"_s)) << "under the name that the user gave it";
 
     ASSERT_TRUE(QFile::remove(deep));
     WriteFile(taken, "another product of the name");
