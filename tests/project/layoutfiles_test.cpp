@@ -102,11 +102,6 @@ TEST_F(LayoutFilesTest, WhatAFileDoesNotSayOfThePortsStays)
     EXPECT_EQ(target->GetPortCount(), 8) << "no sender has three";
     EXPECT_FALSE(target->GetPort(7)->IsVisible());
     EXPECT_EQ(TilesOf(*target->GetPort(7)).GetCount(), 0);
-
-    ASSERT_TRUE(LoadText("<SenderLayout SenderCount='1'><Sender_1><Port_1 IsBackupDest='1' BkPortIndex='3'/>"
-                         "<Port_2 IsBackupDest='1' BkPortIndex='x'/></Sender_1></SenderLayout>"));
-    EXPECT_EQ(project.GetSender(0)->GetPort(0)->GetBackupSrcPortIndex(), 3);
-    EXPECT_NE(project.GetSender(0)->GetPort(1)->GetBackupSrcPortIndex(), 3) << "not as the port before";
 }
 
 TEST_F(LayoutFilesTest, FilesOfAnotherKindLeaveTheTargetUntouched)
