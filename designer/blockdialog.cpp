@@ -33,7 +33,7 @@ BlockDialog::BlockDialog(const DocumentController& document, QWidget* parent)
     setWindowTitle(tr("Add a block of cabinets"));
     const QSize cabinet = GetConfigData()->GetCustomerTileSize();
     const QRect all = document.GetSender()->GetBound();
-    const QRect block(all.topRight() + QPoint(1, 0),
+    const QRect block(QPoint(all.right() + 1, qMax(0, all.top())),
                       QSize(kColumns * cabinet.width(), kRows * cabinet.height()));
     const QPoint place = OrvanTools::FreePlace(*document.GetSender(), block);
     m_columns = AddNumber(tr("Columns"), 1, kMostAcross, kColumns);

@@ -193,10 +193,11 @@ void DesignView::wheelEvent(QWheelEvent* event)
         QAbstractScrollArea::wheelEvent(event); // scrolls
         return;
     }
-    const int delta = event->angleDelta().y();
-    const int steps = std::max(1, std::abs(delta) / kWheelStep);
-    for (int i = 0; i < steps && delta != 0; ++i)
-        m_map.ZoomStep(delta > 0, event->position().toPoint());
+    m_turned += event->angleDelta().y(); // touchpads send a notch in many parts
+    const int steps = m_turned / kWheelStep;
+    m_turned %= kWheelStep;
+    for (int i = 0; i < std::abs(steps); ++i)
+        m_map.ZoomStep(steps > 0, event->position().toPoint());
     ViewChanged();
     event->accept();
 }

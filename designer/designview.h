@@ -73,6 +73,7 @@ private:
     std::unique_ptr<ViewTool> m_tool;
     std::unique_ptr<ViewTool> m_pan;
     Qt::MouseButton m_held = Qt::NoButton; ///< that the tool was told of
+    int m_turned = 0;                      ///< of the wheel, since the last whole notch
     bool m_spaceHeld = false;
     bool m_panning = false;
     bool m_settingBars = false;

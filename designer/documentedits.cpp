@@ -1,6 +1,9 @@
 // The selection of the open document, blocks that are added, and the chain.
 #include "documentcontroller.h"
 
+#include <algorithm>
+#include <iterator>
+
 bool DocumentController::Refuse(const QString& why)
 {
     emit Refused(why);

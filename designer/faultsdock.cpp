@@ -99,8 +99,9 @@ void FaultsDock::Choose(const QListWidgetItem* item)
         return;
     m_document.SetCurrentPort(place.sender, place.port);
     CTile* tile = port->GetTileSet().GetTile(item->data(kCabinetRole).toInt());
-    if (tile && m_document.MayEditPort()) {
+    if (!tile)
+        return;
+    emit CabinetChosen(tile->GetBound());
+    if (m_document.MayEditPort())
         m_document.Select({tile}, DocumentController::Choice::Replace);
-        emit CabinetChosen(tile->GetBound());
-    }
 }

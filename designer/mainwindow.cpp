@@ -252,8 +252,10 @@ void MainWindow::AskForBlock()
     connect(dialog, &QDialog::finished, this, [this, dialog](int result) {
         m_view->SetPreview({}, {});
         const SAddTileInfo block = dialog->GetBlock();
-        if (result == QDialog::Accepted && m_document.AddBlock(block))
-            GetConfigData()->SetCustomerTileSize(QSize(block.width, block.height));
+        if (result != QDialog::Accepted || !m_document.AddBlock(block))
+            return;
+        m_view->Show(block.GetBound());
+        GetConfigData()->SetCustomerTileSize(QSize(block.width, block.height));
     });
     dialog->open();
 }

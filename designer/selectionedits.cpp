@@ -70,7 +70,11 @@ bool DocumentController::TurnSelection(double angle)
 
 bool DocumentController::TurnSelectionTo(double angle)
 {
-    if (!MayEditSelection())
+    const QList<CTile*> tiles = GetSelection();
+    const auto isThere = [=](const CTile* tile) {
+        return qFuzzyIsNull(tile->GetRotateRecord().angle - angle);
+    };
+    if (std::all_of(tiles.begin(), tiles.end(), isThere) || !MayEditSelection())
         return false;
     SetRotationOn(true);
     CSenderSelection(*GetSender()).TurnTo(angle);

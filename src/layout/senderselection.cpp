@@ -108,7 +108,7 @@ void CSenderSelection::Offset(int dx, int dy)
 void CSenderSelection::Turn(double angle)
 {
     if (qFuzzyIsNull(angle))
-        return; // it would leave records of a turn behind
+        return; // it would still write records of a turn
     const QPointF middle = QRectF(GetBound()).center();
     SRotateParam turn;
     turn.angle = angle;
@@ -130,7 +130,7 @@ void CSenderSelection::TurnTo(double angle)
         ForEachPort([=](CPortSelection& selection) { selection.TurnEachTo(angle); });
 }
 
-/// The rows of turned ones do not go along the canvas.
+/// Turned cabinets have no rows along the canvas that could stay together.
 void CSenderSelection::Resize(int width, int height)
 {
     CTileSet tiles;
@@ -150,7 +150,7 @@ QRect CSenderSelection::GetBoundIfResized(int width, int height) const
     QRect bound;
     for (const CTile* tile : copies) {
         if (!tile->GetRotateRecord().rotated)
-            bound |= QRect(tile->GetPosition(), tile->GetSize());
+            bound |= tile->GetBound();
     }
     return bound;
 }
@@ -181,7 +181,7 @@ bool CSenderSelection::MoveTo(CPort& port)
     for (CPort* other : qAsConst(others))
         CPortSelection(*other).CopyTo(moved);
     const int count = moved.GetTileSet()->GetCount();
-    if (count == 0 || count > kMaxTilesOfPort - port.GetTileSet().GetCount())
+    if (port.IsBackupDest() || count == 0 || count > kMaxTilesOfPort - port.GetTileSet().GetCount())
         return false;
     for (CPort* other : qAsConst(others))
         DeleteSelected(*other);

@@ -35,8 +35,8 @@ public:
     void Delete();                                        ///< chains close up over what is gone
     bool Ungroup(); ///< the outermost groups that have selected cabinets; false: there are none
     void CopyTo(CPortProject& layout) const; ///< appends; they belong to no port and have no number
-    /// What lies on other ports comes to that one, without numbers, and stays selected. False, and nothing
-    /// changed, when there is none, or more than the port may hold.
+    /// Selected cabinets of other ports come to that one of the sender, without numbers, and stay selected.
+    /// False, and nothing changed: there are none, or more than the port may hold, or it is a backup.
     bool MoveTo(CPort& port);
 
 private:

@@ -86,8 +86,8 @@ public:
     // steps
     bool AddStep(CSender& sender, Type type); ///< false when the sender is another or nothing changed
     bool AddStep(CSender& sender, Type type, QVector<int>* changed); ///< appends the ports that changed
-    /// Whether a step holds what leads from one to the other: no number of ports that differs, and no port
-    /// that became a backup, ceased to be one, or is the backup of another one.
+    /// Whether a step can hold what leads from one to the other: both have the same number of ports, and the
+    /// same ports are backups of the same ones.
     static bool HoldsChange(const CSender& before, const CSender& after);
     bool Move(int steps);                            ///< negative: back; false outside the history
     int GetCurrentStep() const { return m_current; } ///< -1: no history

@@ -103,12 +103,12 @@ public:
     CTile* GetTileByRcvCnnt(int receiver) const; ///< the tile that holds that receiving card of the chain
     CTile* GetTileByRcvCnntIndex(int receiver) const;
     QRect GetRectByRcvCnntIndex(int receiver) const; ///< of the receiving card; null rectangle when absent
-    /// Numbers those of the tiles that have no number, in their order, behind the end of the chain. False:
-    /// there is none.
+    /// Numbers tiles of the set behind the end of the chain, in that order; one that has a number keeps it.
+    /// False: none was numbered.
     bool AppendToChain(const QList<CTile*>& tiles);
-    /// Gives a tile of the set the place behind another one, first when that is null; the later ones move up
-    /// by one, and the chain is normalised. False, and nothing changed, when `tile` has a number or `before`
-    /// none, or one of them is not of the set.
+    /// Gives a tile of the set the place right behind `before`, or the first one when that is null; the later
+    /// ones move up by one, and the chain is normalised. False, and nothing changed, when `tile` has a number
+    /// or `before` has none, or one of them is not of the set.
     bool InsertIntoChain(CTile* tile, const CTile* before);
     bool CanDrawCnntLine(int pixels) const; ///< some tile is wider and higher than that
     /// Numbers the next tile in the direction of a Qt arrow key behind the end of the chain.

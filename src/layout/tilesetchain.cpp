@@ -170,9 +170,9 @@ bool CTileSet::AppendToChain(const QList<CTile*>& tiles)
     CTile* last = GetEndIndexTile();
     bool any = false;
     for (CTile* tile : tiles) {
-        if (tile->HasSetConnectIndex())
+        if (!tile || tile->HasSetConnectIndex() || (last && last->GetConnectionIndex() == kMaxIndex))
             continue;
-        CTileSet before; // spares the look for the neighbour among all
+        CTileSet before; // the neighbour is known: no search through the set
         before.AddTile(last);
         tile->SetConnectionIndex(last ? last->GetConnectionIndex() + 1 : 0, &before);
         last = tile;
@@ -188,7 +188,7 @@ bool CTileSet::InsertIntoChain(CTile* tile, const CTile* before)
         return false;
     TileSetNormalization();
     const int place = before ? before->GetConnectionIndex() + 1 : 0;
-    CTileSet nowhere; // spares the same
+    CTileSet nowhere; // no search here either
     for (CTile* other : qAsConst(m_tiles)) {
         if (other->GetConnectionIndex() >= place)
             other->SetConnectionIndex(other->GetConnectionIndex() + 1, &nowhere);

@@ -17,7 +17,7 @@ QRect LargestCanvasOf(const CSender& sender);
 
 /// Where cabinets of that bound find room, for its left top: there, beside that, or beside all cabinets; on
 /// the canvas where it has room, else wherever a view shows them. Without any room a little aside of
-/// `wanted`, on top of what is there. Turned cabinets take the room of their bound.
+/// `wanted`, on top of what is there. Turned cabinets are in the way by their corners alone.
 QPoint FreePlace(const CSender& sender, const QRect& wanted);
 
 } // namespace OrvanTools
