@@ -56,7 +56,7 @@ void XmlTagGuard::LookAt(char c)
     case Place::Aside:
         if (c == m_asideEnd[m_matched])
             ++m_matched;
-        else if (c != m_asideEnd[0]) // "--->" ends like "-->"
+        else if (c != m_asideEnd[0]) // a dash more, as in "--->", ends it too
             m_matched = 0;
         if (m_asideEnd[m_matched] == '\0')
             m_place = Place::Text;

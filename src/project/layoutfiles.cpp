@@ -42,7 +42,7 @@ private:
     std::vector<std::string_view> m_names;
     XmlHandler& m_reader;
     const ReadReport& m_report;
-    size_t m_depth = 0; ///< of the names, those that were entered
+    size_t m_depth = 0; ///< how many of the names were entered
 };
 
 bool ReadElement(const QByteArray& content, std::initializer_list<std::string_view> names, XmlHandler& reader,

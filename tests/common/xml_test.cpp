@@ -112,7 +112,7 @@ TEST(XmlReaderTest, OnlyValuesInATagCountAsItsAttributes)
     for (const QByteArray& other : others) {
         Parsed("<r>" + other + "</r>", true);
         Parsed("<r>" + other + "<b" + many + "/></r>", false);
-        // Behind what is longer than two chunks all is looked at before it is parsed.
+        // After a comment of more than two chunks the guard sees all before the parser does.
         const QByteArray looked = "<r><!-- > x-> <b" + many + QByteArray(250000, 'x') + "-->" + other;
         Parsed(looked + full + "</r>", true);
         Parsed(looked + "<b" + most, false, "语法错误");

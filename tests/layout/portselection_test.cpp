@@ -160,7 +160,7 @@ TEST_F(PortSelectionTest, WhatHappensToAGroupHappensToThoseInside)
     const CTileGroup& copy = *copies.GetTileGroupSet()->GetDirectGroupByDirIndex(0);
     EXPECT_TRUE(copy.GetParentGroupID().isNull() && copies.GetTileSet()->GetTile(0)->GetBeginRcvCnnt() == -1);
     copies.CancelAllSelected();
-    for (const int count : {3, 4}) { // what is pasted does not change
+    for (const int count : {3, 4}) { // pasting changes no copy
         selection.Paste(copies, 1000, 0);
         const CTileGroup& pasted = Group(count - 2);
         EXPECT_EQ(pasted.GetRotateParam()->centerX, copy.GetRotateParam()->centerX + 1000);

@@ -64,7 +64,7 @@ TEST_F(DesignBackgroundTest, WheelVisitsTheStepsOfItsDirection)
 TEST_F(DesignBackgroundTest, ScalingIsBoundByTheCanvas)
 {
     EXPECT_EQ(background.GetClientRect(), QRect(0, 0, 1920, 1080));
-    background.SetClientRect(0, QRect(50, 100, 1920, 1080)); // its size counts
+    background.SetClientRect(0, QRect(50, 100, 1920, 1080)); // only its size counts
     EXPECT_TRUE(background.SetViewScaling(0.01f, noFix));
     EXPECT_FLOAT_EQ(background.GetViewScaling(), 1080.0f / 16384);
 
@@ -104,7 +104,7 @@ TEST_F(DesignBackgroundTest, ZoomingInAgainReturnsToThePlaceThatTheEdgeTook)
     ASSERT_TRUE(background.SetViewScaling(1.0f, QPoint(10, 10)));
     EXPECT_EQ(background.GetViewStartPt(), QPoint(100, 50));
 
-    // Zooming out from further in forgets the places of less.
+    // Zooming from further in forgets the places kept for smaller scalings.
     background.SetViewStartPt(QPoint(20, 30));
     const auto zoom = [this](float scaling, QPoint fix) {
         background.SetViewScaling(scaling, fix);
